@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Model/ChildArray.h"
+#include "Model/File.h"
+
+#include <memory>
+
+namespace tessera {
+
+/// A directory: owns its children and keeps them ordered by allocated size, largest first.
+class Folder : public File {
+public:
+    static constexpr NodeType kType = NodeType::Folder;
+    static bool isKind(NodeType type) { return type >= NodeType::Folder; }
+
+    ~Folder() = default;
+
+    const ChildArray& children() const { return m_children; }
+
+    /// Building, bottom-up: appends the child and adds its size to this folder alone. A child
+    /// that is a folder must be complete; it is sorted here, for the only time of the build.
+    File& addChild(std::unique_ptr<File> child);
+
+    /// Adds a node to a finished tree: every folder up to the root grows and is sorted again.
+    File& insertChild(std::unique_ptr<File> child);
+
+    /// Puts `with` in the place of `child`, which must be a child of this folder, and returns
+    /// the old node. Every folder up to the root takes the difference and is sorted again.
+    std::unique_ptr<File> replaceChild(File& child, std::unique_ptr<File> with);
+
+    /// Takes `child`, which must be a child of this folder, out of the tree and returns it. Its
+    /// parent stays as it was, so do not follow it. Every folder up to the root shrinks and is
+    /// sorted again.
+    std::unique_ptr<File> removeChild(File& child);
+
+    /// Orders the children by size, largest first, and gives a colour slot to each that has none.
+    void sort();
+
+protected:
+    explicit Folder(NodeType type)
+        : File(type)
+    {
+    }
+
+private:
+    template <typename Node>
+    friend std::unique_ptr<Node> makeNode(std::string_view fragment);
+    friend class File;
+
+    Folder()
+        : File(kType)
+    {
+    }
+
+    void orderChildren();
+    void assignHues();
+    /// Adds `delta` bytes, modulo 2^64, to this folder and all above it, and sorts each.
+    void spread(std::uint64_t delta);
+
+    ChildArray m_children;
+};
+
+} // namespace tessera

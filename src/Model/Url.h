@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tessera {
+
+/// The last component of a path of bytes; "/" for the root, trailing slashes not counted.
+std::string_view lastPathComponent(std::string_view path);
+
+/// A file URL: a path of bytes that may be no valid text, and whether it names a directory.
+class Url {
+public:
+    Url() = default;
+
+    /// Trailing slashes of `path` are dropped, but the root stays "/".
+    Url(std::string_view path, bool isDirectory);
+
+    /// Absolute path as bytes, without a trailing slash.
+    const std::string& path() const { return m_path; }
+    bool isDirectory() const { return m_isDirectory; }
+    bool empty() const { return m_path.empty(); }
+
+    std::string_view lastPathComponent() const { return tessera::lastPathComponent(m_path); }
+
+    /// "file://" and the path, every byte outside RFC 3986's path characters percent-encoded; a
+    /// directory's ends in a slash.
+    std::string absoluteString() const;
+
+    bool operator==(const Url& other) const = default;
+
+private:
+    std::string m_path;
+    bool m_isDirectory = false;
+};
+
+} // namespace tessera

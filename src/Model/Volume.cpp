@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include "Model/Volume.h"
+
+#include "Model/FileSystemAttributes.h"
+#include "Utils/Log.h"
+
+#include <cinttypes>
+
+namespace tessera {
+
+Volume::Volume()
+    : TopFolder(kType)
+    , m_freeFile(static_cast<FreeSpace*>(&addChild(makeNode<FreeSpace>({}))))
+    , m_unreadFile(static_cast<Unknown*>(&addChild(makeNode<Unknown>({}))))
+{
+}
+
+void Volume::refreshVolume(const FileSystemAttributes& fileSystem)
+{
+    const FileSystemSizes sizes
+        = fileSystem.attributesOfFileSystem(origin()).value_or(FileSystemSizes{});
+    logLine(
+        "Volume Report { Total Size: %" PRIu64 ", Free Size: %" PRIu64 " }",
+        sizes.totalBytes,
+        sizes.freeBytes);
+    m_freeSize = sizes.freeBytes;
+    m_volumeSize = sizes.totalBytes;
+
+    const std::uint64_t found = foundAllocation();
+    logLine("Scan report { Found Size: %" PRIu64 " }", found);
+
+    const std::uint64_t used = m_volumeSize - m_freeSize;
+    // A walk that found more than the used space (hard links count at each of their places) says
+    // nothing about what it missed, so the last known figure stays.
+    if (found < used) {
+        m_unreadFile->setTotalAllocation(used - found);
+    }
+    m_freeFile->setTotalAllocation(m_freeSize);
+    setTotalAllocation(used);
+    sort();
+}
+
+std::uint64_t Volume::foundAllocation() const
+{
+    std::uint64_t found = 0;
+    for (const File* child : children()) {
+        if (child->type() != NodeType::Unknown && child->type() != NodeType::FreeSpace) {
+            found += child->totalAllocation();
+        }
+    }
+    return found;
+}
+
+} // namespace tessera

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace tessera {
+
+/// One item met by a DirectoryEnumerator.
+struct DirectoryItem {
+    std::string_view name; ///< its own path component, as bytes; good until the next item
+    unsigned level = 0; ///< 1 for what lies directly in the enumerated directory
+    bool isDirectory = false; ///< a symbolic link to a directory is none
+    bool isHidden = false; ///< false unless the item's keys are read
+    std::uint64_t allocatedBytes = 0; ///< on disk; 0 for directories and unless the keys are read
+};
+
+/// Walks the items below a directory depth-first: a directory comes right before what it holds.
+/// What cannot be read is passed over in silence: an unreadable directory comes as an empty one,
+/// an item that vanished does not come at all. Used by one thread at a time.
+class DirectoryEnumerator {
+public:
+    DirectoryEnumerator() = default;
+    DirectoryEnumerator(const DirectoryEnumerator&) = delete;
+    DirectoryEnumerator& operator=(const DirectoryEnumerator&) = delete;
+    virtual ~DirectoryEnumerator() = default;
+
+    /// Fetches the next item; false at the end.
+    [[nodiscard]] virtual bool next(DirectoryItem& item) = 0;
+
+    /// The directory that was fetched last is not walked.
+    virtual void skipDescendants() = 0;
+};
+
+/// What an enumerator reads of each item beside its name, level and kind.
+enum class ItemKeys : std::uint8_t {
+    None,
+    SizeAndHidden,
+};
+
+/// Makes enumerators. One object serves one thread.
+class FileManager {
+public:
+    FileManager() = default;
+    FileManager(const FileManager&) = delete;
+    FileManager& operator=(const FileManager&) = delete;
+    virtual ~FileManager() = default;
+
+    /// An enumerator of all that lies below the directory at `path` (bytes). Hidden items are
+    /// included; mount points come as empty directories; symbolic links are not followed. A
+    /// `path` that cannot be read yields no items.
+    [[nodiscard]] virtual std::unique_ptr<DirectoryEnumerator> enumerator(
+        const std::string& path, ItemKeys keys) const = 0;
+};
+
+} // namespace tessera

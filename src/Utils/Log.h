@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+namespace tessera {
+
+/// Writes one line to standard error, from any thread, in one piece. `format` and what follows
+/// are as for std::printf. Control characters, which names of files may hold, come out as \xNN,
+/// so that one message always stays one line.
+[[gnu::format(printf, 1, 2)]] void logLine(const char* format, ...);
+
+} // namespace tessera

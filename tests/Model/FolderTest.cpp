@@ -1,0 +1,210 @@
+// SPDX-License-Identifier: MIT
+#include "Model/Folder.h"
+
+#include "Model/Document.h"
+#include "support/makeTree.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <set>
+#include <string>
+#include <vector>
+
+namespace tessera {
+namespace {
+
+using testing::ElementsAre;
+
+std::unique_ptr<Document> document(std::string_view name, std::uint64_t bytes)
+{
+    auto node = makeNode<Document>(name);
+    node->setTotalAllocation(bytes);
+    return node;
+}
+
+std::vector<std::string> namesOf(const Folder& folder)
+{
+    std::vector<std::string> names;
+    for (const File* child : folder.children()) {
+        names.emplace_back(child->name());
+    }
+    return names;
+}
+
+std::vector<int> huesOf(const Folder& folder)
+{
+    std::vector<int> hues;
+    for (const File* child : folder.children()) {
+        hues.push_back(child->hue());
+    }
+    return hues;
+}
+
+TEST(Folder, AddChildRaisesOnlyThisFoldersTotal)
+{
+    auto outer = makeNode<Folder>("outer");
+    outer->addChild(document("rest", 500));
+    auto& inner = static_cast<Folder&>(outer->addChild(makeNode<Folder>("inner")));
+    inner.addChild(document("new", 100));
+    EXPECT_EQ(inner.totalAllocation(), 100U);
+    EXPECT_EQ(outer->totalAllocation(), 500U);
+}
+
+TEST(Folder, AddChildSetsTheParentAndAppends)
+{
+    auto folder = makeNode<Folder>("f");
+    folder->addChild(document("small", 1));
+    folder->addChild(document("large", 9));
+    EXPECT_THAT(namesOf(*folder), ElementsAre("small", "large"));
+    EXPECT_EQ(folder->children()[0]->parent(), folder.get());
+}
+
+TEST(Folder, AddChildSortsAFolderThatItAttaches)
+{
+    auto inner = makeNode<Folder>("inner");
+    inner->addChild(document("small", 1));
+    inner->addChild(document("large", 9));
+    auto outer = makeNode<Folder>("outer");
+    const auto& attached = static_cast<Folder&>(outer->addChild(std::move(inner)));
+    EXPECT_THAT(namesOf(attached), ElementsAre("large", "small"));
+}
+
+TEST(Folder, InsertChildRaisesAndSortsEveryAncestor)
+{
+    const auto top = test::makeTree("/t", "a/ ( b/ ( x:100 ) y:200 ) z:350");
+    static_cast<Folder&>(test::at(*top, "a/b")).insertChild(document("new", 150));
+    EXPECT_EQ(test::at(*top, "a/b").totalAllocation(), 250U);
+    EXPECT_EQ(test::at(*top, "a").totalAllocation(), 450U);
+    EXPECT_EQ(top->totalAllocation(), 800U);
+    EXPECT_THAT(namesOf(*top), ElementsAre("a", "z"));
+    EXPECT_THAT(namesOf(static_cast<Folder&>(test::at(*top, "a"))), ElementsAre("b", "y"));
+    EXPECT_THAT(namesOf(static_cast<Folder&>(test::at(*top, "a/b"))), ElementsAre("new", "x"));
+}
+
+TEST(Folder, InsertChildLeavesTheChildsOwnChildrenUnsorted)
+{
+    const auto top = test::makeTree("/t", "x:1");
+    auto inner = makeNode<Folder>("inner");
+    inner->addChild(document("small", 1));
+    inner->addChild(document("large", 9));
+    const auto& inserted = static_cast<Folder&>(top->insertChild(std::move(inner)));
+    EXPECT_THAT(namesOf(inserted), ElementsAre("small", "large"));
+}
+
+TEST(Folder, RemoveChildLowersAndSortsEveryAncestor)
+{
+    const auto top = test::makeTree("/t", "a/ ( b/ ( x:300 y:10 ) c:200 ) d:250");
+    auto& b = static_cast<Folder&>(test::at(*top, "a/b"));
+    const auto removed = b.removeChild(test::at(b, "x"));
+    EXPECT_EQ(removed->name(), "x");
+    EXPECT_EQ(b.totalAllocation(), 10U);
+    EXPECT_EQ(test::at(*top, "a").totalAllocation(), 210U);
+    EXPECT_EQ(top->totalAllocation(), 460U);
+    EXPECT_THAT(namesOf(*top), ElementsAre("d", "a"));
+    EXPECT_THAT(namesOf(static_cast<Folder&>(test::at(*top, "a"))), ElementsAre("c", "b"));
+}
+
+TEST(Folder, RemovedAndReplacedNodesKeepTheirParentLink)
+{
+    const auto top = test::makeTree("/t", "x:300 y:10");
+    const auto removed = top->removeChild(test::at(*top, "x"));
+    const auto replaced = top->replaceChild(test::at(*top, "y"), document("z", 1));
+    EXPECT_EQ(removed->parent(), top.get());
+    EXPECT_EQ(replaced->parent(), top.get());
+}
+
+TEST(Folder, ReplaceChildBySmallerLowersEveryAncestorExactly)
+{
+    const auto top = test::makeTree("/t", "a/ ( b/ ( x:700 ) ) c:1000");
+    auto& b = static_cast<Folder&>(test::at(*top, "a/b"));
+    b.replaceChild(test::at(b, "x"), document("new", 200));
+    EXPECT_EQ(b.totalAllocation(), 200U);
+    EXPECT_EQ(test::at(*top, "a").totalAllocation(), 200U);
+    EXPECT_EQ(top->totalAllocation(), 1200U);
+    EXPECT_EQ(test::at(b, "new").parent(), &b);
+}
+
+TEST(Folder, ReplaceChildByLargerRaisesAndReorders)
+{
+    const auto top = test::makeTree("/t", "a:10 b:20 c:5");
+    const auto old = top->replaceChild(test::at(*top, "c"), document("new", 50));
+    EXPECT_EQ(old->name(), "c");
+    EXPECT_EQ(top->totalAllocation(), 80U);
+    EXPECT_THAT(namesOf(*top), ElementsAre("new", "b", "a"));
+}
+
+TEST(Folder, SevenChildrenGetSixDistinctSlotsAndOneMore)
+{
+    const auto top = test::makeTree("/t", "a:7 b:6 c:5 d:4 e:3 f:2 g:1");
+    const std::vector<int> hues = huesOf(*top);
+    const std::set<int> firstSix(hues.begin(), hues.begin() + 6);
+    EXPECT_EQ(firstSix, (std::set<int>{1, 2, 3, 4, 5, 6}));
+    EXPECT_GE(hues[6], 1);
+    EXPECT_LE(hues[6], 6);
+}
+
+TEST(Folder, SortingAgainChangesNoSlot)
+{
+    const auto top = test::makeTree("/t", "a:7 b:6 c:5 d:4 e:3 f:2 g:1");
+    const std::vector<int> before = huesOf(*top);
+    for (int i = 0; i < 20; ++i) {
+        top->sort();
+    }
+    EXPECT_EQ(huesOf(*top), before);
+}
+
+TEST(Folder, SlotsDifferFromRunToRun)
+{
+    std::string items;
+    for (int i = 0; i < 600; ++i) {
+        items += "f" + std::to_string(i) + ":" + std::to_string(1000 - i) + " ";
+    }
+    const auto top = test::makeTree("/t", items);
+    const std::vector<int> hues = huesOf(*top);
+    std::set<std::vector<int>> runs;
+    for (std::size_t i = 0; i < hues.size(); i += 6) {
+        runs.emplace(hues.begin() + static_cast<long>(i), hues.begin() + static_cast<long>(i) + 6);
+    }
+    EXPECT_GT(runs.size(), 50U);
+}
+
+TEST(Folder, ChildrenOfEqualSizeAreAllKept)
+{
+    const auto top = test::makeTree("/t", "a:5 b:5 c:5 d:9");
+    EXPECT_EQ(top->children()[0]->name(), "d");
+    EXPECT_THAT(namesOf(*top), testing::UnorderedElementsAre("a", "b", "c", "d"));
+}
+
+TEST(Folder, AChainOfAHundredThousandFoldersSumsAndDies)
+{
+    auto inner = makeNode<Folder>("f");
+    inner->addChild(document("x", 7));
+    for (int i = 0; i < 100'000; ++i) {
+        auto outer = makeNode<Folder>("f");
+        outer->addChild(std::move(inner));
+        inner = std::move(outer);
+    }
+    EXPECT_EQ(inner->totalAllocation(), 7U);
+    File* deepest = inner.get();
+    while (deepest->isFolder()) {
+        deepest = static_cast<Folder*>(deepest)->children()[0];
+    }
+    deepest->parent()->removeChild(*deepest);
+    EXPECT_EQ(inner->totalAllocation(), 0U);
+}
+
+TEST(Folder, PathsOfAChainOfAHundredThousandFoldersAreWhole)
+{
+    std::unique_ptr<Folder> inner = makeNode<Folder>("f");
+    File* const deepest = inner.get();
+    for (int i = 0; i < 100'000; ++i) {
+        auto outer = makeNode<Folder>("f");
+        outer->addChild(std::move(inner));
+        inner = std::move(outer);
+    }
+    EXPECT_EQ(deepest->absolutePath().size(), 200'001U);
+}
+
+} // namespace
+} // namespace tessera

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#include "Model/TopFolder.h"
+
+#include "support/makeTree.h"
+
+#include <gtest/gtest.h>
+
+namespace tessera {
+namespace {
+
+TEST(TopFolder, AbsolutePathIsTheOriginAlsoInsideAnotherTree)
+{
+    const auto outer = test::makeTree("/home", "old/ ( )");
+    outer->replaceChild(test::at(*outer, "old"), test::makeTree("/elsewhere/new", "x:5"));
+    EXPECT_EQ(test::at(*outer, "new").absolutePath(), "/elsewhere/new");
+    EXPECT_EQ(test::at(*outer, "new/x").absolutePath(), "/elsewhere/new/x");
+}
+
+TEST(TopFolder, RelativePathsStartWithItsOwnName)
+{
+    const auto top = test::makeTree("/home/me/Docs", "a/ ( b:1 )");
+    EXPECT_EQ(top->relativePath(), "Docs");
+    EXPECT_EQ(test::at(*top, "a/b").relativePath(), "Docs/a/b");
+}
+
+} // namespace
+} // namespace tessera
