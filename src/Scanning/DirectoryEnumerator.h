@@ -40,7 +40,7 @@ enum class ItemKeys : std::uint8_t {
     SizeAndHidden,
 };
 
-/// Makes enumerators. One object serves one thread.
+/// Makes enumerators. Callable from any thread.
 class FileManager {
 public:
     FileManager() = default;

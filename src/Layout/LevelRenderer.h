@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Layout/LayoutObject.h"
+#include "Layout/Rect.h"
+
+#include <memory>
+#include <vector>
+
+namespace tessera {
+
+class Folder;
+
+/// One level of the picture: the children of a folder, laid out, and the levels inside them.
+struct RenderedLevel {
+    Folder* folder = nullptr;
+    Rect frame; ///< in the coordinates of the level around it, or of the view at the top
+    long level = 0; ///< 0 at the top
+    std::vector<std::unique_ptr<LayoutObject>> layoutItems; ///< in this level's own coordinates
+    std::vector<RenderedLevel> nested;
+};
+
+/// Turns a folder into nested levels of boxes. A pure computation that reads the tree only, so
+/// pictures can be made without a window.
+class LevelRenderer {
+public:
+    /// `ignoreHiddenFiles`: hidden children take no space.
+    explicit LevelRenderer(bool ignoreHiddenFiles)
+        : m_ignoreHiddenFiles(ignoreHiddenFiles)
+    {
+    }
+
+    /// The folder at the top of the view whose bounds are `bounds`, in points. No folder gives a
+    /// level without items.
+    RenderedLevel renderTop(Folder* folder, const Rect& bounds) const;
+
+private:
+    class Candidates;
+
+    RenderedLevel renderLevel(
+        Folder& folder, const Rect& frame, const Rect& layoutArea, long level) const;
+    Candidates visibleChildren(const Folder& folder) const;
+
+    bool m_ignoreHiddenFiles;
+};
+
+} // namespace tessera

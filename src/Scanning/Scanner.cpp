@@ -1,0 +1,187 @@
+// SPDX-License-Identifier: MIT
+#include "Scanning/Scanner.h"
+
+#include "Scanning/MainThread.h"
+#include "Scanning/ScannerDelegate.h"
+#include "Scanning/ScannerRun.h"
+
+#include <condition_variable>
+#include <thread>
+#include <utility>
+
+namespace tessera {
+
+namespace {
+
+/// How many workers are running in the process.
+class WorkerCount {
+public:
+    void add()
+    {
+        const std::lock_guard lock(m_mutex);
+        ++m_count;
+    }
+
+    void remove()
+    {
+        const std::lock_guard lock(m_mutex);
+        --m_count;
+        m_changed.notify_all();
+    }
+
+    void waitForNone()
+    {
+        std::unique_lock lock(m_mutex);
+        m_changed.wait(lock, [this] { return m_count == 0; });
+    }
+
+private:
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    int m_count = 0;
+};
+
+WorkerCount& workerCount()
+{
+    static WorkerCount count;
+    return count;
+}
+
+} // namespace
+
+std::shared_ptr<Scanner> Scanner::create(const ScanEnvironment& environment)
+{
+    return std::shared_ptr<Scanner>(new Scanner(environment));
+}
+
+Scanner::Scanner(const ScanEnvironment& environment)
+    : m_environment(environment)
+{
+}
+
+Scanner::~Scanner() = default;
+
+void Scanner::scan(const Url& url)
+{
+    auto run = std::make_shared<Run>(*this, url);
+    {
+        const std::lock_guard lock(m_mutex);
+        if (m_run != nullptr) {
+            m_run->stop();
+        }
+        m_run = run;
+        m_currentURL = url;
+        m_topFolder = nullptr;
+        m_fileVaults.clear();
+    }
+    m_percentComplete = 0.0;
+    workerCount().add();
+    std::thread([self = shared_from_this(), run]() mutable {
+        run->_performScan();
+        // The scanner may die here, with a tree that nobody took.
+        run.reset();
+        self.reset();
+        workerCount().remove();
+    }).detach();
+}
+
+void Scanner::cancel()
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        if (m_run != nullptr) {
+            m_run->stop();
+        }
+    }
+    if (ScannerDelegate* delegate = m_delegate) {
+        delegate->scanCancelled(*this);
+    }
+}
+
+Url Scanner::currentURL() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_currentURL;
+}
+
+TopFolder* Scanner::topFolder() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_topFolder.get();
+}
+
+std::unique_ptr<TopFolder> Scanner::takeTopFolder()
+{
+    const std::lock_guard lock(m_mutex);
+    return std::move(m_topFolder);
+}
+
+std::vector<Url> Scanner::fileVaults() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_fileVaults;
+}
+
+void Scanner::waitForWorkers()
+{
+    workerCount().waitForNone();
+}
+
+/// To be called with the mutex held.
+bool Scanner::isCurrent(const Run& run) const
+{
+    return m_run.get() == &run;
+}
+
+void Scanner::publishProgress(const Run& run, const Url& url, double percent)
+{
+    const std::lock_guard lock(m_mutex);
+    if (!isCurrent(run)) {
+        return;
+    }
+    m_currentURL = url;
+    m_percentComplete = percent;
+    m_objectsRead = run.objectsRead();
+    m_allocationRead = run.allocationRead();
+}
+
+void Scanner::addFileVault(const Run& run, const Url& url)
+{
+    const std::lock_guard lock(m_mutex);
+    if (isCurrent(run)) {
+        m_fileVaults.push_back(url);
+    }
+}
+
+void Scanner::publishTopFolder(const Run& run, std::unique_ptr<TopFolder> root)
+{
+    const std::lock_guard lock(m_mutex);
+    if (isCurrent(run)) {
+        m_topFolder = std::move(root);
+    }
+}
+
+// Whether the run was stopped is asked once more on the main thread: a report that was on its way
+// while the scan was cancelled is not delivered.
+
+void Scanner::notifyUpdated(const std::shared_ptr<Run>& run)
+{
+    m_environment.mainThread.perform([self = shared_from_this(), run] {
+        ScannerDelegate* delegate = self->m_delegate;
+        if (delegate != nullptr && !run->isStopped()) {
+            delegate->scanUpdated(*self);
+        }
+    });
+}
+
+void Scanner::notifyEnded(const std::shared_ptr<Run>& run)
+{
+    m_environment.mainThread.performAndWait([self = shared_from_this(), run] {
+        ScannerDelegate* delegate = self->m_delegate;
+        if (delegate != nullptr && !run->isStopped()) {
+            delegate->scanEnded(*self);
+        }
+    });
+}
+
+} // namespace tessera

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Model/TopFolder.h"
+#include "Model/Url.h"
+#include "Scanning/ScanEnvironment.h"
+
+#include <atomic>
+#include <cstdint>
+#include <memory>
+#include <mutex>
+#include <vector>
+
+namespace tessera {
+
+class ScannerDelegate;
+
+/// Walks a directory on a worker thread of its own and builds the tree of it. Made, started,
+/// cancelled and dropped on the main thread; it may be dropped right after cancel(), and started
+/// again at any time: what an earlier run still has to say is then dropped.
+class Scanner : public std::enable_shared_from_this<Scanner> {
+public:
+    /// Shared, because the worker keeps the scanner alive beyond an owner that drops it. All that
+    /// the environment refers to must live until waitForWorkers() has returned.
+    [[nodiscard]] static std::shared_ptr<Scanner> create(const ScanEnvironment& environment);
+
+    Scanner(const Scanner&) = delete;
+    Scanner& operator=(const Scanner&) = delete;
+    ~Scanner();
+
+    /// Not owned. A delegate that dies before the scanner's end must be taken away first.
+    ScannerDelegate* delegate() const { return m_delegate; }
+    void setDelegate(ScannerDelegate* delegate) { m_delegate = delegate; }
+
+    /// Starts a worker on the directory and returns at once.
+    void scan(const Url& url);
+
+    /// Asks the worker to stop, which it does at its next item, and tells the delegate.
+    void cancel();
+
+    // As of the last progress report; readable on any thread.
+
+    /// The item reported last.
+    Url currentURL() const;
+    /// A fraction from 0.0. Not clamped: it may pass 1, or be no number at all.
+    double percentComplete() const { return m_percentComplete; }
+    /// Items met so far.
+    std::uint64_t objectsRead() const { return m_objectsRead; }
+    /// Bytes on disk of the items met so far, folders excepted.
+    std::uint64_t allocationRead() const { return m_allocationRead; }
+
+    /// The finished root, null until then. A cancelled scan has one too, a little later.
+    TopFolder* topFolder() const;
+    std::unique_ptr<TopFolder> takeTopFolder();
+
+    /// Home folders met that are volumes of their own.
+    std::vector<Url> fileVaults() const;
+
+    /// Blocks until no scanner's worker is running any more, at the application's end.
+    static void waitForWorkers();
+
+private:
+    class Run;
+    friend class Run;
+
+    explicit Scanner(const ScanEnvironment& environment);
+
+    bool isCurrent(const Run& run) const;
+    void publishProgress(const Run& run, const Url& url, double percent);
+    void addFileVault(const Run& run, const Url& url);
+    void publishTopFolder(const Run& run, std::unique_ptr<TopFolder> root);
+    void notifyUpdated(const std::shared_ptr<Run>& run);
+    void notifyEnded(const std::shared_ptr<Run>& run);
+
+    const ScanEnvironment m_environment;
+    std::atomic<ScannerDelegate*> m_delegate = nullptr;
+    std::atomic<double> m_percentComplete = 0;
+    std::atomic<std::uint64_t> m_objectsRead = 0;
+    std::atomic<std::uint64_t> m_allocationRead = 0;
+
+    mutable std::mutex m_mutex; ///< guards what follows: what is too large to be atomic
+    std::shared_ptr<Run> m_run;
+    Url m_currentURL;
+    std::unique_ptr<TopFolder> m_topFolder;
+    std::vector<Url> m_fileVaults;
+};
+
+} // namespace tessera

@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: MIT
+#include "Scanning/ScannerRun.h"
+
+#include "Model/FileSystemAttributes.h"
+#include "Model/TimeMachine.h"
+#include "Model/Volume.h"
+#include "Scanning/ResourceValues.h"
+#include "Scanning/ScannerDelegate.h"
+#include "Utils/Log.h"
+
+#include <cinttypes>
+#include <utility>
+
+namespace tessera {
+
+namespace {
+
+constexpr double kReportIntervalSeconds = 0.1;
+
+/// Progress in a folder is counted in the items of this many levels.
+constexpr unsigned kCountedLevels = 2;
+
+/// A backup store holds links to most of its volume, many times over; walking it would take
+/// hours and count everything again.
+constexpr std::string_view kBackupStoreName = "Backups.backupdb";
+
+} // namespace
+
+Scanner::Run::Run(Scanner& scanner, const Url& url)
+    : m_scanner(scanner)
+    , m_url(url)
+{
+}
+
+std::uint32_t Scanner::Run::_getLevel2Items(const std::string& path, const FileManager& manager)
+{
+    const auto enumerator = manager.enumerator(path, ItemKeys::None);
+    std::uint32_t count = 0;
+    DirectoryItem item;
+    while (enumerator->next(item)) {
+        ++count;
+        if (item.level == kCountedLevels) {
+            enumerator->skipDescendants();
+        }
+    }
+    return count;
+}
+
+void Scanner::Run::_performScan()
+{
+    m_startTime = environment().clock();
+    m_lastReportTime = m_startTime;
+    prepare();
+    TreeBuilder tree = walk();
+    finish(tree);
+    if (m_scanner.delegate() != nullptr && !isStopped()) {
+        m_scanner.notifyEnded(shared_from_this());
+    }
+}
+
+void Scanner::Run::prepare()
+{
+    const std::string& home = environment().homeDirectory;
+    m_userName = lastPathComponent(home);
+    m_hiddenUserName = "." + m_userName;
+    m_isVolume = environment().resourceValues.isVolume(m_url.path());
+    m_mode = m_url.path() == home || !m_isVolume ? Mode::Folder : Mode::Volume;
+    if (m_mode == Mode::Folder) {
+        m_levelTotal = _getLevel2Items(m_url.path(), environment().fileManager);
+        return;
+    }
+    const FileSystemSizes sizes = environment()
+                                      .fileSystemAttributes.attributesOfFileSystem(m_url.path())
+                                      .value_or(FileSystemSizes{});
+    m_usedBytes = sizes.totalBytes - sizes.freeBytes;
+}
+
+std::unique_ptr<TopFolder> Scanner::Run::makeRoot() const
+{
+    std::unique_ptr<TopFolder> root = m_mode == Mode::Folder
+        ? makeNode<TopFolder>(m_url.lastPathComponent())
+        : makeNode<Volume>(m_url.lastPathComponent());
+    root->setOrigin(m_url.path());
+    return root;
+}
+
+TreeBuilder Scanner::Run::walk()
+{
+    TreeBuilder tree(makeRoot());
+    const auto enumerator
+        = environment().fileManager.enumerator(m_url.path(), ItemKeys::SizeAndHidden);
+    DirectoryItem item;
+    while (enumerator->next(item) && !isStopped()) {
+        visit(item, *enumerator, tree);
+    }
+    return tree;
+}
+
+void Scanner::Run::visit(
+    const DirectoryItem& item, DirectoryEnumerator& enumerator, TreeBuilder& tree)
+{
+    if (item.level <= kCountedLevels) {
+        visitUpperLevels(item, enumerator, tree);
+    }
+    tree.add(item);
+    if (!item.isDirectory) {
+        m_allocationRead += item.allocatedBytes;
+    }
+    ++m_objectsRead;
+    reportIfDue(item, tree);
+}
+
+void Scanner::Run::visitUpperLevels(
+    const DirectoryItem& item, DirectoryEnumerator& enumerator, const TreeBuilder& tree)
+{
+    if (item.level == 1 && item.name == kBackupStoreName) {
+        enumerator.skipDescendants();
+        m_sawBackupStore = true;
+    }
+    if (item.isDirectory && item.name == m_userName) {
+        const std::string path = tree.pathOf(item.level, item.name);
+        if (environment().resourceValues.isVolume(path)) {
+            m_scanner.addFileVault(*this, Url(path, true));
+        }
+    }
+    ++m_levelRead;
+    if (item.isHidden && item.name == m_hiddenUserName) {
+        enumerator.skipDescendants();
+    }
+}
+
+void Scanner::Run::reportIfDue(const DirectoryItem& item, const TreeBuilder& tree)
+{
+    if (m_scanner.delegate() == nullptr) {
+        return;
+    }
+    const double now = environment().clock();
+    if (!(m_lastReportTime - now < -kReportIntervalSeconds)) {
+        return;
+    }
+    const Url url(tree.pathOf(item.level, item.name), item.isDirectory);
+    m_scanner.publishProgress(*this, url, percentComplete());
+    m_scanner.notifyUpdated(shared_from_this());
+    m_lastReportTime = environment().clock();
+}
+
+/// Neither clamped nor guarded: items may appear while they are counted, and a home folder that
+/// is a volume has no used bytes to divide by. Those who show the figure deal with that.
+double Scanner::Run::percentComplete() const
+{
+    if (m_isVolume) {
+        return static_cast<double>(m_allocationRead) / static_cast<double>(m_usedBytes);
+    }
+    return static_cast<double>(m_levelRead) / m_levelTotal;
+}
+
+void Scanner::Run::finish(TreeBuilder& tree)
+{
+    tree.closeAll();
+    if (m_sawBackupStore) {
+        auto backups = makeNode<TimeMachine>({});
+        backups->setTotalAllocation(m_usedBytes - m_allocationRead);
+        tree.root().addChild(std::move(backups));
+    }
+    if (auto* volume = nodeCast<Volume>(&tree.root())) {
+        volume->refreshVolume(environment().fileSystemAttributes);
+    } else {
+        tree.root().sort();
+    }
+    const std::string path = tree.root().absolutePath();
+    m_scanner.publishTopFolder(*this, tree.takeRoot());
+    logLine(
+        "Scan Complete: %s {time: %0.4f, objects: %" PRIu64 ", allocation size: %" PRIu64 "}",
+        path.c_str(),
+        environment().clock() - m_startTime,
+        m_objectsRead,
+        m_allocationRead);
+}
+
+} // namespace tessera
