@@ -2,9 +2,9 @@
 #include "support/makeTree.h"
 
 #include "Model/Document.h"
+#include "support/treeText.h"
 
-#include <charconv>
-#include <cstdint>
+#include <algorithm>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -13,32 +13,43 @@ namespace tessera::test {
 
 namespace {
 
-std::vector<std::string_view> words(std::string_view text)
-{
-    std::vector<std::string_view> result;
-    while (!text.empty()) {
-        const std::size_t end = std::min(text.find(' '), text.size());
-        if (end > 0) {
-            result.push_back(text.substr(0, end));
-        }
-        text.remove_prefix(std::min(end + 1, text.size()));
+/// The folders that are being filled, outermost first. A folder joins its parent complete.
+class OpenFolders {
+public:
+    explicit OpenFolders(Folder& top)
+        : m_top(top)
+    {
     }
-    return result;
-}
 
-std::unique_ptr<File> makeDocument(std::string_view word)
-{
-    const std::size_t colon = word.rfind(':');
-    std::uint64_t bytes = 0;
-    const std::string_view digits = word.substr(std::min(colon + 1, word.size()));
-    const auto parsed = std::from_chars(digits.begin(), digits.end(), bytes);
-    if (colon == std::string_view::npos || parsed.ec != std::errc{}) {
-        throw std::invalid_argument("makeTree: not name:bytes: " + std::string(word));
+    void add(const TreeTextItem& item)
+    {
+        closeDownTo(item.level - 1);
+        if (item.isDirectory) {
+            m_open.push_back(makeNode<Folder>(item.name));
+            m_open.back()->setHidden(item.isHidden);
+            return;
+        }
+        auto document = makeNode<Document>(item.name);
+        document->setTotalAllocation(item.bytes);
+        document->setHidden(item.isHidden);
+        current().addChild(std::move(document));
     }
-    auto document = makeNode<Document>(word.substr(0, colon));
-    document->setTotalAllocation(bytes);
-    return document;
-}
+
+    void closeDownTo(std::size_t depth)
+    {
+        while (m_open.size() > depth) {
+            std::unique_ptr<Folder> done = std::move(m_open.back());
+            m_open.pop_back();
+            current().addChild(std::move(done));
+        }
+    }
+
+private:
+    Folder& current() { return m_open.empty() ? m_top : *m_open.back(); }
+
+    Folder& m_top;
+    std::vector<std::unique_ptr<Folder>> m_open;
+};
 
 } // namespace
 
@@ -46,29 +57,11 @@ std::unique_ptr<TopFolder> makeTree(std::string_view origin, std::string_view it
 {
     auto top = makeNode<TopFolder>(lastPathComponent(origin));
     top->setOrigin(std::string(origin));
-    std::vector<std::unique_ptr<Folder>> open;
-    const auto current = [&]() -> Folder& { return open.empty() ? *top : *open.back(); };
-    for (const std::string_view word : words(items)) {
-        if (word == "(") {
-            continue;
-        }
-        if (word == ")") {
-            std::unique_ptr<Folder> done = std::move(open.back());
-            open.pop_back();
-            current().addChild(std::move(done));
-            continue;
-        }
-        const bool hidden = word.front() == '.';
-        if (word.back() == '/') {
-            open.push_back(makeNode<Folder>(word.substr(0, word.size() - 1)));
-            open.back()->setHidden(hidden);
-            continue;
-        }
-        current().addChild(makeDocument(word)).setHidden(hidden);
+    OpenFolders open(*top);
+    for (const TreeTextItem& item : parseTreeText(items)) {
+        open.add(item);
     }
-    if (!open.empty()) {
-        throw std::invalid_argument("makeTree: a folder is not closed");
-    }
+    open.closeDownTo(0);
     top->sort();
     return top;
 }

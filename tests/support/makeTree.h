@@ -9,9 +9,8 @@
 
 namespace tessera::test {
 
-/// Builds a tree from text: items are separated by spaces, "name:bytes" is a document, and
-/// "name/ ( … )" a folder with what stands between the parentheses. A name may start with "." to
-/// be hidden. Example: makeTree("/home/me", "docs/ ( a:700 b:300 ) c:50").
+/// Builds a tree from text as parseTreeText() reads it: files become documents, directories
+/// folders. Example: makeTree("/home/me", "docs/ ( a:700 b:300 ) c:50").
 std::unique_ptr<TopFolder> makeTree(std::string_view origin, std::string_view items);
 
 /// The node at `path`, names joined by "/", below `folder`; fails the test when there is none.
