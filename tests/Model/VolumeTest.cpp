@@ -2,8 +2,8 @@
 #include "Model/Volume.h"
 
 #include "Model/Document.h"
-#include "Model/FileSystemAttributes.h"
 #include "Model/TimeMachine.h"
+#include "support/FakeFileSystem.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -11,25 +11,7 @@
 namespace tessera {
 namespace {
 
-class FixedFileSystem final : public FileSystemAttributes {
-public:
-    explicit FixedFileSystem(std::optional<FileSystemSizes> sizes)
-        : m_sizes(sizes)
-    {
-    }
-
-    [[nodiscard]] std::optional<FileSystemSizes> attributesOfFileSystem(
-        const std::string& path) const override
-    {
-        askedFor = path;
-        return m_sizes;
-    }
-
-    mutable std::string askedFor;
-
-private:
-    std::optional<FileSystemSizes> m_sizes;
-};
+using test::FixedFileSystem;
 
 std::unique_ptr<Volume> volumeHolding(std::uint64_t bytes)
 {

@@ -1,0 +1,411 @@
+// SPDX-License-Identifier: MIT
+#include "Scanning/Scanner.h"
+
+#include "Model/TimeMachine.h"
+#include "Model/Volume.h"
+#include "Scanning/ScannerDelegate.h"
+#include "support/FakeDirectoryEnumerator.h"
+#include "support/FakeFileSystem.h"
+#include "support/FakeMainThread.h"
+#include "support/makeTree.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <cmath>
+#include <functional>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace tessera {
+namespace {
+
+using testing::ElementsAre;
+
+struct Update {
+    std::string path;
+    double percent = 0;
+    std::uint64_t objects = 0;
+    std::uint64_t bytes = 0;
+};
+
+class RecordingDelegate final : public ScannerDelegate {
+public:
+    void scanUpdated(Scanner& scanner) override
+    {
+        calls.emplace_back("updated");
+        updates.push_back(
+            {scanner.currentURL().path(),
+             scanner.percentComplete(),
+             scanner.objectsRead(),
+             scanner.allocationRead()});
+    }
+
+    void scanEnded(Scanner& scanner) override
+    {
+        calls.emplace_back("ended");
+        endedOn = std::this_thread::get_id();
+        tree = scanner.takeTopFolder();
+    }
+
+    void scanCancelled(Scanner& /*scanner*/) override { calls.emplace_back("cancelled"); }
+
+    bool hasEnded() const { return !calls.empty() && calls.back() == "ended"; }
+
+    std::vector<std::string> calls;
+    std::vector<Update> updates;
+    std::thread::id endedOn;
+    std::unique_ptr<TopFolder> tree;
+};
+
+/// A scanner in a system of fakes. The clock stands still unless a test turns it.
+class ScannerTest : public testing::Test {
+protected:
+    ~ScannerTest() override
+    {
+        m_scanner.reset();
+        Scanner::waitForWorkers();
+    }
+
+    Scanner& scannerOf(std::string_view items)
+    {
+        files = std::make_unique<test::FakeFileManager>(items);
+        m_scanner = Scanner::create(
+            {*files, resourceValues, fileSystem, mainThread, [this] { return now.load(); }, home});
+        m_scanner->setDelegate(&delegate);
+        return *m_scanner;
+    }
+
+    TopFolder& scanToEnd(std::string_view items, std::string_view path = "/data")
+    {
+        scannerOf(items).scan(Url(path, true));
+        mainThread.runUntil([this] { return delegate.hasEnded(); });
+        return *delegate.tree;
+    }
+
+    /// Lets `seconds` pass before every item of the walk, not of the count made in advance.
+    void passBeforeEachItem(double seconds)
+    {
+        beforeEachItem([this, seconds] { now = now.load() + seconds; });
+    }
+
+    /// The same, with every report delivered before the next item comes. Needs a turning loop.
+    void passAndDeliverBeforeEachItem(double seconds)
+    {
+        beforeEachItem([this, seconds] {
+            mainThread.performAndWait([] {});
+            now = now.load() + seconds;
+        });
+    }
+
+    void beforeEachItem(const std::function<void()>& action)
+    {
+        files->onItem([this, action](const std::string& /*path*/) {
+            if (files->enumeratedPaths().size() == enumerationsBeforeWalk + 1) {
+                action();
+            }
+        });
+    }
+
+    void drop() { m_scanner.reset(); }
+
+    std::unique_ptr<test::FakeFileManager> files;
+    test::FakeResourceValues resourceValues;
+    test::FixedFileSystem fileSystem{FileSystemSizes{1000, 300}};
+    test::FakeMainThread mainThread;
+    RecordingDelegate delegate;
+    std::atomic<double> now = 100.0;
+    std::string home = "/home/me";
+    std::size_t enumerationsBeforeWalk = 1;
+
+private:
+    std::shared_ptr<Scanner> m_scanner;
+};
+
+TEST_F(ScannerTest, BuildsAFolderForEveryDirectoryAndADocumentForTheRest)
+{
+    TopFolder& root = scanToEnd("docs/ ( a:700 .b:300 empty/ ( ) ) c:50");
+    EXPECT_EQ(root.totalAllocation(), 1050U);
+    EXPECT_EQ(test::at(root, "docs").type(), NodeType::Folder);
+    EXPECT_EQ(test::at(root, "docs").totalAllocation(), 1000U);
+    EXPECT_EQ(test::at(root, "docs/a").type(), NodeType::Document);
+    EXPECT_TRUE(test::at(root, "docs/.b").hidden());
+    EXPECT_TRUE(test::at(root, "docs/empty").isFolder());
+}
+
+TEST_F(ScannerTest, TheRootTakesThePathAsOriginAndItsLastComponentAsName)
+{
+    TopFolder& root = scanToEnd("a:1", "/srv/some data");
+    EXPECT_EQ(root.origin(), "/srv/some data");
+    EXPECT_EQ(root.fragment(), "some data");
+}
+
+TEST_F(ScannerTest, SortsEveryFolderTheRootIncluded)
+{
+    TopFolder& root = scanToEnd("small:1 f/ ( tiny:2 big:9 ) large:500");
+    EXPECT_EQ(root.children()[0]->name(), "large");
+    EXPECT_EQ(static_cast<Folder&>(test::at(root, "f")).children()[0]->name(), "big");
+    EXPECT_NE(root.children()[0]->hue(), 0);
+}
+
+TEST_F(ScannerTest, AnEmptyDirectoryYieldsARootWithoutChildren)
+{
+    TopFolder& root = scanToEnd("");
+    EXPECT_TRUE(root.children().empty());
+    EXPECT_EQ(root.totalAllocation(), 0U);
+}
+
+TEST_F(ScannerTest, AnUnreadableFolderBecomesAnEmptyOne)
+{
+    Scanner& scanner = scannerOf("secret/ ( a:700 ) c:50");
+    files->makeUnreadable("secret");
+    scanner.scan(Url("/data", true));
+    mainThread.runUntil([this] { return delegate.hasEnded(); });
+    EXPECT_EQ(delegate.tree->totalAllocation(), 50U);
+    EXPECT_TRUE(static_cast<Folder&>(test::at(*delegate.tree, "secret")).children().empty());
+}
+
+TEST_F(ScannerTest, AFolderGivesATopFolder)
+{
+    EXPECT_EQ(scanToEnd("a:1").type(), NodeType::TopFolder);
+}
+
+TEST_F(ScannerTest, AMountedVolumeGivesAVolumeWithItsPseudoNodes)
+{
+    resourceValues.volumes = {"/data"};
+    TopFolder& volume = scanToEnd("a:600");
+    ASSERT_EQ(volume.type(), NodeType::Volume);
+    EXPECT_EQ(volume.totalAllocation(), 700U);
+    EXPECT_EQ(test::at(volume, "Free Space").totalAllocation(), 300U);
+    EXPECT_EQ(test::at(volume, "Restricted Files").totalAllocation(), 100U);
+}
+
+TEST_F(ScannerTest, TheHomeFolderGivesATopFolderEvenWhenItIsAVolume)
+{
+    resourceValues.volumes = {"/home/me"};
+    EXPECT_EQ(scanToEnd("a:600", "/home/me").type(), NodeType::TopFolder);
+}
+
+TEST_F(ScannerTest, ABackupStoreAtTheTopOfAVolumeIsNotWalked)
+{
+    resourceValues.volumes = {"/data"};
+    TopFolder& root = scanToEnd("Backups.backupdb/ ( old/ ( a:50 ) ) b:200");
+    EXPECT_TRUE(static_cast<Folder&>(test::at(root, "Backups.backupdb")).children().empty());
+    EXPECT_EQ(test::at(root, "Time Machine").totalAllocation(), 500U);
+    EXPECT_EQ(test::at(root, "Time Machine").type(), NodeType::TimeMachine);
+}
+
+TEST_F(ScannerTest, ABackupStoreDeeperDownIsWalkedLikeAnyFolder)
+{
+    TopFolder& root = scanToEnd("f/ ( Backups.backupdb/ ( a:50 ) )");
+    EXPECT_EQ(test::at(root, "f/Backups.backupdb/a").totalAllocation(), 50U);
+    EXPECT_EQ(root.children().size(), 1U);
+}
+
+TEST_F(ScannerTest, AHiddenFolderNamedAfterTheUserIsNotWalkedInTheUpperTwoLevels)
+{
+    TopFolder& root = scanToEnd(".me/ ( a:1 ) f/ ( .me/ ( b:2 ) g/ ( .me/ ( c:4 ) ) )");
+    EXPECT_TRUE(static_cast<Folder&>(test::at(root, ".me")).children().empty());
+    EXPECT_TRUE(static_cast<Folder&>(test::at(root, "f/.me")).children().empty());
+    EXPECT_EQ(test::at(root, "f/g/.me/c").totalAllocation(), 4U);
+}
+
+TEST_F(ScannerTest, FileVaultsHoldsOnlyVolumesNamedAfterTheUserInTheUpperTwoLevels)
+{
+    resourceValues.volumes = {"/data/home/me", "/data/home/you", "/data/a/b/me"};
+    Scanner& scanner = scannerOf("home/ ( me/ ( ) you/ ( ) ) a/ ( me/ ( ) b/ ( me/ ( ) ) )");
+    scanner.scan(Url("/data", true));
+    mainThread.runUntil([this] { return delegate.hasEnded(); });
+    EXPECT_THAT(scanner.fileVaults(), ElementsAre(Url("/data/home/me", true)));
+}
+
+TEST_F(ScannerTest, StartingSetsTheProgressToItsStart)
+{
+    Scanner& scanner = scannerOf("a:1");
+    scanner.scan(Url("/data", true));
+    EXPECT_EQ(scanner.currentURL(), Url("/data", true));
+    EXPECT_EQ(scanner.percentComplete(), 0.0);
+    mainThread.runUntil([this] { return delegate.hasEnded(); });
+}
+
+TEST_F(ScannerTest, ReportsOnlyWhenMoreThanATenthOfASecondHasPassed)
+{
+    Scanner& scanner = scannerOf("a:1 b:1 c:1 d:1");
+    passAndDeliverBeforeEachItem(0.0625);
+    scanner.scan(Url("/data", true));
+    mainThread.runUntil([this] { return delegate.hasEnded(); });
+    EXPECT_THAT(delegate.calls, ElementsAre("updated", "updated", "ended"));
+    EXPECT_EQ(delegate.updates[0].path, "/data/b");
+    EXPECT_EQ(delegate.updates[1].path, "/data/d");
+}
+
+TEST_F(ScannerTest, AFoldersProgressIsTheShareOfItsUpperTwoLevels)
+{
+    Scanner& scanner = scannerOf("f/ ( g/ ( deep:8 ) ) c:2");
+    passAndDeliverBeforeEachItem(1.0);
+    scanner.scan(Url("/data", true));
+    mainThread.runUntil([this] { return delegate.hasEnded(); });
+    std::vector<double> percents;
+    for (const Update& update : delegate.updates) {
+        percents.push_back(update.percent);
+    }
+    EXPECT_THAT(percents, ElementsAre(1.0 / 3.0, 2.0 / 3.0, 2.0 / 3.0, 1.0));
+    EXPECT_EQ(delegate.updates[2].path, "/data/f/g/deep");
+    EXPECT_EQ(delegate.updates[2].objects, 3U);
+    EXPECT_EQ(delegate.updates[2].bytes, 8U);
+}
+
+TEST_F(ScannerTest, AVolumesProgressIsTheShareOfItsUsedBytesAndNotClamped)
+{
+    resourceValues.volumes = {"/data"};
+    enumerationsBeforeWalk = 0;
+    Scanner& scanner = scannerOf("a:350 b:700");
+    passAndDeliverBeforeEachItem(1.0);
+    scanner.scan(Url("/data", true));
+    mainThread.runUntil([this] { return delegate.hasEnded(); });
+    EXPECT_DOUBLE_EQ(delegate.updates[0].percent, 0.5);
+    EXPECT_DOUBLE_EQ(delegate.updates[1].percent, 1.5);
+}
+
+TEST_F(ScannerTest, TheProgressOfAHomeThatIsAVolumeIsNotGuarded)
+{
+    resourceValues.volumes = {"/home/me"};
+    Scanner& scanner = scannerOf("none:0 a:350");
+    passAndDeliverBeforeEachItem(1.0);
+    scanner.scan(Url("/home/me", true));
+    mainThread.runUntil([this] { return delegate.hasEnded(); });
+    EXPECT_TRUE(std::isnan(delegate.updates[0].percent));
+    EXPECT_TRUE(std::isinf(delegate.updates[1].percent));
+}
+
+TEST_F(ScannerTest, AScanShorterThanTheReportIntervalLeavesTheProgressAtItsStart)
+{
+    Scanner& scanner = scannerOf("a:350");
+    scanner.scan(Url("/data", true));
+    mainThread.runUntil([this] { return delegate.hasEnded(); });
+    EXPECT_EQ(scanner.objectsRead(), 0U);
+    EXPECT_EQ(scanner.allocationRead(), 0U);
+    EXPECT_EQ(scanner.percentComplete(), 0.0);
+    EXPECT_EQ(scanner.currentURL().path(), "/data");
+}
+
+TEST_F(ScannerTest, TheLastReportStaysAfterTheEnd)
+{
+    Scanner& scanner = scannerOf("a:350 b:50 c:1");
+    passBeforeEachItem(0.0625);
+    scanner.scan(Url("/data", true));
+    mainThread.runUntil([this] { return delegate.hasEnded(); });
+    EXPECT_EQ(scanner.objectsRead(), 2U);
+    EXPECT_EQ(scanner.allocationRead(), 400U);
+    EXPECT_EQ(scanner.currentURL().path(), "/data/b");
+}
+
+TEST_F(ScannerTest, WithoutADelegateNothingIsReported)
+{
+    Scanner& scanner = scannerOf("a:350 b:50");
+    passBeforeEachItem(1.0);
+    scanner.setDelegate(nullptr);
+    scanner.scan(Url("/data", true));
+    Scanner::waitForWorkers();
+    EXPECT_EQ(scanner.objectsRead(), 0U);
+    EXPECT_EQ(scanner.topFolder()->totalAllocation(), 400U);
+}
+
+TEST_F(ScannerTest, TheWorkerWaitsForTheEndCallAndItComesOnTheMainThread)
+{
+    scanToEnd("a:1");
+    EXPECT_EQ(delegate.endedOn, std::this_thread::get_id());
+}
+
+TEST_F(ScannerTest, ACancelledScanIsToldOnceAndDoesNotEnd)
+{
+    Scanner& scanner = scannerOf("a:1 b:2 c:3");
+    files->onItem([&](const std::string& path) {
+        if (files->enumeratedPaths().size() == 2 && path == "b") {
+            now = now.load() + 1.0;
+            mainThread.performAndWait([&] { scanner.cancel(); });
+        }
+    });
+    scanner.scan(Url("/data", true));
+    mainThread.runUntil([this] { return !delegate.calls.empty(); });
+    Scanner::waitForWorkers();
+    EXPECT_THAT(delegate.calls, ElementsAre("cancelled"));
+    EXPECT_EQ(scanner.topFolder()->totalAllocation(), 1U);
+}
+
+TEST_F(ScannerTest, AReportOnItsWayWhileTheScanIsCancelledIsDropped)
+{
+    Scanner& scanner = scannerOf("a:1 b:2 c:3");
+    passBeforeEachItem(1.0);
+    scanner.scan(Url("/data", true));
+    mainThread.runUntil([this] { return !delegate.updates.empty(); });
+    scanner.cancel();
+    bool drained = false;
+    mainThread.perform([&] { drained = true; });
+    mainThread.runUntil([&] { return drained; });
+    EXPECT_THAT(delegate.calls, ElementsAre("updated", "cancelled"));
+}
+
+TEST_F(ScannerTest, TheScannerMayBeDroppedRightAfterItWasCancelled)
+{
+    Scanner& scanner = scannerOf("a:1 b/ ( c:3 )");
+    scanner.scan(Url("/data", true));
+    scanner.cancel();
+    drop();
+    Scanner::waitForWorkers();
+    EXPECT_THAT(delegate.calls, ElementsAre("cancelled"));
+}
+
+TEST_F(ScannerTest, AScannerCanBeStartedAgain)
+{
+    Scanner& scanner = scannerOf("a:5");
+    scanner.scan(Url("/data", true));
+    mainThread.runUntil([this] { return delegate.hasEnded(); });
+    delegate.calls.clear();
+    scanner.scan(Url("/other", true));
+    mainThread.runUntil([this] { return delegate.hasEnded(); });
+    EXPECT_EQ(delegate.tree->origin(), "/other");
+}
+
+TEST_F(ScannerTest, AfterACancelledRunANewOneEndsAloneWithItsOwnTree)
+{
+    Scanner& scanner = scannerOf("a:5 b:6");
+    files->onItem([&](const std::string& /*path*/) {
+        if (files->enumeratedPaths().size() == 2) {
+            mainThread.performAndWait([&] { scanner.cancel(); });
+        }
+    });
+    scanner.scan(Url("/data", true));
+    mainThread.runUntil([this] { return !delegate.calls.empty(); });
+    Scanner::waitForWorkers();
+    files->onItem({});
+    scanner.scan(Url("/other", true));
+    mainThread.runUntil([this] { return delegate.hasEnded(); });
+    EXPECT_THAT(delegate.calls, ElementsAre("cancelled", "ended"));
+    EXPECT_EQ(delegate.tree->origin(), "/other");
+}
+
+TEST_F(ScannerTest, LogsTheEndWithItsFigures)
+{
+    testing::internal::CaptureStderr();
+    scanToEnd("a:350 f/ ( b:50 )");
+    Scanner::waitForWorkers();
+    EXPECT_EQ(
+        testing::internal::GetCapturedStderr(),
+        "Scan Complete: /data {time: 0.0000, objects: 3, allocation size: 400}\n");
+}
+
+TEST_F(ScannerTest, AChainOfAThousandFoldersIsBuilt)
+{
+    std::string items = "x:7 ";
+    for (int i = 0; i < 1000; ++i) {
+        items.insert(0, "f/ ( ");
+        items += ") ";
+    }
+    EXPECT_EQ(scanToEnd(items).totalAllocation(), 7U);
+}
+
+} // namespace
+} // namespace tessera

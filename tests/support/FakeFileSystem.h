@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Model/FileSystemAttributes.h"
+#include "Scanning/ResourceValues.h"
+
+#include <set>
+#include <string>
+
+namespace tessera::test {
+
+/// A file system of fixed sizes, or one that gives no answer.
+class FixedFileSystem final : public FileSystemAttributes {
+public:
+    explicit FixedFileSystem(std::optional<FileSystemSizes> sizes)
+        : m_sizes(sizes)
+    {
+    }
+
+    [[nodiscard]] std::optional<FileSystemSizes> attributesOfFileSystem(
+        const std::string& path) const override
+    {
+        askedFor = path;
+        return m_sizes;
+    }
+
+    mutable std::string askedFor;
+
+private:
+    std::optional<FileSystemSizes> m_sizes;
+};
+
+/// Answers for paths that the test names.
+class FakeResourceValues final : public ResourceValues {
+public:
+    std::set<std::string> volumes;
+    std::optional<std::uint64_t> size;
+    std::optional<std::int64_t> modificationDate;
+
+    [[nodiscard]] bool isVolume(const std::string& path) const override
+    {
+        return volumes.contains(path);
+    }
+
+    [[nodiscard]] std::optional<std::uint64_t> allocatedSize(
+        const std::string& /*path*/) const override
+    {
+        return size;
+    }
+
+    [[nodiscard]] std::optional<std::int64_t> contentModificationDate(
+        const std::string& /*path*/) const override
+    {
+        return modificationDate;
+    }
+};
+
+} // namespace tessera::test
