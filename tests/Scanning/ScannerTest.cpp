@@ -15,6 +15,7 @@
 #include <atomic>
 #include <cmath>
 #include <functional>
+#include <future>
 #include <string>
 #include <thread>
 #include <vector>
@@ -351,9 +352,12 @@ TEST_F(ScannerTest, AReportOnItsWayWhileTheScanIsCancelledIsDropped)
 TEST_F(ScannerTest, TheScannerMayBeDroppedRightAfterItWasCancelled)
 {
     Scanner& scanner = scannerOf("a:1 b/ ( c:3 )");
+    std::promise<void> dropped;
+    beforeEachItem([done = dropped.get_future().share()] { done.wait(); });
     scanner.scan(Url("/data", true));
     scanner.cancel();
     drop();
+    dropped.set_value();
     Scanner::waitForWorkers();
     EXPECT_THAT(delegate.calls, ElementsAre("cancelled"));
 }
