@@ -30,7 +30,60 @@ bool isPathCharacter(char c)
         || std::string_view("-._~!$&'()*+,=:@/").find(c) != std::string_view::npos;
 }
 
+std::optional<unsigned> hexDigitValue(char c)
+{
+    if (c >= 'a' && c <= 'f') {
+        c = static_cast<char>(c - 'a' + 'A');
+    }
+    const auto found = std::find(kHexDigits.begin(), kHexDigits.end(), c);
+    return found != kHexDigits.end()
+        ? std::optional(static_cast<unsigned>(found - kHexDigits.begin()))
+        : std::nullopt;
+}
+
 } // namespace
+
+std::string percentEncoded(std::string_view bytes)
+{
+    std::string text;
+    text.reserve(bytes.size());
+    for (const char c : bytes) {
+        if (isPathCharacter(c)) {
+            text += c;
+            continue;
+        }
+        const auto byte = static_cast<unsigned char>(c);
+        text += '%';
+        text += kHexDigits[byte >> 4U];
+        text += kHexDigits[byte & 0x0FU];
+    }
+    return text;
+}
+
+std::optional<std::string> percentDecoded(std::string_view text)
+{
+    constexpr std::size_t kEscapeLength = 3;
+    std::string bytes;
+    bytes.reserve(text.size());
+    while (!text.empty()) {
+        if (text.front() != '%') {
+            bytes += text.front();
+            text.remove_prefix(1);
+            continue;
+        }
+        if (text.size() < kEscapeLength) {
+            return std::nullopt;
+        }
+        const std::optional<unsigned> high = hexDigitValue(text[1]);
+        const std::optional<unsigned> low = hexDigitValue(text[2]);
+        if (!high || !low) {
+            return std::nullopt;
+        }
+        bytes += static_cast<char>((*high << 4U) | *low);
+        text.remove_prefix(kEscapeLength);
+    }
+    return bytes;
+}
 
 std::string_view lastPathComponent(std::string_view path)
 {
@@ -48,20 +101,27 @@ Url::Url(std::string_view path, bool isDirectory)
 {
 }
 
+std::optional<Url> Url::fromAbsoluteString(std::string_view text)
+{
+    constexpr std::string_view kLocalHost = "localhost";
+    if (!text.starts_with(kScheme)) {
+        return std::nullopt;
+    }
+    text.remove_prefix(kScheme.size());
+    if (text.starts_with(kLocalHost)) {
+        text.remove_prefix(kLocalHost.size());
+    }
+    const std::optional<std::string> path = percentDecoded(text);
+    // No path has a zero byte in it: the system would read another, shorter one.
+    if (!path || !path->starts_with('/') || path->find('\0') != std::string::npos) {
+        return std::nullopt;
+    }
+    return Url(*path, path->ends_with('/'));
+}
+
 std::string Url::absoluteString() const
 {
-    std::string text(kScheme);
-    text.reserve(kScheme.size() + m_path.size() + 1);
-    for (const char c : m_path) {
-        if (isPathCharacter(c)) {
-            text += c;
-            continue;
-        }
-        const auto byte = static_cast<unsigned char>(c);
-        text += '%';
-        text += kHexDigits[byte >> 4U];
-        text += kHexDigits[byte & 0x0FU];
-    }
+    std::string text = std::string(kScheme) + percentEncoded(m_path);
     if (m_isDirectory && text.back() != '/') {
         text += '/';
     }

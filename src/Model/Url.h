@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -9,6 +10,12 @@ namespace tessera {
 /// The last component of a path of bytes; "/" for the root, trailing slashes not counted.
 std::string_view lastPathComponent(std::string_view path);
 
+/// The bytes as ASCII text: every byte outside RFC 3986's path characters as %XX.
+std::string percentEncoded(std::string_view bytes);
+
+/// The reverse; nothing when a percent sign is not followed by two hexadecimal digits.
+std::optional<std::string> percentDecoded(std::string_view text);
+
 /// A file URL: a path of bytes that may be no valid text, and whether it names a directory.
 class Url {
 public:
@@ -16,6 +23,10 @@ public:
 
     /// Trailing slashes of `path` are dropped, but the root stays "/".
     Url(std::string_view path, bool isDirectory);
+
+    /// Reads what absoluteString() gives, and what other programs write: also "localhost" as the
+    /// host. A slash at the end says that it is a directory. Nothing for other kinds of URL.
+    static std::optional<Url> fromAbsoluteString(std::string_view text);
 
     /// Absolute path as bytes, without a trailing slash.
     const std::string& path() const { return m_path; }

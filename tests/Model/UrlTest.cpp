@@ -33,6 +33,34 @@ TEST(Url, LeavesPathCharactersAsTheyAre)
     EXPECT_EQ(Url("/-._~!$&'()*+,=:@", false).absoluteString(), "file:///-._~!$&'()*+,=:@");
 }
 
+TEST(Url, ReadsBackWhatItWrites)
+{
+    for (const Url& url : {Url("/a b%#?\n\xFF;", false), Url("/home/me", true), Url("/", true)}) {
+        EXPECT_EQ(Url::fromAbsoluteString(url.absoluteString()), url);
+    }
+}
+
+TEST(Url, ReadsLowerCaseEscapesAndTheLocalHost)
+{
+    EXPECT_EQ(Url::fromAbsoluteString("file://localhost/a%c3%a9"), Url("/a\xC3\xA9", false));
+}
+
+TEST(Url, ReadsNothingElseThanAbsoluteFileUrls)
+{
+    for (const char* text :
+         {"",
+          "http://x/a",
+          "file:///a%",
+          "file:///a%4",
+          "file:///a%G0",
+          "file:///a%00b",
+          "file://host/a",
+          "file://",
+          "/a"}) {
+        EXPECT_EQ(Url::fromAbsoluteString(text), std::nullopt) << text;
+    }
+}
+
 TEST(Url, LastPathComponentIsTheNameWithoutSlashes)
 {
     EXPECT_EQ(lastPathComponent("/home/me/"), "me");
