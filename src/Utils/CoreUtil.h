@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace tessera {
+
+class File;
+class Folder;
+class RecentDocuments;
+class TopFolder;
+class Url;
+class UserAccount;
+class UserDefaults;
+
+/// The utilities that need no window. Stateless.
+class CoreUtil {
+public:
+    /// A number of bytes as the user reads it, in decimal units: "999 B", "2 KB", "1.2 GB". The
+    /// same in every locale.
+    static std::string formatSize(std::uint64_t bytes);
+
+    /// Name and size of a node, "docs (1.2 GB)"; a volume's size is its used space. The name is
+    /// bytes and may be no valid text.
+    static std::string getFolderTitle(const File& file);
+
+    /// The node of `url` in the tree of `inFolder`, that folder included, or null. Names are
+    /// matched as plain prefixes of the path and a match is never taken back, so a folder "a" can
+    /// hide its smaller sibling "ab".
+    static File* locateURL(const Url& url, Folder& inFolder);
+
+    /// The larger side divided by the smaller.
+    static double aspectRatio(double width, double height);
+
+    /// Puts the folder in front of the stored recent scans and of the desktop's recent documents.
+    static void saveFolderToRecents(
+        const TopFolder& folder, UserDefaults& defaults, RecentDocuments& documents);
+
+    /// Login name and home directory of the real user. A user without an entry in the password
+    /// database stops the process.
+    static std::string realUserName(const UserAccount& account);
+    static std::string realHomeDirectory(const UserAccount& account);
+};
+
+} // namespace tessera
