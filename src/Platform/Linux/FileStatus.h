@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Platform/Linux/FileDescriptor.h"
+
+#include <cstdint>
+#include <optional>
+
+namespace tessera {
+
+/// What tells one file from every other one on this machine, as long as it exists.
+struct FileIdentity {
+    std::uint64_t device = 0;
+    std::uint64_t inode = 0;
+
+    bool operator==(const FileIdentity& other) const = default;
+};
+
+/// What the system says of a file without opening it.
+struct FileStatus {
+    FileIdentity identity;
+    bool isDirectory = false;
+    bool isRegular = false;
+    std::uint64_t allocatedBytes = 0;
+    std::int64_t modified = 0; ///< seconds since 1970-01-01 00:00 UTC
+    std::optional<std::uint64_t> mountId; ///< missing before Linux 5.8
+    std::optional<bool> isMountRoot; ///< missing before Linux 5.8
+    bool isAutomountTrigger = false; ///< a file system gets mounted here when somebody enters
+};
+
+/// A status, or the errno that says why there is none.
+struct StatusResult {
+    int error = 0;
+    FileStatus status;
+
+    explicit operator bool() const { return error == 0; }
+};
+
+/// Whether a symbolic link that is the last component of a path leads on to its target.
+enum class LinkMode : std::uint8_t { Keep, Follow };
+
+/// The status of `name` in the open directory `directory`. Triggers no automount; it waits for as
+/// long as the file system takes to answer.
+[[nodiscard]] StatusResult statusAt(
+    int directory, const char* name, LinkMode linkMode = LinkMode::Keep);
+
+/// The same by the older call, for kernels and sandboxes without statx(2). It knows nothing of
+/// mounts.
+[[nodiscard]] StatusResult statusAtWithoutStatx(
+    int directory, const char* name, LinkMode linkMode = LinkMode::Keep);
+
+/// The status of what an open descriptor stands for.
+[[nodiscard]] StatusResult statusOf(int descriptor);
+
+/// Opens the directory `name` in the open directory `directory`, if it is `expected` still: when
+/// something else has taken its name meanwhile, nothing is opened for good.
+[[nodiscard]] FileDescriptor openDirectoryAt(
+    int directory, const char* name, const FileIdentity& expected);
+
+} // namespace tessera

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Platform/Linux/ReadAhead.h"
+#include "Scanning/DirectoryEnumerator.h"
+
+namespace tessera {
+
+/// Makes enumerators of the real file system. Those that read sizes have helper threads, which
+/// end with the enumerator.
+class LinuxFileManager final : public FileManager {
+public:
+    LinuxFileManager() = default;
+
+    /// For tests, which have to know who reads what when.
+    explicit LinuxFileManager(const ReadAheadOptions& options)
+        : m_options(options)
+    {
+    }
+
+    /// As promised by FileManager; a symbolic link at the end of `path` itself is followed,
+    /// because somebody chose it.
+    [[nodiscard]] std::unique_ptr<DirectoryEnumerator> enumerator(
+        const std::string& path, ItemKeys keys) const override;
+
+private:
+    ReadAheadOptions m_options;
+};
+
+} // namespace tessera
