@@ -124,22 +124,18 @@ private:
 
 } // namespace
 
-RenderedLevel LevelRenderer::renderTop(Folder* folder, const Rect& bounds) const
-{
-    const Rect layoutArea = bounds.inset(kTopInset, kTopInset);
-    const bool hasRoom = layoutArea.width > 0 && layoutArea.height > 0;
-    if (folder == nullptr || !hasRoom) {
-        return {folder, bounds, 0, {}, {}};
-    }
-    return renderLevel(*folder, bounds, layoutArea, 0);
-}
-
 // Calls itself once a level on screen: each is at least 32 points lower than the one around it,
 // so the depth is bounded by the window's height, not by the disk.
-RenderedLevel LevelRenderer::renderLevel(
-    Folder& folder, const Rect& frame, const Rect& layoutArea, long level) const
+RenderedLevel LevelRenderer::render(
+    Folder* folder, const Rect& frame, Placement placement, long level) const
 {
-    const Candidates candidates = visibleChildren(folder);
+    const Rect layoutArea = placement == Placement::Top ? frame.inset(kTopInset, kTopInset)
+                                                        : Rect{0, 0, frame.width, frame.height};
+    RenderedLevel result{folder, frame, level, {}, {}};
+    if (folder == nullptr || !(layoutArea.width > 0) || !(layoutArea.height > 0)) {
+        return result;
+    }
+    const Candidates candidates = visibleChildren(*folder);
     LayoutBuilder builder(candidates.total(), layoutArea);
     const double smallest = builder.minSize() * builder.minSize();
     LevelItems items;
@@ -153,19 +149,24 @@ RenderedLevel LevelRenderer::renderLevel(
     }
     items.finish();
     items.layOut(builder);
-
-    RenderedLevel result{&folder, frame, level, {}, {}};
-    for (const LayoutObject* item : items.folderItems()) {
-        const Rect inner = childFrame(item->rect);
-        const bool hasRoom = inner.width > kNestingThreshold && inner.height > kNestingThreshold;
-        if (hasRoom && !item->ref->rescanning()) {
-            const Rect innerArea{0, 0, inner.width, inner.height};
-            auto& innerFolder = static_cast<Folder&>(*item->ref);
-            result.nested.push_back(renderLevel(innerFolder, inner, innerArea, level + 1));
-        }
-    }
+    result.nested = renderNested(items.folderItems(), level + 1);
     result.layoutItems = items.take();
     return result;
+}
+
+std::vector<RenderedLevel> LevelRenderer::renderNested(
+    const std::vector<LayoutObject*>& folderItems, long level) const
+{
+    std::vector<RenderedLevel> nested;
+    for (const LayoutObject* item : folderItems) {
+        const Rect frame = childFrame(item->rect);
+        const bool hasRoom = frame.width > kNestingThreshold && frame.height > kNestingThreshold;
+        if (hasRoom && !item->ref->rescanning()) {
+            auto* folder = static_cast<Folder*>(item->ref);
+            nested.push_back(render(folder, frame, Placement::Nested, level));
+        }
+    }
+    return nested;
 }
 
 LevelRenderer::Candidates LevelRenderer::visibleChildren(const Folder& folder) const

@@ -30,15 +30,26 @@ public:
     {
     }
 
-    /// The folder at the top of the view whose bounds are `bounds`, in points. No folder gives a
-    /// level without items.
-    RenderedLevel renderTop(Folder* folder, const Rect& bounds) const;
+    enum class Placement {
+        Top, ///< a margin is kept between the level's frame and its boxes
+        Nested, ///< the boxes fill the frame
+    };
+
+    /// The folder at depth `level`, with `frame` in points. No folder, and a frame that the margin
+    /// fills, give a level without items.
+    RenderedLevel render(Folder* folder, const Rect& frame, Placement placement, long level) const;
+
+    /// The folder at the top of a view with these bounds.
+    RenderedLevel renderTop(Folder* folder, const Rect& bounds) const
+    {
+        return render(folder, bounds, Placement::Top, 0);
+    }
 
 private:
     class Candidates;
 
-    RenderedLevel renderLevel(
-        Folder& folder, const Rect& frame, const Rect& layoutArea, long level) const;
+    std::vector<RenderedLevel> renderNested(
+        const std::vector<LayoutObject*>& folderItems, long level) const;
     Candidates visibleChildren(const Folder& folder) const;
 
     bool m_ignoreHiddenFiles;

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/Linux/LinuxFileAccess.h"
+
+#include "Platform/Linux/FileDescriptor.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+
+namespace tessera {
+
+namespace {
+
+constexpr mode_t kNewFileMode = 0666; // what the user's umask leaves of it
+
+std::error_code lastError()
+{
+    return {errno, std::generic_category()};
+}
+
+std::error_code writeAll(const FileDescriptor& file, std::string_view bytes)
+{
+    while (!bytes.empty()) {
+        const ssize_t written = ::write(file.number(), bytes.data(), bytes.size());
+        if (written < 0) {
+            const std::error_code error = lastError();
+            if (error == std::errc::interrupted) {
+                continue;
+            }
+            return error;
+        }
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+    // A full disk or a lost mount may only show itself now.
+    return ::fsync(file.number()) == 0 ? std::error_code{} : lastError();
+}
+
+/// A file beside `path` that nobody else has, under a name that mkostemp chooses.
+FileDescriptor makeTemporary(const std::string& path, std::string& temporaryPath)
+{
+    const std::size_t slash = path.rfind('/');
+    const std::string folder = slash == std::string::npos ? "" : path.substr(0, slash + 1);
+    // The name is not derived from the file's own, which may be as long as names can be.
+    temporaryPath = folder + ".tessera-XXXXXX";
+    return FileDescriptor(::mkostemp(temporaryPath.data(), O_CLOEXEC));
+}
+
+mode_t currentUmask()
+{
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    return mask;
+}
+
+} // namespace
+
+std::error_code LinuxFileAccess::checkFolder(const std::string& path) const
+{
+    const FileDescriptor folder(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    return folder.isOpen() ? std::error_code{} : lastError();
+}
+
+std::string LinuxFileAccess::absolutePath(const std::string& path) const
+{
+    const std::unique_ptr<char, decltype(&std::free)> resolved(
+        ::realpath(path.c_str(), nullptr), &std::free);
+    if (resolved != nullptr) {
+        return resolved.get();
+    }
+    if (!path.empty() && path.front() == '/') {
+        return path;
+    }
+    const std::unique_ptr<char, decltype(&std::free)> current(::getcwd(nullptr, 0), &std::free);
+    return current == nullptr ? path : std::string(current.get()) + '/' + path;
+}
+
+std::error_code LinuxFileAccess::writeFile(const std::string& path, std::string_view bytes) const
+{
+    std::string temporaryPath;
+    const FileDescriptor file = makeTemporary(path, temporaryPath);
+    if (!file.isOpen()) {
+        return lastError();
+    }
+    std::error_code error = writeAll(file, bytes);
+    if (!error && ::fchmod(file.number(), kNewFileMode & ~currentUmask()) != 0) {
+        error = lastError();
+    }
+    if (!error && ::rename(temporaryPath.c_str(), path.c_str()) != 0) {
+        error = lastError();
+    }
+    if (error) {
+        ::unlink(temporaryPath.c_str());
+    }
+    return error;
+}
+
+} // namespace tessera

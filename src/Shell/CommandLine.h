@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <span>
+#include <string>
+#include <variant>
+
+namespace tessera {
+
+/// What the user asked for on the command line. Paths are bytes, as the system gave them.
+struct CommandLine {
+    enum class Action { ShowWindow, WritePicture, PrintHelp, PrintVersion };
+
+    static constexpr int kDefaultWidth = 1600;
+    static constexpr int kDefaultHeight = 1000;
+
+    Action action = Action::ShowWindow;
+    std::string folder; ///< empty: none named
+    std::string pictureFile;
+    int width = kDefaultWidth; ///< of the picture, in points
+    int height = kDefaultHeight;
+    double scale = 1; ///< pixels a point
+};
+
+/// A command line that makes no sense; the message says why in one line.
+struct CommandLineError {
+    std::string message;
+};
+
+/// Reads the arguments behind the program's name.
+std::variant<CommandLine, CommandLineError> parseCommandLine(
+    std::span<const char* const> arguments);
+
+/// What --help prints.
+std::string commandLineHelp();
+
+} // namespace tessera

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <system_error>
+
+namespace tessera {
+
+/// What the program does with single files and folders that the user names. Paths are bytes.
+class FileAccess {
+public:
+    FileAccess() = default;
+    FileAccess(const FileAccess&) = delete;
+    FileAccess& operator=(const FileAccess&) = delete;
+    virtual ~FileAccess() = default;
+
+    /// Why the folder cannot be read; no error when it can.
+    [[nodiscard]] virtual std::error_code checkFolder(const std::string& path) const = 0;
+
+    /// The path from the root, with symbolic links resolved as far as that works.
+    [[nodiscard]] virtual std::string absolutePath(const std::string& path) const = 0;
+
+    /// Writes the file as a whole or, with an error, not at all: what was there before stays.
+    [[nodiscard]] virtual std::error_code writeFile(
+        const std::string& path, std::string_view bytes) const = 0;
+};
+
+} // namespace tessera

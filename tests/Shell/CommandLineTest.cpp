@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+#include "Shell/CommandLine.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace tessera {
+namespace {
+
+using Action = CommandLine::Action;
+
+std::variant<CommandLine, CommandLineError> parse(const std::vector<const char*>& arguments)
+{
+    return parseCommandLine(arguments);
+}
+
+CommandLine accepted(const std::vector<const char*>& arguments)
+{
+    const auto parsed = parse(arguments);
+    EXPECT_TRUE(std::holds_alternative<CommandLine>(parsed));
+    return std::holds_alternative<CommandLine>(parsed) ? std::get<CommandLine>(parsed)
+                                                       : CommandLine{};
+}
+
+std::string refusal(const std::vector<const char*>& arguments)
+{
+    const auto parsed = parse(arguments);
+    EXPECT_TRUE(std::holds_alternative<CommandLineError>(parsed));
+    return std::holds_alternative<CommandLineError>(parsed)
+        ? std::get<CommandLineError>(parsed).message
+        : "";
+}
+
+TEST(CommandLine, WithoutArgumentsShowsAWindowOnNoFolderInParticular)
+{
+    const CommandLine line = accepted({});
+    EXPECT_EQ(line.action, Action::ShowWindow);
+    EXPECT_EQ(line.folder, "");
+}
+
+TEST(CommandLine, TakesAFolderAsBytes)
+{
+    EXPECT_EQ(accepted({"a\xFF\n b"}).folder, "a\xFF\n b");
+}
+
+TEST(CommandLine, APictureHasADefaultSizeAndScale)
+{
+    const CommandLine line = accepted({"--picture", "out.png", "/usr"});
+    EXPECT_EQ(line.action, Action::WritePicture);
+    EXPECT_EQ(line.pictureFile, "out.png");
+    EXPECT_EQ(line.folder, "/usr");
+    EXPECT_EQ(line.width, 1600);
+    EXPECT_EQ(line.height, 1000);
+    EXPECT_EQ(line.scale, 1.0);
+}
+
+TEST(CommandLine, TakesSizeAndScaleInEitherForm)
+{
+    const CommandLine line
+        = accepted({"--size=320x200", "/usr", "--scale", "1.5", "--picture=out.png"});
+    EXPECT_EQ(line.width, 320);
+    EXPECT_EQ(line.height, 200);
+    EXPECT_EQ(line.scale, 1.5);
+    EXPECT_EQ(line.pictureFile, "out.png");
+}
+
+TEST(CommandLine, BehindTwoDashesEverythingIsAFolder)
+{
+    EXPECT_EQ(accepted({"--", "--picture"}).folder, "--picture");
+}
+
+TEST(CommandLine, ASingleDashIsAFolder)
+{
+    EXPECT_EQ(accepted({"-"}).folder, "-");
+}
+
+TEST(CommandLine, HelpAndVersionNeedNothingElse)
+{
+    EXPECT_EQ(accepted({"--help"}).action, Action::PrintHelp);
+    EXPECT_EQ(accepted({"-h"}).action, Action::PrintHelp);
+    EXPECT_EQ(accepted({"--version"}).action, Action::PrintVersion);
+    EXPECT_EQ(accepted({"--help", "--picture", "x.png"}).action, Action::PrintHelp);
+}
+
+TEST(CommandLine, RefusesUnknownOptions)
+{
+    EXPECT_EQ(refusal({"--colour=red"}), "unknown option '--colour'");
+    EXPECT_EQ(refusal({"-x"}), "unknown option '-x'");
+}
+
+TEST(CommandLine, RefusesTwoFolders)
+{
+    EXPECT_EQ(refusal({"/usr", "/home"}), "more than one folder");
+}
+
+TEST(CommandLine, RefusesAnEmptyFolder)
+{
+    EXPECT_EQ(refusal({""}), "the folder's name is empty");
+}
+
+TEST(CommandLine, RefusesAPictureOfNoFolder)
+{
+    EXPECT_EQ(refusal({"--picture", "out.png"}), "--picture needs the name of a folder");
+}
+
+TEST(CommandLine, RefusesOptionsWithoutAValue)
+{
+    EXPECT_EQ(refusal({"/usr", "--picture"}), "option '--picture' needs a value");
+    EXPECT_EQ(refusal({"/usr", "--size="}), "option '--size' needs a value");
+}
+
+TEST(CommandLine, RefusesSizesThatAreNone)
+{
+    for (const char* size : {"1600", "x", "0x10", "10x0", "-5x5", "10x10x10", "1e3x5", "axb"}) {
+        EXPECT_NE(
+            refusal({"--picture=o.png", "/usr", "--size", size}).find(size), std::string::npos);
+    }
+}
+
+TEST(CommandLine, RefusesScalesThatAreNone)
+{
+    for (const char* scale : {"0", "-1", "two", "nan", "inf", "1x"}) {
+        EXPECT_NE(
+            refusal({"--picture=o.png", "/usr", "--scale", scale}).find(scale), std::string::npos);
+    }
+}
+
+TEST(CommandLine, RefusesPicturesTooLargeForTheFormat)
+{
+    accepted({"--picture=o.png", "/usr", "--size=32767x1"});
+    refusal({"--picture=o.png", "/usr", "--size=32768x1"});
+    refusal({"--picture=o.png", "/usr", "--size=20000x1", "--scale=2"});
+    refusal({"--picture=o.png", "/usr", "--size=20000x1", "--scale=0.5"});
+}
+
+TEST(CommandLine, RefusesPictureOptionsWithoutAPicture)
+{
+    EXPECT_EQ(refusal({"/usr", "--scale=2"}), "--size and --scale go with --picture");
+}
+
+TEST(CommandLine, TheHelpNamesEveryOption)
+{
+    const std::string help = commandLineHelp();
+    for (const char* option : {"--picture", "--size", "--scale", "--help", "--version", "FOLDER"}) {
+        EXPECT_NE(help.find(option), std::string::npos);
+    }
+}
+
+} // namespace
+} // namespace tessera
