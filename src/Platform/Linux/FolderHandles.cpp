@@ -57,7 +57,7 @@ FolderHandle FolderHandles::reopen(FolderHandle from, const std::vector<WalkFold
     // A walk that comes back up through a very deep tree would go all the way down from its start
     // for each folder. So half of the room is for the folders that are needed next, and half for
     // places along the way from which to go down later.
-    const std::size_t half = m_capacity / 2;
+    const std::size_t half = std::max<std::size_t>(m_capacity / 2, 1);
     const std::size_t spacing = way.size() / half + 1;
     FolderHandle handle = std::move(from);
     for (std::size_t left = way.size(); left-- > 0;) {

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/LinuxFileSystemAttributes.h"
 
+#include "Platform/Linux/TimeLimitedCall.h"
+
 #include <sys/statvfs.h>
 
 #include <cerrno>
-#include <future>
-#include <memory>
-#include <thread>
 #include <utility>
 
 namespace tessera {
@@ -32,7 +31,7 @@ int queryStatvfs(const std::string& path, FileSystemSizes& sizes)
 } // namespace
 
 LinuxFileSystemAttributes::LinuxFileSystemAttributes()
-    : LinuxFileSystemAttributes(queryStatvfs, kTimeLimit)
+    : LinuxFileSystemAttributes(queryStatvfs, kFileSystemTimeLimit)
 {
 }
 
@@ -46,19 +45,14 @@ LinuxFileSystemAttributes::LinuxFileSystemAttributes(
 std::optional<FileSystemSizes> LinuxFileSystemAttributes::attributesOfFileSystem(
     const std::string& path) const
 {
-    auto answer = std::make_shared<std::promise<std::optional<FileSystemSizes>>>();
-    std::future<std::optional<FileSystemSizes>> pending = answer->get_future();
-    // A call stuck in the kernel cannot be taken back, so its thread is left to itself; it shares
-    // the promise, because it may outlive this call.
-    std::thread([query = m_query, path, answer] {
-        FileSystemSizes sizes;
-        const int error = query(path, sizes);
-        answer->set_value(error == 0 ? std::optional(sizes) : std::nullopt);
-    }).detach();
-    if (pending.wait_for(m_timeLimit) != std::future_status::ready) {
-        return std::nullopt;
-    }
-    return pending.get();
+    return callWithin<FileSystemSizes>(
+        m_timeLimit, [query = m_query, path]() -> std::optional<FileSystemSizes> {
+            FileSystemSizes sizes;
+            if (query(path, sizes) != 0) {
+                return std::nullopt;
+            }
+            return sizes;
+        });
 }
 
 } // namespace tessera

@@ -14,8 +14,6 @@ public:
     /// What is asked of the system for a path: 0 and the sizes, or an errno. Tests pass their own.
     using Query = std::function<int(const std::string& path, FileSystemSizes& sizes)>;
 
-    static constexpr std::chrono::milliseconds kTimeLimit{2000};
-
     LinuxFileSystemAttributes();
     LinuxFileSystemAttributes(Query query, std::chrono::milliseconds timeLimit);
 

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/Linux/LinuxResourceValues.h"
+
+#include "Platform/Linux/TimeLimitedCall.h"
+
+#include <fcntl.h>
+
+#include <utility>
+
+namespace tessera {
+
+namespace {
+
+StatusResult queryStatus(const std::string& path, LinkMode linkMode)
+{
+    return statusAt(AT_FDCWD, path.c_str(), linkMode);
+}
+
+/// Whether the directory is where its file system begins, told from the directory above it where
+/// the kernel does not say so. There a bind mount of the same file system goes unnoticed.
+bool isMountRoot(const FileStatus& directory, const FileStatus& above)
+{
+    if (directory.isMountRoot) {
+        return *directory.isMountRoot;
+    }
+    const bool isRootOfAll = directory.identity == above.identity;
+    return isRootOfAll || directory.identity.device != above.identity.device;
+}
+
+} // namespace
+
+LinuxResourceValues::LinuxResourceValues()
+    : LinuxResourceValues(queryStatus, kFileSystemTimeLimit)
+{
+}
+
+LinuxResourceValues::LinuxResourceValues(Query query, std::chrono::milliseconds timeLimit)
+    : m_query(std::move(query))
+    , m_timeLimit(timeLimit)
+{
+}
+
+bool LinuxResourceValues::isVolume(const std::string& path) const
+{
+    const auto answer
+        = callWithin<bool>(m_timeLimit, [query = m_query, path]() -> std::optional<bool> {
+              const StatusResult found = query(path, LinkMode::Follow);
+              const StatusResult above = query(path + "/..", LinkMode::Follow);
+              return found && above && found.status.isDirectory
+                  && isMountRoot(found.status, above.status);
+          });
+    return answer.value_or(false);
+}
+
+std::optional<std::uint64_t> LinuxResourceValues::allocatedSize(const std::string& path) const
+{
+    const std::optional<FileStatus> found = status(path);
+    return found ? std::optional(found->allocatedBytes) : std::nullopt;
+}
+
+std::optional<std::int64_t> LinuxResourceValues::contentModificationDate(
+    const std::string& path) const
+{
+    const std::optional<FileStatus> found = status(path);
+    return found ? std::optional(found->modified) : std::nullopt;
+}
+
+std::optional<FileStatus> LinuxResourceValues::status(const std::string& path) const
+{
+    return callWithin<FileStatus>(
+        m_timeLimit, [query = m_query, path]() -> std::optional<FileStatus> {
+            const StatusResult found = query(path, LinkMode::Keep);
+            return found ? std::optional(found.status) : std::nullopt;
+        });
+}
+
+} // namespace tessera

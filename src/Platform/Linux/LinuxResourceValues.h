@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Platform/Linux/FileStatus.h"
+#include "Scanning/ResourceValues.h"
+
+#include <chrono>
+#include <functional>
+
+namespace tessera {
+
+/// statx(2) with a time limit. What does not answer in time counts as not readable.
+class LinuxResourceValues final : public ResourceValues {
+public:
+    /// What the system says of a path. Tests pass their own.
+    using Query = std::function<StatusResult(const std::string& path, LinkMode linkMode)>;
+
+    LinuxResourceValues();
+    LinuxResourceValues(Query query, std::chrono::milliseconds timeLimit);
+
+    /// A symbolic link is followed, as by the walk that starts there.
+    [[nodiscard]] bool isVolume(const std::string& path) const override;
+
+    [[nodiscard]] std::optional<std::uint64_t> allocatedSize(
+        const std::string& path) const override;
+
+    /// A symbolic link is not followed.
+    [[nodiscard]] std::optional<std::int64_t> contentModificationDate(
+        const std::string& path) const override;
+
+private:
+    std::optional<FileStatus> status(const std::string& path) const;
+
+    Query m_query;
+    std::chrono::milliseconds m_timeLimit;
+};
+
+} // namespace tessera

@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/Linux/DirectoryReader.h"
+
+#include "Platform/Linux/FileDescriptor.h"
+#include "support/TempTree.h"
+#include "support/walkTree.h"
+
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace tessera::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using Kind = DirectoryListing::Kind;
+
+class DirectoryReaderTest : public testing::Test {
+protected:
+    FileDescriptor open() const
+    {
+        return FileDescriptor(::open(m_tree.path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    }
+
+    /// The names that are hidden.
+    std::vector<std::string> hidden() const
+    {
+        std::vector<std::string> names;
+        const DirectoryListing listing = m_reader.list(open().number());
+        for (std::size_t i = 0; i < listing.size(); ++i) {
+            if (listing[i].isHidden) {
+                names.emplace_back(listing.name(listing[i]));
+            }
+        }
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+
+    const TempTree& tree() const { return m_tree; }
+    const DirectoryReader& reader() const { return m_reader; }
+    void cancel() { m_isCancelled = true; }
+
+private:
+    TempTree m_tree;
+    std::atomic<bool> m_isCancelled{false};
+    DirectoryReader m_reader{ItemKeys::SizeAndHidden, m_isCancelled};
+};
+
+TEST_F(DirectoryReaderTest, ListsInTheOrderOfInodes)
+{
+    for (int i = 0; i < 200; ++i) {
+        tree().makeFile(std::to_string(i));
+    }
+    const DirectoryListing listing = reader().list(open().number());
+    ASSERT_EQ(listing.size(), 200U);
+    for (std::size_t i = 1; i < listing.size(); ++i) {
+        EXPECT_LE(listing[i - 1].inode, listing[i].inode);
+    }
+}
+
+TEST_F(DirectoryReaderTest, AFileThatVanishedAfterItWasListedIsGone)
+{
+    tree().makeFile("file");
+    const FileDescriptor folder = open();
+    DirectoryListing listing = reader().list(folder.number());
+    tree().removeFile("file");
+    reader().readStatus(folder.number(), listing, 0, listing.size());
+    EXPECT_TRUE(listing[0].isGone);
+}
+
+TEST_F(DirectoryReaderTest, AFileThatTurnedIntoAFolderIsAFolderOfNoSize)
+{
+    tree().makeFile("item", 5000);
+    const FileDescriptor folder = open();
+    DirectoryListing listing = reader().list(folder.number());
+    tree().removeFile("item");
+    tree().makeFolder("item");
+    reader().readStatus(folder.number(), listing, 0, listing.size());
+    EXPECT_EQ(listing[0].kind, Kind::Directory);
+    EXPECT_EQ(listing[0].allocatedBytes, 0U);
+}
+
+TEST_F(DirectoryReaderTest, AKindThatTheListingDoesNotNameIsLookedUp)
+{
+    tree().makeFolder("folder");
+    tree().makeFile("file", 5000);
+    DirectoryListing listing;
+    listing.append("folder", 1, Kind::Unknown);
+    listing.append("file", 2, Kind::Unknown);
+    reader().readStatus(open().number(), listing, 0, listing.size());
+    EXPECT_EQ(listing[0].kind, Kind::Directory);
+    EXPECT_EQ(listing[1].kind, Kind::Other);
+    EXPECT_EQ(listing[1].allocatedBytes, tree().allocatedBytes("file"));
+}
+
+TEST_F(DirectoryReaderTest, WithoutKeysOnlyUnknownKindsAreLookedUp)
+{
+    const std::atomic<bool> isCancelled{false};
+    const DirectoryReader listsOnly(ItemKeys::None, isCancelled);
+    DirectoryListing listing;
+    listing.append("regular", 1, Kind::Regular);
+    listing.append("unknown", 2, Kind::Unknown);
+    EXPECT_FALSE(listsOnly.needsStatus(listing[0]));
+    EXPECT_TRUE(listsOnly.needsStatus(listing[1]));
+}
+
+TEST_F(DirectoryReaderTest, StopsListingWhenItIsCancelled)
+{
+    tree().makeFile("file");
+    cancel();
+    EXPECT_EQ(reader().list(open().number()).size(), 0U);
+}
+
+TEST_F(DirectoryReaderTest, ALeadingDotHides)
+{
+    tree().makeFile(".dot");
+    tree().makeFile("plain");
+    EXPECT_THAT(hidden(), ElementsAre(".dot"));
+}
+
+TEST_F(DirectoryReaderTest, TheHiddenFileHidesWhatItLists)
+{
+    tree().makeFile("listed");
+    tree().makeFolder("folder");
+    tree().makeFile("plain");
+    tree().writeFile(".hidden", "listed\nfolder\n\nnot there");
+    EXPECT_THAT(hidden(), ElementsAre(".hidden", "folder", "listed"));
+}
+
+TEST_F(DirectoryReaderTest, TheHiddenFilesLastLineNeedsNoEnd)
+{
+    tree().makeFile("listed");
+    tree().writeFile(".hidden", "other\nlisted");
+    EXPECT_THAT(hidden(), ElementsAre(".hidden", "listed"));
+}
+
+TEST_F(DirectoryReaderTest, AHiddenFileHidesNothingBelowItsFolder)
+{
+    tree().makeFolder("folder");
+    tree().makeFile("folder/listed");
+    tree().writeFile(".hidden", "listed\n");
+    EXPECT_FALSE(itemAt(walkTree(tree().path()), "folder/listed").isHidden);
+}
+
+TEST_F(DirectoryReaderTest, AHiddenFileThatIsALinkIsNotHeeded)
+{
+    tree().makeFile("listed");
+    tree().writeFile("list", "listed\n");
+    tree().makeSymbolicLink(".hidden", "list");
+    EXPECT_THAT(hidden(), ElementsAre(".hidden"));
+}
+
+TEST_F(DirectoryReaderTest, AHiddenFileThatIsAFifoDoesNotStopTheWalk)
+{
+    tree().makeFile("listed");
+    tree().makeFifo(".hidden");
+    EXPECT_THAT(hidden(), ElementsAre(".hidden"));
+}
+
+TEST_F(DirectoryReaderTest, OnlyTheFirst64KiBOfAHiddenFileCount)
+{
+    tree().makeFile("early");
+    tree().makeFile("late");
+    tree().writeFile(".hidden", "early\n" + std::string(65536 - 7, 'x') + "\nlate\n");
+    EXPECT_THAT(hidden(), ElementsAre(".hidden", "early"));
+}
+
+} // namespace
+} // namespace tessera::test

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/Linux/FileStatus.h"
+
+#include "support/TempTree.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+
+#include <cerrno>
+
+namespace tessera::test {
+namespace {
+
+StatusResult statusAtPath(const std::string& path)
+{
+    return statusAt(AT_FDCWD, path.c_str());
+}
+
+TEST(FileStatus, TheOlderCallSaysTheSame)
+{
+    const TempTree tree;
+    tree.makeFile("file", 5000);
+    const StatusResult status = statusAtPath(tree.pathOf("file"));
+    const StatusResult older = statusAtWithoutStatx(AT_FDCWD, tree.pathOf("file").c_str());
+    ASSERT_TRUE(status);
+    ASSERT_TRUE(older);
+    EXPECT_EQ(status.status.identity, older.status.identity);
+    EXPECT_EQ(status.status.allocatedBytes, older.status.allocatedBytes);
+    EXPECT_EQ(status.status.modified, older.status.modified);
+    EXPECT_EQ(status.status.isRegular, older.status.isRegular);
+    EXPECT_EQ(status.status.isDirectory, older.status.isDirectory);
+}
+
+TEST(FileStatus, TheOlderCallKnowsNothingOfMounts)
+{
+    const StatusResult older = statusAtWithoutStatx(AT_FDCWD, "/");
+    ASSERT_TRUE(older);
+    EXPECT_FALSE(older.status.isMountRoot.has_value());
+    EXPECT_FALSE(older.status.mountId.has_value());
+}
+
+TEST(FileStatus, SaysWhyThereIsNone)
+{
+    EXPECT_EQ(statusAtPath("/no/such/path").error, ENOENT);
+}
+
+TEST(FileStatus, ADirectoryOpensWhenItIsTheOneExpected)
+{
+    const TempTree tree;
+    const FileIdentity identity = statusAtPath(tree.path()).status.identity;
+    EXPECT_TRUE(openDirectoryAt(AT_FDCWD, tree.path().c_str(), identity).isOpen());
+}
+
+TEST(FileStatus, AnotherDirectoryInItsPlaceDoesNotOpen)
+{
+    const TempTree tree;
+    tree.makeFolder("folder");
+    const FileIdentity other = statusAtPath(tree.path()).status.identity;
+    EXPECT_FALSE(openDirectoryAt(AT_FDCWD, tree.pathOf("folder").c_str(), other).isOpen());
+}
+
+TEST(FileStatus, ALinkToTheDirectoryDoesNotOpen)
+{
+    const TempTree tree;
+    tree.makeSymbolicLink("link", ".");
+    const FileIdentity identity = statusAtPath(tree.path()).status.identity;
+    EXPECT_FALSE(openDirectoryAt(AT_FDCWD, tree.pathOf("link").c_str(), identity).isOpen());
+}
+
+} // namespace
+} // namespace tessera::test

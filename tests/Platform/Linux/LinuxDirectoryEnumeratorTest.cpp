@@ -1,0 +1,291 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/Linux/LinuxDirectoryEnumerator.h"
+
+#include "support/TempTree.h"
+#include "support/walkTree.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include <algorithm>
+#include <atomic>
+#include <filesystem>
+#include <random>
+#include <set>
+#include <thread>
+
+namespace tessera::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// Few helpers that may hardly read ahead, one that may, and all that are used otherwise.
+class LinuxDirectoryEnumeratorWith : public testing::TestWithParam<ReadAheadOptions> { };
+
+INSTANTIATE_TEST_SUITE_P(
+    Helpers,
+    LinuxDirectoryEnumeratorWith,
+    testing::Values(
+        kOnDemand, ReadAheadOptions{1, 65536}, ReadAheadOptions{3, 10}, ReadAheadOptions{}));
+
+/// Folders, files, hard and symbolic links in random places.
+void makeRandomTree(const TempTree& tree, unsigned seed)
+{
+    constexpr std::size_t kItems = 600;
+    constexpr std::size_t kMaxBytes = 20000;
+    std::mt19937 random(seed);
+    std::vector<std::string> folders{""};
+    std::string lastFile;
+    for (std::size_t i = 0; i < kItems; ++i) {
+        const std::string name = folders[random() % folders.size()] + "n" + std::to_string(i);
+        switch (random() % 8) {
+        case 0:
+        case 1:
+            tree.makeFolder(name);
+            folders.push_back(name + '/');
+            break;
+        case 2:
+            tree.makeSymbolicLink(name, "..");
+            break;
+        case 3:
+            if (!lastFile.empty()) {
+                tree.makeHardLink(name, lastFile);
+                break;
+            }
+            [[fallthrough]];
+        default:
+            tree.makeFile(name, random() % kMaxBytes);
+            lastFile = name;
+        }
+    }
+}
+
+std::vector<WalkedItem> itemsByFilesystem(const TempTree& tree)
+{
+    std::vector<WalkedItem> items;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(tree.path())) {
+        const std::string path = entry.path().lexically_relative(tree.path()).string();
+        const bool isDirectory = entry.is_directory() && !entry.is_symlink();
+        items.push_back({path, isDirectory, false, isDirectory ? 0 : tree.allocatedBytes(path)});
+    }
+    std::sort(items.begin(), items.end());
+    return items;
+}
+
+TEST_P(LinuxDirectoryEnumeratorWith, FindsWhatTheStandardLibraryFinds)
+{
+    for (const unsigned seed : {1U, 2U, 3U}) {
+        const TempTree tree(TempTree::fastParent());
+        makeRandomTree(tree, seed);
+        std::vector<WalkedItem> items = walkTree(tree.path(), GetParam());
+        std::sort(items.begin(), items.end());
+        EXPECT_EQ(items, itemsByFilesystem(tree)) << "seed " << seed;
+    }
+}
+
+TEST_P(LinuxDirectoryEnumeratorWith, DeliversADirectoryRightBeforeWhatItHolds)
+{
+    const TempTree tree(TempTree::fastParent());
+    makeRandomTree(tree, 4);
+    std::set<std::string> closed;
+    std::string current;
+    for (const WalkedItem& item : walkTree(tree.path(), GetParam())) {
+        const std::string parent = std::filesystem::path(item.path).parent_path().string();
+        while (current != parent) {
+            closed.insert(current);
+            ASSERT_FALSE(current.empty()) << item << " is not below the last directory";
+            current = std::filesystem::path(current).parent_path().string();
+        }
+        EXPECT_FALSE(closed.contains(parent)) << item;
+        if (item.isDirectory) {
+            current = item.path;
+        }
+    }
+}
+
+TEST_P(LinuxDirectoryEnumeratorWith, DeliversTheSameOrderEveryTime)
+{
+    const TempTree tree(TempTree::fastParent());
+    makeRandomTree(tree, 5);
+    EXPECT_EQ(walkTree(tree.path(), GetParam()), walkTree(tree.path(), kOnDemand));
+}
+
+TEST_P(LinuxDirectoryEnumeratorWith, WalksAFolderOfTwoHundredThousandEntries)
+{
+    constexpr std::size_t kEntries = 200000;
+    const TempTree tree(TempTree::fastParent());
+    tree.makeFolder("large");
+    for (std::size_t i = 0; i < kEntries; ++i) {
+        tree.makeFile("large/" + std::to_string(i));
+    }
+    EXPECT_EQ(countItems(tree.path(), GetParam()), kEntries + 1);
+}
+
+TEST_P(LinuxDirectoryEnumeratorWith, WalksAChainOfAHundredThousandFoldersWithFewDescriptors)
+{
+    constexpr std::size_t kDepth = 100000;
+    const TempTree tree(TempTree::fastParent());
+    tree.makeChain(kDepth);
+    const int result = inChildProcess([&] {
+        const rlimit limit{256, 256};
+        ::setrlimit(RLIMIT_NOFILE, &limit);
+        return countItems(tree.path(), GetParam()) == kDepth ? 0 : 1;
+    });
+    EXPECT_EQ(result, 0);
+}
+
+TEST_P(LinuxDirectoryEnumeratorWith, ComesBackUpADeepChainWithASiblingBesideEachFolder)
+{
+    constexpr std::size_t kDepth = 5000;
+    const TempTree tree(TempTree::fastParent());
+    tree.makeChain(kDepth, "sibling");
+    const int result = inChildProcess([&] {
+        const rlimit limit{256, 256};
+        ::setrlimit(RLIMIT_NOFILE, &limit);
+        return countItems(tree.path(), GetParam()) == 2 * kDepth ? 0 : 1;
+    });
+    EXPECT_EQ(result, 0);
+}
+
+TEST_P(LinuxDirectoryEnumeratorWith, LeavesOutWhatIsBelowASkippedDirectory)
+{
+    const TempTree tree;
+    for (const std::string folder : {"a", "a/b", "a/b/c", "d"}) {
+        tree.makeFolder(folder);
+        tree.makeFile(folder + "/file");
+    }
+    const auto skipB = [](const WalkedItem& item, DirectoryEnumerator& enumerator) {
+        if (item.path == "a/b") {
+            enumerator.skipDescendants();
+        }
+    };
+    EXPECT_THAT(
+        sortedPaths(tree.path(), GetParam(), skipB),
+        ElementsAre("a", "a/b", "a/file", "d", "d/file"));
+}
+
+TEST_P(LinuxDirectoryEnumeratorWith, SkippingEveryDirectoryLeavesTheFirstLevel)
+{
+    const TempTree tree(TempTree::fastParent());
+    makeRandomTree(tree, 6);
+    const auto skipAll
+        = [](const WalkedItem&, DirectoryEnumerator& enumerator) { enumerator.skipDescendants(); };
+    const auto items = walkTree(tree.path(), GetParam(), skipAll);
+    const auto isDeep
+        = [](const WalkedItem& item) { return item.path.find('/') != std::string::npos; };
+    EXPECT_FALSE(items.empty());
+    EXPECT_TRUE(std::none_of(items.begin(), items.end(), isDeep));
+}
+
+TEST_P(LinuxDirectoryEnumeratorWith, CanBeDroppedInMidWalk)
+{
+    const TempTree tree(TempTree::fastParent());
+    makeRandomTree(tree, 7);
+    const auto enumerator
+        = LinuxFileManager(GetParam()).enumerator(tree.path(), ItemKeys::SizeAndHidden);
+    DirectoryItem item;
+    for (int i = 0; i < 20; ++i) {
+        EXPECT_TRUE(enumerator->next(item));
+    }
+}
+
+TEST(LinuxDirectoryEnumerator, StaysAtTheEnd)
+{
+    const TempTree tree;
+    const auto enumerator = LinuxFileManager().enumerator(tree.path(), ItemKeys::SizeAndHidden);
+    DirectoryItem item;
+    EXPECT_FALSE(enumerator->next(item));
+    EXPECT_FALSE(enumerator->next(item));
+}
+
+TEST(LinuxDirectoryEnumerator, SkippingAfterAFileSkipsNothing)
+{
+    const TempTree tree;
+    tree.makeFile("a");
+    tree.makeFolder("b");
+    tree.makeFile("b/c");
+    const auto skipFiles = [](const WalkedItem& item, DirectoryEnumerator& enumerator) {
+        if (!item.isDirectory) {
+            enumerator.skipDescendants();
+        }
+    };
+    EXPECT_THAT(sortedPaths(tree.path(), {}, skipFiles), ElementsAre("a", "b", "b/c"));
+}
+
+TEST(LinuxDirectoryEnumerator, APathThatIsNotThereYieldsNothing)
+{
+    EXPECT_THAT(walkTree("/no/such/path"), IsEmpty());
+}
+
+TEST(LinuxDirectoryEnumerator, APathOfAFileYieldsNothing)
+{
+    const TempTree tree;
+    tree.makeFile("file");
+    EXPECT_THAT(walkTree(tree.pathOf("file")), IsEmpty());
+}
+
+TEST(LinuxDirectoryEnumerator, ASymbolicLinkThatSomebodyChoseIsFollowed)
+{
+    const TempTree tree;
+    tree.makeFolder("folder");
+    tree.makeFile("folder/file");
+    tree.makeSymbolicLink("link", "folder");
+    EXPECT_THAT(sortedPaths(tree.pathOf("link")), ElementsAre("file"));
+}
+
+TEST(LinuxDirectoryEnumerator, CountsLevelsFromOne)
+{
+    const TempTree tree;
+    tree.makeFolder("a");
+    tree.makeFile("a/b");
+    const auto enumerator = LinuxFileManager().enumerator(tree.path(), ItemKeys::SizeAndHidden);
+    DirectoryItem item;
+    ASSERT_TRUE(enumerator->next(item));
+    EXPECT_EQ(item.level, 1U);
+    ASSERT_TRUE(enumerator->next(item));
+    EXPECT_EQ(item.level, 2U);
+}
+
+TEST(LinuxDirectoryEnumerator, WithoutKeysItOnlyListsAndWalks)
+{
+    const TempTree tree;
+    tree.makeFolder(".a");
+    tree.makeFile(".a/b", 5000);
+    const auto enumerator = LinuxFileManager().enumerator(tree.path(), ItemKeys::None);
+    DirectoryItem item;
+    ASSERT_TRUE(enumerator->next(item));
+    EXPECT_TRUE(item.isDirectory);
+    EXPECT_FALSE(item.isHidden);
+    ASSERT_TRUE(enumerator->next(item));
+    EXPECT_EQ(item.name, "b");
+    EXPECT_EQ(item.allocatedBytes, 0U);
+}
+
+TEST(LinuxDirectoryEnumerator, WalksAroundItsItemsWhileOthersChangeTheTree)
+{
+    const TempTree tree(TempTree::fastParent());
+    makeRandomTree(tree, 8);
+    tree.makeFolder("kept");
+    tree.makeFile("kept/file");
+    std::atomic<bool> isDone{false};
+    std::thread others([&] {
+        for (unsigned i = 0; !isDone; ++i) {
+            const std::string name = "changing" + std::to_string(i % 8);
+            tree.makeFolder(name);
+            tree.makeFile(name + "/file");
+            tree.rename(name, "moved");
+            tree.removeFile("moved/file");
+            tree.removeFolder("moved");
+        }
+    });
+    for (int i = 0; i < 20; ++i) {
+        EXPECT_THAT(sortedPaths(tree.path()), testing::IsSupersetOf({"kept", "kept/file"}));
+    }
+    isDone = true;
+    others.join();
+}
+
+} // namespace
+} // namespace tessera::test

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/Linux/LinuxResourceValues.h"
+
+#include "support/TempTree.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <array>
+#include <future>
+#include <memory>
+
+namespace tessera::test {
+namespace {
+
+TEST(LinuxResourceValues, TheRootIsAVolume)
+{
+    EXPECT_TRUE(LinuxResourceValues().isVolume("/"));
+}
+
+TEST(LinuxResourceValues, AMountIsAVolume)
+{
+    EXPECT_TRUE(LinuxResourceValues().isVolume("/proc"));
+}
+
+TEST(LinuxResourceValues, AFolderIsNone)
+{
+    const TempTree tree;
+    EXPECT_FALSE(LinuxResourceValues().isVolume(tree.path()));
+}
+
+TEST(LinuxResourceValues, WhatIsNotThereIsNone)
+{
+    EXPECT_FALSE(LinuxResourceValues().isVolume("/no/such/path"));
+}
+
+TEST(LinuxResourceValues, OnOldKernelsADeviceOfItsOwnMakesAVolume)
+{
+    const LinuxResourceValues values(
+        [](const std::string& path, LinkMode) {
+            StatusResult result;
+            result.status.isDirectory = true;
+            result.status.identity = {path == "/mnt" ? 2U : 1U, 5};
+            return result;
+        },
+        std::chrono::minutes(1));
+    EXPECT_TRUE(values.isVolume("/mnt"));
+    EXPECT_TRUE(values.isVolume("/")) << "it is its own parent";
+}
+
+TEST(LinuxResourceValues, GivesTheBlocksOfAFile)
+{
+    const TempTree tree;
+    tree.makeFile("file", 5000);
+    EXPECT_EQ(
+        LinuxResourceValues().allocatedSize(tree.pathOf("file")), tree.allocatedBytes("file"));
+}
+
+TEST(LinuxResourceValues, GivesTheBlocksOfALinkItself)
+{
+    const TempTree tree;
+    tree.makeFile("file", 100000);
+    tree.makeSymbolicLink("link", "file");
+    EXPECT_EQ(
+        LinuxResourceValues().allocatedSize(tree.pathOf("link")), tree.allocatedBytes("link"));
+}
+
+TEST(LinuxResourceValues, GivesWhenTheContentChanged)
+{
+    constexpr std::time_t kModified = 1234567890;
+    const TempTree tree;
+    tree.makeFile("file");
+    const std::array<timespec, 2> times{timespec{1, 0}, timespec{kModified, 0}};
+    ASSERT_EQ(::utimensat(AT_FDCWD, tree.pathOf("file").c_str(), times.data(), 0), 0);
+    EXPECT_EQ(LinuxResourceValues().contentModificationDate(tree.pathOf("file")), kModified);
+}
+
+TEST(LinuxResourceValues, WhatIsNotThereHasNoValues)
+{
+    EXPECT_FALSE(LinuxResourceValues().allocatedSize("/no/such/path").has_value());
+    EXPECT_FALSE(LinuxResourceValues().contentModificationDate("/no/such/path").has_value());
+}
+
+TEST(LinuxResourceValues, AFileSystemThatDoesNotAnswerHasNoValues)
+{
+    const auto release = std::make_shared<std::promise<void>>();
+    const std::shared_future<void> released = release->get_future().share();
+    const LinuxResourceValues values(
+        [released](const std::string&, LinkMode) {
+            released.wait();
+            return StatusResult{};
+        },
+        std::chrono::milliseconds(1));
+    EXPECT_FALSE(values.isVolume("/"));
+    EXPECT_FALSE(values.allocatedSize("/").has_value());
+    release->set_value();
+}
+
+} // namespace
+} // namespace tessera::test
