@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <string_view>
+
+namespace tessera {
+
+/// A file's name as shown on one line: bytes that are not UTF-8 become U+FFFD, control characters
+/// become their pictures (U+2400 and following, U+2421 for DEL), and what would break the line or
+/// turn the direction of the text around it becomes U+FFFD too.
+QString displayText(std::string_view bytes);
+
+} // namespace tessera
