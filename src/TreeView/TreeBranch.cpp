@@ -1,15 +1,50 @@
 // SPDX-License-Identifier: MIT
 #include "TreeView/TreeBranch.h"
 
+#include "Layout/LevelRenderer.h"
+#include "Layout/MultiLayoutObject.h"
+#include "Model/Document.h"
+#include "Model/Folder.h"
+#include "TreeView/BoxCanvas.h"
+#include "TreeView/DocumentPage.h"
+#include "TreeView/FolderBox.h"
+#include "TreeView/GroupBox.h"
+#include "TreeView/SpaceBox.h"
 #include "TreeView/TreeMapView.h"
+#include "TreeView/TreePicture.h"
 
 #include <algorithm>
 
 namespace tessera {
 
+namespace {
+
+bool liesWithin(const Rect& inner, const Rect& outer)
+{
+    return inner.x >= outer.x && inner.y >= outer.y && inner.right() <= outer.right()
+        && inner.bottom() <= outer.bottom();
+}
+
+} // namespace
+
 TreeBranch::TreeBranch(const Rect& frame)
     : m_frame(frame)
 {
+}
+
+std::unique_ptr<TreeBranch> TreeBranch::make(RenderedLevel level, TreeMapView* treeView)
+{
+    auto branch = std::make_unique<TreeBranch>(level.frame);
+    branch->setTreeView(treeView);
+    branch->setLevel(level.level);
+    if (level.folder != nullptr) {
+        branch->setName(std::string(level.folder->name()));
+    }
+    branch->setLayoutItems(std::move(level.layoutItems));
+    for (RenderedLevel& nested : level.nested) {
+        branch->addSubBranch(make(std::move(nested), treeView));
+    }
+    return branch;
 }
 
 void TreeBranch::addSubBranch(std::unique_ptr<TreeBranch> branch)
@@ -63,6 +98,55 @@ TreeBranch* TreeBranch::branchAt(Point inTreeView)
         }
         deepest = hit->get();
         inBranch = {inBranch.x - deepest->m_frame.x, inBranch.y - deepest->m_frame.y};
+    }
+}
+
+void TreeBranch::draw(QPainter& painter) const
+{
+    paintBranch(*this, painter);
+}
+
+void TreeBranch::draw(BoxCanvas& canvas) const
+{
+    // Nested branches come in the order of the folders that they lie in.
+    auto nested = m_subBranches.begin();
+    for (const auto& item : m_layoutItems) {
+        const bool hasNested
+            = nested != m_subBranches.end() && liesWithin((*nested)->frame(), item->rect);
+        const TreeBranch* inside = hasNested ? (nested++)->get() : nullptr;
+        if (!canvas.misses(item->rect)) {
+            drawItem(canvas, *item, inside);
+        }
+    }
+}
+
+void TreeBranch::drawItem(
+    BoxCanvas& canvas, const LayoutObject& item, const TreeBranch* nested) const
+{
+    if (item.ref == nullptr) {
+        if (const auto* group = dynamic_cast<const MultiLayoutObject*>(&item)) {
+            paintGroupBox(canvas, *this, *group);
+        }
+        return;
+    }
+    switch (item.ref->type()) {
+    case NodeType::Folder:
+    case NodeType::TopFolder:
+    case NodeType::Volume:
+        paintFolderBox(canvas, *this, static_cast<const Folder&>(*item.ref), item.rect, nested);
+        break;
+    case NodeType::Document:
+        paintDocumentPage(canvas, *this, static_cast<const Document&>(*item.ref), item.rect);
+        break;
+    case NodeType::FreeSpace:
+        paintFreeSpaceBox(canvas, *item.ref, item.rect);
+        break;
+    case NodeType::Unknown:
+    case NodeType::TimeMachine:
+        paintUnaccountedBox(canvas, *this, *item.ref, item.rect);
+        break;
+    case NodeType::File:
+        break;
     }
 }
 

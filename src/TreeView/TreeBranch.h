@@ -10,9 +10,13 @@
 #include <string>
 #include <vector>
 
+class QPainter;
+
 namespace tessera {
 
+class BoxCanvas;
 class TreeMapView;
+struct RenderedLevel;
 
 /// One level of the picture: the boxes of one folder's children, and the branches nested in them.
 /// A light object, for a picture has thousands: the TreeMapView is the only widget and hands each
@@ -21,6 +25,10 @@ class TreeBranch final {
 public:
     /// `frame` is in the parent branch's coordinates; for the top branch, in the map's.
     explicit TreeBranch(const Rect& frame);
+    /// Turns a rendered level, and those nested in it, into branches of the map (which may be
+    /// null).
+    static std::unique_ptr<TreeBranch> make(RenderedLevel level, TreeMapView* treeView);
+
     TreeBranch(const TreeBranch&) = delete;
     TreeBranch& operator=(const TreeBranch&) = delete;
     ~TreeBranch() = default;
@@ -60,10 +68,16 @@ public:
     /// is outside. Of branches that overlap, the topmost.
     TreeBranch* branchAt(Point inTreeView);
 
+    /// Paints this level alone, not the ones nested in it; the origin is this branch's.
+    void draw(QPainter& painter) const;
+    void draw(BoxCanvas& canvas) const;
+
     /// The pointer came over this branch: it becomes the map's hovered branch.
     void cursorUpdate();
 
 private:
+    void drawItem(BoxCanvas& canvas, const LayoutObject& item, const TreeBranch* nested) const;
+
     Rect m_frame;
     TreeBranch* m_parentBranch = nullptr;
     std::vector<std::unique_ptr<TreeBranch>> m_subBranches;

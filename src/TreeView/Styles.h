@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QColor>
+#include <QFont>
+
+namespace tessera {
+
+/// How one kind of label is written.
+struct TextAttributes {
+    QFont font;
+    Qt::TextElideMode elideMode = Qt::ElideRight;
+    Qt::AlignmentFlag alignment = Qt::AlignLeft;
+    QColor foreground;
+};
+
+/// The text attribute sets of the labels inside boxes. Each is made on its first request, from the
+/// desktop's own font, and is the same object ever after. Main thread only.
+class Styles {
+public:
+    static const TextAttributes& textAttributes(); ///< documents
+    static const TextAttributes& selectedTextAttributes(); ///< selected documents, free space
+    static const TextAttributes& fTextAttributes(); ///< folders
+    static const TextAttributes& fSelectedTextAttributes(); ///< selected folders
+    static const TextAttributes& fShadowTextAttributes(); ///< the light edge below folder names
+};
+
+} // namespace tessera

@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: MIT
+#include "TreeView/TreePicture.h"
+
+#include "TreeView/BoxCanvas.h"
+#include "TreeView/LabelCache.h"
+#include "TreeView/PixelMemory.h"
+#include "TreeView/StretchMask.h"
+#include "TreeView/Styles.h"
+#include "TreeView/TreeBranch.h"
+
+#include <QPainter>
+
+#include <array>
+#include <atomic>
+#include <cmath>
+#include <thread>
+
+namespace tessera {
+
+namespace {
+
+/// A band's pixels stay in a core's cache while level after level is painted over them, and the
+/// threads take bands in turn, so that none waits long for the other.
+constexpr int kMinBandRows = 32;
+constexpr int kMaxBands = 16;
+constexpr std::size_t kThreads = 2;
+constexpr QRgb kBackground = 0xFF000000;
+
+/// What pictures have in common: the glyphs and corners of any of them serve the next.
+struct PictureCaches {
+    LabelCache labels;
+    std::array<StretchMaskCache, kThreads> masks; ///< one for each thread
+};
+
+PictureCaches& sharedCaches()
+{
+    static PictureCaches caches;
+    return caches;
+}
+
+int devicePixels(double points, double scale)
+{
+    return static_cast<int>(std::ceil(points * scale));
+}
+
+void prepareFont(LabelCache& labels, double scale)
+{
+    const int pixelSize = Styles::textAttributes().font.pixelSize();
+    labels.setFontSize(std::max(static_cast<int>(std::lround(pixelSize * scale)), 1));
+}
+
+/// Nested levels lie within their folders' boxes, so a branch out of sight hides all below it; the
+/// size of a picture bounds how deep they go.
+void paintBranches(BoxCanvas canvas, const TreeBranch& branch)
+{
+    canvas.enter(branch);
+    branch.draw(canvas);
+    for (const auto& nested : branch.subBranches()) {
+        if (!canvas.misses(nested->frame())) {
+            paintBranches(canvas, *nested);
+        }
+    }
+}
+
+class BandedPainting {
+public:
+    BandedPainting(QImage& image, const TreeBranch& top, double scale)
+        : m_pixels(image)
+        , m_top(top)
+        , m_scale(scale)
+        , m_bandRows(std::max((image.height() + kMaxBands - 1) / kMaxBands, kMinBandRows))
+    {
+    }
+
+    /// Paints bands until none is left.
+    void run(StretchMaskCache& masks)
+    {
+        const PixelRect whole = m_pixels.clip();
+        for (int top = nextBand(); top < whole.bottom; top = nextBand()) {
+            PixelCanvas band = m_pixels;
+            band.setClip(whole.intersected({0, top, whole.right, top + m_bandRows}));
+            band.fillClip(kBackground);
+            paintBranches(
+                BoxCanvas(
+                    band, masks, sharedCaches().labels, m_scale, BoxCanvas::NestedLevels::Painted),
+                m_top);
+        }
+    }
+
+    bool hasOneBand() const { return m_bandRows >= m_pixels.clip().bottom; }
+
+private:
+    int nextBand() { return m_nextBand.fetch_add(1, std::memory_order_relaxed) * m_bandRows; }
+
+    PixelCanvas m_pixels;
+    const TreeBranch& m_top;
+    double m_scale;
+    int m_bandRows;
+    std::atomic<int> m_nextBand = 0;
+};
+
+} // namespace
+
+QImage paintTreePicture(const TreeBranch& top, QSizeF sizeInPoints, double scale)
+{
+    if (sizeInPoints.isEmpty() || scale <= 0) {
+        return {};
+    }
+    PictureCaches& caches = sharedCaches();
+    prepareFont(caches.labels, scale);
+    paintBranches(BoxCanvas(caches.labels, scale), top);
+
+    QImage image = makePooledImage(
+        devicePixels(sizeInPoints.width(), scale), devicePixels(sizeInPoints.height(), scale));
+    image.setDevicePixelRatio(scale);
+    BandedPainting painting(image, top, scale);
+    std::jthread helper;
+    if (!painting.hasOneBand()) {
+        helper = std::jthread([&] { painting.run(caches.masks[1]); });
+    }
+    painting.run(caches.masks[0]);
+    if (helper.joinable()) {
+        helper.join();
+    }
+    return image;
+}
+
+void paintBranch(const TreeBranch& branch, QPainter& painter)
+{
+    const QTransform device = painter.deviceTransform();
+    const double scale = std::hypot(device.m11(), device.m12());
+    const Rect& frame = branch.frame();
+    QImage layer(
+        devicePixels(frame.width, scale),
+        devicePixels(frame.height, scale),
+        QImage::Format_ARGB32_Premultiplied);
+    if (layer.isNull()) {
+        return;
+    }
+    layer.fill(Qt::transparent);
+    layer.setDevicePixelRatio(scale);
+    PictureCaches& caches = sharedCaches();
+    prepareFont(caches.labels, scale);
+    BoxCanvas collecting(caches.labels, scale);
+    branch.draw(collecting);
+    BoxCanvas canvas(
+        PixelCanvas(layer),
+        caches.masks[0],
+        caches.labels,
+        scale,
+        BoxCanvas::NestedLevels::LeftOut);
+    branch.draw(canvas);
+    painter.drawImage(QPointF(0, 0), layer);
+}
+
+} // namespace tessera
