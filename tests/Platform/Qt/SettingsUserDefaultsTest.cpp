@@ -1,0 +1,220 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/Qt/SettingsUserDefaults.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <vector>
+
+namespace tessera {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+constexpr std::chrono::sys_seconds kDate{std::chrono::seconds{1700000000}};
+
+class SettingsUserDefaultsOnDisk : public testing::Test {
+protected:
+    QString path() const { return m_folder.filePath(QStringLiteral("tessera/tessera.ini")); }
+
+    void writeFile(const QByteArray& content)
+    {
+        QDir().mkpath(m_folder.filePath(QStringLiteral("tessera")));
+        QFile file(path());
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        ASSERT_EQ(file.write(content), content.size());
+    }
+
+    static std::string readFile(const QString& path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : "(missing)";
+    }
+
+    QTemporaryDir m_folder;
+};
+
+TEST_F(SettingsUserDefaultsOnDisk, WithoutAFileEverythingIsAsRegistered)
+{
+    SettingsUserDefaults defaults(path());
+    defaults.registerDefaults({{"TooltipType", 2}});
+    EXPECT_EQ(defaults.integer("TooltipType"), 2);
+    EXPECT_TRUE(defaults.synchronize());
+    EXPECT_FALSE(QFile::exists(path()));
+}
+
+TEST_F(SettingsUserDefaultsOnDisk, KeepsEveryKindOfValue)
+{
+    {
+        SettingsUserDefaults defaults(path());
+        defaults.setInteger("number", -7);
+        defaults.setBoolean("switch", true);
+        defaults.setString("text", "@a, \"b\"; c=\xC3\xA9\n%20");
+        EXPECT_TRUE(defaults.synchronize());
+    }
+    const SettingsUserDefaults defaults(path());
+    EXPECT_EQ(defaults.integer("number"), -7);
+    EXPECT_TRUE(defaults.boolean("switch"));
+    EXPECT_EQ(defaults.string("text"), "@a, \"b\"; c=\xC3\xA9\n%20");
+}
+
+TEST_F(SettingsUserDefaultsOnDisk, KeepsRecordsWithPathsThatAreNoText)
+{
+    const std::vector<RecentRecord> records{
+        {"/a\xFF;,=\n%", std::numeric_limits<std::uint64_t>::max(), kDate},
+        {"/", 0, std::chrono::sys_seconds{}},
+    };
+    {
+        SettingsUserDefaults defaults(path());
+        defaults.setRecentRecords(kRecentsKey, records);
+    }
+    EXPECT_EQ(SettingsUserDefaults(path()).recentRecords(kRecentsKey), records);
+}
+
+TEST_F(SettingsUserDefaultsOnDisk, WritesTimesAsIso8601AndPathsPercentEncoded)
+{
+    SettingsUserDefaults defaults(path());
+    defaults.setRecentRecords(kRecentsKey, {RecentRecord{"/a \xFF", 5, kDate}});
+    ASSERT_TRUE(defaults.synchronize());
+    const std::string text = readFile(path());
+    EXPECT_THAT(text, HasSubstr("path=/a%20%FF\n"));
+    EXPECT_THAT(text, HasSubstr("date=2023-11-14T22:13:20Z\n"));
+}
+
+TEST_F(SettingsUserDefaultsOnDisk, AShorterListLeavesNothingOfTheLongerOne)
+{
+    SettingsUserDefaults defaults(path());
+    const RecentRecord record{"/a", 5, kDate};
+    defaults.setRecentRecords(kRecentsKey, {record, RecentRecord{"/gone", 6, kDate}});
+    defaults.setRecentRecords(kRecentsKey, {record});
+    ASSERT_TRUE(defaults.synchronize());
+    EXPECT_THAT(defaults.recentRecords(kRecentsKey), ElementsAre(record));
+    EXPECT_THAT(readFile(path()), testing::Not(HasSubstr("gone")));
+}
+
+TEST_F(SettingsUserDefaultsOnDisk, RegisteredDefaultsAreNotWritten)
+{
+    SettingsUserDefaults defaults(path());
+    defaults.registerDefaults({{"registered", 2}});
+    defaults.setInteger("set", 1);
+    ASSERT_TRUE(defaults.synchronize());
+    EXPECT_THAT(readFile(path()), testing::Not(HasSubstr("registered")));
+}
+
+TEST_F(SettingsUserDefaultsOnDisk, BrokenRecordsAreLeftOut)
+{
+    writeFile("[recents]\n"
+              "1\\path=/good\n1\\size=5\n1\\date=2023-11-14T22:13:20Z\n"
+              "2\\path=/a%G0\n2\\size=5\n2\\date=2023-11-14T22:13:20Z\n"
+              "3\\path=relative\n3\\size=5\n3\\date=2023-11-14T22:13:20Z\n"
+              "4\\path=/a\n4\\size=-5\n4\\date=2023-11-14T22:13:20Z\n"
+              "5\\path=/a\n5\\size=5\n5\\date=yesterday\n"
+              "size=2000000000\n");
+    EXPECT_THAT(
+        SettingsUserDefaults(path()).recentRecords(kRecentsKey),
+        ElementsAre(RecentRecord{"/good", 5, kDate}));
+}
+
+TEST_F(SettingsUserDefaultsOnDisk, AMalformedListReadsAsEmpty)
+{
+    writeFile("recents=7\n[other]\nsize=many\n");
+    const SettingsUserDefaults defaults(path());
+    EXPECT_TRUE(defaults.recentRecords("recents").empty());
+    EXPECT_TRUE(defaults.recentRecords("other").empty());
+}
+
+TEST_F(SettingsUserDefaultsOnDisk, AMalformedFileReadsAsEmptyAndIsKeptAside)
+{
+    for (const QByteArray& content :
+         {QByteArray("number=3\nthis is no settings file\n"), QByteArray(64, '\0')}) {
+        QFile::remove(path() + QStringLiteral(".corrupt-1"));
+        writeFile(content);
+        SettingsUserDefaults defaults(path());
+        EXPECT_EQ(defaults.integer("number"), 0);
+        EXPECT_EQ(readFile(path() + QStringLiteral(".corrupt-1")), content.toStdString());
+        defaults.setInteger("number", 4);
+        ASSERT_TRUE(defaults.synchronize());
+        EXPECT_THAT(readFile(path()), HasSubstr("number=4"));
+    }
+}
+
+TEST_F(SettingsUserDefaultsOnDisk, ASecondMalformedFileDoesNotReplaceTheFirst)
+{
+    for (const char* content : {"first one\n", "second one\n"}) {
+        writeFile(content);
+        const SettingsUserDefaults defaults(path());
+    }
+    EXPECT_EQ(readFile(path() + QStringLiteral(".corrupt-1")), "first one\n");
+    EXPECT_EQ(readFile(path() + QStringLiteral(".corrupt-2")), "second one\n");
+}
+
+TEST_F(SettingsUserDefaultsOnDisk, ChangesReachTheFileWithTheEventLoop)
+{
+    SettingsUserDefaults defaults(path());
+    defaults.setInteger("number", 4);
+    QCoreApplication::processEvents();
+    EXPECT_THAT(readFile(path()), HasSubstr("number=4"));
+}
+
+TEST_F(SettingsUserDefaultsOnDisk, AFolderThatCannotBeWrittenIsReported)
+{
+    QFile obstacle(m_folder.filePath(QStringLiteral("tessera")));
+    ASSERT_TRUE(obstacle.open(QIODevice::WriteOnly));
+    SettingsUserDefaults defaults(path());
+    defaults.setInteger("number", 4);
+    EXPECT_FALSE(defaults.synchronize());
+    EXPECT_EQ(defaults.integer("number"), 4);
+}
+
+TEST_F(SettingsUserDefaultsOnDisk, AnEmptyLockOfAKilledProcessIsRemoved)
+{
+    writeFile("number=3\n");
+    const QString lock = path() + QStringLiteral(".lock");
+    ASSERT_TRUE(QFile(lock).open(QIODevice::WriteOnly));
+    const SettingsUserDefaults defaults(path());
+    EXPECT_FALSE(QFile::exists(lock));
+}
+
+/// Lets the writer write for a while and kills it at some point of a write; the last number that
+/// it began to write.
+int lastNumberOfAKilledWriter(const QString& path, int writes)
+{
+    QProcess writer;
+    writer.start(QStringLiteral(TESSERA_SETTINGS_WRITER), {path});
+    QByteArray output;
+    while (output.count('\n') < writes && writer.waitForReadyRead()) {
+        output += writer.readAllStandardOutput();
+    }
+    writer.kill();
+    writer.waitForFinished();
+    output += writer.readAllStandardOutput();
+    const QList<QByteArray> lines = output.left(output.lastIndexOf('\n')).split('\n');
+    return lines.back().toInt();
+}
+
+TEST_F(SettingsUserDefaultsOnDisk, AKilledWriterLeavesTheOldOrTheNewContent)
+{
+    constexpr int kKills = 40;
+    for (int kill = 0; kill < kKills; ++kill) {
+        const int begun = lastNumberOfAKilledWriter(path(), 2 + kill % 3);
+        ASSERT_GT(begun, 1);
+        const SettingsUserDefaults defaults(path());
+        const int found = defaults.integer("first");
+        EXPECT_TRUE(found == begun || found == begun - 1) << found << " of " << begun;
+        EXPECT_EQ(defaults.integer("zlast"), found);
+        const RecentRecord record{"/folder", static_cast<std::uint64_t>(found), {}};
+        EXPECT_EQ(defaults.recentRecords(kRecentsKey), std::vector<RecentRecord>(200, record));
+        EXPECT_FALSE(QFile::exists(path() + QStringLiteral(".corrupt-1")));
+    }
+}
+
+} // namespace
+} // namespace tessera
