@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QWidget>
+
+namespace tessera {
+
+/// The floating panel of the tooltip: above all windows, never active, never in the pointer's
+/// way. Wears the desktop's tooltip colours, which its content inherits as WindowText and, for
+/// what matters less, PlaceholderText.
+class TooltipWindow final : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit TooltipWindow(QWidget* parent = nullptr);
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void adoptTooltipColours();
+};
+
+} // namespace tessera

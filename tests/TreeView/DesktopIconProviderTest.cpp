@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#include "TreeView/DesktopIconProvider.h"
+
+#include "Model/Document.h"
+#include "Model/Volume.h"
+#include "support/makeTree.h"
+
+#include <gtest/gtest.h>
+
+namespace tessera {
+
+namespace {
+
+class DesktopIconProviderTest : public testing::Test {
+protected:
+    std::unique_ptr<TopFolder> tree
+        = test::makeTree("/home/anna", "docs/ ( a.pdf:1 b.pdf:2 ) song.mp3:3 Makefile:4");
+    DesktopIconProvider icons;
+};
+
+} // namespace
+
+TEST_F(DesktopIconProviderTest, foldersAndFilesHaveIconsOfTheAskedSizeWithoutATheme)
+{
+    const QPixmap folder = icons.icon(test::at(*tree, "docs"), 32, 1);
+    const QPixmap file = icons.icon(test::at(*tree, "song.mp3"), 32, 1);
+
+    EXPECT_EQ(folder.size(), QSize(32, 32));
+    EXPECT_FALSE(file.isNull());
+    EXPECT_NE(folder.toImage(), file.toImage());
+}
+
+TEST_F(DesktopIconProviderTest, aPictureIsKeptForAllFilesOfItsType)
+{
+    const QPixmap one = icons.icon(test::at(*tree, "docs/a.pdf"), 32, 1);
+    const QPixmap other = icons.icon(test::at(*tree, "docs/b.pdf"), 32, 1);
+
+    EXPECT_EQ(one.cacheKey(), other.cacheKey());
+}
+
+TEST_F(DesktopIconProviderTest, aPictureHasTheResolutionOfTheScreen)
+{
+    const QPixmap icon = icons.icon(test::at(*tree, "docs"), 32, 2);
+
+    EXPECT_EQ(icon.devicePixelRatio(), 2);
+    EXPECT_EQ(icon.deviceIndependentSize(), QSizeF(32, 32));
+}
+
+TEST_F(DesktopIconProviderTest, namesThatAreNoTextHaveIconsToo)
+{
+    const auto document = makeNode<Document>("\xff\xfe\n");
+
+    EXPECT_FALSE(icons.icon(*document, 32, 1).isNull());
+}
+
+TEST_F(DesktopIconProviderTest, volumesHaveIconsToo)
+{
+    const auto volume = makeNode<Volume>("/");
+
+    EXPECT_FALSE(icons.icon(*volume, 32, 1).isNull());
+}
+
+} // namespace tessera
