@@ -35,10 +35,9 @@ std::optional<unsigned> hexDigitValue(char c)
     if (c >= 'a' && c <= 'f') {
         c = static_cast<char>(c - 'a' + 'A');
     }
-    const auto found = std::find(kHexDigits.begin(), kHexDigits.end(), c);
-    return found != kHexDigits.end()
-        ? std::optional(static_cast<unsigned>(found - kHexDigits.begin()))
-        : std::nullopt;
+    const std::size_t value = std::string_view(kHexDigits.data(), kHexDigits.size()).find(c);
+    return value != std::string_view::npos ? std::optional(static_cast<unsigned>(value))
+                                           : std::nullopt;
 }
 
 } // namespace

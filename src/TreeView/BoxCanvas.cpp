@@ -4,7 +4,6 @@
 #include "TreeView/LabelCache.h"
 #include "TreeView/RoundedRect.h"
 #include "TreeView/Styles.h"
-#include "TreeView/TreeBranch.h"
 
 #include <algorithm>
 #include <cmath>
@@ -104,9 +103,8 @@ bool BoxCanvas::misses(const Rect& rect) const
         || device.left >= clip.right;
 }
 
-void BoxCanvas::enter(const TreeBranch& branch)
+void BoxCanvas::enter(const Rect& frame)
 {
-    const Rect& frame = branch.frame();
     if (m_pixels) {
         const DeviceRect device = toDevice(frame);
         const PixelRect touched{

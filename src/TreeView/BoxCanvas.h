@@ -15,7 +15,6 @@
 namespace tessera {
 
 class LabelCache;
-class TreeBranch;
 struct TextAttributes;
 
 /// From `top` at the top of a box to `bottom` at `endFraction` of its height and below.
@@ -52,9 +51,9 @@ public:
     /// Whether nothing painted in `rect` can have an effect.
     bool misses(const Rect& rect) const;
 
-    /// Coordinates are the branch's from here on, and painting is confined to its frame. Call on
-    /// a copy of the canvas of the branch around it.
-    void enter(const TreeBranch& branch);
+    /// Coordinates are those of a branch with that frame from here on, and painting is confined to
+    /// the frame. Call on a copy of the canvas of the branch around it.
+    void enter(const Rect& frame);
 
     void fillRect(const Rect& rect, const QColor& color);
     void fillRoundedRect(const Rect& rect, double radius, const VerticalGradient& gradient);

@@ -3,6 +3,7 @@
 
 #include <QImage>
 #include <QPainter>
+#include <QPainterPathStroker>
 
 #include <cmath>
 
@@ -49,6 +50,16 @@ int length(const StretchMask::Axis& axis)
     return axis.lead + axis.trail + (axis.stretches ? 1 : 0);
 }
 
+/// Filled, because QPainter's own pen takes a coarse short cut for lines 1 pixel wide.
+QPainterPath strokeOutline(const QPainterPath& path)
+{
+    QPainterPathStroker stroker;
+    stroker.setWidth(1);
+    stroker.setCapStyle(Qt::FlatCap);
+    stroker.setJoinStyle(Qt::MiterJoin);
+    return stroker.createStroke(path);
+}
+
 QImage paintCoverage(const BoxShape& shape, const Rect& frame, double scale, QSize size)
 {
     QImage image(size, QImage::Format_Alpha8);
@@ -57,11 +68,8 @@ QImage paintCoverage(const BoxShape& shape, const Rect& frame, double scale, QSi
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(scale, scale);
     const QPainterPath path = shape.path(frame, shape.size);
-    if (shape.paint == BoxShape::Paint::Fill) {
-        painter.fillPath(path, Qt::black);
-    } else {
-        painter.strokePath(path, QPen(Qt::black, 1, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
-    }
+    painter.fillPath(
+        shape.paint == BoxShape::Paint::Fill ? path : strokeOutline(path), Qt::black);
     return image;
 }
 

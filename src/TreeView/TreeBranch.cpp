@@ -5,13 +5,17 @@
 #include "Layout/MultiLayoutObject.h"
 #include "Model/Document.h"
 #include "Model/Folder.h"
+#include "Model/NotificationCenter.h"
 #include "TreeView/BoxCanvas.h"
 #include "TreeView/DocumentPage.h"
 #include "TreeView/FolderBox.h"
 #include "TreeView/GroupBox.h"
 #include "TreeView/SpaceBox.h"
 #include "TreeView/TreeMapView.h"
+#include "TreeView/TreeMenu.h"
 #include "TreeView/TreePicture.h"
+
+#include <QMenu>
 
 #include <algorithm>
 
@@ -23,6 +27,14 @@ bool liesWithin(const Rect& inner, const Rect& outer)
 {
     return inner.x >= outer.x && inner.y >= outer.y && inner.right() <= outer.right()
         && inner.bottom() <= outer.bottom();
+}
+
+void select(File& node)
+{
+    if (!node.selected()) {
+        node.setSelected(true);
+        NotificationCenter::defaultCenter().post("ClickTreeItem", &node);
+    }
 }
 
 } // namespace
@@ -148,6 +160,45 @@ void TreeBranch::drawItem(
     case NodeType::File:
         break;
     }
+}
+
+void TreeBranch::mouseUp(Point inTreeView, int clickCount)
+{
+    File* node = clickableAt(inTreeView);
+    if (node == nullptr) {
+        return;
+    }
+    select(*node);
+    if (clickCount == 2) {
+        NotificationCenter::defaultCenter().post("DoubleClickTreeItem");
+    }
+}
+
+std::unique_ptr<QMenu> TreeBranch::menuForEvent(Point inTreeView, TreeCommandTarget* target)
+{
+    File* node = clickableAt(inTreeView);
+    if (node == nullptr) {
+        return nullptr;
+    }
+    if (m_treeView != nullptr) {
+        m_treeView->hideTooltip();
+    }
+    select(*node);
+    return makeTreeMenu(*node, target);
+}
+
+File* TreeBranch::clickableAt(Point inTreeView) const
+{
+    const Point point = convertFromTreeView(inTreeView);
+    const auto hit
+        = std::find_if(m_layoutItems.begin(), m_layoutItems.end(), [&](const auto& item) {
+              return item->ref != nullptr && item->rect.contains(point);
+          });
+    if (hit == m_layoutItems.end()) {
+        return nullptr;
+    }
+    File* node = (*hit)->ref;
+    return node->isFolder() || node->type() == NodeType::Document ? node : nullptr;
 }
 
 void TreeBranch::cursorUpdate()

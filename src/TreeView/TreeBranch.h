@@ -10,11 +10,13 @@
 #include <string>
 #include <vector>
 
+class QMenu;
 class QPainter;
 
 namespace tessera {
 
 class BoxCanvas;
+class TreeCommandTarget;
 class TreeMapView;
 struct RenderedLevel;
 
@@ -75,7 +77,17 @@ public:
     /// The pointer came over this branch: it becomes the map's hovered branch.
     void cursorUpdate();
 
+    /// A click ended here: selects the folder or document under the point and posts
+    /// "ClickTreeItem" with it unless it was selected already, and then "DoubleClickTreeItem" when
+    /// `clickCount` is exactly 2. Observers may rebuild the picture: this branch may be gone after.
+    void mouseUp(Point inTreeView, int clickCount);
+
+    /// Selects and posts as mouseUp() does, and returns the menu of the folder or document under
+    /// the point; null where there is none. This branch may be gone after.
+    std::unique_ptr<QMenu> menuForEvent(Point inTreeView, TreeCommandTarget* target);
+
 private:
+    File* clickableAt(Point inTreeView) const;
     void drawItem(BoxCanvas& canvas, const LayoutObject& item, const TreeBranch* nested) const;
 
     Rect m_frame;

@@ -19,6 +19,9 @@ public:
     TreeBranch* cursor() const { return m_cursor; }
     void setCursor(TreeBranch* branch) { m_cursor = branch; }
 
+    /// At once.
+    void hideTooltip();
+
 private:
     TreeBranch* m_cursor = nullptr;
 };

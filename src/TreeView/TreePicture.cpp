@@ -53,7 +53,7 @@ void prepareFont(LabelCache& labels, double scale)
 /// size of a picture bounds how deep they go.
 void paintBranches(BoxCanvas canvas, const TreeBranch& branch)
 {
-    canvas.enter(branch);
+    canvas.enter(branch.frame());
     branch.draw(canvas);
     for (const auto& nested : branch.subBranches()) {
         if (!canvas.misses(nested->frame())) {
@@ -129,10 +129,15 @@ void paintBranch(const TreeBranch& branch, QPainter& painter)
 {
     const QTransform device = painter.deviceTransform();
     const double scale = std::hypot(device.m11(), device.m12());
-    const Rect& frame = branch.frame();
+    // The layer lies on whole pixels; the branch within it need not.
+    const Rect frame{
+        (device.dx() - std::floor(device.dx())) / scale,
+        (device.dy() - std::floor(device.dy())) / scale,
+        branch.frame().width,
+        branch.frame().height};
     QImage layer(
-        devicePixels(frame.width, scale),
-        devicePixels(frame.height, scale),
+        devicePixels(frame.right(), scale),
+        devicePixels(frame.bottom(), scale),
         QImage::Format_ARGB32_Premultiplied);
     if (layer.isNull()) {
         return;
@@ -142,6 +147,7 @@ void paintBranch(const TreeBranch& branch, QPainter& painter)
     PictureCaches& caches = sharedCaches();
     prepareFont(caches.labels, scale);
     BoxCanvas collecting(caches.labels, scale);
+    collecting.enter(frame);
     branch.draw(collecting);
     BoxCanvas canvas(
         PixelCanvas(layer),
@@ -149,8 +155,9 @@ void paintBranch(const TreeBranch& branch, QPainter& painter)
         caches.labels,
         scale,
         BoxCanvas::NestedLevels::LeftOut);
+    canvas.enter(frame);
     branch.draw(canvas);
-    painter.drawImage(QPointF(0, 0), layer);
+    painter.drawImage(QPointF(-frame.x, -frame.y), layer);
 }
 
 } // namespace tessera

@@ -18,7 +18,8 @@ struct WalkedItem {
     bool isHidden = false;
     std::uint64_t allocatedBytes = 0;
 
-    auto operator<=>(const WalkedItem& other) const = default;
+    bool operator==(const WalkedItem& other) const = default;
+    bool operator<(const WalkedItem& other) const { return path < other.path; }
 };
 
 std::ostream& operator<<(std::ostream& stream, const WalkedItem& item);

@@ -13,7 +13,6 @@ namespace tessera::test {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 using Kind = DirectoryListing::Kind;
 
 class DirectoryReaderTest : public testing::Test {

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/Linux/DBusWorkspace.h"
+
+#include "Model/Url.h"
+
+#include <QDBusMessage>
+#include <QDBusPendingCall>
+#include <QDBusPendingCallWatcher>
+#include <QObject>
+#include <QProcess>
+#include <QStringList>
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <utility>
+
+namespace tessera {
+
+namespace {
+
+bool startXdgOpen(const std::string& absoluteUrl)
+{
+    return QProcess::startDetached(
+        QStringLiteral("xdg-open"), {QString::fromStdString(absoluteUrl)});
+}
+
+bool isOpenable(std::string_view absoluteUrl)
+{
+    // The text becomes an argument of another program, so it must be no option of it.
+    constexpr std::array<std::string_view, 3> kSchemes{"https://", "http://", "file:///"};
+    return std::any_of(kSchemes.begin(), kSchemes.end(), [absoluteUrl](std::string_view scheme) {
+        return absoluteUrl.starts_with(scheme);
+    });
+}
+
+std::string parentUrl(const Url& item)
+{
+    const std::string& path = item.path();
+    const std::size_t slash = path.rfind('/');
+    const std::string_view parent = std::string_view(path).substr(0, slash);
+    return Url(parent.empty() ? "/" : parent, true).absoluteString();
+}
+
+/// https://www.freedesktop.org/wiki/Specifications/file-manager-interface/
+QDBusMessage showItems(const Url& item)
+{
+    QDBusMessage message = QDBusMessage::createMethodCall(
+        QStringLiteral("org.freedesktop.FileManager1"),
+        QStringLiteral("/org/freedesktop/FileManager1"),
+        QStringLiteral("org.freedesktop.FileManager1"),
+        QStringLiteral("ShowItems"));
+    const QStringList urls{QString::fromStdString(item.absoluteString())};
+    const QString noStartupId;
+    message << urls << noStartupId;
+    return message;
+}
+
+} // namespace
+
+DBusWorkspace::DBusWorkspace()
+    : DBusWorkspace(QDBusConnection::sessionBus(), startXdgOpen)
+{
+}
+
+DBusWorkspace::DBusWorkspace(QDBusConnection bus, Opener opener)
+    : m_bus(std::move(bus))
+    , m_opener(std::move(opener))
+    , m_pendingCalls(std::make_unique<QObject>())
+{
+}
+
+DBusWorkspace::~DBusWorkspace() = default;
+
+bool DBusWorkspace::openUrl(const std::string& absoluteUrl)
+{
+    return isOpenable(absoluteUrl) && m_opener(absoluteUrl);
+}
+
+bool DBusWorkspace::reveal(const Url& item)
+{
+    if (item.empty()) {
+        return false;
+    }
+    if (!m_bus.isConnected()) {
+        return openUrl(parentUrl(item));
+    }
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the parent owns it
+    auto* const watcher
+        = new QDBusPendingCallWatcher(m_bus.asyncCall(showItems(item)), m_pendingCalls.get());
+    QObject::connect(
+        watcher,
+        &QDBusPendingCallWatcher::finished,
+        m_pendingCalls.get(),
+        [this, parent = parentUrl(item)](QDBusPendingCallWatcher* finished) {
+            if (finished->isError()) {
+                // Nothing more can be tried, and the user sees that nothing opened.
+                (void)openUrl(parent);
+            }
+            finished->deleteLater();
+        });
+    return true;
+}
+
+} // namespace tessera

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/PlatformServices.h"
+
+#include "Platform/Linux/DBusWorkspace.h"
+#include "Platform/Linux/LinuxFileAccess.h"
+#include "Platform/Linux/LinuxFileManager.h"
+#include "Platform/Linux/LinuxFileSystemAttributes.h"
+#include "Platform/Linux/LinuxResourceValues.h"
+#include "Platform/Linux/LinuxStandardFolders.h"
+#include "Platform/Linux/LinuxUserAccount.h"
+#include "Platform/Linux/XbelRecentDocuments.h"
+#include "Platform/Qt/SettingsUserDefaults.h"
+
+#include <cstdlib>
+#include <ctime>
+
+namespace tessera {
+
+namespace {
+
+constexpr double kNanosecondsPerSecond = 1e9;
+
+/// The kernel's tick, a few milliseconds long: the scanner asks for every item, and a tenth of a
+/// second is all that it has to tell.
+double coarseSeconds()
+{
+    timespec now{};
+    ::clock_gettime(CLOCK_MONOTONIC_COARSE, &now);
+    return static_cast<double>(now.tv_sec)
+        + static_cast<double>(now.tv_nsec) / kNanosecondsPerSecond;
+}
+
+bool isSet(const char* variable)
+{
+    const char* value = std::getenv(variable); // NOLINT(concurrency-mt-unsafe): before any thread
+    return value != nullptr && *value != '\0';
+}
+
+} // namespace
+
+bool PlatformServices::hasDisplay()
+{
+    // A Qt platform that the user asked for may need neither.
+    return isSet("DISPLAY") || isSet("WAYLAND_DISPLAY") || isSet("QT_QPA_PLATFORM");
+}
+
+PlatformServices makePlatformServices()
+{
+    PlatformServices services;
+    services.fileManager = std::make_unique<LinuxFileManager>();
+    services.resourceValues = std::make_unique<LinuxResourceValues>();
+    services.fileSystemAttributes = std::make_unique<LinuxFileSystemAttributes>();
+    services.fileAccess = std::make_unique<LinuxFileAccess>();
+    services.standardFolders = std::make_unique<LinuxStandardFolders>();
+    services.userAccount = std::make_unique<LinuxUserAccount>();
+    services.userDefaults
+        = std::make_unique<SettingsUserDefaults>(SettingsUserDefaults::defaultFilePath());
+    services.recentDocuments
+        = std::make_unique<XbelRecentDocuments>(XbelRecentDocuments::defaultFilePath());
+    services.workspace = std::make_unique<DBusWorkspace>();
+    services.mainThread = std::make_unique<QtMainThread>();
+    services.clock = coarseSeconds;
+    return services;
+}
+
+} // namespace tessera

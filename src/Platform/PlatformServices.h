@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Model/FileSystemAttributes.h"
+#include "Model/RecentDocuments.h"
+#include "Model/StandardFolders.h"
+#include "Model/UserDefaults.h"
+#include "Platform/Qt/QtMainThread.h"
+#include "Scanning/DirectoryEnumerator.h"
+#include "Scanning/ResourceValues.h"
+#include "Shell/FileAccess.h"
+#include "Utils/UserAccount.h"
+#include "Utils/Workspace.h"
+
+#include <functional>
+#include <memory>
+
+namespace tessera {
+
+/// Everything that the program takes from the system it runs on. Each system's folder defines
+/// makePlatformServices(); the rest of the program sees the interfaces alone.
+struct PlatformServices {
+    std::unique_ptr<FileManager> fileManager;
+    std::unique_ptr<ResourceValues> resourceValues;
+    std::unique_ptr<FileSystemAttributes> fileSystemAttributes;
+    std::unique_ptr<FileAccess> fileAccess;
+    std::unique_ptr<StandardFolders> standardFolders;
+    std::unique_ptr<UserAccount> userAccount;
+    std::unique_ptr<UserDefaults> userDefaults;
+    std::unique_ptr<RecentDocuments> recentDocuments;
+    std::unique_ptr<Workspace> workspace;
+    std::unique_ptr<QtMainThread> mainThread;
+    std::function<double()> clock;
+
+    /// Whether windows can be shown; asked before there is an application object.
+    static bool hasDisplay();
+};
+
+/// To be called once the application object exists, on the main thread.
+PlatformServices makePlatformServices();
+
+} // namespace tessera

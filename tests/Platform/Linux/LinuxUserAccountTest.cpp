@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/Linux/LinuxUserAccount.h"
+
+#include <QString>
+
+#include <gtest/gtest.h>
+#include <pwd.h>
+#include <unistd.h>
+
+namespace tessera {
+namespace {
+
+TEST(LinuxUserAccount, TheRealUserIsThatOfTheRealUserId)
+{
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): no other thread asks
+    const struct passwd* const entry = ::getpwuid(::getuid());
+    ASSERT_NE(entry, nullptr);
+    const auto user = LinuxUserAccount().realUser();
+    ASSERT_TRUE(user.has_value());
+    EXPECT_EQ(user->name, entry->pw_name);
+    EXPECT_EQ(user->directory, entry->pw_dir);
+}
+
+class HomeDirectory : public testing::Test {
+protected:
+    void SetUp() override { m_before = qgetenv("HOME"); }
+    void TearDown() override { qputenv("HOME", m_before); }
+
+    QByteArray m_before;
+};
+
+TEST_F(HomeDirectory, IsWhatTheEnvironmentSays)
+{
+    qputenv("HOME", "/elsewhere\xFF");
+    EXPECT_EQ(LinuxUserAccount().homeDirectory(), "/elsewhere\xFF");
+}
+
+TEST_F(HomeDirectory, IsThatOfThePasswordDatabaseWithoutAnEnvironment)
+{
+    qunsetenv("HOME");
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): no other thread asks
+    EXPECT_EQ(LinuxUserAccount().homeDirectory(), ::getpwuid(::geteuid())->pw_dir);
+}
+
+} // namespace
+} // namespace tessera

@@ -1,0 +1,305 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/Linux/XbelRecentDocuments.h"
+
+#include <QProcess>
+#include <QStandardPaths>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+namespace tessera {
+namespace {
+
+namespace fs = std::filesystem;
+
+using std::chrono::microseconds;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+constexpr const char* kHead = R"(<?xml version="1.0" encoding="UTF-8"?>
+<xbel version="1.0"
+      xmlns:bookmark="http://www.freedesktop.org/standards/desktop-bookmarks"
+      xmlns:mime="http://www.freedesktop.org/standards/shared-mime-info">
+)";
+
+/// An entry as other programs write it; `extra` stands among its applications.
+std::string foreignEntry(const std::string& uri, const std::string& extra = {})
+{
+    return R"(  <bookmark href=")" + uri
+        + R"(" added="2020-01-02T03:04:05Z" modified="2020-01-02T03:04:06Z" visited="2020-01-02T03:04:07Z">
+    <title>A title</title>
+    <info>
+      <metadata owner="http://freedesktop.org">
+        <mime:mime-type type="text/plain"/>
+        <bookmark:groups>
+          <bookmark:group>Text</bookmark:group>
+        </bookmark:groups>
+        <bookmark:applications>
+          <bookmark:application name="editor" exec="&apos;editor %u&apos;" modified="2020-01-02T03:04:06Z" count="3"/>
+)" + extra
+        + R"(        </bookmark:applications>
+        <bookmark:private/>
+      </metadata>
+    </info>
+  </bookmark>
+)";
+}
+
+class XbelRecentDocumentsOnDisk : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        std::string pattern = testing::TempDir() + "xbel-XXXXXX";
+        ASSERT_NE(::mkdtemp(pattern.data()), nullptr);
+        m_folder = pattern;
+        m_file = m_folder / "data" / "recently-used.xbel";
+    }
+
+    void TearDown() override { fs::remove_all(m_folder); }
+
+    /// A clock that stands still unless a test moves it.
+    XbelRecentDocuments documents()
+    {
+        return {m_file.string(), [this] { return m_now; }};
+    }
+
+    Url makeFolder(const std::string& name) const
+    {
+        fs::create_directories(m_folder / name);
+        return {(m_folder / name).string(), true};
+    }
+
+    void writeFile(const std::string& content) const
+    {
+        fs::create_directories(m_file.parent_path());
+        std::ofstream(m_file, std::ios::binary) << content;
+    }
+
+    static std::string readFile(const fs::path& path)
+    {
+        std::ifstream file(path, std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+
+    fs::path m_folder;
+    fs::path m_file;
+    microseconds m_now{1700000000000000};
+};
+
+TEST_F(XbelRecentDocumentsOnDisk, IsEmptyWithoutAFile)
+{
+    EXPECT_THAT(documents().recentDocumentUrls(), IsEmpty());
+    documents().clearRecentDocuments();
+    EXPECT_FALSE(fs::exists(m_file));
+}
+
+TEST_F(XbelRecentDocumentsOnDisk, ListsTheNewestFirstAlsoWhenTheClockStandsStill)
+{
+    const Url a = makeFolder("a");
+    const Url b = makeFolder("b");
+    const Url c = makeFolder("c");
+    for (const Url& url : {a, b, c, a}) {
+        documents().noteNewRecentDocumentUrl(url);
+    }
+    EXPECT_THAT(documents().recentDocumentUrls(), ElementsAre(a, c, b));
+}
+
+TEST_F(XbelRecentDocumentsOnDisk, ListsTheNewestFirstAlsoWhenTheClockWasSetBack)
+{
+    const Url a = makeFolder("a");
+    const Url b = makeFolder("b");
+    documents().noteNewRecentDocumentUrl(a);
+    m_now -= std::chrono::hours(24);
+    documents().noteNewRecentDocumentUrl(b);
+    EXPECT_THAT(documents().recentDocumentUrls(), ElementsAre(b, a));
+}
+
+TEST_F(XbelRecentDocumentsOnDisk, KeepsNamesThatAreNoText)
+{
+    const Url url = makeFolder("odd \xFF\n%&<\"name");
+    documents().noteNewRecentDocumentUrl(url);
+    EXPECT_THAT(documents().recentDocumentUrls(), ElementsAre(url));
+    EXPECT_THAT(readFile(m_file), HasSubstr("/odd%20%FF%0A%25&amp;%3C%22name/"));
+}
+
+TEST_F(XbelRecentDocumentsOnDisk, ListsTwentyAtMostAndForgetsTheOldest)
+{
+    for (int i = 0; i < 22; ++i) {
+        documents().noteNewRecentDocumentUrl(makeFolder("f" + std::to_string(i)));
+    }
+    const std::vector<Url> urls = documents().recentDocumentUrls();
+    ASSERT_EQ(urls.size(), XbelRecentDocuments::kMaxDocuments);
+    EXPECT_EQ(urls.front(), makeFolder("f21"));
+    EXPECT_EQ(urls.back(), makeFolder("f2"));
+    EXPECT_THAT(readFile(m_file), Not(HasSubstr("/f1/")));
+}
+
+TEST_F(XbelRecentDocumentsOnDisk, NotingAgainTakesNoSecondPlace)
+{
+    for (int i = 0; i < 20; ++i) {
+        documents().noteNewRecentDocumentUrl(makeFolder("f" + std::to_string(i)));
+    }
+    documents().noteNewRecentDocumentUrl(makeFolder("f0"));
+    EXPECT_EQ(documents().recentDocumentUrls().size(), 20U);
+    EXPECT_EQ(documents().recentDocumentUrls().front(), makeFolder("f0"));
+}
+
+TEST_F(XbelRecentDocumentsOnDisk, DropsItemsThatNoLongerExist)
+{
+    const Url a = makeFolder("a");
+    const Url b = makeFolder("b");
+    documents().noteNewRecentDocumentUrl(a);
+    documents().noteNewRecentDocumentUrl(b);
+    fs::remove(b.path());
+    EXPECT_THAT(documents().recentDocumentUrls(), ElementsAre(a));
+}
+
+TEST_F(XbelRecentDocumentsOnDisk, ListsOnlyOwnEntries)
+{
+    const Url other = makeFolder("other");
+    writeFile(kHead + foreignEntry(other.absoluteString()) + "</xbel>");
+    EXPECT_THAT(documents().recentDocumentUrls(), IsEmpty());
+}
+
+TEST_F(XbelRecentDocumentsOnDisk, ClearingForgetsOwnEntriesAlone)
+{
+    writeFile(
+        kHead + foreignEntry("file:///other") + foreignEntry("http://x/?a=1&amp;b") + "</xbel>");
+    documents().noteNewRecentDocumentUrl(makeFolder("a"));
+    documents().clearRecentDocuments();
+    EXPECT_THAT(documents().recentDocumentUrls(), IsEmpty());
+    const std::string text = readFile(m_file);
+    EXPECT_THAT(text, HasSubstr("\"file:///other\""));
+    EXPECT_THAT(text, HasSubstr("\"http://x/?a=1&amp;b\""));
+    EXPECT_THAT(text, Not(HasSubstr("tessera")));
+}
+
+TEST_F(XbelRecentDocumentsOnDisk, AnEntryThatAnotherProgramSharesKeepsThatProgram)
+{
+    const Url shared = makeFolder("shared");
+    writeFile(kHead + foreignEntry(shared.absoluteString()) + "</xbel>");
+    documents().noteNewRecentDocumentUrl(shared);
+    EXPECT_THAT(documents().recentDocumentUrls(), ElementsAre(shared));
+    documents().clearRecentDocuments();
+    const std::string text = readFile(m_file);
+    EXPECT_THAT(text, HasSubstr(shared.absoluteString()));
+    EXPECT_THAT(text, HasSubstr("name=\"editor\""));
+    EXPECT_THAT(text, Not(HasSubstr("name=\"tessera\"")));
+}
+
+TEST_F(XbelRecentDocumentsOnDisk, OtherProgramsEntriesKeepAllTheySay)
+{
+    writeFile(kHead + foreignEntry("file:///other%20one") + "</xbel>");
+    documents().noteNewRecentDocumentUrl(makeFolder("a"));
+    const std::string text = readFile(m_file);
+    for (const char* part :
+         {"href=\"file:///other%20one\"",
+          "added=\"2020-01-02T03:04:05",
+          "<title>A title</title>",
+          "visited=\"2020-01-02T03:04:07",
+          "type=\"text/plain\"",
+          "<bookmark:group>Text</bookmark:group>",
+          "<bookmark:private/>",
+          "name=\"editor\"",
+          "exec=\"&apos;editor %u&apos;\"",
+          "modified=\"2020-01-02T03:04:06",
+          "count=\"3\""}) {
+        EXPECT_THAT(text, HasSubstr(part));
+    }
+}
+
+TEST_F(XbelRecentDocumentsOnDisk, WhatOthersWroteMeanwhileIsKept)
+{
+    XbelRecentDocuments list = documents();
+    list.noteNewRecentDocumentUrl(makeFolder("a"));
+    std::string text = readFile(m_file);
+    text.insert(text.rfind("</xbel>"), foreignEntry("file:///meanwhile"));
+    writeFile(text);
+    list.noteNewRecentDocumentUrl(makeFolder("b"));
+    EXPECT_THAT(readFile(m_file), HasSubstr("file:///meanwhile"));
+    EXPECT_EQ(list.recentDocumentUrls().size(), 2U);
+}
+
+TEST_F(XbelRecentDocumentsOnDisk, AMalformedFileReadsAsEmptyAndStays)
+{
+    writeFile("<xbel><bookmark");
+    EXPECT_THAT(documents().recentDocumentUrls(), IsEmpty());
+    EXPECT_EQ(readFile(m_file), "<xbel><bookmark");
+}
+
+TEST_F(XbelRecentDocumentsOnDisk, AMalformedFileIsKeptAsideBeforeANewOneIsWritten)
+{
+    const std::string broken = kHead + foreignEntry("file:///other") + "<bookmark";
+    writeFile(broken);
+    const Url a = makeFolder("a");
+    documents().noteNewRecentDocumentUrl(a);
+    EXPECT_THAT(documents().recentDocumentUrls(), ElementsAre(a));
+    EXPECT_EQ(readFile(m_file.string() + ".corrupt-1"), broken);
+}
+
+TEST_F(XbelRecentDocumentsOnDisk, AnEmptyFileIsAnEmptyList)
+{
+    writeFile("");
+    const Url a = makeFolder("a");
+    documents().noteNewRecentDocumentUrl(a);
+    EXPECT_THAT(documents().recentDocumentUrls(), ElementsAre(a));
+    EXPECT_FALSE(fs::exists(m_file.string() + ".corrupt-1"));
+}
+
+TEST_F(XbelRecentDocumentsOnDisk, AListThatWasReplacedByADeviceIsLeftAlone)
+{
+    fs::create_directories(m_file.parent_path());
+    fs::create_symlink("/dev/null", m_file);
+    documents().noteNewRecentDocumentUrl(makeFolder("a"));
+    EXPECT_EQ(fs::read_symlink(m_file), "/dev/null");
+    EXPECT_THAT(documents().recentDocumentUrls(), IsEmpty());
+}
+
+TEST_F(XbelRecentDocumentsOnDisk, ALinkToTheListStaysALink)
+{
+    writeFile("");
+    fs::rename(m_file, m_folder / "real");
+    fs::create_symlink(m_folder / "real", m_file);
+    documents().noteNewRecentDocumentUrl(makeFolder("a"));
+    EXPECT_TRUE(fs::is_symlink(m_file));
+    EXPECT_EQ(documents().recentDocumentUrls().size(), 1U);
+}
+
+TEST_F(XbelRecentDocumentsOnDisk, OnlyTheUserMayReadTheList)
+{
+    documents().noteNewRecentDocumentUrl(makeFolder("a"));
+    EXPECT_EQ(fs::status(m_file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+TEST_F(XbelRecentDocumentsOnDisk, AnotherReaderSeesTheSame)
+{
+    const QString python = QStandardPaths::findExecutable(QStringLiteral("python3"));
+    if (python.isEmpty()) {
+        GTEST_SKIP() << "python3 is not installed";
+    }
+    writeFile(kHead + foreignEntry("file:///other") + "</xbel>");
+    const Url url = makeFolder("a \xFF");
+    documents().noteNewRecentDocumentUrl(url);
+    documents().noteNewRecentDocumentUrl(url);
+    QProcess reader;
+    reader.start(
+        python, {QStringLiteral(TESSERA_XBEL_READER), QString::fromStdString(m_file.string())});
+    ASSERT_TRUE(reader.waitForFinished());
+    EXPECT_EQ(reader.exitCode(), 0) << reader.readAllStandardError().toStdString();
+    EXPECT_EQ(
+        reader.readAllStandardOutput().toStdString(),
+        "file:///other text/plain editor|'editor %u'|3\n" + url.absoluteString()
+            + " inode/directory tessera|'tessera %u'|2\n");
+}
+
+} // namespace
+} // namespace tessera
