@@ -2,6 +2,7 @@
 #include "Platform/Linux/ReadAhead.h"
 
 #include <fcntl.h>
+#include <malloc.h>
 
 #include <algorithm>
 #include <cassert>
@@ -51,6 +52,15 @@ void destroy(std::vector<std::unique_ptr<WalkFolder>> folders)
     }
 }
 
+/// Gives the system back what the allocator keeps free. Each helper thread leaves a heap of its
+/// own behind, which for a million items came to 8 bytes an item.
+void returnFreeMemory()
+{
+#ifdef __GLIBC__
+    ::malloc_trim(0);
+#endif
+}
+
 } // namespace
 
 ReadAhead::ReadAhead(const std::string& start, ItemKeys keys, const ReadAheadOptions& options)
@@ -87,6 +97,9 @@ ReadAhead::~ReadAhead()
         m_abandoned.push_back(std::move(m_start));
     }
     destroy(std::move(m_abandoned));
+    if (!m_helpers.empty()) {
+        returnFreeMemory();
+    }
 }
 
 void ReadAhead::startHelpers(unsigned count)
