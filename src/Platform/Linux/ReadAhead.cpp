@@ -176,6 +176,7 @@ void ReadAhead::skip(WalkFolder& folder, std::size_t position)
         passBy(folder, position);
         m_handles.release(folder);
     } else {
+        folder.isPinned = true;
         abandon(std::move(folder.subfolders[position]));
     }
 }
@@ -192,6 +193,11 @@ void ReadAhead::finish(WalkFolder& folder)
     const Lock lock(m_mutex);
     m_handles.drop(folder);
     finished = std::move(folder.parent->subfolders[folder.position]);
+    if (finished->isPinned) {
+        finished->parent->isPinned = true;
+        finished->listing = {};
+        m_abandoned.push_back(std::move(finished));
+    }
 }
 
 WalkFolder& ReadAhead::take(WalkFolder& folder, std::size_t position)

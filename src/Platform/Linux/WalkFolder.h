@@ -40,6 +40,7 @@ struct WalkFolder {
     // Guarded by the ReadAhead that the folder belongs to.
     State state = State::Reading;
     bool isAbandoned = false; ///< nobody wants it any more
+    bool isPinned = false; ///< something below was abandoned, whose readers may still look up here
     std::size_t stepsLeft = 0; ///< parts of its entries that are still being completed
     std::vector<std::unique_ptr<WalkFolder>> subfolders; ///< one place for each of `directories`
     std::size_t nextUntaken = 0; ///< the subfolders before this one were taken or passed by

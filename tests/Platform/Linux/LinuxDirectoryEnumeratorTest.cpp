@@ -166,6 +166,24 @@ TEST_P(LinuxDirectoryEnumeratorWith, LeavesOutWhatIsBelowASkippedDirectory)
         ElementsAre("a", "a/b", "a/file", "d", "d/file"));
 }
 
+TEST_P(LinuxDirectoryEnumeratorWith, FoldersAroundASkippedOneMayEndWhileItIsStillBeingRead)
+{
+    const TempTree tree(TempTree::fastParent());
+    for (const std::string folder : {"a", "a/b", "a/b/c", "a/b/c/d", "e"}) {
+        tree.makeFolder(folder);
+    }
+    const auto skipB = [](const WalkedItem& item, DirectoryEnumerator& enumerator) {
+        if (item.path == "a/b") {
+            enumerator.skipDescendants();
+        }
+    };
+    // A helper has to be in there at the right moment.
+    constexpr int kWalks = 300;
+    for (int walk = 0; walk < kWalks; ++walk) {
+        ASSERT_EQ(sortedPaths(tree.path(), GetParam(), skipB).size(), 3U);
+    }
+}
+
 TEST_P(LinuxDirectoryEnumeratorWith, SkippingEveryDirectoryLeavesTheFirstLevel)
 {
     const TempTree tree(TempTree::fastParent());
