@@ -7,6 +7,7 @@
 #include "Model/Volume.h"
 #include "Utils/UserAccount.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstdio>
@@ -173,11 +174,11 @@ void CoreUtil::saveFolderToRecents(
     const Url url = folder.url();
     const std::vector<Url> newestFirst = documents.recentDocumentUrls();
     documents.clearRecentDocuments();
-    for (auto other = newestFirst.rbegin(); other != newestFirst.rend(); ++other) {
-        if (other->path() != url.path()) {
-            documents.noteNewRecentDocumentUrl(*other);
+    std::for_each(newestFirst.rbegin(), newestFirst.rend(), [&](const Url& other) {
+        if (other.path() != url.path()) {
+            documents.noteNewRecentDocumentUrl(other);
         }
-    }
+    });
     documents.noteNewRecentDocumentUrl(url);
 }
 

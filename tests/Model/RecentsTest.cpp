@@ -8,6 +8,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <string>
+#include <vector>
+
 namespace tessera {
 namespace {
 
@@ -27,9 +31,9 @@ protected:
     void store(const std::vector<RecentRecord>& records)
     {
         m_defaults.setRecentRecords("recents", records);
-        for (auto record = records.rbegin(); record != records.rend(); ++record) {
-            m_documents.noteNewRecentDocumentUrl(Url(record->path, true));
-        }
+        std::for_each(records.rbegin(), records.rend(), [this](const RecentRecord& record) {
+            m_documents.noteNewRecentDocumentUrl(Url(record.path, true));
+        });
     }
 
     test::FakeUserDefaults m_defaults;
@@ -114,9 +118,10 @@ TEST_F(RecentsOnFakes, TheOrderIsTheStoredOneWhateverTheDesktopSays)
 
 TEST_F(RecentsOnFakes, HaveNoLimitOfTheirOwn)
 {
-    std::vector<RecentRecord> records;
-    for (int i = 0; i < 100; ++i) {
-        records.push_back({"/folder" + std::to_string(i), 1, kMonday});
+    constexpr std::size_t kMany = 100;
+    std::vector<RecentRecord> records(kMany, m_music);
+    for (std::size_t i = 0; i < kMany; ++i) {
+        records[i].path += std::to_string(i);
     }
     store(records);
     EXPECT_EQ(makeRecents().recentsList(), records);

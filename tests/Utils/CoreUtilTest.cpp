@@ -12,7 +12,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <clocale>
 #include <limits>
 #include <utility>
 
@@ -46,16 +45,6 @@ TEST(FormatSize, AHalfIsRoundedToTheEvenDigit)
 {
     EXPECT_EQ(CoreUtil::formatSize(2500), "2 KB");
     EXPECT_EQ(CoreUtil::formatSize(1250000), "1.2 MB");
-}
-
-TEST(FormatSize, WritesAPointInEveryLocale)
-{
-    const std::string before = std::setlocale(LC_NUMERIC, nullptr);
-    if (std::setlocale(LC_NUMERIC, "de_DE.UTF-8") == nullptr) {
-        GTEST_SKIP() << "no locale with a decimal comma is installed";
-    }
-    EXPECT_EQ(CoreUtil::formatSize(1000000), "1.0 MB");
-    std::setlocale(LC_NUMERIC, before.c_str());
 }
 
 TEST(AspectRatio, IsThatOfTheLargerSideToTheSmaller)
