@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/XbelRecentDocuments.h"
 
-#include "Platform/Linux/gonePaths.h"
+#include "Platform/Linux/TimeLimitedCall.h"
 #include "Platform/keepAside.h"
 
 #include <glib.h>
@@ -185,6 +185,25 @@ BookmarkFile loadForChange(const std::string& path)
     return bookmarks;
 }
 
+bool isGone(const std::string& path)
+{
+    struct stat status { };
+    return ::lstat(path.c_str(), &status) != 0 && (errno == ENOENT || errno == ENOTDIR);
+}
+
+/// For each path, whether the system says that nothing is there. When it does not say in time,
+/// all count as still there: a server that is down for an hour has lost nothing.
+std::vector<bool> gonePaths(const std::vector<std::string>& paths)
+{
+    const auto answers = callWithin<std::vector<bool>>(
+        kFileSystemTimeLimit, [paths]() -> std::optional<std::vector<bool>> {
+            std::vector<bool> gone(paths.size());
+            std::transform(paths.begin(), paths.end(), gone.begin(), isGone);
+            return gone;
+        });
+    return answers.value_or(std::vector<bool>(paths.size()));
+}
+
 } // namespace
 
 std::string XbelRecentDocuments::defaultFilePath()
@@ -216,10 +235,10 @@ std::vector<Url> XbelRecentDocuments::recentDocumentUrls() const
     for (const Entry& entry : entries) {
         paths.push_back(entry.url.path());
     }
-    const std::vector<bool> isGone = gonePaths(paths, kTimeLimit);
+    const std::vector<bool> gone = gonePaths(paths);
     std::vector<Url> urls;
     for (std::size_t i = 0; i < entries.size(); ++i) {
-        if (!isGone[i]) {
+        if (!gone[i]) {
             urls.push_back(std::move(entries[i].url));
         }
     }

@@ -22,10 +22,6 @@ public:
 
     static constexpr std::size_t kMaxDocuments = 20;
 
-    /// How long a look at what the entries name may take; it may lie on a disk that does not
-    /// answer.
-    static constexpr std::chrono::milliseconds kTimeLimit{1000};
-
     /// recently-used.xbel in the folder that the desktop keeps for data.
     static std::string defaultFilePath();
 
