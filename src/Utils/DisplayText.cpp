@@ -23,10 +23,10 @@ QChar shown(QChar character)
 {
     const char16_t unit = character.unicode();
     if (unit < u' ') {
-        return QChar(static_cast<char16_t>(kFirstControlPicture + unit));
+        return {static_cast<char16_t>(kFirstControlPicture + unit)};
     }
     if (unit == kDelete) {
-        return QChar(kDeletePicture);
+        return {kDeletePicture};
     }
     return steersText(unit) ? QChar(QChar::ReplacementCharacter) : character;
 }
