@@ -20,7 +20,7 @@ protected:
 
 } // namespace
 
-TEST_F(DesktopIconProviderTest, foldersAndFilesHaveIconsOfTheAskedSizeWithoutATheme)
+TEST_F(DesktopIconProviderTest, FoldersAndFilesHaveIconsOfTheAskedSizeWithoutATheme)
 {
     const QPixmap folder = icons.icon(test::at(*tree, "docs"), 32, 1);
     const QPixmap file = icons.icon(test::at(*tree, "song.mp3"), 32, 1);
@@ -30,7 +30,7 @@ TEST_F(DesktopIconProviderTest, foldersAndFilesHaveIconsOfTheAskedSizeWithoutATh
     EXPECT_NE(folder.toImage(), file.toImage());
 }
 
-TEST_F(DesktopIconProviderTest, aPictureIsKeptForAllFilesOfItsType)
+TEST_F(DesktopIconProviderTest, APictureIsKeptForAllFilesOfItsType)
 {
     const QPixmap one = icons.icon(test::at(*tree, "docs/a.pdf"), 32, 1);
     const QPixmap other = icons.icon(test::at(*tree, "docs/b.pdf"), 32, 1);
@@ -38,7 +38,7 @@ TEST_F(DesktopIconProviderTest, aPictureIsKeptForAllFilesOfItsType)
     EXPECT_EQ(one.cacheKey(), other.cacheKey());
 }
 
-TEST_F(DesktopIconProviderTest, aPictureHasTheResolutionOfTheScreen)
+TEST_F(DesktopIconProviderTest, APictureHasTheResolutionOfTheScreen)
 {
     const QPixmap icon = icons.icon(test::at(*tree, "docs"), 32, 2);
 
@@ -46,14 +46,14 @@ TEST_F(DesktopIconProviderTest, aPictureHasTheResolutionOfTheScreen)
     EXPECT_EQ(icon.deviceIndependentSize(), QSizeF(32, 32));
 }
 
-TEST_F(DesktopIconProviderTest, namesThatAreNoTextHaveIconsToo)
+TEST_F(DesktopIconProviderTest, NamesThatAreNoTextHaveIconsToo)
 {
     const auto document = makeNode<Document>("\xff\xfe\n");
 
     EXPECT_FALSE(icons.icon(*document, 32, 1).isNull());
 }
 
-TEST_F(DesktopIconProviderTest, volumesHaveIconsToo)
+TEST_F(DesktopIconProviderTest, VolumesHaveIconsToo)
 {
     const auto volume = makeNode<Volume>("/");
 

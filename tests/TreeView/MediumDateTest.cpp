@@ -23,31 +23,31 @@ std::string dateIn(QLocale::Language language, QLocale::Country country)
 
 } // namespace
 
-TEST(MediumDateTest, aDateHasNeitherWeekdayNorTime)
+TEST(MediumDate, ADateHasNeitherWeekdayNorTime)
 {
     EXPECT_EQ(dateIn(QLocale::English, QLocale::UnitedStates), "Nov 21, 2026");
 }
 
-TEST(MediumDateTest, theOrderIsThatOfTheLocale)
+TEST(MediumDate, TheOrderIsThatOfTheLocale)
 {
     EXPECT_EQ(dateIn(QLocale::English, QLocale::UnitedKingdom), "21 Nov 2026");
 }
 
-TEST(MediumDateTest, whatBelongsToTheDayIsKept)
+TEST(MediumDate, WhatBelongsToTheDayIsKept)
 {
     EXPECT_EQ(
         mediumDateFormat(QLocale(QLocale::German, QLocale::Germany)),
         QStringLiteral("d. MMM yyyy"));
 }
 
-TEST(MediumDateTest, aWeekdayAtTheEndGoesToo)
+TEST(MediumDate, AWeekdayAtTheEndGoesToo)
 {
     EXPECT_EQ(
         mediumDateFormat(QLocale(QLocale::Hungarian, QLocale::Hungary)),
         QStringLiteral("yyyy. MMM d."));
 }
 
-TEST(MediumDateTest, aDateBefore1970IsADate)
+TEST(MediumDate, ADateBefore1970IsADate)
 {
     EXPECT_FALSE(mediumDate(-100000, QLocale::c()).isEmpty());
 }

@@ -68,7 +68,7 @@ protected:
 
     std::string panel() const { return controller.contentRef()->objectName().toStdString(); }
 
-    Rect sized(double height) const { return {0, 0, 210, height}; }
+    static Rect sized(double height) { return {0, 0, 210, height}; }
 
     test::FakeResourceValues values;
     test::FakeIconProvider icons;
@@ -81,7 +81,7 @@ protected:
 
 } // namespace
 
-TEST_F(TooltipControllerTest, aDocumentShowsItsNameSizeDateAndPath)
+TEST_F(TooltipControllerTest, ADocumentShowsItsNameSizeDateAndPath)
 {
     hover(test::at(*tree, "docs/report.pdf"));
 
@@ -95,7 +95,7 @@ TEST_F(TooltipControllerTest, aDocumentShowsItsNameSizeDateAndPath)
     EXPECT_TRUE(hasIcon("fileIcon"));
 }
 
-TEST_F(TooltipControllerTest, aFolderHasAPanelOfItsOwn)
+TEST_F(TooltipControllerTest, AFolderHasAPanelOfItsOwn)
 {
     hover(test::at(*tree, "docs"));
 
@@ -107,7 +107,7 @@ TEST_F(TooltipControllerTest, aFolderHasAPanelOfItsOwn)
     EXPECT_TRUE(hasIcon("folderIcon"));
 }
 
-TEST_F(TooltipControllerTest, topFoldersAndVolumesAreFolders)
+TEST_F(TooltipControllerTest, TopFoldersAndVolumesAreFolders)
 {
     hover(*tree);
     EXPECT_EQ(panel(), "folderView");
@@ -119,7 +119,7 @@ TEST_F(TooltipControllerTest, topFoldersAndVolumesAreFolders)
     EXPECT_EQ(text("folderPath"), "/");
 }
 
-TEST_F(TooltipControllerTest, aGroupOfEightListsFiveNamesOneALine)
+TEST_F(TooltipControllerTest, AGroupOfEightListsFiveNamesOneALine)
 {
     hoverGroup(*tree, 8, 3400);
 
@@ -129,7 +129,7 @@ TEST_F(TooltipControllerTest, aGroupOfEightListsFiveNamesOneALine)
     EXPECT_EQ(field("multiPath").shownLines().size(), 5);
 }
 
-TEST_F(TooltipControllerTest, aGroupOfTwoListsTwoNames)
+TEST_F(TooltipControllerTest, AGroupOfTwoListsTwoNames)
 {
     hoverGroup(*tree, 2, 1000);
 
@@ -137,7 +137,7 @@ TEST_F(TooltipControllerTest, aGroupOfTwoListsTwoNames)
     EXPECT_EQ(controller.desiredRect(), sized(67 + field("multiPath").neededHeight()));
 }
 
-TEST_F(TooltipControllerTest, fiveNamesFitIntoThePanel)
+TEST_F(TooltipControllerTest, FiveNamesFitIntoThePanel)
 {
     hoverGroup(*tree, 8, 3400);
     const TooltipField& names = field("multiPath");
@@ -146,7 +146,7 @@ TEST_F(TooltipControllerTest, fiveNamesFitIntoThePanel)
     EXPECT_LE(names.y() + names.neededHeight(), 123);
 }
 
-TEST_F(TooltipControllerTest, aShortPathGivesItsHeightAndSixtySeven)
+TEST_F(TooltipControllerTest, AShortPathGivesItsHeightAndSixtySeven)
 {
     hover(test::at(*tree, "docs"));
     const double needed = field("folderPath").neededHeight();
@@ -156,7 +156,7 @@ TEST_F(TooltipControllerTest, aShortPathGivesItsHeightAndSixtySeven)
     EXPECT_EQ(controller.desiredRect(), sized(needed + 67));
 }
 
-TEST_F(TooltipControllerTest, aLongPathGivesTheFullHeight)
+TEST_F(TooltipControllerTest, ALongPathGivesTheFullHeight)
 {
     const auto longTree = test::makeTree("/" + std::string(200, 'W'), "a:1");
     hover(*longTree);
@@ -165,14 +165,14 @@ TEST_F(TooltipControllerTest, aLongPathGivesTheFullHeight)
     EXPECT_EQ(controller.desiredRect(), sized(123));
 }
 
-TEST_F(TooltipControllerTest, pathsAndNameListsWrapAtTheirWidth)
+TEST_F(TooltipControllerTest, PathsAndNameListsWrapAtTheirWidth)
 {
     EXPECT_EQ(field("filePath").width(), 143);
     EXPECT_EQ(field("folderPath").width(), 143);
     EXPECT_EQ(field("multiPath").width(), 143);
 }
 
-TEST_F(TooltipControllerTest, freeSpaceHasNameAndSizeAlone)
+TEST_F(TooltipControllerTest, FreeSpaceHasNameAndSizeAlone)
 {
     hover(test::at(*tree, "docs/report.pdf"));
     volume->freeFile().setTotalAllocation(123456789012);
@@ -186,7 +186,7 @@ TEST_F(TooltipControllerTest, freeSpaceHasNameAndSizeAlone)
     EXPECT_FALSE(hasIcon("fileIcon"));
 }
 
-TEST_F(TooltipControllerTest, aBackupStoreHasNameAndSizeAlone)
+TEST_F(TooltipControllerTest, ABackupStoreHasNameAndSizeAlone)
 {
     const auto store = makeNode<TimeMachine>("");
     store->setTotalAllocation(5000);
@@ -197,7 +197,7 @@ TEST_F(TooltipControllerTest, aBackupStoreHasNameAndSizeAlone)
     EXPECT_EQ(text("fileName") + text("fileSize"), "Time Machine5 KB");
 }
 
-TEST_F(TooltipControllerTest, unaccountedSpaceHasTheFullHeightWhateverItsText)
+TEST_F(TooltipControllerTest, UnaccountedSpaceHasTheFullHeightWhateverItsText)
 {
     volume->unreadFile().setTotalAllocation(999);
     hover(volume->unreadFile());
@@ -207,7 +207,7 @@ TEST_F(TooltipControllerTest, unaccountedSpaceHasTheFullHeightWhateverItsText)
     EXPECT_EQ(controller.desiredRect(), sized(123));
 }
 
-TEST_F(TooltipControllerTest, theUnknownPanelComesWithTheTextItHad)
+TEST_F(TooltipControllerTest, TheUnknownPanelComesWithTheTextItHad)
 {
     volume->unreadFile().setTotalAllocation(999);
     hover(volume->unreadFile());
@@ -219,7 +219,7 @@ TEST_F(TooltipControllerTest, theUnknownPanelComesWithTheTextItHad)
     EXPECT_EQ(text("unknownSize"), "999 B");
 }
 
-TEST_F(TooltipControllerTest, aFileThatIsGoneKeepsItsNameSizeAndPath)
+TEST_F(TooltipControllerTest, AFileThatIsGoneKeepsItsNameSizeAndPath)
 {
     hover(test::at(*tree, "docs/report.pdf"));
     values.modificationDate = std::nullopt;
@@ -232,7 +232,7 @@ TEST_F(TooltipControllerTest, aFileThatIsGoneKeepsItsNameSizeAndPath)
     EXPECT_EQ(text("filePath"), "/home/anna/a");
 }
 
-TEST_F(TooltipControllerTest, withoutServicesThereAreNoDatesAndIcons)
+TEST_F(TooltipControllerTest, WithoutServicesThereAreNoDatesAndIcons)
 {
     controller.setResourceValues(nullptr);
     controller.setIconProvider(nullptr);
@@ -243,7 +243,7 @@ TEST_F(TooltipControllerTest, withoutServicesThereAreNoDatesAndIcons)
     EXPECT_EQ(text("folderName"), "docs");
 }
 
-TEST_F(TooltipControllerTest, bytesThatAreNoTextAndControlCharactersAreShown)
+TEST_F(TooltipControllerTest, BytesThatAreNoTextAndControlCharactersAreShown)
 {
     const auto document = makeNode<Document>("caf\xe9\n.txt");
     hover(*document);
@@ -253,7 +253,7 @@ TEST_F(TooltipControllerTest, bytesThatAreNoTextAndControlCharactersAreShown)
         QStringLiteral("caf") + QChar(0xFFFD) + QChar(0x240A) + QStringLiteral(".txt"));
 }
 
-TEST_F(TooltipControllerTest, theDocumentAfterFreeSpaceStandsBesideItsIcon)
+TEST_F(TooltipControllerTest, TheDocumentAfterFreeSpaceStandsBesideItsIcon)
 {
     hover(volume->freeFile());
     hover(test::at(*tree, "a"));
@@ -263,7 +263,7 @@ TEST_F(TooltipControllerTest, theDocumentAfterFreeSpaceStandsBesideItsIcon)
         field("fileName").mapTo(&controller.window(), QPoint()).x(), icon->geometry().right());
 }
 
-TEST_F(TooltipControllerTest, nameAndSizeLieWithinTheShortTooltipAndTheDateBelowIt)
+TEST_F(TooltipControllerTest, NameAndSizeLieWithinTheShortTooltipAndTheDateBelowIt)
 {
     EXPECT_LE(field("fileName").geometry().bottom(), 41);
     EXPECT_LE(field("fileSize").geometry().bottom(), 41);
@@ -272,7 +272,7 @@ TEST_F(TooltipControllerTest, nameAndSizeLieWithinTheShortTooltipAndTheDateBelow
     EXPECT_LE(field("unknownSize").geometry().bottom(), 41);
 }
 
-TEST_F(TooltipControllerTest, aPanelFillsTheWindowAndFollowsItsSize)
+TEST_F(TooltipControllerTest, APanelFillsTheWindowAndFollowsItsSize)
 {
     hover(*tree);
     QWidget& window = controller.window();
@@ -286,7 +286,7 @@ TEST_F(TooltipControllerTest, aPanelFillsTheWindowAndFollowsItsSize)
     EXPECT_EQ(controller.contentRef()->geometry(), QRect(0, 0, 210, 42));
 }
 
-TEST_F(TooltipControllerTest, fillingItDoesNotShowHideOrMoveTheWindow)
+TEST_F(TooltipControllerTest, FillingItDoesNotShowHideOrMoveTheWindow)
 {
     const QRect before = controller.window().geometry();
     hover(*tree);
@@ -295,7 +295,7 @@ TEST_F(TooltipControllerTest, fillingItDoesNotShowHideOrMoveTheWindow)
     EXPECT_EQ(controller.window().geometry(), before);
 }
 
-TEST_F(TooltipControllerTest, theWindowFloatsAndTakesNeitherPointerNorFocus)
+TEST_F(TooltipControllerTest, TheWindowFloatsAndTakesNeitherPointerNorFocus)
 {
     const QWidget& window = controller.window();
 
@@ -306,7 +306,7 @@ TEST_F(TooltipControllerTest, theWindowFloatsAndTakesNeitherPointerNorFocus)
     EXPECT_TRUE(window.testAttribute(Qt::WA_TransparentForMouseEvents));
 }
 
-TEST_F(TooltipControllerTest, theWindowWearsTheColoursOfTooltipsAlsoWhenTheyChange)
+TEST_F(TooltipControllerTest, TheWindowWearsTheColoursOfTooltipsAlsoWhenTheyChange)
 {
     const QPalette before = QToolTip::palette();
     QPalette dark = before;
@@ -324,7 +324,7 @@ TEST_F(TooltipControllerTest, theWindowWearsTheColoursOfTooltipsAlsoWhenTheyChan
     EXPECT_GT(picture.pixelColor(0, 20).lightness(), QColor(30, 31, 32).lightness());
 }
 
-TEST(TooltipControllerSharedTest, thereIsOneController)
+TEST(TooltipControllerShared, ThereIsOneController)
 {
     EXPECT_EQ(&TooltipController::sharedInstance(), &TooltipController::sharedInstance());
 }

@@ -42,19 +42,19 @@ protected:
 
 } // namespace
 
-TEST_F(TooltipFieldTest, aShortTextNeedsOneLine)
+TEST_F(TooltipFieldTest, AShortTextNeedsOneLine)
 {
     field.setText(QStringLiteral("/home"));
 
     EXPECT_EQ(field.neededHeight(), kPitch);
 }
 
-TEST_F(TooltipFieldTest, noTextNeedsNoHeight)
+TEST_F(TooltipFieldTest, NoTextNeedsNoHeight)
 {
     EXPECT_EQ(field.neededHeight(), 0);
 }
 
-TEST_F(TooltipFieldTest, aTextWithoutSpacesIsWrappedInsideItsWords)
+TEST_F(TooltipFieldTest, ATextWithoutSpacesIsWrappedInsideItsWords)
 {
     field.setText(QString(40, QLatin1Char('W')));
 
@@ -64,7 +64,7 @@ TEST_F(TooltipFieldTest, aTextWithoutSpacesIsWrappedInsideItsWords)
         field.shownLines(), [this](const QString& line) { return fits(line); }));
 }
 
-TEST_F(TooltipFieldTest, aReturnEndsALineAndOpensNoneAtTheEnd)
+TEST_F(TooltipFieldTest, AReturnEndsALineAndOpensNoneAtTheEnd)
 {
     field.setText(QStringLiteral("a\rb\rc\r"));
 
@@ -72,14 +72,14 @@ TEST_F(TooltipFieldTest, aReturnEndsALineAndOpensNoneAtTheEnd)
     EXPECT_EQ(joinedLines(), QStringLiteral("abc"));
 }
 
-TEST_F(TooltipFieldTest, anEmptyNameStillTakesItsLine)
+TEST_F(TooltipFieldTest, AnEmptyNameStillTakesItsLine)
 {
     field.setText(QStringLiteral("a\r\rc\r"));
 
     EXPECT_EQ(field.neededHeight(), 3 * kPitch);
 }
 
-TEST_F(TooltipFieldTest, aTextTooLongForTheFieldShowsItsBeginningAndItsEnd)
+TEST_F(TooltipFieldTest, ATextTooLongForTheFieldShowsItsBeginningAndItsEnd)
 {
     field.setText(
         QStringLiteral("/begin") + QString(300, QLatin1Char('W')) + QStringLiteral("/end"));
@@ -92,7 +92,7 @@ TEST_F(TooltipFieldTest, aTextTooLongForTheFieldShowsItsBeginningAndItsEnd)
     EXPECT_GT(field.neededHeight(), kRoomForFiveLines);
 }
 
-TEST_F(TooltipFieldTest, fiveNamesTooLongForTheFieldKeepALineEach)
+TEST_F(TooltipFieldTest, FiveNamesTooLongForTheFieldKeepALineEach)
 {
     const QString longName(60, QLatin1Char('W'));
     field.setText(
@@ -105,7 +105,7 @@ TEST_F(TooltipFieldTest, fiveNamesTooLongForTheFieldKeepALineEach)
     EXPECT_EQ(field.shownLines()[4], QStringLiteral("five"));
 }
 
-TEST_F(TooltipFieldTest, aTextOfAMillionLettersIsKeptAndShowsItsEnds)
+TEST_F(TooltipFieldTest, ATextOfAMillionLettersIsKeptAndShowsItsEnds)
 {
     const QString middle(1000000, QLatin1Char('x'));
     field.setText(QStringLiteral("/first/") + middle + QStringLiteral("/last"));
@@ -115,7 +115,7 @@ TEST_F(TooltipFieldTest, aTextOfAMillionLettersIsKeptAndShowsItsEnds)
     EXPECT_TRUE(field.shownLines().back().endsWith(QLatin1String("/last")));
 }
 
-TEST_F(TooltipFieldTest, aSingleLineIsShortenedInItsMiddle)
+TEST_F(TooltipFieldTest, ASingleLineIsShortenedInItsMiddle)
 {
     field.setWrapping(false);
     field.setText(QStringLiteral("begin") + QString(60, QLatin1Char('W')) + QStringLiteral("end"));
@@ -127,7 +127,7 @@ TEST_F(TooltipFieldTest, aSingleLineIsShortenedInItsMiddle)
     EXPECT_TRUE(fits(field.shownLines()[0]));
 }
 
-TEST_F(TooltipFieldTest, aWiderFieldIsLaidOutAnew)
+TEST_F(TooltipFieldTest, AWiderFieldIsLaidOutAnew)
 {
     field.setText(QString(40, QLatin1Char('W')));
     field.show();
@@ -136,7 +136,7 @@ TEST_F(TooltipFieldTest, aWiderFieldIsLaidOutAnew)
     EXPECT_EQ(field.neededHeight(), kPitch);
 }
 
-TEST_F(TooltipFieldTest, smallerLettersAreLaidOutAnew)
+TEST_F(TooltipFieldTest, SmallerLettersAreLaidOutAnew)
 {
     field.setText(QString(40, QLatin1Char('W')));
     const double needed = field.neededHeight();
@@ -146,7 +146,7 @@ TEST_F(TooltipFieldTest, smallerLettersAreLaidOutAnew)
     EXPECT_LT(field.neededHeight(), needed);
 }
 
-TEST_F(TooltipFieldTest, dimmedTextTakesThePlaceholderColour)
+TEST_F(TooltipFieldTest, DimmedTextTakesThePlaceholderColour)
 {
     QPalette palette;
     palette.setColor(QPalette::PlaceholderText, Qt::red);

@@ -12,27 +12,27 @@ constexpr QRectF kScreen(0, 0, 1920, 1080);
 
 } // namespace
 
-TEST(TooltipPlacementTest, beginsAtThePointerTwentyPointsBelowIt)
+TEST(TooltipPlacement, BeginsAtThePointerTwentyPointsBelowIt)
 {
     EXPECT_EQ(tooltipFrame({500, 300}, kSize, kScreen), QRectF(500, 320, 210, 100));
 }
 
-TEST(TooltipPlacementTest, staysRightOfThePointerUpToFivePointsFromTheEdge)
+TEST(TooltipPlacement, StaysRightOfThePointerUpToFivePointsFromTheEdge)
 {
     EXPECT_EQ(tooltipFrame({1705, 300}, kSize, kScreen).x(), 1705);
 }
 
-TEST(TooltipPlacementTest, endsAtThePointerWhereTheRightEdgeIsNear)
+TEST(TooltipPlacement, EndsAtThePointerWhereTheRightEdgeIsNear)
 {
     EXPECT_EQ(tooltipFrame({1706, 300}, kSize, kScreen), QRectF(1496, 320, 210, 100));
 }
 
-TEST(TooltipPlacementTest, staysBelowThePointerUpToFivePointsFromTheEdge)
+TEST(TooltipPlacement, StaysBelowThePointerUpToFivePointsFromTheEdge)
 {
     EXPECT_EQ(tooltipFrame({500, 955}, kSize, kScreen).y(), 975);
 }
 
-TEST(TooltipPlacementTest, liesEightPointsAboveThePointerWhereTheBottomEdgeIsNear)
+TEST(TooltipPlacement, LiesEightPointsAboveThePointerWhereTheBottomEdgeIsNear)
 {
     const QRectF frame = tooltipFrame({500, 956}, kSize, kScreen);
 
@@ -40,24 +40,24 @@ TEST(TooltipPlacementTest, liesEightPointsAboveThePointerWhereTheBottomEdgeIsNea
     EXPECT_EQ(frame.bottom(), 956 - 8);
 }
 
-TEST(TooltipPlacementTest, theFlipUpwardIsTheHeightAndTwentyEightPoints)
+TEST(TooltipPlacement, TheFlipUpwardIsTheHeightAndTwentyEightPoints)
 {
     const double below = 1030 + 20;
 
     EXPECT_EQ(tooltipFrame({500, 1030}, {210, 42}, kScreen).y(), below - (42 + 28));
 }
 
-TEST(TooltipPlacementTest, flipsBothWaysInTheCorner)
+TEST(TooltipPlacement, FlipsBothWaysInTheCorner)
 {
     EXPECT_EQ(tooltipFrame({1919, 1079}, kSize, kScreen), QRectF(1709, 971, 210, 100));
 }
 
-TEST(TooltipPlacementTest, doesNotFlipAtTheLeftAndTopEdges)
+TEST(TooltipPlacement, DoesNotFlipAtTheLeftAndTopEdges)
 {
     EXPECT_EQ(tooltipFrame({0, 0}, kSize, kScreen), QRectF(0, 20, 210, 100));
 }
 
-TEST(TooltipPlacementTest, theEdgesAreThoseOfAScreenToTheLeftAndAbove)
+TEST(TooltipPlacement, TheEdgesAreThoseOfAScreenToTheLeftAndAbove)
 {
     const QRectF screen(-1280, -1024, 1280, 1024);
 
@@ -68,7 +68,7 @@ TEST(TooltipPlacementTest, theEdgesAreThoseOfAScreenToTheLeftAndAbove)
     EXPECT_EQ(tooltipFrame({-600, -124}, kSize, screen).y(), -232);
 }
 
-TEST(TooltipPlacementTest, theEdgesAreThoseOfAScreenToTheRight)
+TEST(TooltipPlacement, TheEdgesAreThoseOfAScreenToTheRight)
 {
     const QRectF screen(1920, 200, 1280, 1024);
 
@@ -78,7 +78,7 @@ TEST(TooltipPlacementTest, theEdgesAreThoseOfAScreenToTheRight)
     EXPECT_EQ(tooltipFrame({1950, 1100}, kSize, screen).y(), 992);
 }
 
-TEST(TooltipPlacementTest, withoutAScreenAllItsEdgesAreZero)
+TEST(TooltipPlacement, WithoutAScreenAllItsEdgesAreZero)
 {
     EXPECT_EQ(tooltipFrame({500, 300}, kSize, QRectF()), QRectF(290, 192, 210, 100));
     EXPECT_EQ(tooltipFrame({-300, -300}, kSize, QRectF()), QRectF(-300, -280, 210, 100));

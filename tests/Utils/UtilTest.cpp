@@ -9,7 +9,7 @@
 
 namespace tessera {
 
-TEST(UtilTest, loadsTheViewOfAnInterfaceFileByItsName)
+TEST(Util, LoadsTheViewOfAnInterfaceFileByItsName)
 {
     const auto view = Util::loadViewFromNib<TooltipWindow>("TreeTooltip");
 
@@ -17,12 +17,12 @@ TEST(UtilTest, loadsTheViewOfAnInterfaceFileByItsName)
     EXPECT_NE(view->findChild<QWidget*>(QStringLiteral("fileView")), nullptr);
 }
 
-TEST(UtilTest, aViewCountsAsOneOfItsBaseClass)
+TEST(Util, AViewCountsAsOneOfItsBaseClass)
 {
     EXPECT_NE(Util::loadViewFromNib<QWidget>("TreeTooltip"), nullptr);
 }
 
-TEST(UtilTest, eachLoadingBuildsAViewOfItsOwn)
+TEST(Util, EachLoadingBuildsAViewOfItsOwn)
 {
     const auto one = Util::loadViewFromNib<QWidget>("TreeTooltip");
     const auto other = Util::loadViewFromNib<QWidget>("TreeTooltip");
@@ -30,17 +30,17 @@ TEST(UtilTest, eachLoadingBuildsAViewOfItsOwn)
     EXPECT_NE(one, other);
 }
 
-TEST(UtilTest, anInterfaceFileWithoutAViewOfTheClassLoadsNothing)
+TEST(Util, AnInterfaceFileWithoutAViewOfTheClassLoadsNothing)
 {
     EXPECT_EQ(Util::loadViewFromNib<QLabel>("TreeTooltip"), nullptr);
 }
 
-TEST(UtilTest, anUnknownInterfaceFileLoadsNothing)
+TEST(Util, AnUnknownInterfaceFileLoadsNothing)
 {
     EXPECT_EQ(Util::loadViewFromNib<QWidget>("NoSuchFile"), nullptr);
 }
 
-TEST(UtilTest, viewsShortenTextsAtTheTail)
+TEST(Util, ViewsShortenTextsAtTheTail)
 {
     EXPECT_EQ(Util::truncatedParagraphStyle(), Qt::ElideRight);
 }
