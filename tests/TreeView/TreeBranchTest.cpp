@@ -2,6 +2,7 @@
 #include "TreeView/TreeBranch.h"
 
 #include "TreeView/TreeMapView.h"
+#include "support/FakeUserDefaults.h"
 
 #include <gtest/gtest.h>
 
@@ -78,7 +79,8 @@ TEST_F(NestedBranches, OfTwoThatOverlapTheTopmostIsFound)
 
 TEST(TreeBranch, TellsItsMapThatThePointerCame)
 {
-    TreeMapView map;
+    const test::FakeUserDefaults defaults;
+    TreeMapView map(defaults);
     TreeBranch branch(Rect{0, 0, 10, 10});
     branch.setTreeView(&map);
     branch.cursorUpdate();
