@@ -2,11 +2,9 @@
 #include "Model/RootModel.h"
 
 #include "Model/Document.h"
-#include "Model/StandardFolders.h"
 #include "Model/Volume.h"
 #include "support/FakeFileSystem.h"
-#include "support/FakeRecentDocuments.h"
-#include "support/FakeUserDefaults.h"
+#include "support/FakeRootModelServices.h"
 #include "support/makeTree.h"
 
 #include <gmock/gmock.h>
@@ -16,20 +14,6 @@
 
 namespace tessera {
 namespace {
-
-class FakeStandardFolders final : public StandardFolders {
-public:
-    Url localApplications() const override { return {"/Local Apps", true}; }
-    Url localUsers() const override { return {"/Users", true}; }
-};
-
-struct FakeServices {
-    test::FakeUserDefaults defaults;
-    test::FakeRecentDocuments documents;
-    FakeStandardFolders folders;
-
-    operator RootModelServices() { return {defaults, documents, folders}; }
-};
 
 Volume& installVolume(RootModel& model)
 {
@@ -45,8 +29,8 @@ Volume& installVolume(RootModel& model)
 
 TEST(RootModel, StartsWithNoTreeAndAllSettingsOff)
 {
-    FakeServices services;
-    const RootModel model(services);
+    test::FakeRootModelServices services;
+    const RootModel model(services.get());
     EXPECT_EQ(model.topFolder(), nullptr);
     EXPECT_FALSE(model.isRunningAsRoot());
     EXPECT_FALSE(model.settings().ignoreFreeSpace());
@@ -57,18 +41,18 @@ TEST(RootModel, StartsWithNoTreeAndAllSettingsOff)
 
 TEST(RootModel, LoadsTheRecents)
 {
-    FakeServices services;
+    test::FakeRootModelServices services;
     const RecentRecord record{"/music", 10, {}};
     services.defaults.setRecentRecords("recents", {record});
     services.documents.urls = {Url("/music", true)};
-    RootModel model(services);
+    RootModel model(services.get());
     EXPECT_THAT(model.recents().recentsList(), testing::ElementsAre(record));
 }
 
 TEST(RootModel, NonSystemFoldersAreThreeUrlStrings)
 {
-    FakeServices services;
-    const RootModel model(services);
+    test::FakeRootModelServices services;
+    const RootModel model(services.get());
     EXPECT_THAT(
         model.nonSystemFolders(),
         testing::ElementsAre("file:///Local%20Apps/", "file:///Users/", "file:///Volumes/"));
@@ -76,8 +60,8 @@ TEST(RootModel, NonSystemFoldersAreThreeUrlStrings)
 
 TEST(RootModel, ANewVolumeTakesTheSettingsThatAreOn)
 {
-    FakeServices services;
-    RootModel model(services);
+    test::FakeRootModelServices services;
+    RootModel model(services.get());
     model.settings().setIgnoreFreeSpace(true);
     const Volume& volume = installVolume(model);
     EXPECT_EQ(model.topFolder(), &volume);
@@ -87,8 +71,8 @@ TEST(RootModel, ANewVolumeTakesTheSettingsThatAreOn)
 
 TEST(RootModel, SettingsChangeNothingInAPlainFolder)
 {
-    FakeServices services;
-    RootModel model(services);
+    test::FakeRootModelServices services;
+    RootModel model(services.get());
     model.settings().setIgnoreFreeSpace(true);
     model.settings().setIgnoreRestrictedFiles(true);
     model.setTopFolder(test::makeTree("/home", "a:1"));
@@ -98,8 +82,8 @@ TEST(RootModel, SettingsChangeNothingInAPlainFolder)
 
 TEST(RootModel, ApplyingSettingsWithoutATreeDoesNothing)
 {
-    FakeServices services;
-    RootModel model(services);
+    test::FakeRootModelServices services;
+    RootModel model(services.get());
     model.applySettings();
     model.setTopFolder(nullptr);
     EXPECT_EQ(model.topFolder(), nullptr);
@@ -107,8 +91,8 @@ TEST(RootModel, ApplyingSettingsWithoutATreeDoesNothing)
 
 TEST(RootModel, ChangedSettingsFlipTheFlagAndLeaveTheSizes)
 {
-    FakeServices services;
-    RootModel model(services);
+    test::FakeRootModelServices services;
+    RootModel model(services.get());
     const Volume& volume = installVolume(model);
     model.settings().setIgnoreRestrictedFiles(true);
     model.applySettings();
@@ -123,8 +107,8 @@ TEST(RootModel, ChangedSettingsFlipTheFlagAndLeaveTheSizes)
 
 TEST(RootModel, TheSharedOneIsMadeOnceFromTheServicesInstalled)
 {
-    static FakeServices services;
-    RootModel::setServices(services);
+    static test::FakeRootModelServices services;
+    RootModel::setServices(services.get());
     RootModel& model = RootModel::sharedInstance();
     EXPECT_EQ(&RootModel::sharedInstance(), &model);
     EXPECT_EQ(model.nonSystemFolders().size(), 3U);

@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+#include "Shell/FolderWindow.h"
+
+#include "Model/RootModel.h"
+#include "TreeView/TreeMapView.h"
+#include "TreeView/TreeViewController.h"
+#include "Utils/DisplayText.h"
+#include "Utils/Util.h"
+
+#include <QLabel>
+#include <QProgressBar>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <cmath>
+
+namespace tessera {
+
+namespace {
+
+constexpr QSize kFirstSize{1080, 720};
+constexpr QSize kLeastSize{320, 240};
+constexpr int kProgressWidth = 480;
+constexpr int kProgressSteps = 1000;
+constexpr int kProgressSpacing = 12;
+
+/// The scanner's figure is neither clamped nor always a number.
+int progressSteps(double percentComplete)
+{
+    if (!std::isfinite(percentComplete)) {
+        return 0;
+    }
+    return static_cast<int>(std::clamp(percentComplete, 0.0, 1.0) * kProgressSteps);
+}
+
+} // namespace
+
+FolderWindow::FolderWindow(
+    const ScanEnvironment& environment, RootModel& model, const UserDefaults& defaults)
+    : m_model(model)
+    , m_scanner(Scanner::create(environment))
+    , m_pages(new QStackedWidget(this))
+    , m_treeView(new TreeMapView(defaults, m_pages))
+{
+    m_pages->addWidget(makeProgressPage());
+    m_pages->addWidget(m_treeView);
+    setCentralWidget(m_pages);
+    setMinimumSize(kLeastSize);
+    resize(kFirstSize);
+    m_scanner->setDelegate(this);
+}
+
+FolderWindow::~FolderWindow()
+{
+    m_scanner->setDelegate(nullptr);
+    m_scanner->cancel();
+}
+
+void FolderWindow::open(const Url& folder)
+{
+    setWindowTitle(displayText(folder.lastPathComponent()));
+    m_pages->setCurrentIndex(0);
+    m_scanner->scan(folder);
+}
+
+QWidget* FolderWindow::makeProgressPage()
+{
+    auto* page = new QWidget(m_pages);
+    auto* layout = new QVBoxLayout(page);
+    m_progress = new QProgressBar(page);
+    m_progress->setRange(0, kProgressSteps);
+    m_progress->setFixedWidth(kProgressWidth);
+    m_scannedPath = new QLabel(page);
+    m_scannedPath->setFixedWidth(kProgressWidth);
+    m_scannedPath->setTextFormat(Qt::PlainText);
+    layout->setSpacing(kProgressSpacing);
+    layout->addStretch();
+    layout->addWidget(m_progress, 0, Qt::AlignHCenter);
+    layout->addWidget(m_scannedPath, 0, Qt::AlignHCenter);
+    layout->addStretch();
+    return page;
+}
+
+void FolderWindow::scanUpdated(Scanner& scanner)
+{
+    m_progress->setValue(progressSteps(scanner.percentComplete()));
+    m_scannedPath->setText(m_scannedPath->fontMetrics().elidedText(
+        displayText(scanner.currentURL().path()), Qt::ElideMiddle, m_scannedPath->width()));
+}
+
+void FolderWindow::scanEnded(Scanner& scanner)
+{
+    m_controller.reset();
+    m_model.setTopFolder(scanner.takeTopFolder());
+    m_controller = std::make_unique<TreeViewController>(m_model, *m_treeView);
+    m_pages->setCurrentWidget(m_treeView);
+    setWindowTitle(displayText(Util::getFolderTitle(*m_model.topFolder())));
+}
+
+void FolderWindow::scanCancelled(Scanner& /*scanner*/) { }
+
+} // namespace tessera

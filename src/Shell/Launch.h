@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Model/RootModel.h"
+#include "Scanning/ScanEnvironment.h"
+#include "Shell/CommandLine.h"
+
+#include <string>
+
+namespace tessera {
+
+class FileAccess;
+
+/// What the program's screens need from the system. Everything must outlive the program's run.
+struct LaunchServices {
+    ScanEnvironment scanEnvironment;
+    RootModelServices rootModelServices;
+    const FileAccess& files;
+};
+
+/// Prints the text that --help or --version asks for; false when the command line asks for
+/// something else.
+bool printRequestedText(const CommandLine& commandLine);
+
+/// Keeps Qt's advice to programmers out of what the user reads: only its failures are logged.
+void logQtFailuresOnly();
+
+/// Shows the window or writes the picture and returns the exit status: 0, or 1 when that could
+/// not be done, for a reason given in one line on standard error. Needs an application object.
+int launch(const CommandLine& commandLine, const LaunchServices& services);
+
+} // namespace tessera

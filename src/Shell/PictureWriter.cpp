@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "Shell/PictureWriter.h"
+
+#include "Layout/LevelRenderer.h"
+#include "Shell/FileAccess.h"
+#include "TreeView/TreeBranch.h"
+#include "TreeView/TreePicture.h"
+
+#include <QBuffer>
+#include <QImage>
+
+#include <string_view>
+
+namespace tessera {
+
+PictureWriter::PictureWriter(const ScanEnvironment& environment, const FileAccess& files)
+    : m_scanner(Scanner::create(environment))
+    , m_files(files)
+{
+    m_scanner->setDelegate(this);
+}
+
+PictureWriter::~PictureWriter()
+{
+    m_scanner->setDelegate(nullptr);
+}
+
+std::string PictureWriter::write(const CommandLine& commandLine)
+{
+    const std::string folder = m_files.absolutePath(commandLine.folder);
+    if (const std::error_code error = m_files.checkFolder(folder)) {
+        return "cannot read the folder '" + commandLine.folder + "': " + error.message();
+    }
+    m_scanner->scan(Url(folder, true));
+    m_loop.exec();
+    return writePng(commandLine);
+}
+
+std::string PictureWriter::writePng(const CommandLine& commandLine) const
+{
+    const Rect bounds{
+        0, 0, static_cast<double>(commandLine.width), static_cast<double>(commandLine.height)};
+    const auto top
+        = TreeBranch::make(LevelRenderer(false).renderTop(m_tree.get(), bounds), nullptr);
+    const QImage picture
+        = paintTreePicture(*top, QSizeF(bounds.width, bounds.height), commandLine.scale);
+    QByteArray png;
+    QBuffer buffer(&png);
+    const bool isEncoded = buffer.open(QIODevice::WriteOnly) && picture.save(&buffer, "PNG");
+    if (!isEncoded) {
+        return "there is not enough memory for the picture";
+    }
+    const std::string_view bytes(png.constData(), static_cast<std::size_t>(png.size()));
+    if (const std::error_code error = m_files.writeFile(commandLine.pictureFile, bytes)) {
+        return "cannot write '" + commandLine.pictureFile + "': " + error.message();
+    }
+    return {};
+}
+
+void PictureWriter::scanUpdated(Scanner& /*scanner*/) { }
+
+void PictureWriter::scanEnded(Scanner& scanner)
+{
+    m_tree = scanner.takeTopFolder();
+    m_loop.quit();
+}
+
+void PictureWriter::scanCancelled(Scanner& /*scanner*/)
+{
+    m_loop.quit();
+}
+
+} // namespace tessera

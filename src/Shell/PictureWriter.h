@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Scanning/Scanner.h"
+#include "Scanning/ScannerDelegate.h"
+#include "Shell/CommandLine.h"
+
+#include <QEventLoop>
+
+#include <memory>
+#include <string>
+
+namespace tessera {
+
+class FileAccess;
+class RootModel;
+
+/// Scans a folder and writes the picture of it to a file, without a window. Main thread; needs an
+/// application object, whose events it handles until it is done.
+class PictureWriter final : public ScannerDelegate {
+public:
+    PictureWriter(const ScanEnvironment& environment, const FileAccess& files);
+    ~PictureWriter() override;
+
+    /// Returns what went wrong in one line, or nothing when the picture was written.
+    std::string write(const CommandLine& commandLine);
+
+    void scanUpdated(Scanner& scanner) override;
+    void scanEnded(Scanner& scanner) override;
+    void scanCancelled(Scanner& scanner) override;
+
+private:
+    std::string writePng(const CommandLine& commandLine) const;
+
+    std::shared_ptr<Scanner> m_scanner;
+    const FileAccess& m_files;
+    QEventLoop m_loop;
+    std::unique_ptr<TopFolder> m_tree;
+};
+
+} // namespace tessera

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/PlatformServices.h"
+#include "Scanning/Scanner.h"
+#include "Shell/CommandLine.h"
+#include "Shell/Launch.h"
+
+#include <QApplication>
+
+#include <cstdio>
+#include <span>
+#include <variant>
+
+namespace {
+
+constexpr int kFailed = 1;
+constexpr int kBadUsage = 2;
+
+tessera::LaunchServices launchServices(const tessera::PlatformServices& services)
+{
+    return {
+        {*services.fileManager,
+         *services.resourceValues,
+         *services.fileSystemAttributes,
+         *services.mainThread,
+         services.clock,
+         services.userAccount->homeDirectory()},
+        {*services.userDefaults, *services.recentDocuments, *services.standardFolders},
+        *services.fileAccess};
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    using namespace tessera;
+    const std::span<const char* const> arguments(argv, static_cast<std::size_t>(argc));
+    const auto parsed = parseCommandLine(arguments.subspan(argc > 0 ? 1 : 0));
+    if (const auto* error = std::get_if<CommandLineError>(&parsed)) {
+        (void)std::fprintf(stderr, "tessera: %s; see tessera --help\n", error->message.c_str());
+        return kBadUsage;
+    }
+    const auto& commandLine = std::get<CommandLine>(parsed);
+    if (printRequestedText(commandLine)) {
+        return 0;
+    }
+    if (commandLine.action == CommandLine::Action::WritePicture) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    } else if (!PlatformServices::hasDisplay()) {
+        (void)std::fputs("tessera: there is no display; --picture draws to a file\n", stderr);
+        return kFailed;
+    }
+
+    logQtFailuresOnly();
+    // Only the program's name: the other arguments are ours, and Qt would take some for its own.
+    int qtArgumentCount = 1;
+    const QApplication application(qtArgumentCount, argv);
+    const PlatformServices services = makePlatformServices();
+    const int status = launch(commandLine, launchServices(services));
+    services.mainThread->close();
+    Scanner::waitForWorkers();
+    return status;
+}

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#include "Shell/FolderWindow.h"
+
+#include "TreeView/TreeBranch.h"
+#include "TreeView/TreeMapView.h"
+#include "support/FakeDirectoryEnumerator.h"
+#include "support/FakeFileSystem.h"
+#include "support/FakeMainThread.h"
+#include "support/FakeRootModelServices.h"
+
+#include <QLabel>
+#include <QProgressBar>
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <memory>
+
+namespace tessera {
+namespace {
+
+class FolderWindowTest : public testing::Test {
+protected:
+    ~FolderWindowTest() override
+    {
+        window.reset();
+        Scanner::waitForWorkers();
+    }
+
+    void open()
+    {
+        window = std::make_unique<FolderWindow>(
+            ScanEnvironment{
+                files,
+                resourceValues,
+                fileSystem,
+                mainThread,
+                [this] { return now.load(); },
+                "/me"},
+            model,
+            services.defaults);
+        window->show();
+        window->open(Url("/data/some\xFF folder", true));
+    }
+
+    void scanToEnd()
+    {
+        open();
+        mainThread.runUntil([this] { return model.topFolder() != nullptr; });
+    }
+
+    test::FakeFileManager files{"docs/ ( a:700000 ) b:300000"};
+    test::FakeResourceValues resourceValues;
+    test::FixedFileSystem fileSystem{FileSystemSizes{1000, 300}};
+    test::FakeMainThread mainThread;
+    std::atomic<double> now = 100.0;
+    test::FakeRootModelServices services;
+    RootModel model{services.get()};
+    std::unique_ptr<FolderWindow> window;
+};
+
+TEST_F(FolderWindowTest, ShowsTheFoldersNameWhileItIsScanned)
+{
+    open();
+    EXPECT_EQ(window->windowTitle(), QStringLiteral("some\uFFFD folder"));
+    EXPECT_FALSE(window->findChild<TreeMapView*>()->isVisible());
+    mainThread.runUntil([this] { return model.topFolder() != nullptr; });
+}
+
+TEST_F(FolderWindowTest, ShowsTheProgressOfTheScan)
+{
+    files.onItem([this](const std::string& /*path*/) {
+        if (files.enumeratedPaths().size() == 2) {
+            mainThread.performAndWait([] {});
+            now = now.load() + 1.0;
+        }
+    });
+    open();
+    auto* progress = window->findChild<QProgressBar*>();
+    mainThread.runUntil([&] { return progress->value() > 0; });
+    EXPECT_EQ(progress->value(), progress->maximum() / 3);
+    EXPECT_TRUE(window->findChild<QLabel*>()->text().endsWith(QStringLiteral("docs")));
+    mainThread.runUntil([this] { return model.topFolder() != nullptr; });
+}
+
+TEST_F(FolderWindowTest, ShowsThePictureWhenTheScanHasEnded)
+{
+    scanToEnd();
+    const auto* view = window->findChild<TreeMapView*>();
+    EXPECT_TRUE(view->isVisible());
+    EXPECT_EQ(view->branches().front()->layoutItems().size(), 2U);
+    EXPECT_EQ(window->windowTitle(), QStringLiteral("some\uFFFD folder (1.0 MB)"));
+}
+
+TEST_F(FolderWindowTest, ClosingItWhileItScansCancelsTheScan)
+{
+    open();
+    window.reset();
+    mainThread.perform([] {});
+    bool drained = false;
+    mainThread.perform([&] { drained = true; });
+    mainThread.runUntil([&] { return drained; });
+    EXPECT_EQ(model.topFolder(), nullptr);
+}
+
+} // namespace
+} // namespace tessera

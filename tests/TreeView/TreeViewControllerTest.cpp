@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: MIT
+#include "TreeView/TreeViewController.h"
+
+#include "Model/NotificationCenter.h"
+#include "Model/RootModel.h"
+#include "TreeView/TreeBranch.h"
+#include "TreeView/TreeMapView.h"
+#include "support/FakeRootModelServices.h"
+#include "support/FakeUserDefaults.h"
+#include "support/makeTree.h"
+
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace tessera {
+namespace {
+
+class TreeViewControllerTest : public testing::Test {
+protected:
+    TreeViewControllerTest()
+    {
+        model.setTopFolder(test::makeTree("/data", "docs/ ( a:500 b:200 ) c:300"));
+        view.resize(400, 300);
+        view.show();
+    }
+
+    File& node(std::string_view path) { return test::at(*model.topFolder(), path); }
+    const TreeBranch& topBranch() { return *view.branches().at(0); }
+
+    void click(const File& file)
+    {
+        const Rect box = view.findRectForFile(file).value();
+        QTest::mouseClick(
+            &view,
+            Qt::LeftButton,
+            {},
+            QPoint(static_cast<int>(box.x) + 5, static_cast<int>(box.y) + 5));
+    }
+
+    test::FakeRootModelServices services;
+    RootModel model{services.get()};
+    test::FakeUserDefaults defaults;
+    TreeMapView view{defaults};
+};
+
+TEST_F(TreeViewControllerTest, ShowsTheModelsTree)
+{
+    const TreeViewController controller(model, view);
+    EXPECT_EQ(controller.currentFolder(), model.topFolder());
+    ASSERT_EQ(view.branches().size(), 1U);
+    EXPECT_EQ(topBranch().name(), "data");
+    EXPECT_EQ(topBranch().frame(), (Rect{0, 0, 400, 300}));
+    EXPECT_EQ(topBranch().treeView(), &view);
+}
+
+TEST_F(TreeViewControllerTest, ChildFoldersGetBranchesOfTheNextLevel)
+{
+    const TreeViewController controller(model, view);
+    ASSERT_EQ(topBranch().subBranches().size(), 1U);
+    const TreeBranch& docs = *topBranch().subBranches().front();
+    EXPECT_EQ(docs.name(), "docs");
+    EXPECT_EQ(docs.level(), 1);
+    EXPECT_EQ(docs.layoutItems().size(), 2U);
+}
+
+TEST_F(TreeViewControllerTest, WithoutATreeTheViewIsEmpty)
+{
+    model.setTopFolder(nullptr);
+    const TreeViewController controller(model, view);
+    EXPECT_EQ(topBranch().name(), "");
+    EXPECT_TRUE(topBranch().layoutItems().empty());
+}
+
+TEST_F(TreeViewControllerTest, FollowsTheViewsSize)
+{
+    const TreeViewController controller(model, view);
+    view.resize(640, 480);
+    EXPECT_EQ(topBranch().frame(), (Rect{0, 0, 640, 480}));
+    EXPECT_EQ(view.branches().size(), 1U);
+}
+
+TEST_F(TreeViewControllerTest, AClickSelectsAndRebuildsThePicture)
+{
+    const TreeViewController controller(model, view);
+    click(node("c"));
+    EXPECT_EQ(controller.selectedFile(), &node("c"));
+    EXPECT_TRUE(node("c").selected());
+}
+
+TEST_F(TreeViewControllerTest, AnotherClickMovesTheSelection)
+{
+    const TreeViewController controller(model, view);
+    click(node("c"));
+    click(node("docs/a"));
+    EXPECT_EQ(controller.selectedFile(), &node("docs/a"));
+    EXPECT_FALSE(node("c").selected());
+}
+
+TEST_F(TreeViewControllerTest, SelectingNothingClearsTheMark)
+{
+    TreeViewController controller(model, view);
+    controller.setSelectedFile(&node("c"));
+    controller.setSelectedFile(nullptr);
+    EXPECT_FALSE(node("c").selected());
+    EXPECT_EQ(controller.selectedFile(), nullptr);
+}
+
+TEST_F(TreeViewControllerTest, ChangingTheFolderIsAnnouncedAndDrawnOnRequest)
+{
+    TreeViewController controller(model, view);
+    const void* announcedBy = nullptr;
+    const Observation observation = NotificationCenter::defaultCenter().addObserver(
+        "CurrentFolderChanged",
+        [&](const NotificationObject& object) { announcedBy = std::get<const void*>(object); });
+    controller.setCurrentFolder(static_cast<Folder*>(&node("docs")));
+    EXPECT_EQ(announcedBy, &controller);
+    EXPECT_EQ(topBranch().name(), "data");
+    controller.renderTree();
+    EXPECT_EQ(topBranch().name(), "docs");
+}
+
+TEST_F(TreeViewControllerTest, HiddenFilesAreLeftOutWhileTheyAreIgnored)
+{
+    model.setTopFolder(test::makeTree("/data", ".a:500 b:500"));
+    TreeViewController controller(model, view);
+    EXPECT_EQ(topBranch().layoutItems().size(), 2U);
+    model.settings().setIgnoreHiddenFiles(true);
+    controller.renderTree();
+    EXPECT_EQ(topBranch().layoutItems().size(), 1U);
+}
+
+TEST_F(TreeViewControllerTest, AFolderRenderedInsideABranchBecomesPartOfIt)
+{
+    TreeViewController controller(model, view);
+    TreeBranch parent({0, 0, 300, 300});
+    auto* folder = static_cast<Folder*>(&node("docs"));
+    EXPECT_EQ(controller.renderFolder(folder, {8, 24, 200, 100}, &parent, 3), nullptr);
+    ASSERT_EQ(parent.subBranches().size(), 1U);
+    const TreeBranch& added = *parent.subBranches().front();
+    EXPECT_EQ(added.frame(), (Rect{8, 24, 200, 100}));
+    EXPECT_EQ(added.level(), 3);
+    EXPECT_EQ(added.layoutItems().front()->rect.x, 0);
+}
+
+} // namespace
+} // namespace tessera
