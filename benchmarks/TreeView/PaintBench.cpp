@@ -36,6 +36,15 @@ public:
         return top;
     }
 
+    /// One folder that holds all the files itself.
+    std::unique_ptr<TopFolder> makeWide(long files)
+    {
+        auto top = makeNode<TopFolder>("wide");
+        addFiles(*top, files);
+        top->sort();
+        return top;
+    }
+
 private:
     /// Puts some of the files into the folder itself and shares the rest out among new folders.
     void fill(Folder& folder, long files)
@@ -128,13 +137,21 @@ int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
     constexpr long kFiles = 1000000;
+    constexpr long kBoxes = 8000;
     constexpr int kRounds = 41;
     const long files = argc > 1 ? std::strtol(argv[1], nullptr, 10) : kFiles;
     const int rounds = argc > 2 ? static_cast<int>(std::strtol(argv[2], nullptr, 10)) : kRounds;
-    const auto top = TreeGenerator().make(files);
-    report(*top, {1920, 1200}, 1, rounds);
-    report(*top, {3840, 2400}, 1, rounds);
-    report(*top, {1920, 1200}, 2, rounds);
-    report(*top, {1280, 800}, 1.5, rounds);
+    const auto deep = TreeGenerator().make(files);
+    report(*deep, {1920, 1200}, 1, rounds);
+    report(*deep, {3840, 2400}, 1, rounds);
+    report(*deep, {1920, 1200}, 2, rounds);
+    report(*deep, {1280, 800}, 1.5, rounds);
+    std::printf("one folder of %ld files\n", files);
+    const auto wide = TreeGenerator().makeWide(files);
+    report(*wide, {1920, 1200}, 1, rounds);
+    // Few files are all large enough for boxes of their own: as many as a picture can hold.
+    std::printf("one folder of boxes alone\n");
+    const auto boxes = TreeGenerator().makeWide(std::min(files, kBoxes));
+    report(*boxes, {1920, 1200}, 1, rounds);
     return 0;
 }
