@@ -138,6 +138,7 @@ std::optional<Rect> TreeMapView::findRectForFile(const File& file) const
     return std::nullopt;
 }
 
+// NOLINTNEXTLINE(readability-convert-member-functions-to-static): an answer of this map
 std::optional<Rect> TreeMapView::findRectForFile(const File& file, const TreeBranch& inBranch) const
 {
     std::optional<Rect> result;
@@ -153,6 +154,7 @@ std::optional<Rect> TreeMapView::findRectForFile(const File& file, const TreeBra
     return result;
 }
 
+// NOLINTNEXTLINE(readability-convert-member-functions-to-static): asked of a certain map
 void TreeMapView::hideTooltip()
 {
     TooltipController::sharedInstance().window().hide();
@@ -211,12 +213,12 @@ void TreeMapView::leaveEvent(QEvent* event)
 
 TreeBranch* TreeMapView::branchAt(Point point) const
 {
-    for (auto top = m_branches.rbegin(); top != m_branches.rend(); ++top) {
-        if (TreeBranch* const hit = (*top)->branchAt(point)) {
-            return hit;
-        }
+    TreeBranch* topmost = nullptr;
+    for (const auto& top : m_branches) {
+        TreeBranch* const hit = top->branchAt(point);
+        topmost = hit != nullptr ? hit : topmost;
     }
-    return nullptr;
+    return topmost;
 }
 
 void TreeMapView::updateCursor(Point point)

@@ -47,13 +47,11 @@ public:
     /// The box of the node in the first branch that shows it; nothing when none does.
     std::optional<Rect> findRectForFile(const File& file) const;
     /// The same among `inBranch` and what is nested in it.
-    // NOLINTNEXTLINE(readability-convert-member-functions-to-static): an answer of this map
     std::optional<Rect> findRectForFile(const File& file, const TreeBranch& inBranch) const;
 
     /// Performs the commands of context menus; null disables them all. Not owned.
     void setCommandTarget(TreeCommandTarget* target) { m_commandTarget = target; }
 
-    // NOLINTNEXTLINE(readability-convert-member-functions-to-static): asked of a certain map
     void hideTooltip();
 
     /// The item whose details the tooltip holds, also while it is hidden; null before the first

@@ -19,7 +19,9 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <string>
+#include <vector>
 
 namespace tessera::test {
 
@@ -49,8 +51,6 @@ protected:
         tooltip().setResourceValues(&values);
         tooltip().setIconProvider(&icons);
         defaults.setInteger(kTooltipTypeKey, 2);
-        view = new TreeMapView(
-            defaults, &window); // NOLINT(cppcoreguidelines-owning-memory): the window owns it
         view->setGeometry(0, 0, 400, 300);
         neighbour.setParent(&window);
         neighbour.setGeometry(400, 0, 100, 300);
@@ -64,7 +64,6 @@ protected:
 
     ~TreeMapViewTest() override
     {
-        neighbour.setParent(nullptr);
         tooltip().window().hide();
         tooltip().setResourceValues(nullptr);
         tooltip().setIconProvider(nullptr);
@@ -124,7 +123,8 @@ protected:
     FakeIconProvider icons;
     QWidget window;
     QWidget neighbour;
-    TreeMapView* view = nullptr;
+    std::unique_ptr<TreeMapView> ownedView = std::make_unique<TreeMapView>(defaults, &window);
+    TreeMapView* view = ownedView.get();
     TreeBranch* topBranch = nullptr;
     TreeBranch* nestedBranch = nullptr;
 };

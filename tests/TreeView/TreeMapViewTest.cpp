@@ -220,7 +220,7 @@ TEST_F(TreeMapViewTest, TheTooltipGoesWhenTheMapIsHidden)
 TEST_F(TreeMapViewTest, TheTooltipGoesWithTheMap)
 {
     moveTo(kInA);
-    delete view; // NOLINT(cppcoreguidelines-owning-memory): taken from its parent on purpose
+    ownedView.reset();
 
     EXPECT_FALSE(isTooltipShown());
 }
