@@ -35,15 +35,18 @@ public:
     void removeAt(std::size_t index);
     File* takeLast() { return m_items[--m_size]; }
 
-    /// Gives back the room that growing left over.
-    void shrinkToFit();
+    /// Gives back the room that growing left over. For folders that are complete: what is in
+    /// memory for good then lies as densely as the nodes do.
+    void settle();
 
 private:
-    void reallocate(std::size_t capacity);
+    void grow();
+    void release() noexcept;
 
     File** m_items = nullptr;
     std::uint32_t m_size = 0;
-    std::uint32_t m_capacity = 0;
+    std::uint32_t m_capacity : 31 = 0;
+    std::uint32_t m_isInPool : 1 = 0; ///< the items lie in the NodePool, not on the heap
 };
 
 } // namespace tessera

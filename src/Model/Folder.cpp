@@ -45,6 +45,7 @@ File& Folder::addChild(std::unique_ptr<File> child)
     setTotalAllocation(totalAllocation() + added->totalAllocation());
     if (auto* folder = nodeCast<Folder>(added)) {
         folder->sort();
+        folder->m_children.settle();
     }
     return *added;
 }
@@ -91,7 +92,6 @@ void Folder::sort()
 {
     orderChildren();
     assignHues();
-    m_children.shrinkToFit();
 }
 
 void Folder::orderChildren()

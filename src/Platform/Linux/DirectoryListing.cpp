@@ -25,6 +25,12 @@ void DirectoryListing::append(std::string_view name, std::uint64_t inode, Kind k
     m_names.push_back('\0');
 }
 
+void DirectoryListing::shrinkToFit()
+{
+    m_entries.shrink_to_fit();
+    m_names.shrink_to_fit();
+}
+
 void DirectoryListing::sortByInode()
 {
     // Hard links beside each other share an inode; their names' places keep the order fixed.

@@ -35,6 +35,9 @@ public:
     /// each next.
     void sortByInode();
 
+    /// Gives back the room that growing left over.
+    void shrinkToFit();
+
     std::size_t size() const { return m_entries.size(); }
     Entry& operator[](std::size_t index) { return m_entries[index]; }
     const Entry& operator[](std::size_t index) const { return m_entries[index]; }

@@ -21,6 +21,9 @@ using Kind = DirectoryListing::Kind;
 /// Larger buffers were measured not to be any faster.
 constexpr std::size_t kBufferBytes = std::size_t{32} * 1024;
 
+/// A listing of so many entries may wait long for its turn; it is worth a copy to keep it small.
+constexpr std::size_t kCrowdedEntries = 1024;
+
 Kind kindOf(unsigned char type)
 {
     switch (type) {
@@ -98,6 +101,9 @@ DirectoryListing DirectoryReader::list(int directory) const
             break;
         }
         appendEntries(listing, buffer.data(), static_cast<std::size_t>(bytes));
+    }
+    if (listing.size() >= kCrowdedEntries) {
+        listing.shrinkToFit();
     }
     listing.sortByInode();
     if (m_keys == ItemKeys::SizeAndHidden) {

@@ -103,13 +103,18 @@ StatusResult statusOf(int descriptor)
     return status(descriptor, "", AT_EMPTY_PATH);
 }
 
-FileDescriptor openDirectoryAt(int directory, const char* name, const FileIdentity& expected)
+FileDescriptor openDirectoryAt(int directory, const char* name)
 {
     int number = -1;
     do {
         number = ::openat(directory, name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
     } while (number < 0 && errno == EINTR);
-    FileDescriptor opened(number);
+    return FileDescriptor(number);
+}
+
+FileDescriptor openDirectoryAt(int directory, const char* name, const FileIdentity& expected)
+{
+    FileDescriptor opened = openDirectoryAt(directory, name);
     if (!opened.isOpen()) {
         return {};
     }

@@ -52,8 +52,11 @@ enum class LinkMode : std::uint8_t { Keep, Follow };
 /// The status of what an open descriptor stands for.
 [[nodiscard]] StatusResult statusOf(int descriptor);
 
-/// Opens the directory `name` in the open directory `directory`, if it is `expected` still: when
-/// something else has taken its name meanwhile, nothing is opened for good.
+/// Opens the directory `name` in the open directory `directory`; nothing that is no directory.
+[[nodiscard]] FileDescriptor openDirectoryAt(int directory, const char* name);
+
+/// The same, if the directory is `expected` still: when something else has taken its name
+/// meanwhile, nothing is opened for good.
 [[nodiscard]] FileDescriptor openDirectoryAt(
     int directory, const char* name, const FileIdentity& expected);
 

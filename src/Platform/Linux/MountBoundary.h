@@ -22,4 +22,8 @@ private:
     FileStatus m_start;
 };
 
+/// Whether opening a directory on the mount of an open one may mount something there. Where it
+/// cannot, a walk is spared a look at each directory before it opens it.
+[[nodiscard]] bool mayHoldAutomounts(const FileDescriptor& directory);
+
 } // namespace tessera

@@ -11,6 +11,8 @@
 #include "Platform/Linux/XbelRecentDocuments.h"
 #include "Platform/Qt/SettingsUserDefaults.h"
 
+#include <malloc.h>
+
 #include <cstdlib>
 #include <ctime>
 
@@ -18,6 +20,7 @@ namespace tessera {
 
 namespace {
 
+constexpr int kOwnMappingBytes = 128 * 1024;
 constexpr double kNanosecondsPerSecond = 1e9;
 
 /// The kernel's tick, a few milliseconds long: the scanner asks for every item, and a tenth of a
@@ -46,6 +49,9 @@ bool PlatformServices::hasDisplay()
 
 PlatformServices makePlatformServices()
 {
+    // Fixed, the limit stays: the buffers of crowded folders go back to the system one by one
+    // instead of leaving holes behind while a scan's tree grows.
+    ::mallopt(M_MMAP_THRESHOLD, kOwnMappingBytes);
     PlatformServices services;
     services.fileManager = std::make_unique<LinuxFileManager>();
     services.resourceValues = std::make_unique<LinuxResourceValues>();

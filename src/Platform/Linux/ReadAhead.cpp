@@ -16,6 +16,9 @@ namespace {
 /// A folder with more entries is completed by several threads, so many entries each.
 constexpr std::size_t kEntriesPerStep = 512;
 
+/// So many times the entries that may be read ahead may lie far away beside them.
+constexpr std::size_t kFarLimits = 8;
+
 FileDescriptor openStart(const std::string& path)
 {
     return FileDescriptor(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
@@ -74,6 +77,7 @@ ReadAhead::ReadAhead(const std::string& start, ItemKeys keys, const ReadAheadOpt
         return;
     }
     m_boundary.emplace(found.status);
+    m_mayHoldAutomounts = mayHoldAutomounts(opened);
     m_start = std::make_unique<WalkFolder>(nullptr, 0, std::string());
     m_start->identity = found.status.identity;
     m_start->readingHandle = std::make_shared<const FileDescriptor>(std::move(opened));
@@ -128,7 +132,7 @@ void ReadAhead::help()
 
 bool ReadAhead::mayReadAhead() const
 {
-    return !m_untaken.empty() && m_entriesAhead < m_maxEntriesAhead;
+    return !m_untaken.empty() && m_entriesAhead - m_farEntriesAhead < m_maxEntriesAhead;
 }
 
 bool ReadAhead::workOnce(Lock& lock)
@@ -140,7 +144,7 @@ bool ReadAhead::workOnce(Lock& lock)
         return true;
     }
     if (mayReadAhead()) {
-        WalkFolder& folder = *m_untaken.front();
+        WalkFolder& folder = *m_untaken.begin()->second;
         read(take(folder, folder.nextUntaken), lock);
         return true;
     }
@@ -151,11 +155,20 @@ WalkFolder& ReadAhead::fetch(WalkFolder& folder, std::size_t position)
 {
     Lock lock(m_mutex);
     if (folder.subfolders[position] == nullptr) {
+        countAllAsFar();
         read(take(folder, position), lock);
     }
     WalkFolder& subfolder = *folder.subfolders[position];
     awaitReady(subfolder, lock);
     return subfolder;
+}
+
+/// The taker has to read a folder itself, so all that was read ahead lies far away: crowded
+/// folders, say, that were among the first to be seen. They must not keep the helpers from
+/// reading what comes next.
+void ReadAhead::countAllAsFar()
+{
+    m_farEntriesAhead = std::min(m_entriesAhead, kFarLimits * m_maxEntriesAhead);
 }
 
 void ReadAhead::awaitReady(WalkFolder& folder, Lock& lock)
@@ -218,7 +231,11 @@ void ReadAhead::passBy(WalkFolder& folder, std::size_t position)
     folder.nextUntaken = position + 1;
     if (folder.nextUntaken == folder.subfolders.size()) {
         m_untaken.erase(folder.place);
+        return;
     }
+    auto entry = m_untaken.extract(folder.place);
+    entry.key() = folder.spanOf(folder.nextUntaken).begin;
+    folder.place = m_untaken.insert(std::move(entry));
 }
 
 void ReadAhead::abandon(std::unique_ptr<WalkFolder> folder)
@@ -246,15 +263,26 @@ void ReadAhead::abandon(std::unique_ptr<WalkFolder> folder)
     m_abandoned.push_back(std::move(folder));
 }
 
+bool ReadAhead::mayOpen(const FileDescriptor& parent, const std::string& name) const
+{
+    if (!m_mayHoldAutomounts) {
+        return true;
+    }
+    const StatusResult found = statusAt(parent.number(), name.c_str());
+    return found && found.status.isDirectory && !m_boundary->isCrossedBy(found.status);
+}
+
 FileDescriptor ReadAhead::openFolder(WalkFolder& folder)
 {
     const FolderHandle parent = m_handles.handleOf(*folder.parent);
     FileDescriptor opened;
-    if (parent != nullptr) {
-        const StatusResult found = statusAt(parent->number(), folder.name.c_str());
-        if (found && found.status.isDirectory && !m_boundary->isCrossedBy(found.status)) {
+    if (parent != nullptr && mayOpen(*parent, folder.name)) {
+        opened = openDirectoryAt(parent->number(), folder.name.c_str());
+        const StatusResult found = statusOf(opened.number());
+        if (!found || m_boundary->isCrossedBy(found.status)) {
+            opened = FileDescriptor();
+        } else {
             folder.identity = found.status.identity;
-            opened = openDirectoryAt(parent->number(), folder.name.c_str(), folder.identity);
         }
     }
     m_handles.release(*folder.parent);
@@ -324,7 +352,9 @@ void ReadAhead::finishReading(WalkFolder& folder)
     if (!folder.directories.empty()) {
         m_handles.keep(folder, handle, folder.directories.size());
         folder.subfolders.resize(folder.directories.size());
-        folder.place = m_untaken.insert(m_untaken.begin(), &folder);
+        // Among equals the last one put in comes first: where numbers have run out, it is deepest.
+        const std::uint64_t begin = folder.span.begin;
+        folder.place = m_untaken.emplace_hint(m_untaken.lower_bound(begin), begin, &folder);
         wakeHelpers(folder.directories.size());
     }
     if (m_awaited == &folder) {
@@ -346,9 +376,10 @@ void ReadAhead::lowerEntriesAhead(std::size_t entries)
 {
     // Helpers that ran into the limit are woken when there is enough to do for it to be worth it.
     const std::size_t wakeUpAt = m_maxEntriesAhead / 2;
-    const bool wasAbove = m_entriesAhead > wakeUpAt;
+    const bool wasAbove = m_entriesAhead - m_farEntriesAhead > wakeUpAt;
     m_entriesAhead -= entries;
-    if (wasAbove && m_entriesAhead <= wakeUpAt) {
+    m_farEntriesAhead = std::min(m_farEntriesAhead, m_entriesAhead);
+    if (wasAbove && m_entriesAhead - m_farEntriesAhead <= wakeUpAt) {
         m_work.notify_all();
     }
 }

@@ -8,7 +8,7 @@
 
 #include <atomic>
 #include <condition_variable>
-#include <list>
+#include <map>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -28,10 +28,10 @@ struct ReadAheadOptions {
 /// thread, the taker, fetches folders and gives them back; helper threads read what it will fetch
 /// next. The taker reads a folder itself that nobody has begun, and helps while it waits.
 ///
-/// What is to be done stands in two lists, the last put in being the first to be done: parts of a
-/// large folder whose entries are to be completed, and folders with subfolders that nobody has
-/// taken. A folder's subfolders are taken in order, so that the next one of the last folder put
-/// in is the one that the walk comes to first.
+/// What is to be done stands in two lists: parts of a large folder whose entries are to be
+/// completed, and folders with subfolders that nobody has taken, in the order of the walk. What
+/// the walk comes to first is read first: folders read too early would use up the room for
+/// entries that are not taken yet, and the taker would have to read alone until it gets there.
 class ReadAhead {
 public:
     /// `start` is a path, bytes; a symbolic link in the place of its last component is followed.
@@ -72,11 +72,13 @@ private:
     void help();
     bool workOnce(Lock& lock);
     bool mayReadAhead() const;
+    void countAllAsFar();
 
     WalkFolder& take(WalkFolder& folder, std::size_t position);
     void passBy(WalkFolder& folder, std::size_t position);
     void abandon(std::unique_ptr<WalkFolder> folder);
 
+    bool mayOpen(const FileDescriptor& parent, const std::string& name) const;
     FileDescriptor openFolder(WalkFolder& folder);
     void read(WalkFolder& folder, Lock& lock);
     void readEntries(WalkFolder& folder, Lock& lock);
@@ -90,14 +92,17 @@ private:
     const std::size_t m_maxEntriesAhead;
     FolderHandles m_handles;
     std::optional<MountBoundary> m_boundary;
+    bool m_mayHoldAutomounts = true;
     std::atomic<bool> m_isEnding{false};
 
     std::mutex m_mutex;
     std::condition_variable m_work; ///< there may be something to do for a helper
     std::condition_variable m_progress; ///< there may be something to do for the waiting taker
     std::vector<Step> m_steps;
-    std::list<WalkFolder*> m_untaken; ///< folders with untaken subfolders, last put in in front
+    /// Folders with untaken subfolders, by where the next of these stands in the walk.
+    std::multimap<std::uint64_t, WalkFolder*> m_untaken;
     std::size_t m_entriesAhead = 0;
+    std::size_t m_farEntriesAhead = 0; ///< of these, those that the taker comes to much later
     unsigned m_idleHelpers = 0;
     const WalkFolder* m_awaited = nullptr; ///< what the taker waits for
     std::unique_ptr<WalkFolder> m_start;

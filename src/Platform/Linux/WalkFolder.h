@@ -4,8 +4,10 @@
 #include "Platform/Linux/DirectoryListing.h"
 #include "Platform/Linux/FileStatus.h"
 
+#include <algorithm>
 #include <cstdint>
-#include <list>
+#include <limits>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -14,6 +16,21 @@ namespace tessera {
 
 /// Shared, because a handle may be put away while another thread still opens something by it.
 using FolderHandle = std::shared_ptr<const FileDescriptor>;
+
+/// Where a folder and all below it stand in a depth-first walk: a part of the numbers that stand
+/// for the whole walk, shared out among subfolders in their order. Very deep down the numbers run
+/// out and folders share one; the order is for speed alone.
+struct WalkSpan {
+    std::uint64_t begin = 0;
+    std::uint64_t width = std::numeric_limits<std::uint64_t>::max();
+
+    /// The part of one of `count` subfolders; the whole span when they are not counted yet.
+    WalkSpan part(std::size_t position, std::size_t count) const
+    {
+        const std::uint64_t share = width / std::max<std::size_t>(count, 1);
+        return {begin + position * share, share};
+    }
+};
 
 /// A folder that a walk is reading, has read ahead, or is inside of. Folders are owned by the one
 /// above, so that what is above a folder lives while it does.
@@ -24,12 +41,17 @@ struct WalkFolder {
         : parent(above)
         , position(positionThere)
         , name(std::move(ownName))
+        , span(above == nullptr ? WalkSpan{} : above->spanOf(positionThere))
     {
     }
+
+    /// Where the subfolder at that position stands.
+    WalkSpan spanOf(std::size_t subfolder) const { return span.part(subfolder, subfolders.size()); }
 
     WalkFolder* const parent; ///< null for the folder where the walk starts
     const std::size_t position; ///< among the subfolders of `parent`
     const std::string name; ///< its own path component
+    const WalkSpan span;
 
     // Written by the threads that read the folder, until it is ready; then by none.
     FileIdentity identity;
@@ -44,7 +66,7 @@ struct WalkFolder {
     std::size_t stepsLeft = 0; ///< parts of its entries that are still being completed
     std::vector<std::unique_ptr<WalkFolder>> subfolders; ///< one place for each of `directories`
     std::size_t nextUntaken = 0; ///< the subfolders before this one were taken or passed by
-    std::list<WalkFolder*>::iterator place; ///< among the folders with untaken subfolders
+    std::multimap<std::uint64_t, WalkFolder*>::iterator place; ///< among those with untaken ones
 
     // Guarded by the FolderHandles that keep the folder's handle.
     FolderHandle handle;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/MountBoundary.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 
 namespace tessera {
@@ -52,6 +53,19 @@ TEST(MountBoundary, APlaceWhereAMountWouldAppearCrossesIt)
     trigger.isMountRoot = false;
     trigger.isAutomountTrigger = true;
     EXPECT_TRUE(MountBoundary(directoryOn(1)).isCrossedBy(trigger));
+}
+
+TEST(MountBoundary, FileSystemsThatMountOnEnteringAreToldFromThoseThatDoNot)
+{
+    const FileDescriptor processes(::open("/proc", O_RDONLY | O_DIRECTORY));
+    const FileDescriptor memory(::open("/dev/shm", O_RDONLY | O_DIRECTORY));
+    EXPECT_TRUE(mayHoldAutomounts(processes));
+    EXPECT_FALSE(mayHoldAutomounts(memory));
+}
+
+TEST(MountBoundary, AFileSystemThatCannotBeAskedMayMountAnything)
+{
+    EXPECT_TRUE(mayHoldAutomounts(FileDescriptor()));
 }
 
 } // namespace
