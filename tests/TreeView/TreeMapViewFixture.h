@@ -64,6 +64,8 @@ protected:
 
     ~TreeMapViewTest() override
     {
+        // Qt tells nobody of a pointer that stays where it is, not even the next test's window.
+        moveTo(kBesideTheMap);
         tooltip().window().hide();
         tooltip().setResourceValues(nullptr);
         tooltip().setIconProvider(nullptr);
