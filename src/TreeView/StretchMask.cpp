@@ -68,8 +68,7 @@ QImage paintCoverage(const BoxShape& shape, const Rect& frame, double scale, QSi
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(scale, scale);
     const QPainterPath path = shape.path(frame, shape.size);
-    painter.fillPath(
-        shape.paint == BoxShape::Paint::Fill ? path : strokeOutline(path), Qt::black);
+    painter.fillPath(shape.paint == BoxShape::Paint::Fill ? path : strokeOutline(path), Qt::black);
     return image;
 }
 
