@@ -1,0 +1,158 @@
+# SPDX-License-Identifier: MIT
+"""The programs that are measured side by side, all through the same few calls."""
+
+import dataclasses
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+
+import runs
+
+
+@dataclasses.dataclass
+class Tool:
+    """A program that goes through a folder. `run` takes the folder, `load` only starts it, so that
+    a cold run reads the folder from the disk and not the program as well."""
+
+    name: str
+    run: object
+    load: list
+
+
+def figures(output):
+    """What our own programs print: names and values in turn."""
+    words = output.split()
+    return {name: float(value) for name, value in zip(words[::2], words[1::2])}
+
+
+def own_tool(name, program):
+    def run(folder):
+        result = runs.run_to_end([program, folder])
+        result.seconds = figures(result.output)["seconds"]
+        return result
+
+    return Tool(name, run, [program])
+
+
+def peer(name, command, load):
+    # Such programs exit with 1 when some folder could not be read, which is none of our concern.
+    return Tool(name, lambda folder: runs.run_to_end([*command, folder], accepted=(0, 1)), load)
+
+
+def ncdu():
+    def run(folder):
+        return runs.run_to_screen(["ncdu", "--ignore-config", folder], b"Total disk usage", b"q")
+
+    return Tool("ncdu", run, ["ncdu", "-v"])
+
+
+def duc():
+    def run(folder):
+        with tempfile.TemporaryDirectory(prefix="tessera-bench-") as place:
+            database = os.path.join(place, "duc.db")
+            return runs.run_to_end(
+                ["duc", "index", "--database", database, folder], accepted=(0, 1)
+            )
+
+    return Tool("duc index", run, ["duc", "--version"])
+
+
+def scan_tools(programs):
+    """Ours first, then what it is compared with, as far as it is installed."""
+    peers = [
+        peer("du -s", ["du", "-s"], ["du", "--version"]),
+        ncdu(),
+        peer("gdu -n -p -s", ["gdu", "-n", "-p", "-s"], ["gdu", "-v"]),
+        duc(),
+    ]
+    own = [own_tool("Tessera", str(programs / "Scanning" / "ScanBench"))]
+    bare = own_tool("bare walk", str(programs / "Scanning" / "BareWalk"))
+    installed = [tool for tool in peers if shutil.which(tool.load[0])]
+    for tool in peers:
+        if tool not in installed:
+            print(f"scripts/bench: {tool.name} is not installed: left out", file=sys.stderr)
+    return own + installed + [bare]
+
+
+def load(tool):
+    subprocess.run(
+        tool.load,
+        stdin=subprocess.DEVNULL,
+        stdout=subprocess.DEVNULL,
+        stderr=subprocess.DEVNULL,
+        check=False,
+    )
+
+
+def count_items(programs, folder):
+    walk = runs.run_to_end([str(programs / "Scanning" / "BareWalk"), folder])
+    return int(figures(walk.output)["items"])
+
+
+def prepare_tree(programs, folder, items):
+    """Generates the tree, or checks that the one that is there is the right one."""
+    if folder.exists():
+        found = count_items(programs, str(folder))
+        if found != items:
+            sys.exit(f"scripts/bench: {folder} holds {found} items instead of {items}; remove it")
+        return
+    print(f"scripts/bench: generating {items} items in {folder}", file=sys.stderr)
+    folder.parent.mkdir(parents=True, exist_ok=True)
+    # Renamed when complete, so that what an interrupted run leaves is never taken for the tree.
+    unfinished = folder.with_name(folder.name + ".unfinished")
+    if unfinished.exists():
+        shutil.rmtree(unfinished)
+    subprocess.run(
+        [str(programs / "Scanning" / "GenerateTree"), str(unfinished), str(items)], check=True
+    )
+    unfinished.rename(folder)
+
+
+class MemoryBenches:
+    """Our programs that measure by themselves, on trees that they make in memory."""
+
+    def __init__(self, programs, items, limit):
+        self.programs, self.items, self.limit = programs, items, limit
+        self.disturbed = []
+
+    def output(self, program, *arguments):
+        command = [str(self.programs / program), str(self.items), *map(str, arguments)]
+        result, _ = runs.undisturbed(lambda: runs.run_to_end(command), self.limit)
+        if result.disturbance > self.limit:
+            self.disturbed.append(program)
+        return result.output
+
+    def changes(self):
+        """Milliseconds for releasing a tree, replacing a large folder, removing a child of one."""
+        pattern = r"(releasing|replacing|removing) [^,]*? ([\d.]+) ms"
+        found = re.findall(pattern, self.output("Model/TreeBench"))
+        return {name: float(value) for name, value in found}
+
+    def pictures(self, rounds):
+        """Milliseconds for each picture that PaintBench made, by what it calls it."""
+        pattern = r"^(\w+ \d+x\d+@[\d.]+) .*renderTree +([\d.]+) ms"
+        found = re.findall(pattern, self.output("TreeView/PaintBench", rounds), re.M)
+        return {name: float(value) for name, value in found}
+
+    def hovers(self, moves):
+        """Median and 95th percentile in milliseconds, by picture and kind of move."""
+        pattern = r"^(\w+ \w+ box) .*median ([\d.]+) ms, 95th percentile ([\d.]+) ms"
+        found = re.findall(pattern, self.output("TreeView/HoverBench", moves), re.M)
+        return {kind: (float(median), float(high)) for kind, median, high in found}
+
+
+def file_system_of(folder):
+    command = ["df", "--output=fstype", str(folder)]
+    done = subprocess.run(command, stdout=subprocess.PIPE, text=True, check=True)
+    return done.stdout.split()[-1]
+
+
+def processor_name():
+    for line in pathlib.Path("/proc/cpuinfo").read_text().splitlines():
+        if line.startswith("model name"):
+            return line.split(":", 1)[1].strip()
+    return "unknown processor"
