@@ -9,18 +9,25 @@ import shutil
 import subprocess
 import sys
 import tempfile
+from collections.abc import Callable
 
 import runs
 
 
 @dataclasses.dataclass
 class Tool:
-    """A program that goes through a folder. `run` takes the folder, `load` only starts it, so that
-    a cold run reads the folder from the disk and not the program as well."""
+    """A program that goes through a folder."""
 
     name: str
-    run: object
-    load: list
+    run: Callable[[str], runs.Run]  # with the folder
+    idle_command: list[str]  # starts the program and ends at once
+
+    def load(self):
+        """Gets the program file into memory, so that a cold run reads the folder alone."""
+        with open(os.devnull, "r+b") as nothing:
+            subprocess.run(
+                self.idle_command, stdin=nothing, stdout=nothing, stderr=nothing, check=False
+            )
 
 
 def figures(output):
@@ -38,9 +45,12 @@ def own_tool(name, program):
     return Tool(name, run, [program])
 
 
-def peer(name, command, load):
-    # Such programs exit with 1 when some folder could not be read, which is none of our concern.
-    return Tool(name, lambda folder: runs.run_to_end([*command, folder], accepted=(0, 1)), load)
+def peer(name, command, idle_command):
+    def run(folder):
+        # They exit with 1 when some folder could not be read, which is none of our concern.
+        return runs.run_to_end([*command, folder], accepted=(0, 1))
+
+    return Tool(name, run, idle_command)
 
 
 def ncdu():
@@ -71,21 +81,11 @@ def scan_tools(programs):
     ]
     own = [own_tool("Tessera", str(programs / "Scanning" / "ScanBench"))]
     bare = own_tool("bare walk", str(programs / "Scanning" / "BareWalk"))
-    installed = [tool for tool in peers if shutil.which(tool.load[0])]
+    installed = [tool for tool in peers if shutil.which(tool.idle_command[0])]
     for tool in peers:
         if tool not in installed:
             print(f"scripts/bench: {tool.name} is not installed: left out", file=sys.stderr)
     return own + installed + [bare]
-
-
-def load(tool):
-    subprocess.run(
-        tool.load,
-        stdin=subprocess.DEVNULL,
-        stdout=subprocess.DEVNULL,
-        stderr=subprocess.DEVNULL,
-        check=False,
-    )
 
 
 def count_items(programs, folder):
