@@ -6,6 +6,7 @@
 #include "Model/UserDefaults.h"
 #include "Model/Volume.h"
 #include "Utils/UserAccount.h"
+#include "Utils/Workspace.h"
 
 #include <algorithm>
 #include <array>
@@ -163,6 +164,11 @@ File* CoreUtil::locateURL(const Url& url, Folder& inFolder)
 double CoreUtil::aspectRatio(double width, double height)
 {
     return width > height ? width / height : height / width;
+}
+
+bool CoreUtil::revealInFinder(const Url& url, Workspace& workspace)
+{
+    return url.isDirectory() ? workspace.openUrl(url.absoluteString()) : workspace.reveal(url);
 }
 
 void CoreUtil::saveFolderToRecents(

@@ -13,6 +13,7 @@ class TopFolder;
 class Url;
 class UserAccount;
 class UserDefaults;
+class Workspace;
 
 /// The utilities that need no window. Stateless.
 class CoreUtil {
@@ -32,6 +33,10 @@ public:
 
     /// The larger side divided by the smaller.
     static double aspectRatio(double width, double height);
+
+    /// Opens a directory in the file viewer; any other item is selected there, in its folder.
+    /// False when the desktop could not be asked.
+    [[nodiscard]] static bool revealInFinder(const Url& url, Workspace& workspace);
 
     /// Puts the folder in front of the stored recent scans and of the desktop's recent documents.
     static void saveFolderToRecents(

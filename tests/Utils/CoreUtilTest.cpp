@@ -7,6 +7,7 @@
 #include "support/FakeFileSystem.h"
 #include "support/FakeRecentDocuments.h"
 #include "support/FakeUserDefaults.h"
+#include "support/FakeWorkspace.h"
 #include "support/makeTree.h"
 
 #include <gmock/gmock.h>
@@ -214,6 +215,30 @@ TEST(RealUserDeathTest, AMissingEntryStopsTheProcess)
     EXPECT_DEATH((void)CoreUtil::realUserName(account), "\\(pw\\), function realUserName");
     EXPECT_DEATH(
         (void)CoreUtil::realHomeDirectory(account), "\\(pw\\), function realHomeDirectory");
+}
+
+TEST(RevealInFinder, ADirectoryIsOpened)
+{
+    test::FakeWorkspace workspace;
+    EXPECT_TRUE(CoreUtil::revealInFinder(Url("/data/a b", true), workspace));
+    EXPECT_THAT(workspace.opened, testing::ElementsAre("file:///data/a%20b/"));
+    EXPECT_THAT(workspace.revealed, testing::IsEmpty());
+}
+
+TEST(RevealInFinder, AnyOtherItemIsSelectedInItsFolder)
+{
+    test::FakeWorkspace workspace;
+    EXPECT_TRUE(CoreUtil::revealInFinder(Url("/data/a\xFF", false), workspace));
+    EXPECT_THAT(workspace.opened, testing::IsEmpty());
+    EXPECT_THAT(workspace.revealed, testing::ElementsAre("/data/a\xFF"));
+}
+
+TEST(RevealInFinder, GivesTheDesktopsAnswer)
+{
+    test::FakeWorkspace workspace;
+    workspace.answer = false;
+    EXPECT_FALSE(CoreUtil::revealInFinder(Url("/data", true), workspace));
+    EXPECT_FALSE(CoreUtil::revealInFinder(Url("/data/a", false), workspace));
 }
 
 } // namespace

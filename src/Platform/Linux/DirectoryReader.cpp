@@ -122,7 +122,7 @@ bool DirectoryReader::needsStatus(const Entry& entry) const
 void DirectoryReader::readStatus(
     int directory, DirectoryListing& listing, std::size_t begin, std::size_t end) const
 {
-    for (std::size_t i = begin; i < end; ++i) {
+    for (std::size_t i = begin; i < end && !m_isCancelled.load(std::memory_order_relaxed); ++i) {
         Entry& entry = listing[i];
         if (needsStatus(entry)) {
             apply(statusAt(directory, listing.cName(entry)), entry);
