@@ -30,6 +30,7 @@ tessera::LaunchServices launchServices(const tessera::PlatformServices& services
 
 } // namespace
 
+// NOLINTNEXTLINE(bugprone-exception-escape): out of memory ends the program
 int main(int argc, char** argv)
 {
     using namespace tessera;

@@ -3,6 +3,7 @@
 
 #include "Model/Document.h"
 
+#include <array>
 #include <cmath>
 #include <random>
 #include <string>
@@ -77,7 +78,7 @@ private:
     std::mt19937 m_random{kSeed};
     std::uniform_int_distribution<std::size_t> m_count{kItemsPerFolder - 6, kItemsPerFolder + 8};
     std::lognormal_distribution<double> m_size{9, 2};
-    std::string m_endings[4] = {".txt", ".jpeg", "", ".so.1.2.3"};
+    std::array<std::string, 4> m_endings = {".txt", ".jpeg", "", ".so.1.2.3"};
 };
 
 } // namespace

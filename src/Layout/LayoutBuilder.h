@@ -27,6 +27,7 @@ public:
     /// Square points of the area.
     double totalPixels() const { return m_totalPixels; }
     /// The least thickness, in points, that a strip leaves for the rest where there is room.
+    // NOLINTNEXTLINE(readability-convert-member-functions-to-static): a property like the others
     double minSize() const { return kMinSize; }
 
     /// The area in square points that `totalAllocation` bytes are worth.

@@ -54,8 +54,8 @@ std::shared_ptr<Scanner> Scanner::create(const ScanEnvironment& environment)
     return std::shared_ptr<Scanner>(new Scanner(environment));
 }
 
-Scanner::Scanner(const ScanEnvironment& environment)
-    : m_environment(environment)
+Scanner::Scanner(ScanEnvironment environment)
+    : m_environment(std::move(environment))
 {
 }
 

@@ -63,7 +63,7 @@ private:
     class Run;
     friend class Run;
 
-    explicit Scanner(const ScanEnvironment& environment);
+    explicit Scanner(ScanEnvironment environment);
 
     bool isCurrent(const Run& run) const;
     void publishProgress(const Run& run, const Url& url, double percent);

@@ -26,9 +26,9 @@ constexpr std::string_view kBackupStoreName = "Backups.backupdb";
 
 } // namespace
 
-Scanner::Run::Run(Scanner& scanner, const Url& url)
+Scanner::Run::Run(Scanner& scanner, Url url)
     : m_scanner(scanner)
-    , m_url(url)
+    , m_url(std::move(url))
 {
 }
 

@@ -16,7 +16,7 @@ namespace tessera {
 /// called on another thread.
 class Scanner::Run : public std::enable_shared_from_this<Scanner::Run> {
 public:
-    Run(Scanner& scanner, const Url& url);
+    Run(Scanner& scanner, Url url);
 
     void stop() { _stop = true; }
     bool isStopped() const { return _stop; }

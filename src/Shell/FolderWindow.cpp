@@ -66,12 +66,14 @@ void FolderWindow::open(const Url& folder)
 
 QWidget* FolderWindow::makeProgressPage()
 {
+    // NOLINTBEGIN(cppcoreguidelines-owning-memory): their parents own them
     auto* page = new QWidget(m_pages);
     auto* layout = new QVBoxLayout(page);
     m_progress = new QProgressBar(page);
     m_progress->setRange(0, kProgressSteps);
     m_progress->setFixedWidth(kProgressWidth);
     m_scannedPath = new QLabel(page);
+    // NOLINTEND(cppcoreguidelines-owning-memory)
     m_scannedPath->setFixedWidth(kProgressWidth);
     m_scannedPath->setTextFormat(Qt::PlainText);
     layout->setSpacing(kProgressSpacing);

@@ -90,6 +90,7 @@ TEST_P(BoxPainting, ASelectedFolderIsDarker)
     m_folder->setSelected(true);
     const auto picture = folderPicture(0, {10, 10, 30, 10});
     EXPECT_EQ(picture.at(25, 15), folderBoxColor(*m_folder, 0).rgb());
+    // NOLINTNEXTLINE(bugprone-integer-division): whole pixels are wanted
     EXPECT_NEAR(qGreen(picture.at(25, 15)), 0xA8 - 255 * 3 / 10, 1);
 }
 

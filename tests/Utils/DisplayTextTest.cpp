@@ -29,6 +29,7 @@ TEST(DisplayText, ShowsControlCharactersAsPictures)
 TEST(DisplayText, DoesNotObeyLineSeparatorsOrDirectionOverrides)
 {
     EXPECT_EQ(displayText("a\xE2\x80\xA8z"), QStringLiteral(u"a\uFFFDz"));
+    // NOLINTNEXTLINE(misc-misleading-bidirectional): such names are what is tested
     EXPECT_EQ(displayText("exe\xE2\x80\xAEgpj"), QStringLiteral(u"exe\uFFFDgpj"));
     EXPECT_EQ(displayText("a\xC2\x85z"), QStringLiteral(u"a\uFFFDz"));
 }

@@ -51,6 +51,7 @@ PlatformServices makePlatformServices()
 {
     // Fixed, the limit stays: the buffers of crowded folders go back to the system one by one
     // instead of leaving holes behind while a scan's tree grows.
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): no other thread is running yet
     ::mallopt(M_MMAP_THRESHOLD, kOwnMappingBytes);
     PlatformServices services;
     services.fileManager = std::make_unique<LinuxFileManager>();
