@@ -22,7 +22,7 @@ protected:
 
 TEST(BranchPalette, HasSevenColours)
 {
-// NOLINTNEXTLINE(modernize-avoid-c-arrays): a plain table
+    // NOLINTNEXTLINE(modernize-avoid-c-arrays): a plain table
     const std::uint32_t expected[]
         = {0xCCCCCC, 0x6F9CDA, 0x54AC61, 0x5AA89F, 0xC09054, 0xEB7877, 0xA785F3};
     for (std::uint8_t hue = 0; hue < 7; ++hue) {
