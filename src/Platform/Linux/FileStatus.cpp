@@ -2,9 +2,12 @@
 #include "Platform/Linux/FileStatus.h"
 
 #include <fcntl.h>
+#include <linux/openat2.h>
 #include <linux/stat.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/sysmacros.h>
+#include <unistd.h>
 
 #include <atomic>
 #include <cerrno>
@@ -15,6 +18,8 @@ namespace {
 
 constexpr std::uint64_t kBytesPerBlock = 512;
 constexpr unsigned kWanted = STATX_TYPE | STATX_INO | STATX_BLOCKS | STATX_MTIME | STATX_MNT_ID;
+
+constexpr int kOpenFlags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 
 FileStatus fromStatx(const struct statx& values)
 {
@@ -107,9 +112,25 @@ FileDescriptor openDirectoryAt(int directory, const char* name)
 {
     int number = -1;
     do {
-        number = ::openat(directory, name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+        number = ::openat(directory, name, kOpenFlags);
     } while (number < 0 && errno == EINTR);
     return FileDescriptor(number);
+}
+
+std::optional<FileDescriptor> openDirectoryOnSameMountAt(int directory, const char* name)
+{
+    open_how how{};
+    how.flags = kOpenFlags;
+    how.resolve = RESOLVE_NO_XDEV;
+    long number = -1;
+    do {
+        number = ::syscall(SYS_openat2, directory, name, &how, sizeof(how));
+    } while (number < 0 && errno == EINTR);
+    // Container sandboxes older than the call answer EPERM where an old kernel answers ENOSYS.
+    if (number < 0 && (errno == ENOSYS || errno == EPERM)) {
+        return std::nullopt;
+    }
+    return FileDescriptor(static_cast<int>(number));
 }
 
 FileDescriptor openDirectoryAt(int directory, const char* name, const FileIdentity& expected)

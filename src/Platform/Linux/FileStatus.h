@@ -55,7 +55,12 @@ enum class LinkMode : std::uint8_t { Keep, Follow };
 /// Opens the directory `name` in the open directory `directory`; nothing that is no directory.
 [[nodiscard]] FileDescriptor openDirectoryAt(int directory, const char* name);
 
-/// The same, if the directory is `expected` still: when something else has taken its name
+/// The same, but nothing where a mount begins. Nothing at all is known, and the caller has to look
+/// by other means, on kernels before Linux 5.6 and in sandboxes older than the call.
+[[nodiscard]] std::optional<FileDescriptor> openDirectoryOnSameMountAt(
+    int directory, const char* name);
+
+/// As openDirectoryAt(), if the directory is `expected` still: when something else has taken its name
 /// meanwhile, nothing is opened for good.
 [[nodiscard]] FileDescriptor openDirectoryAt(
     int directory, const char* name, const FileIdentity& expected);

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Platform/Linux/AdaptiveMutex.h"
 #include "Platform/Linux/WalkFolder.h"
 
 #include <cstddef>
-#include <mutex>
 #include <vector>
 
 namespace tessera {
@@ -39,12 +39,13 @@ public:
 
 private:
     void store(WalkFolder& folder, FolderHandle handle);
+    static void putAway(WalkFolder& folder);
     void remove(WalkFolder& folder);
     void storeOnTheWay(WalkFolder& folder, const FolderHandle& handle);
     FolderHandle reopen(FolderHandle from, const std::vector<WalkFolder*>& way);
 
     const std::size_t m_capacity;
-    std::mutex m_mutex;
+    AdaptiveMutex m_mutex;
     FolderHandle m_start;
     std::vector<WalkFolder*> m_open; ///< in the order in which they were opened
 };

@@ -79,7 +79,6 @@ ReadAhead::ReadAhead(const std::string& start, ItemKeys keys, const ReadAheadOpt
     m_boundary.emplace(found.status);
     m_mayHoldAutomounts = mayHoldAutomounts(opened);
     m_start = std::make_unique<WalkFolder>(nullptr, 0, std::string());
-    m_start->identity = found.status.identity;
     m_start->readingHandle = std::make_shared<const FileDescriptor>(std::move(opened));
     startHelpers(options.helpers);
     Lock lock(m_mutex);
@@ -272,18 +271,23 @@ bool ReadAhead::mayOpen(const FileDescriptor& parent, const std::string& name) c
     return found && found.status.isDirectory && !m_boundary->isCrossedBy(found.status);
 }
 
+FileDescriptor ReadAhead::openOnMount(const FileDescriptor& parent, const std::string& name) const
+{
+    if (auto opened = openDirectoryOnSameMountAt(parent.number(), name.c_str())) {
+        return std::move(*opened);
+    }
+    FileDescriptor opened = openDirectoryAt(parent.number(), name.c_str());
+    const StatusResult found = statusOf(opened.number());
+    const bool isOnMount = found && !m_boundary->isCrossedBy(found.status);
+    return isOnMount ? std::move(opened) : FileDescriptor();
+}
+
 FileDescriptor ReadAhead::openFolder(WalkFolder& folder)
 {
     const FolderHandle parent = m_handles.handleOf(*folder.parent);
     FileDescriptor opened;
     if (parent != nullptr && mayOpen(*parent, folder.name)) {
-        opened = openDirectoryAt(parent->number(), folder.name.c_str());
-        const StatusResult found = statusOf(opened.number());
-        if (!found || m_boundary->isCrossedBy(found.status)) {
-            opened = FileDescriptor();
-        } else {
-            folder.identity = found.status.identity;
-        }
+        opened = openOnMount(*parent, folder.name);
     }
     m_handles.release(*folder.parent);
     return opened;

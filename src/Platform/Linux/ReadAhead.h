@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Platform/Linux/AdaptiveMutex.h"
 #include "Platform/Linux/DirectoryReader.h"
 #include "Platform/Linux/FolderHandles.h"
 #include "Platform/Linux/MountBoundary.h"
@@ -79,6 +80,7 @@ private:
     void abandon(std::unique_ptr<WalkFolder> folder);
 
     bool mayOpen(const FileDescriptor& parent, const std::string& name) const;
+    FileDescriptor openOnMount(const FileDescriptor& parent, const std::string& name) const;
     FileDescriptor openFolder(WalkFolder& folder);
     void read(WalkFolder& folder, Lock& lock);
     void readEntries(WalkFolder& folder, Lock& lock);
@@ -95,7 +97,7 @@ private:
     bool m_mayHoldAutomounts = true;
     std::atomic<bool> m_isEnding{false};
 
-    std::mutex m_mutex;
+    AdaptiveMutex m_mutex;
     std::condition_variable m_work; ///< there may be something to do for a helper
     std::condition_variable m_progress; ///< there may be something to do for the waiting taker
     std::vector<Step> m_steps;
