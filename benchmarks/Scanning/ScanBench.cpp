@@ -4,6 +4,7 @@
 
 #include "Model/Document.h"
 #include "Model/TopFolder.h"
+#include "Platform/Linux/HeapMemory.h"
 #include "Platform/Linux/LinuxFileManager.h"
 
 #include <sys/resource.h>
@@ -90,6 +91,7 @@ int main(int argc, char** argv)
         std::fputs("usage: ScanBench FOLDER\n", stderr);
         return 2;
     }
+    tessera::returnLargeBlocksAtOnce();
     const double before = residentBytes();
     const auto start = Clock::now();
     std::unique_ptr<TopFolder> top = makeNode<TopFolder>(arguments[1]);

@@ -60,8 +60,8 @@ enum class LinkMode : std::uint8_t { Keep, Follow };
 [[nodiscard]] std::optional<FileDescriptor> openDirectoryOnSameMountAt(
     int directory, const char* name);
 
-/// As openDirectoryAt(), if the directory is `expected` still: when something else has taken its name
-/// meanwhile, nothing is opened for good.
+/// As openDirectoryAt(), if the directory is `expected` still: when something else has taken its
+/// name meanwhile, nothing is opened for good.
 [[nodiscard]] FileDescriptor openDirectoryAt(
     int directory, const char* name, const FileIdentity& expected);
 

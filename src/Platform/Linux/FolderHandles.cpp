@@ -101,18 +101,11 @@ void FolderHandles::drop(WalkFolder& folder)
 void FolderHandles::store(WalkFolder& folder, FolderHandle handle)
 {
     if (m_open.size() == m_capacity) {
-        putAway(*m_open.front());
+        m_open.front()->handle.reset();
         m_open.erase(m_open.begin());
     }
     folder.handle = std::move(handle);
     m_open.push_back(&folder);
-}
-
-void FolderHandles::putAway(WalkFolder& folder)
-{
-    // Looked at here, because few folders ever are put away.
-    folder.identity = statusOf(folder.handle->number()).status.identity;
-    folder.handle.reset();
 }
 
 void FolderHandles::remove(WalkFolder& folder)

@@ -39,7 +39,6 @@ public:
 
 private:
     void store(WalkFolder& folder, FolderHandle handle);
-    static void putAway(WalkFolder& folder);
     void remove(WalkFolder& folder);
     void storeOnTheWay(WalkFolder& folder, const FolderHandle& handle);
     FolderHandle reopen(FolderHandle from, const std::vector<WalkFolder*>& way);

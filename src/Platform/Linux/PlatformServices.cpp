@@ -2,6 +2,7 @@
 #include "Platform/PlatformServices.h"
 
 #include "Platform/Linux/DBusWorkspace.h"
+#include "Platform/Linux/HeapMemory.h"
 #include "Platform/Linux/LinuxFileAccess.h"
 #include "Platform/Linux/LinuxFileManager.h"
 #include "Platform/Linux/LinuxFileSystemAttributes.h"
@@ -11,8 +12,6 @@
 #include "Platform/Linux/XbelRecentDocuments.h"
 #include "Platform/Qt/SettingsUserDefaults.h"
 
-#include <malloc.h>
-
 #include <cstdlib>
 #include <ctime>
 
@@ -20,7 +19,6 @@ namespace tessera {
 
 namespace {
 
-constexpr int kOwnMappingBytes = 128 * 1024;
 constexpr double kNanosecondsPerSecond = 1e9;
 
 /// The kernel's tick, a few milliseconds long: the scanner asks for every item, and a tenth of a
@@ -49,10 +47,7 @@ bool PlatformServices::hasDisplay()
 
 PlatformServices makePlatformServices()
 {
-    // Fixed, the limit stays: the buffers of crowded folders go back to the system one by one
-    // instead of leaving holes behind while a scan's tree grows.
-    // NOLINTNEXTLINE(concurrency-mt-unsafe): no other thread is running yet
-    ::mallopt(M_MMAP_THRESHOLD, kOwnMappingBytes);
+    returnLargeBlocksAtOnce();
     PlatformServices services;
     services.fileManager = std::make_unique<LinuxFileManager>();
     services.resourceValues = std::make_unique<LinuxResourceValues>();

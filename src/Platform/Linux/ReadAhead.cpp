@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/ReadAhead.h"
 
+#include "Platform/Linux/HeapMemory.h"
+
 #include <fcntl.h>
-#include <malloc.h>
 
 #include <algorithm>
 #include <cassert>
@@ -35,6 +36,17 @@ std::vector<std::size_t> directoriesIn(const DirectoryListing& listing)
     return positions;
 }
 
+bool mayHoldFolders(const DirectoryListing& listing)
+{
+    for (std::size_t i = 0; i < listing.size(); ++i) {
+        const DirectoryListing::Kind kind = listing[i].kind;
+        if (kind == DirectoryListing::Kind::Directory || kind == DirectoryListing::Kind::Unknown) {
+            return true;
+        }
+    }
+    return false;
+}
+
 /// Moves the subfolders that exist out of `folder`.
 void moveSubfolders(WalkFolder& folder, std::vector<std::unique_ptr<WalkFolder>>& to)
 {
@@ -53,15 +65,6 @@ void destroy(std::vector<std::unique_ptr<WalkFolder>> folders)
         folders.pop_back();
         moveSubfolders(*folder, folders);
     }
-}
-
-/// Gives the system back what the allocator keeps free. Each helper thread leaves a heap of its
-/// own behind, which for a million items came to 8 bytes an item.
-void returnFreeMemory()
-{
-#ifdef __GLIBC__
-    ::malloc_trim(0);
-#endif
 }
 
 } // namespace
@@ -313,6 +316,9 @@ void ReadAhead::readEntries(WalkFolder& folder, Lock& lock)
     const int directory = folder.readingHandle->number();
     lock.unlock();
     folder.listing = m_reader.list(directory);
+    if (mayHoldFolders(folder.listing)) {
+        folder.identity = statusOf(directory).status.identity;
+    }
     const std::size_t size = folder.listing.size();
     if (size <= kEntriesPerStep) {
         m_reader.readStatus(directory, folder.listing, 0, size);

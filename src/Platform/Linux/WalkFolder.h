@@ -54,6 +54,7 @@ struct WalkFolder {
     const WalkSpan span;
 
     // Written by the threads that read the folder, until it is ready; then by none.
+    FileIdentity identity; ///< known where there may be subfolders
     DirectoryListing listing;
     std::vector<std::size_t> directories; ///< which entries of the listing are directories
     FolderHandle readingHandle;
@@ -69,7 +70,6 @@ struct WalkFolder {
 
     // Guarded by the FolderHandles that keep the folder's handle.
     FolderHandle handle;
-    FileIdentity identity; ///< known once the handle was put away
     std::size_t unopened = 0; ///< subfolders for which the handle is still needed
 };
 

@@ -44,6 +44,35 @@ TEST(FileStatus, SaysWhyThereIsNone)
     EXPECT_EQ(statusAtPath("/no/such/path").error, ENOENT);
 }
 
+TEST(FileStatus, ADirectoryOnTheSameMountOpens)
+{
+    const TempTree tree;
+    tree.makeFolder("folder");
+    const FileDescriptor above = openDirectoryAt(AT_FDCWD, tree.path().c_str());
+    const auto opened = openDirectoryOnSameMountAt(above.number(), "folder");
+    ASSERT_TRUE(opened.has_value());
+    EXPECT_TRUE(opened->isOpen());
+}
+
+TEST(FileStatus, ADirectoryWhereAMountBeginsDoesNotOpen)
+{
+    const FileDescriptor root = openDirectoryAt(AT_FDCWD, "/");
+    const auto opened = openDirectoryOnSameMountAt(root.number(), "proc");
+    ASSERT_TRUE(opened.has_value());
+    EXPECT_FALSE(opened->isOpen());
+}
+
+TEST(FileStatus, ALinkToADirectoryDoesNotOpen)
+{
+    const TempTree tree;
+    tree.makeFolder("folder");
+    tree.makeSymbolicLink("link", "folder");
+    const FileDescriptor above = openDirectoryAt(AT_FDCWD, tree.path().c_str());
+    const auto opened = openDirectoryOnSameMountAt(above.number(), "link");
+    ASSERT_TRUE(opened.has_value());
+    EXPECT_FALSE(opened->isOpen());
+}
+
 TEST(FileStatus, ADirectoryOpensWhenItIsTheOneExpected)
 {
     const TempTree tree;

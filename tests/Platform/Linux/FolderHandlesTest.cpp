@@ -30,6 +30,7 @@ protected:
         const std::string path = m_tree.pathOf(name);
         auto handle = std::make_shared<const FileDescriptor>(
             ::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+        folder.identity = statusOf(handle->number()).status.identity;
         m_handles.keep(folder, std::move(handle), 2);
     }
 
