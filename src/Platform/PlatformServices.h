@@ -28,8 +28,8 @@ struct PlatformServices {
     std::unique_ptr<UserAccount> userAccount;
     std::unique_ptr<UserDefaults> userDefaults;
     std::unique_ptr<RecentDocuments> recentDocuments;
-    std::unique_ptr<Workspace> workspace;
     std::unique_ptr<QtMainThread> mainThread;
+    std::unique_ptr<Workspace> workspace; ///< uses mainThread
     std::function<double()> clock;
 
     /// Whether windows can be shown; asked before there is an application object.

@@ -4,7 +4,9 @@
 #include "Model/Url.h"
 #include "Utils/Workspace.h"
 
+#include <deque>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tessera::test {
@@ -24,9 +26,31 @@ public:
         return answer;
     }
 
+    void recycleURLs(std::vector<Url> urls, RecycleCompletion completionHandler) override
+    {
+        recycled.push_back(std::move(urls));
+        m_completions.push_back(std::move(completionHandler));
+    }
+
+    /// Ends the oldest move to the trash that has not ended yet; false when there is none.
+    [[nodiscard]] bool finishRecycling(const RecycleResult& result)
+    {
+        if (m_completions.empty()) {
+            return false;
+        }
+        const RecycleCompletion completion = std::move(m_completions.front());
+        m_completions.pop_front();
+        completion(result);
+        return true;
+    }
+
     bool answer = true;
     std::vector<std::string> opened;
     std::vector<std::string> revealed;
+    std::vector<std::vector<Url>> recycled; ///< the items of each call
+
+private:
+    std::deque<RecycleCompletion> m_completions;
 };
 
 } // namespace tessera::test

@@ -2,6 +2,7 @@
 #include "Platform/Linux/DBusWorkspace.h"
 
 #include "Model/Url.h"
+#include "Platform/Linux/FreedesktopTrash.h"
 
 #include <QDBusMessage>
 #include <QDBusPendingCall>
@@ -58,14 +59,22 @@ QDBusMessage showItems(const Url& item)
 
 } // namespace
 
-DBusWorkspace::DBusWorkspace()
-    : DBusWorkspace(QDBusConnection::sessionBus(), startXdgOpen)
+DBusWorkspace::DBusWorkspace(MainThread& mainThread)
+    : DBusWorkspace(
+        QDBusConnection::sessionBus(),
+        startXdgOpen,
+        mainThread,
+        [trash = FreedesktopTrash(TrashUser::current())](const std::vector<Url>& urls) {
+            return trash.recycle(urls);
+        })
 {
 }
 
-DBusWorkspace::DBusWorkspace(QDBusConnection bus, Opener opener)
+DBusWorkspace::DBusWorkspace(
+    QDBusConnection bus, Opener opener, MainThread& mainThread, BackgroundTrash::Mover mover)
     : m_bus(std::move(bus))
     , m_opener(std::move(opener))
+    , m_trash(mainThread, std::move(mover))
     , m_pendingCalls(std::make_unique<QObject>())
 {
 }
@@ -100,6 +109,11 @@ bool DBusWorkspace::reveal(const Url& item)
             finished->deleteLater();
         });
     return true;
+}
+
+void DBusWorkspace::recycleURLs(std::vector<Url> urls, RecycleCompletion completionHandler)
+{
+    m_trash.recycle(std::move(urls), std::move(completionHandler));
 }
 
 } // namespace tessera

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Platform/Linux/BackgroundTrash.h"
 #include "Utils/Workspace.h"
 
 #include <QDBusConnection>
@@ -12,15 +13,17 @@ class QObject;
 
 namespace tessera {
 
-/// The freedesktop.org desktop: its file manager over D-Bus, and xdg-open for everything else.
+/// The freedesktop.org desktop: its file manager over D-Bus, its trash, and xdg-open for everything
+/// else.
 class DBusWorkspace final : public Workspace {
 public:
     /// Starts whatever opens an absolute URL; false when that could not be started.
     using Opener = std::function<bool(const std::string& absoluteUrl)>;
 
-    /// On the session bus, with xdg-open.
-    DBusWorkspace();
-    DBusWorkspace(QDBusConnection bus, Opener opener);
+    /// On the session bus, with xdg-open and the user's own trash. `mainThread` must outlive it.
+    explicit DBusWorkspace(MainThread& mainThread);
+    DBusWorkspace(
+        QDBusConnection bus, Opener opener, MainThread& mainThread, BackgroundTrash::Mover mover);
     ~DBusWorkspace() override;
 
     /// Only "http", "https" and "file" URLs are opened.
@@ -30,9 +33,13 @@ public:
     /// folder that holds it is opened instead, as soon as that is known.
     [[nodiscard]] bool reveal(const Url& item) override;
 
+    /// By FreedesktopTrash, on a thread of its own.
+    void recycleURLs(std::vector<Url> urls, RecycleCompletion completionHandler) override;
+
 private:
     QDBusConnection m_bus;
     Opener m_opener;
+    BackgroundTrash m_trash;
     std::unique_ptr<QObject> m_pendingCalls; ///< parent of the calls not yet answered
 };
 

@@ -2,6 +2,7 @@
 #include "Platform/Linux/LinuxFileAccess.h"
 
 #include "Platform/Linux/FileDescriptor.h"
+#include "Platform/Linux/writeAll.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -20,23 +21,6 @@ constexpr mode_t kNewFileMode = 0666; // what the user's umask leaves of it
 std::error_code lastError()
 {
     return {errno, std::generic_category()};
-}
-
-std::error_code writeAll(const FileDescriptor& file, std::string_view bytes)
-{
-    while (!bytes.empty()) {
-        const ssize_t written = ::write(file.number(), bytes.data(), bytes.size());
-        if (written < 0) {
-            const std::error_code error = lastError();
-            if (error == std::errc::interrupted) {
-                continue;
-            }
-            return error;
-        }
-        bytes.remove_prefix(static_cast<std::size_t>(written));
-    }
-    // A full disk or a lost mount may only show itself now.
-    return ::fsync(file.number()) == 0 ? std::error_code{} : lastError();
 }
 
 /// A file beside `path` that nobody else has, under a name that mkostemp chooses.

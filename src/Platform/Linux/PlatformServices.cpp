@@ -59,8 +59,8 @@ PlatformServices makePlatformServices()
         = std::make_unique<SettingsUserDefaults>(SettingsUserDefaults::defaultFilePath());
     services.recentDocuments
         = std::make_unique<XbelRecentDocuments>(XbelRecentDocuments::defaultFilePath());
-    services.workspace = std::make_unique<DBusWorkspace>();
     services.mainThread = std::make_unique<QtMainThread>();
+    services.workspace = std::make_unique<DBusWorkspace>(*services.mainThread);
     services.clock = coarseSeconds;
     return services;
 }

@@ -2,6 +2,7 @@
 #include "Platform/Linux/DBusWorkspace.h"
 
 #include "Model/Url.h"
+#include "support/FakeMainThread.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>
@@ -83,10 +84,14 @@ protected:
 
     DBusWorkspace workspace()
     {
-        return {*m_bus, [this](const std::string& url) {
-                    m_opened.push_back(url);
-                    return true;
-                }};
+        return {
+            *m_bus,
+            [this](const std::string& url) {
+                m_opened.push_back(url);
+                return true;
+            },
+            m_mainThread,
+            [](const std::vector<Url>&) { return RecycleResult(); }};
     }
 
     template <typename Condition>
@@ -102,6 +107,7 @@ protected:
     QString m_address;
     std::unique_ptr<QDBusConnection> m_bus;
     FakeFileManager m_fileManager;
+    test::FakeMainThread m_mainThread;
     std::vector<std::string> m_opened;
 };
 
@@ -146,10 +152,18 @@ class DBusWorkspaceWithoutABus : public testing::Test {
 protected:
     std::vector<std::string> m_opened;
     bool m_opens = true;
+    test::FakeMainThread m_mainThread;
     DBusWorkspace m_workspace{
-        QDBusConnection(QStringLiteral("no such bus")), [this](const std::string& url) {
+        QDBusConnection(QStringLiteral("no such bus")),
+        [this](const std::string& url) {
             m_opened.push_back(url);
             return m_opens;
+        },
+        m_mainThread,
+        [](const std::vector<Url>& urls) {
+            RecycleResult result;
+            result.error = std::to_string(urls.size());
+            return result;
         }};
 };
 
@@ -170,6 +184,17 @@ TEST_F(DBusWorkspaceWithoutABus, RevealOfNothingFails)
 {
     EXPECT_FALSE(m_workspace.reveal(Url()));
     EXPECT_THAT(m_opened, IsEmpty());
+}
+
+TEST_F(DBusWorkspaceWithoutABus, WhatBecameOfTheItemsIsToldOnTheMainThread)
+{
+    std::string told;
+    m_workspace.recycleURLs({Url("/a", false), Url("/b", true)}, [&](const RecycleResult& result) {
+        told = result.error;
+    });
+    EXPECT_EQ(told, "");
+    m_mainThread.runUntil([&] { return !told.empty(); });
+    EXPECT_EQ(told, "2");
 }
 
 TEST_F(DBusWorkspaceWithoutABus, OpensWebAndFileUrlsAlone)

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/Linux/MountTable.h"
+
+#include <algorithm>
+#include <charconv>
+#include <fstream>
+#include <iterator>
+
+namespace tessera {
+
+namespace {
+
+std::string_view takeUntil(std::string_view& text, char separator)
+{
+    const std::size_t end = std::min(text.find(separator), text.size());
+    const std::string_view taken = text.substr(0, end);
+    text.remove_prefix(std::min(end + 1, text.size()));
+    return taken;
+}
+
+bool isOctal(char c)
+{
+    return c >= '0' && c <= '7';
+}
+
+/// Space, tab, newline and backslash are written as a backslash and three octal digits.
+std::string unescaped(std::string_view text)
+{
+    constexpr std::size_t kDigits = 3;
+    constexpr int kOctal = 8;
+    std::string bytes;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const std::string_view digits = text.substr(i + 1, kDigits);
+        if (text[i] != '\\' || digits.size() != kDigits
+            || !std::all_of(digits.begin(), digits.end(), isOctal)) {
+            bytes += text[i];
+            continue;
+        }
+        unsigned value = 0;
+        std::from_chars(digits.data(), digits.data() + digits.size(), value, kOctal);
+        bytes += static_cast<char>(value);
+        i += kDigits;
+    }
+    return bytes;
+}
+
+/// Of "36 35 98:0 /root /mount/point rw,noatime master:1 - ext3 /dev/root rw".
+std::optional<Mount> mountFrom(std::string_view line)
+{
+    const std::string_view id = takeUntil(line, ' ');
+    for (const char* skipped : {"parent", "device", "root"}) {
+        (void)skipped;
+        takeUntil(line, ' ');
+    }
+    Mount mount;
+    const auto read = std::from_chars(id.data(), id.data() + id.size(), mount.id);
+    mount.point = unescaped(takeUntil(line, ' '));
+    const bool isWhole = read.ec == std::errc() && read.ptr == id.data() + id.size();
+    return isWhole && mount.point.starts_with('/') ? std::optional(std::move(mount)) : std::nullopt;
+}
+
+} // namespace
+
+MountTable::MountTable(std::string_view mountInfo)
+{
+    while (!mountInfo.empty()) {
+        if (std::optional<Mount> mount = mountFrom(takeUntil(mountInfo, '\n'))) {
+            m_mounts.push_back(std::move(*mount));
+        }
+    }
+}
+
+MountTable MountTable::ofThisProcess()
+{
+    std::ifstream file("/proc/self/mountinfo", std::ios::binary);
+    const std::string text{std::istreambuf_iterator<char>(file), {}};
+    return MountTable(text);
+}
+
+const Mount* MountTable::mountOf(std::string_view path, std::optional<std::uint64_t> id) const
+{
+    const Mount* longest = nullptr;
+    for (const Mount& mount : m_mounts) {
+        const bool isCandidate = (!id || *id == mount.id) && isAtOrInside(path, mount.point);
+        if (isCandidate && (longest == nullptr || mount.point.size() >= longest->point.size())) {
+            longest = &mount;
+        }
+    }
+    return longest;
+}
+
+bool MountTable::hasMountInside(std::string_view folder) const
+{
+    return std::any_of(m_mounts.begin(), m_mounts.end(), [folder](const Mount& mount) {
+        return mount.point != folder && isAtOrInside(mount.point, folder);
+    });
+}
+
+bool isAtOrInside(std::string_view path, std::string_view folder)
+{
+    if (folder == "/") {
+        return path.starts_with('/');
+    }
+    return path.starts_with(folder) && (path.size() == folder.size() || path[folder.size()] == '/');
+}
+
+} // namespace tessera

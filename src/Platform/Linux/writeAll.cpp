@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/Linux/writeAll.h"
+
+#include <unistd.h>
+
+#include <cerrno>
+
+namespace tessera {
+
+namespace {
+
+std::error_code lastError()
+{
+    return {errno, std::generic_category()};
+}
+
+} // namespace
+
+std::error_code writeAll(const FileDescriptor& file, std::string_view bytes)
+{
+    while (!bytes.empty()) {
+        const ssize_t written = ::write(file.number(), bytes.data(), bytes.size());
+        if (written < 0) {
+            const std::error_code error = lastError();
+            if (error == std::errc::interrupted) {
+                continue;
+            }
+            return error;
+        }
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+    // A full disk or a lost mount may only show itself now.
+    return ::fsync(file.number()) == 0 ? std::error_code{} : lastError();
+}
+
+} // namespace tessera
