@@ -9,6 +9,7 @@
 #include "Scanning/DirectoryEnumerator.h"
 #include "Scanning/ResourceValues.h"
 #include "Shell/FileAccess.h"
+#include "Utils/MotionPreference.h"
 #include "Utils/UserAccount.h"
 #include "Utils/Workspace.h"
 
@@ -28,6 +29,7 @@ struct PlatformServices {
     std::unique_ptr<UserAccount> userAccount;
     std::unique_ptr<UserDefaults> userDefaults;
     std::unique_ptr<RecentDocuments> recentDocuments;
+    std::unique_ptr<MotionPreference> motionPreference;
     std::unique_ptr<QtMainThread> mainThread;
     std::unique_ptr<Workspace> workspace; ///< uses mainThread
     std::function<double()> clock;

@@ -2,6 +2,7 @@
 #include "Platform/PlatformServices.h"
 
 #include "Platform/Linux/DBusWorkspace.h"
+#include "Platform/Linux/DesktopMotionPreference.h"
 #include "Platform/Linux/HeapMemory.h"
 #include "Platform/Linux/LinuxFileAccess.h"
 #include "Platform/Linux/LinuxFileManager.h"
@@ -59,6 +60,7 @@ PlatformServices makePlatformServices()
         = std::make_unique<SettingsUserDefaults>(SettingsUserDefaults::defaultFilePath());
     services.recentDocuments
         = std::make_unique<XbelRecentDocuments>(XbelRecentDocuments::defaultFilePath());
+    services.motionPreference = std::make_unique<DesktopMotionPreference>();
     services.mainThread = std::make_unique<QtMainThread>();
     services.workspace = std::make_unique<DBusWorkspace>(*services.mainThread);
     services.clock = coarseSeconds;
