@@ -25,7 +25,8 @@ tessera::LaunchServices launchServices(const tessera::PlatformServices& services
          services.clock,
          services.userAccount->homeDirectory()},
         {*services.userDefaults, *services.recentDocuments, *services.standardFolders},
-        *services.fileAccess};
+        *services.fileAccess,
+        *services.motionPreference};
 }
 
 } // namespace

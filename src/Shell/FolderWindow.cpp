@@ -4,6 +4,7 @@
 #include "Model/RootModel.h"
 #include "TreeView/TreeMapView.h"
 #include "TreeView/TreeViewController.h"
+#include "TreeView/TreeViewServices.h"
 #include "Utils/DisplayText.h"
 #include "Utils/Util.h"
 
@@ -37,8 +38,13 @@ int progressSteps(double percentComplete)
 } // namespace
 
 FolderWindow::FolderWindow(
-    const ScanEnvironment& environment, RootModel& model, const UserDefaults& defaults)
+    const ScanEnvironment& environment,
+    RootModel& model,
+    const UserDefaults& defaults,
+    const MotionPreference& motion)
     : m_model(model)
+    , m_fileSystem(environment.fileSystemAttributes)
+    , m_motion(motion)
     , m_scanner(Scanner::create(environment))
     , m_pages(new QStackedWidget(this))
     , m_treeView(new TreeMapView(defaults, m_pages))
@@ -95,7 +101,8 @@ void FolderWindow::scanEnded(Scanner& scanner)
 {
     m_controller.reset();
     m_model.setTopFolder(scanner.takeTopFolder());
-    m_controller = std::make_unique<TreeViewController>(m_model, *m_treeView);
+    m_controller = std::make_unique<TreeViewController>(
+        m_model, *m_treeView, TreeViewServices{m_fileSystem, m_motion});
     m_pages->setCurrentWidget(m_treeView);
     setWindowTitle(displayText(Util::getFolderTitle(*m_model.topFolder())));
 }

@@ -14,6 +14,8 @@ class QStackedWidget;
 
 namespace tessera {
 
+class FileSystemAttributes;
+class MotionPreference;
 class RootModel;
 class TreeMapView;
 class TreeViewController;
@@ -27,7 +29,10 @@ class FolderWindow final : public QMainWindow, private ScannerDelegate {
 public:
     /// All arguments must outlive the window.
     FolderWindow(
-        const ScanEnvironment& environment, RootModel& model, const UserDefaults& defaults);
+        const ScanEnvironment& environment,
+        RootModel& model,
+        const UserDefaults& defaults,
+        const MotionPreference& motion);
     ~FolderWindow() override;
 
     /// Scans the folder and then shows it.
@@ -41,6 +46,8 @@ private:
     QWidget* makeProgressPage();
 
     RootModel& m_model;
+    const FileSystemAttributes& m_fileSystem;
+    const MotionPreference& m_motion;
     std::shared_ptr<Scanner> m_scanner;
     QStackedWidget* m_pages;
     QLabel* m_scannedPath = nullptr;

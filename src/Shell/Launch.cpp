@@ -46,7 +46,10 @@ int showWindow(const std::string& folder, const LaunchServices& services)
     tooltip.setResourceValues(&services.scanEnvironment.resourceValues);
     tooltip.setIconProvider(&icons);
     FolderWindow window(
-        services.scanEnvironment, RootModel::sharedInstance(), services.rootModelServices.defaults);
+        services.scanEnvironment,
+        RootModel::sharedInstance(),
+        services.rootModelServices.defaults,
+        services.motion);
     window.open(Url(path, true));
     window.show();
     const int status = QApplication::exec();

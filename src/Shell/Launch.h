@@ -10,12 +10,14 @@
 namespace tessera {
 
 class FileAccess;
+class MotionPreference;
 
 /// What the program's screens need from the system. Everything must outlive the program's run.
 struct LaunchServices {
     ScanEnvironment scanEnvironment;
     RootModelServices rootModelServices;
     const FileAccess& files;
+    const MotionPreference& motion;
 };
 
 /// Prints the text that --help or --version asks for; false when the command line asks for

@@ -8,6 +8,7 @@
 #include "TreeView/TreeBranch.h"
 #include "TreeView/TreeCommand.h"
 #include "TreeView/TreePicture.h"
+#include "TreeView/ZoomAnimation.h"
 
 #include <QContextMenuEvent>
 #include <QMenu>
@@ -114,8 +115,16 @@ void TreeMapView::addBranch(std::unique_ptr<TreeBranch> branch)
     update();
 }
 
+void TreeMapView::addBranchBelow(std::unique_ptr<TreeBranch> branch)
+{
+    m_branches.insert(m_branches.begin(), std::move(branch));
+    m_picture = QImage();
+    update();
+}
+
 void TreeMapView::removeAllBranches()
 {
+    m_zoom.reset();
     if (m_dispatchDepth > 0) {
         std::ranges::move(m_branches, std::back_inserter(m_retiredBranches));
     }
@@ -125,6 +134,15 @@ void TreeMapView::removeAllBranches()
     // The items went with the branches; one made later may get the same address.
     m_currentToolTip = nullptr;
     m_picture = QImage();
+    update();
+}
+
+void TreeMapView::startZoom(std::unique_ptr<ZoomAnimation> zoom)
+{
+    hideTooltip();
+    m_zoom = std::move(zoom);
+    connect(m_zoom.get(), &ZoomAnimation::frameDue, this, qOverload<>(&TreeMapView::update));
+    connect(m_zoom.get(), &ZoomAnimation::finished, this, &TreeMapView::zoomEnded);
     update();
 }
 
@@ -185,7 +203,9 @@ bool TreeMapView::event(QEvent* event)
 void TreeMapView::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
-    if (m_branches.empty()) {
+    if (m_zoom != nullptr) {
+        m_zoom->paint(painter);
+    } else if (m_branches.empty()) {
         painter.fillRect(event->rect(), Qt::black);
     } else {
         painter.drawImage(QPointF(0, 0), picture());
@@ -232,7 +252,8 @@ void TreeMapView::updateCursor(Point point)
 void TreeMapView::mouseMoveEvent(QMouseEvent* event)
 {
     // With a button down it is a drag, and in a window at the back the user is not looking here.
-    if (event->buttons() != Qt::NoButton || !isActiveWindow()) {
+    // During a zoom the boxes are not where the branches have them.
+    if (event->buttons() != Qt::NoButton || !isActiveWindow() || isZooming()) {
         return;
     }
     updateCursor(toPoint(event->position()));
@@ -288,6 +309,9 @@ void TreeMapView::mouseDoubleClickEvent(QMouseEvent* event)
 
 void TreeMapView::pressed(const QMouseEvent& event, int clickCount)
 {
+    if (isZooming()) {
+        emit zoomEnded();
+    }
     if (event.button() == Qt::LeftButton) {
         m_pressedBranch = branchAt(toPoint(event.position()));
         m_clickCount = clickCount;

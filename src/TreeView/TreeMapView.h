@@ -19,6 +19,7 @@ class LayoutObject;
 class TreeBranch;
 class TreeCommandTarget;
 class UserDefaults;
+class ZoomAnimation;
 
 /// The black canvas of the tree screen: the one widget for all branches, to which it hands the
 /// pointer's events as if each were a view of its own. It moves the tooltip with the pointer and
@@ -41,8 +42,15 @@ public:
     const std::vector<std::unique_ptr<TreeBranch>>& branches() const { return m_branches; }
     /// Adds a branch above the others.
     void addBranch(std::unique_ptr<TreeBranch> branch);
+    void addBranchBelow(std::unique_ptr<TreeBranch> branch);
     /// May be called while a branch handles an event: that branch lives on until it has done so.
+    /// Ends a zoom, without a word.
     void removeAllBranches();
+
+    /// Shows the animation instead of the branches until these are removed. Until then the map has
+    /// no tooltip.
+    void startZoom(std::unique_ptr<ZoomAnimation> zoom);
+    bool isZooming() const { return m_zoom != nullptr; }
 
     /// The box of the node in the first branch that shows it; nothing when none does.
     std::optional<Rect> findRectForFile(const File& file) const;
@@ -64,6 +72,9 @@ public:
 signals:
     /// The view's size changed.
     void frameChanged();
+    /// The zoom came to its end, or a button was pressed meanwhile, whose press comes next. The
+    /// map shows the zoom's last picture until its branches are removed.
+    void zoomEnded();
 
 protected:
     bool event(QEvent* event) override;
@@ -106,6 +117,7 @@ private:
     const LayoutObject* m_currentToolTip = nullptr;
     std::unique_ptr<QMenu> m_menu;
     QImage m_picture;
+    std::unique_ptr<ZoomAnimation> m_zoom;
 };
 
 } // namespace tessera

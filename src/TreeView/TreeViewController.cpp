@@ -4,30 +4,52 @@
 #include "Layout/LevelRenderer.h"
 #include "Model/NotificationCenter.h"
 #include "Model/RootModel.h"
+#include "Model/Volume.h"
 #include "TreeView/TreeBranch.h"
 #include "TreeView/TreeMapView.h"
+#include "TreeView/TreeViewServices.h"
 
 #include <utility>
 #include <variant>
 
 namespace tessera {
 
-TreeViewController::TreeViewController(RootModel& model, TreeMapView& treeView)
+TreeViewController::TreeViewController(
+    RootModel& model, TreeMapView& treeView, const TreeViewServices& services)
     : m_model(model)
     , m_treeView(treeView)
-    , m_currentFolder(model.topFolder())
+    , m_fileSystem(services.fileSystem)
+    , m_zoom(*this, treeView, services)
 {
-    m_clickObservation = NotificationCenter::defaultCenter().addObserver(
-        "ClickTreeItem", [this](const NotificationObject& object) {
-            File* const* clicked = std::get_if<File*>(&object);
-            setSelectedFile(clicked == nullptr ? nullptr : *clicked);
-            renderTree();
-        });
-    connect(&m_treeView, &TreeMapView::frameChanged, this, &TreeViewController::renderTree);
+    setCurrentFolder(m_model.topFolder());
+    observe();
+    objectTreeRefreshed();
     renderTree();
 }
 
 TreeViewController::~TreeViewController() = default;
+
+void TreeViewController::observe()
+{
+    connect(&m_treeView, &TreeMapView::frameChanged, this, &TreeViewController::renderTree);
+    connect(&m_treeView, &TreeMapView::zoomEnded, this, &TreeViewController::animationDidStop);
+    NotificationCenter& center = NotificationCenter::defaultCenter();
+    m_clickObservation
+        = center.addObserver("ClickTreeItem", [this](const NotificationObject& object) {
+              File* const* clicked = std::get_if<File*>(&object);
+              setSelectedFile(clicked == nullptr ? nullptr : *clicked);
+              renderTree();
+          });
+    m_doubleClickObservation = center.addObserver(
+        "DoubleClickTreeItem", [this](const NotificationObject&) { doubleClickTreeItem(); });
+}
+
+void TreeViewController::doubleClickTreeItem()
+{
+    if (m_selectedFile != nullptr && m_selectedFile->isFolder()) {
+        zoomIn();
+    }
+}
 
 void TreeViewController::setCurrentFolder(Folder* folder)
 {
@@ -44,6 +66,41 @@ void TreeViewController::setSelectedFile(File* file)
     m_selectedFile = file;
     if (m_selectedFile != nullptr) {
         m_selectedFile->setSelected(true);
+    }
+}
+
+void TreeViewController::zoomIn()
+{
+    if (auto* const folder = nodeCast<Folder>(m_selectedFile)) {
+        zoomInFolder(*folder);
+    }
+}
+
+void TreeViewController::zoomOut()
+{
+    if (m_currentFolder != nullptr && m_currentFolder->parent() != nullptr) {
+        zoomOutFolder(*m_currentFolder->parent());
+    }
+}
+
+void TreeViewController::clickFolderPath(const Url& clicked)
+{
+    Folder* folder = m_currentFolder;
+    while (folder != nullptr && folder->url().path() != clicked.path()) {
+        folder = folder->parent();
+    }
+    if (folder != nullptr && folder != m_currentFolder) {
+        zoomOutFolder(*folder);
+        return;
+    }
+    setSelectedFile(nullptr);
+    renderTree();
+}
+
+void TreeViewController::objectTreeRefreshed()
+{
+    if (auto* const volume = nodeCast<Volume>(static_cast<File*>(m_model.topFolder()))) {
+        volume->refreshVolume(m_fileSystem);
     }
 }
 

@@ -7,6 +7,7 @@
 #include "support/FakeFileSystem.h"
 #include "support/FakeMainThread.h"
 #include "support/FakeRootModelServices.h"
+#include "support/FakeTreeViewServices.h"
 
 #include <QLabel>
 #include <QProgressBar>
@@ -38,7 +39,8 @@ protected:
                 [this] { return now.load(); },
                 "/me"},
             model,
-            services.defaults);
+            services.defaults,
+            motion);
         window->show();
         window->open(Url("/data/some\xFF folder", true));
     }
@@ -55,6 +57,7 @@ protected:
     test::FakeMainThread mainThread;
     std::atomic<double> now = 100.0;
     test::FakeRootModelServices services;
+    test::FakeMotionPreference motion;
     RootModel model{services.get()};
     std::unique_ptr<FolderWindow> window;
 };

@@ -6,6 +6,7 @@
 #include "TreeView/TreeBranch.h"
 #include "TreeView/TreeMapView.h"
 #include "support/FakeRootModelServices.h"
+#include "support/FakeTreeViewServices.h"
 #include "support/FakeUserDefaults.h"
 #include "support/makeTree.h"
 
@@ -41,12 +42,13 @@ protected:
     test::FakeRootModelServices services;
     RootModel model{services.get()};
     test::FakeUserDefaults defaults;
+    test::FakeTreeViewServices viewServices;
     TreeMapView view{defaults};
 };
 
 TEST_F(TreeViewControllerTest, ShowsTheModelsTree)
 {
-    const TreeViewController controller(model, view);
+    const TreeViewController controller(model, view, viewServices.get());
     EXPECT_EQ(controller.currentFolder(), model.topFolder());
     ASSERT_EQ(view.branches().size(), 1U);
     EXPECT_EQ(topBranch().name(), "data");
@@ -56,7 +58,7 @@ TEST_F(TreeViewControllerTest, ShowsTheModelsTree)
 
 TEST_F(TreeViewControllerTest, ChildFoldersGetBranchesOfTheNextLevel)
 {
-    const TreeViewController controller(model, view);
+    const TreeViewController controller(model, view, viewServices.get());
     ASSERT_EQ(topBranch().subBranches().size(), 1U);
     const TreeBranch& docs = *topBranch().subBranches().front();
     EXPECT_EQ(docs.name(), "docs");
@@ -67,14 +69,14 @@ TEST_F(TreeViewControllerTest, ChildFoldersGetBranchesOfTheNextLevel)
 TEST_F(TreeViewControllerTest, WithoutATreeTheViewIsEmpty)
 {
     model.setTopFolder(nullptr);
-    const TreeViewController controller(model, view);
+    const TreeViewController controller(model, view, viewServices.get());
     EXPECT_EQ(topBranch().name(), "");
     EXPECT_TRUE(topBranch().layoutItems().empty());
 }
 
 TEST_F(TreeViewControllerTest, FollowsTheViewsSize)
 {
-    const TreeViewController controller(model, view);
+    const TreeViewController controller(model, view, viewServices.get());
     view.resize(640, 480);
     EXPECT_EQ(topBranch().frame(), (Rect{0, 0, 640, 480}));
     EXPECT_EQ(view.branches().size(), 1U);
@@ -82,7 +84,7 @@ TEST_F(TreeViewControllerTest, FollowsTheViewsSize)
 
 TEST_F(TreeViewControllerTest, AClickSelectsAndRebuildsThePicture)
 {
-    const TreeViewController controller(model, view);
+    const TreeViewController controller(model, view, viewServices.get());
     click(node("c"));
     EXPECT_EQ(controller.selectedFile(), &node("c"));
     EXPECT_TRUE(node("c").selected());
@@ -90,7 +92,7 @@ TEST_F(TreeViewControllerTest, AClickSelectsAndRebuildsThePicture)
 
 TEST_F(TreeViewControllerTest, AnotherClickMovesTheSelection)
 {
-    const TreeViewController controller(model, view);
+    const TreeViewController controller(model, view, viewServices.get());
     click(node("c"));
     click(node("docs/a"));
     EXPECT_EQ(controller.selectedFile(), &node("docs/a"));
@@ -99,7 +101,7 @@ TEST_F(TreeViewControllerTest, AnotherClickMovesTheSelection)
 
 TEST_F(TreeViewControllerTest, SelectingNothingClearsTheMark)
 {
-    TreeViewController controller(model, view);
+    TreeViewController controller(model, view, viewServices.get());
     controller.setSelectedFile(&node("c"));
     controller.setSelectedFile(nullptr);
     EXPECT_FALSE(node("c").selected());
@@ -108,7 +110,7 @@ TEST_F(TreeViewControllerTest, SelectingNothingClearsTheMark)
 
 TEST_F(TreeViewControllerTest, ChangingTheFolderIsAnnouncedAndDrawnOnRequest)
 {
-    TreeViewController controller(model, view);
+    TreeViewController controller(model, view, viewServices.get());
     const void* announcedBy = nullptr;
     const Observation observation = NotificationCenter::defaultCenter().addObserver(
         "CurrentFolderChanged",
@@ -123,7 +125,7 @@ TEST_F(TreeViewControllerTest, ChangingTheFolderIsAnnouncedAndDrawnOnRequest)
 TEST_F(TreeViewControllerTest, HiddenFilesAreLeftOutWhileTheyAreIgnored)
 {
     model.setTopFolder(test::makeTree("/data", ".a:500 b:500"));
-    TreeViewController controller(model, view);
+    TreeViewController controller(model, view, viewServices.get());
     EXPECT_EQ(topBranch().layoutItems().size(), 2U);
     model.settings().setIgnoreHiddenFiles(true);
     controller.renderTree();
@@ -132,7 +134,7 @@ TEST_F(TreeViewControllerTest, HiddenFilesAreLeftOutWhileTheyAreIgnored)
 
 TEST_F(TreeViewControllerTest, AFolderRenderedInsideABranchBecomesPartOfIt)
 {
-    TreeViewController controller(model, view);
+    TreeViewController controller(model, view, viewServices.get());
     TreeBranch parent({0, 0, 300, 300});
     auto* folder = static_cast<Folder*>(&node("docs"));
     EXPECT_EQ(controller.renderFolder(folder, {8, 24, 200, 100}, &parent, 3), nullptr);

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QImage>
+#include <QObject>
+#include <QTimer>
+#include <QTransform>
+
+#include <functional>
+
+class QPainter;
+
+namespace tessera {
+
+/// One of the two pictures of a zoom, and what it changes from and to. It is an opaque picture of
+/// the whole view; transforms are in points with y downward, opacities 0 to 1.
+struct ZoomLayer {
+    QImage picture;
+    QTransform transformFrom;
+    QTransform transformTo;
+    double opacityFrom = 0;
+    double opacityTo = 0;
+};
+
+/// Moves one picture over another on black, both by the same slowly beginning clock. The first
+/// frame shows what the layers begin with, and the last one stays until the animation goes away.
+/// Main thread only.
+class ZoomAnimation final : public QObject {
+    Q_OBJECT
+
+public:
+    static constexpr double kSeconds = 0.7;
+
+    /// Seconds that never go back.
+    using Clock = std::function<double()>;
+    static double steadyClock();
+
+    ZoomAnimation(ZoomLayer lower, ZoomLayer upper, Clock clock);
+    ~ZoomAnimation() override;
+
+    /// Part of the way that the layers have gone by now, 0 to 1.
+    double progress() const;
+
+    /// The picture at the current progress; `painter` is the view's, whose size the layers have.
+    void paint(QPainter& painter) const;
+
+signals:
+    /// It is time to paint the next picture.
+    void frameDue();
+    /// The whole way is gone. Emitted once, from the event loop.
+    void finished();
+
+private:
+    double timePassed() const;
+    void advance();
+
+    ZoomLayer m_lower;
+    ZoomLayer m_upper;
+    Clock m_clock;
+    double m_begin;
+    QTimer m_frames;
+};
+
+} // namespace tessera
