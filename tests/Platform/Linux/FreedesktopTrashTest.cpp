@@ -1,20 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include "Platform/Linux/FreedesktopTrash.h"
-
-#include "support/TempTree.h"
+#include "support/TrashFixture.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
-#include <algorithm>
+#include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
-#include <vector>
 
-namespace tessera {
+namespace tessera::test {
 namespace {
 
 using testing::ElementsAre;
@@ -22,52 +18,380 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::StartsWith;
 
-std::string contentOf(const std::string& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
+using FreedesktopTrashTest = TrashFixture;
 
-/// A home with a trash of its own, and items beside it on the same mount.
-class FreedesktopTrashOfAHome : public testing::Test {
-protected:
-    FreedesktopTrashOfAHome()
+constexpr uid_t kNobody = 65534;
+
+/// Takes the super-user's rights over files away for a while; whoever has none keeps their own.
+class OrdinaryRights {
+public:
+    OrdinaryRights()
+        : m_succeeded(::geteuid() != 0 || ::seteuid(kNobody) == 0)
     {
-        m_tree.makeFolder("home");
-        m_tree.makeFolder("work");
+    }
+    OrdinaryRights(const OrdinaryRights&) = delete;
+    OrdinaryRights& operator=(const OrdinaryRights&) = delete;
+    ~OrdinaryRights()
+    {
+        // Without the rights nothing could be cleaned up.
+        if (::seteuid(m_user) != 0) {
+            std::abort();
+        }
     }
 
-    std::string move(const std::string& name, bool isDirectory = false)
-    {
-        const Url url(m_tree.pathOf(name), isDirectory);
-        const RecycleResult result = m_trash.recycle({url});
-        m_newPath = result.error.empty() ? result.newUrls.at(url.absoluteString()).path() : "";
-        return result.error;
-    }
+    explicit operator bool() const { return m_succeeded; }
 
-    const test::TempTree m_tree;
-    const std::string m_homeTrash = m_tree.pathOf("home/.local/share/Trash");
-    const FreedesktopTrash m_trash{{::geteuid(), m_homeTrash, {m_tree.pathOf("home")}}};
-    std::string m_newPath;
+private:
+    uid_t m_user = ::geteuid();
+    bool m_succeeded;
 };
 
-TEST_F(FreedesktopTrashOfAHome, AFileMovesIntoATrashThatIsMadeForIt)
+mode_t modeOf(const std::string& path)
+{
+    constexpr mode_t kPermissions = 07777;
+    struct stat values { };
+    return ::lstat(path.c_str(), &values) == 0 ? values.st_mode & kPermissions : 0;
+}
+
+ino_t inodeOf(const std::string& path)
+{
+    struct stat values { };
+    return ::lstat(path.c_str(), &values) == 0 ? values.st_ino : 0;
+}
+
+TEST_F(FreedesktopTrashTest, AFileMovesIntoATrashThatIsMadeForIt)
 {
     m_tree.writeFile("work/a", "content");
     EXPECT_EQ(move("work/a"), "");
     EXPECT_EQ(m_newPath, m_homeTrash + "/files/a");
     EXPECT_EQ(contentOf(m_newPath), "content");
-    EXPECT_FALSE(std::filesystem::exists(m_tree.pathOf("work/a")));
+    EXPECT_FALSE(exists(m_tree.pathOf("work/a")));
 }
 
-TEST_F(FreedesktopTrashOfAHome, TheInfoFileSaysWhereItWas)
+TEST_F(FreedesktopTrashTest, OnlyTheUserMayEnterWhatIsMade)
 {
-    m_tree.makeFile("work/a b\n\xFF");
-    EXPECT_EQ(move("work/a b\n\xFF"), "");
+    m_tree.makeFile("work/a");
+    EXPECT_EQ(move("work/a"), "");
+    for (const char* name :
+         {"home/.local",
+          "home/.local/share",
+          "home/.local/share/Trash",
+          "home/.local/share/Trash/files",
+          "home/.local/share/Trash/info"}) {
+        EXPECT_EQ(modeOf(m_tree.pathOf(name)), 0700U) << name;
+    }
+    EXPECT_EQ(modeOf(m_homeTrash + "/info/a.trashinfo"), 0600U);
+}
+
+TEST_F(FreedesktopTrashTest, TheInfoFileHasThePathsBytesPercentEncoded)
+{
+    m_tree.makeFile("work/a b\n\xFF%41");
+    EXPECT_EQ(move("work/a b\n\xFF%41"), "");
     EXPECT_THAT(
-        contentOf(m_homeTrash + "/info/a b\n\xFF.trashinfo"),
-        StartsWith("[Trash Info]\nPath=" + m_tree.pathOf("work/") + "a%20b%0A%FF\nDeletionDate="));
+        contentOf(m_homeTrash + "/info/a b\n\xFF%41.trashinfo"),
+        StartsWith(
+            "[Trash Info]\nPath=" + m_tree.pathOf("work/") + "a%20b%0A%FF%2541\nDeletionDate="));
+}
+
+TEST_F(FreedesktopTrashTest, TheOriginalPathHasNoLinksInIt)
+{
+    m_tree.makeFile("work/a");
+    m_tree.makeSymbolicLink("link", "work");
+    EXPECT_EQ(move("link/a"), "");
+    EXPECT_THAT(
+        contentOf(m_homeTrash + "/info/a.trashinfo"),
+        HasSubstr("\nPath=" + m_tree.pathOf("work/a") + '\n'));
+}
+
+TEST_F(FreedesktopTrashTest, AFolderMovesInOneStepWhateverIsInIt)
+{
+    m_tree.makeFolder("work/folder");
+    m_tree.makeFile("work/folder/file");
+    const ino_t folder = inodeOf(m_tree.pathOf("work/folder"));
+    const ino_t file = inodeOf(m_tree.pathOf("work/folder/file"));
+    EXPECT_EQ(move("work/folder/"), "");
+    EXPECT_EQ(inodeOf(m_homeTrash + "/files/folder"), folder);
+    EXPECT_EQ(inodeOf(m_homeTrash + "/files/folder/file"), file);
+}
+
+TEST_F(FreedesktopTrashTest, AFolderOfAHundredThousandFilesMovesInOneStep)
+{
+    const TempTree tree(TempTree::fastParent());
+    tree.makeFolder("folder");
+    for (int i = 0; i < 100'000; ++i) {
+        tree.makeFile("folder/" + std::to_string(i));
+    }
+    const ino_t inode = inodeOf(tree.pathOf("folder"));
+    const std::string homeTrash = tree.pathOf("Trash");
+    const Url url(tree.pathOf("folder"), true);
+    EXPECT_EQ(FreedesktopTrash({::geteuid(), homeTrash, {}}).recycle({url}).error, "");
+    EXPECT_EQ(inodeOf(homeTrash + "/files/folder"), inode);
+    EXPECT_EQ(namesIn(homeTrash + "/files/folder").size(), 100'000U);
+}
+
+TEST_F(FreedesktopTrashTest, ALinkMovesAndNotWhatItLeadsTo)
+{
+    m_tree.makeFolder("work/folder");
+    m_tree.makeSymbolicLink("work/link", "folder");
+    EXPECT_EQ(move("work/link"), "");
+    EXPECT_EQ(std::filesystem::read_symlink(m_homeTrash + "/files/link"), "folder");
+    EXPECT_TRUE(exists(m_tree.pathOf("work/folder")));
+}
+
+TEST_F(FreedesktopTrashTest, ALinkThatLeadsNowhereMovesToo)
+{
+    m_tree.makeSymbolicLink("work/link", "nowhere");
+    EXPECT_EQ(move("work/link"), "");
+    EXPECT_EQ(std::filesystem::read_symlink(m_homeTrash + "/files/link"), "nowhere");
+}
+
+TEST_F(FreedesktopTrashTest, SocketsAndPipesAreItemsLikeOthers)
+{
+    m_tree.makeFifo("work/fifo");
+    m_tree.makeSocket("work/socket");
+    EXPECT_EQ(move("work/fifo"), "");
+    EXPECT_EQ(move("work/socket"), "");
+    EXPECT_THAT(namesIn(m_homeTrash + "/files"), ElementsAre("fifo", "socket"));
+}
+
+TEST_F(FreedesktopTrashTest, ANameThatIsTakenGetsANumber)
+{
+    for (const char* content : {"first", "second", "third"}) {
+        m_tree.writeFile("work/a.txt", content);
+        EXPECT_EQ(move("work/a.txt"), "");
+    }
+    EXPECT_EQ(contentOf(m_homeTrash + "/files/a.txt"), "first");
+    EXPECT_EQ(contentOf(m_homeTrash + "/files/a 2.txt"), "second");
+    EXPECT_EQ(contentOf(m_homeTrash + "/files/a 3.txt"), "third");
+    EXPECT_EQ(m_newPath, m_homeTrash + "/files/a 3.txt");
+}
+
+TEST_F(FreedesktopTrashTest, AnItemWithoutAnInfoFileIsNotReplaced)
+{
+    std::filesystem::create_directories(m_homeTrash + "/files/a");
+    m_tree.writeFile("work/a", "content");
+    EXPECT_EQ(move("work/a"), "");
+    EXPECT_THAT(namesIn(m_homeTrash + "/files"), ElementsAre("a", "a 2"));
+    EXPECT_THAT(namesIn(m_homeTrash + "/info"), ElementsAre("a 2.trashinfo"));
+}
+
+TEST_F(FreedesktopTrashTest, AnInfoFileWithoutAnItemKeepsItsName)
+{
+    std::filesystem::create_directories(m_homeTrash + "/info");
+    m_tree.writeFile("home/.local/share/Trash/info/a.trashinfo", "of another program");
+    m_tree.makeFile("work/a");
+    EXPECT_EQ(move("work/a"), "");
+    EXPECT_THAT(namesIn(m_homeTrash + "/files"), ElementsAre("a 2"));
+    EXPECT_EQ(contentOf(m_homeTrash + "/info/a.trashinfo"), "of another program");
+}
+
+TEST_F(FreedesktopTrashTest, TheLongestNamesAreShortenedButNotInTheInfoFile)
+{
+    const std::string name = std::string(251, 'x') + ".txt";
+    for (int i = 0; i < 2; ++i) {
+        m_tree.makeFile("work/" + name);
+        EXPECT_EQ(move("work/" + name), "");
+    }
+    const std::string first = std::string(241, 'x') + ".txt";
+    const std::string second = std::string(239, 'x') + " 2.txt";
+    EXPECT_THAT(namesIn(m_homeTrash + "/files"), testing::UnorderedElementsAre(first, second));
+    EXPECT_THAT(
+        contentOf(m_homeTrash + "/info/" + second + ".trashinfo"), HasSubstr("/work/" + name));
+}
+
+TEST_F(FreedesktopTrashTest, OneThatCannotBeMovedDoesNotStopTheOthers)
+{
+    m_tree.makeFile("work/a");
+    m_tree.makeFile("work/b");
+    const Url a(m_tree.pathOf("work/a"), false);
+    const Url b(m_tree.pathOf("work/b"), false);
+    const Url missing(m_tree.pathOf("work/missing"), false);
+    const Url none(m_tree.pathOf("work/none"), false);
+    const RecycleResult result = m_trash.recycle({a, missing, none, b});
+    EXPECT_THAT(result.error, StartsWith("'missing' "));
+    EXPECT_EQ(result.newUrls.size(), 2U);
+    EXPECT_EQ(result.newUrls.at(a.absoluteString()).path(), m_homeTrash + "/files/a");
+    EXPECT_EQ(result.newUrls.at(b.absoluteString()).path(), m_homeTrash + "/files/b");
+}
+
+TEST_F(FreedesktopTrashTest, AFoldersNewUrlIsAFoldersToo)
+{
+    m_tree.makeFolder("work/folder");
+    const Url url(m_tree.pathOf("work/folder"), true);
+    const RecycleResult result = m_trash.recycle({url});
+    EXPECT_EQ(
+        result.newUrls.at(url.absoluteString()).absoluteString(),
+        Url(m_homeTrash + "/files/folder", true).absoluteString());
+}
+
+TEST_F(FreedesktopTrashTest, AnItemThatVanishedIsTold)
+{
+    EXPECT_EQ(
+        moveInVain("work/a"), "'a' was not moved to the trash, because it is not there any more.");
+    EXPECT_EQ(
+        moveInVain("gone/a"), "'a' was not moved to the trash, because it is not there any more.");
+}
+
+TEST_F(FreedesktopTrashTest, AFolderThatBecameAFileStays)
+{
+    m_tree.makeFile("work/a");
+    EXPECT_EQ(
+        moveInVain("work/a/"),
+        "'a' was not moved, because it has changed since the scan: it is no folder any more.");
+}
+
+TEST_F(FreedesktopTrashTest, AFileThatBecameAFolderStays)
+{
+    m_tree.makeFolder("work/a");
+    EXPECT_EQ(
+        moveInVain("work/a"),
+        "'a' was not moved, because it has changed since the scan: it is a folder now.");
+}
+
+TEST_F(FreedesktopTrashTest, AFolderThatBecameALinkToOneStays)
+{
+    m_tree.makeFolder("work/folder");
+    m_tree.makeSymbolicLink("work/a", "folder");
+    EXPECT_THAT(moveInVain("work/a/"), HasSubstr("it is no folder any more"));
+}
+
+TEST_F(FreedesktopTrashTest, TheRootStays)
+{
+    for (const char* path : {"/", "//", "/..", "/.", "", "relative"}) {
+        const RecycleResult result = m_trash.recycle({Url(path, true)});
+        EXPECT_THAT(result.error, HasSubstr("cannot be moved to the trash")) << path;
+        EXPECT_THAT(result.newUrls, IsEmpty()) << path;
+    }
+}
+
+TEST_F(FreedesktopTrashTest, TheHomeFolderAndWhatItIsInStay)
+{
+    m_tree.makeFolder("work/users");
+    m_tree.makeFolder("work/users/me");
+    const FreedesktopTrash trash({::geteuid(), m_homeTrash, {m_tree.pathOf("work/users/me")}});
+    for (const char* name : {"work/users/me", "work/users", "work"}) {
+        const RecycleResult result = trash.recycle({Url(m_tree.pathOf(name), true)});
+        EXPECT_THAT(result.error, HasSubstr("because your home folder is there.")) << name;
+    }
+    EXPECT_TRUE(exists(m_tree.pathOf("work/users/me")));
+    EXPECT_FALSE(exists(m_homeTrash));
+}
+
+TEST_F(FreedesktopTrashTest, ALinkThatLeadsToTheHomeFolderStays)
+{
+    m_tree.makeFolder("work/real");
+    m_tree.makeSymbolicLink("work/me", "real");
+    const FreedesktopTrash trash({::geteuid(), m_homeTrash, {m_tree.pathOf("work/me")}});
+    for (const Url& url :
+         {Url(m_tree.pathOf("work/me"), false), Url(m_tree.pathOf("work/real"), true)}) {
+        EXPECT_THAT(trash.recycle({url}).error, HasSubstr("because your home folder is there."));
+    }
+    EXPECT_THAT(namesIn(m_tree.pathOf("work")), ElementsAre("me", "real"));
+}
+
+TEST_F(FreedesktopTrashTest, TheTrashAndWhatItIsInStay)
+{
+    const FreedesktopTrash trash({::geteuid(), m_homeTrash, {}});
+    m_tree.makeFile("work/a");
+    ASSERT_EQ(move("work/a"), "");
+    const auto before = snapshotOf(m_tree.path());
+    for (const char* name : {"home/.local/share/Trash", "home/.local", "home"}) {
+        EXPECT_THAT(
+            trash.recycle({Url(m_tree.pathOf(name), true)}).error,
+            HasSubstr("because the trash is there."))
+            << name;
+    }
+    EXPECT_EQ(snapshotOf(m_tree.path()), before);
+}
+
+TEST_F(FreedesktopTrashTest, WhatIsInTheTrashStays)
+{
+    m_tree.makeFolder("work/a");
+    m_tree.makeFile("work/a/b");
+    ASSERT_EQ(move("work/a/"), "");
+    for (const char* name : {"files/", "files/a/", "files/a/b", "info/a.trashinfo"}) {
+        EXPECT_THAT(
+            moveInVain(std::string("home/.local/share/Trash/") + name),
+            HasSubstr("because it is in the trash already."))
+            << name;
+    }
+}
+
+TEST_F(FreedesktopTrashTest, ATrashThatIsALinkIsFollowed)
+{
+    std::filesystem::create_directories(m_tree.pathOf("home/.local/share"));
+    m_tree.makeFolder("elsewhere");
+    m_tree.makeSymbolicLink("home/.local/share/Trash", m_tree.pathOf("elsewhere"));
+    m_tree.makeFile("work/a");
+    EXPECT_EQ(move("work/a"), "");
+    EXPECT_EQ(m_newPath, m_tree.pathOf("elsewhere/files/a"));
+    EXPECT_THAT(moveInVain("elsewhere/files/a"), HasSubstr("in the trash already"));
+    EXPECT_THAT(moveInVain("elsewhere/"), HasSubstr("because the trash is there."));
+}
+
+TEST_F(FreedesktopTrashTest, ATrashWhosePartsAreLinksIsNotUsed)
+{
+    std::filesystem::create_directories(m_homeTrash);
+    m_tree.makeFolder("elsewhere");
+    m_tree.makeSymbolicLink("home/.local/share/Trash/files", m_tree.pathOf("elsewhere"));
+    m_tree.makeFile("work/a");
+    EXPECT_EQ(
+        moveInVain("work/a"),
+        "'a' was not moved to the trash, because its disk has no trash for you.");
+}
+
+TEST_F(FreedesktopTrashTest, WhatTheUserMayNotMoveStays)
+{
+    m_tree.setMode("home", 0777);
+    m_tree.makeFile("work/a");
+    m_tree.setMode("work", 0555);
+    std::string error;
+    {
+        const OrdinaryRights rights;
+        ASSERT_TRUE(rights);
+        error = moveInVain("work/a");
+    }
+    EXPECT_EQ(error, "'a' was not moved to the trash, because you have no permission to do so.");
+}
+
+TEST_F(FreedesktopTrashTest, WhatCannotBeLookedAtStays)
+{
+    m_tree.makeFolder("work/closed");
+    m_tree.makeFile("work/closed/a");
+    m_tree.setMode("work/closed", 0);
+    std::string error;
+    {
+        const OrdinaryRights rights;
+        ASSERT_TRUE(rights);
+        error = move("work/closed/a");
+    }
+    EXPECT_THAT(error, HasSubstr("because you have no permission to do so."));
+    m_tree.setMode("work/closed", 0700);
+    EXPECT_TRUE(exists(m_tree.pathOf("work/closed/a")));
+}
+
+TEST_F(FreedesktopTrashTest, WithoutPermissionToMakeATrashTheItemStays)
+{
+    m_tree.makeFile("work/a");
+    m_tree.setMode("work", 0777);
+    m_tree.setMode("home", 0555);
+    std::string error;
+    {
+        const OrdinaryRights rights;
+        ASSERT_TRUE(rights);
+        error = moveInVain("work/a");
+    }
+    EXPECT_EQ(error, "'a' was not moved to the trash, because its disk has no trash for you.");
+}
+
+TEST_F(FreedesktopTrashTest, APathThatIsTooLongIsTold)
+{
+    std::string name = "work";
+    while (name.size() < 5000) {
+        name += "/" + std::string(200, 'x');
+    }
+    EXPECT_THAT(moveInVain(name), HasSubstr("because its path is too long."));
 }
 
 } // namespace
-} // namespace tessera
+} // namespace tessera::test

@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/Linux/BackgroundTrash.h"
+
+#include "support/FakeMainThread.h"
+
+#include <gtest/gtest.h>
+
+#include <future>
+#include <memory>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace tessera {
+namespace {
+
+/// What a mover that is given these items answers, so that a test sees who answered what.
+RecycleResult movedTo(const std::string& place, const std::vector<Url>& urls)
+{
+    RecycleResult result;
+    for (const Url& url : urls) {
+        result.newUrls.emplace(url.absoluteString(), Url(place + url.path(), url.isDirectory()));
+    }
+    return result;
+}
+
+TEST(BackgroundTrash, TellsWhatBecameOfTheItems)
+{
+    test::FakeMainThread mainThread;
+    BackgroundTrash trash(
+        mainThread, [](const std::vector<Url>& urls) { return movedTo("/trash", urls); });
+    RecycleResult told;
+    trash.recycle(
+        {Url("/a", false), Url("/b", true)}, [&](const RecycleResult& result) { told = result; });
+    mainThread.runUntil([&] { return !told.newUrls.empty(); });
+    EXPECT_EQ(told.newUrls.at("file:///a"), Url("/trash/a", false));
+    EXPECT_EQ(told.newUrls.at("file:///b/"), Url("/trash/b", true));
+}
+
+TEST(BackgroundTrash, MovesOnAnotherThreadAndTellsOnTheMainThread)
+{
+    test::FakeMainThread mainThread;
+    std::thread::id movedOn;
+    std::thread::id toldOn;
+    BackgroundTrash trash(mainThread, [&](const std::vector<Url>&) {
+        movedOn = std::this_thread::get_id();
+        return RecycleResult();
+    });
+    trash.recycle({}, [&](const RecycleResult&) { toldOn = std::this_thread::get_id(); });
+    mainThread.runUntil([&] { return toldOn != std::thread::id(); });
+    EXPECT_EQ(toldOn, std::this_thread::get_id());
+    EXPECT_NE(movedOn, std::this_thread::get_id());
+}
+
+TEST(BackgroundTrash, AMoveThatIsStuckHoldsUpNoOther)
+{
+    test::FakeMainThread mainThread;
+    std::promise<void> serverAnswers;
+    BackgroundTrash trash(
+        mainThread, [answer = serverAnswers.get_future().share()](const std::vector<Url>& urls) {
+            if (!urls.empty()) {
+                answer.wait();
+            }
+            return RecycleResult();
+        });
+    std::vector<std::string> told;
+    trash.recycle({Url("/dead", false)}, [&](const RecycleResult&) { told.emplace_back("dead"); });
+    trash.recycle({}, [&](const RecycleResult&) { told.emplace_back("alive"); });
+    mainThread.runUntil([&] { return !told.empty(); });
+    EXPECT_EQ(told, std::vector<std::string>{"alive"});
+    serverAnswers.set_value();
+    mainThread.runUntil([&] { return told.size() == 2; });
+    EXPECT_EQ(told.back(), "dead");
+}
+
+TEST(BackgroundTrash, OneThatIsGoneTellsNothingAnyMore)
+{
+    test::FakeMainThread mainThread;
+    bool told = false;
+    {
+        std::promise<void> moved;
+        BackgroundTrash trash(mainThread, [&](const std::vector<Url>&) {
+            moved.set_value();
+            return RecycleResult();
+        });
+        trash.recycle({}, [&](const RecycleResult&) { told = true; });
+        moved.get_future().wait();
+    }
+    bool ranWhatWasQueued = false;
+    mainThread.perform([&] { ranWhatWasQueued = true; });
+    mainThread.runUntil([&] { return ranWhatWasQueued; });
+    EXPECT_FALSE(told);
+}
+
+TEST(BackgroundTrash, TheEndWaitsForAMoveUnderWay)
+{
+    test::FakeMainThread mainThread;
+    bool hasEnded = false;
+    {
+        std::promise<void> goOn;
+        BackgroundTrash trash(mainThread, [&](const std::vector<Url>&) {
+            goOn.get_future().wait();
+            hasEnded = true;
+            return RecycleResult();
+        });
+        trash.recycle({}, [](const RecycleResult&) {});
+        goOn.set_value();
+    }
+    EXPECT_TRUE(hasEnded);
+}
+
+TEST(BackgroundTrash, AHandlerMayMoveMoreOrTakeTheTrashAway)
+{
+    test::FakeMainThread mainThread;
+    auto trash = std::make_unique<BackgroundTrash>(
+        mainThread, [](const std::vector<Url>&) { return RecycleResult(); });
+    bool isDone = false;
+    trash->recycle({}, [&](const RecycleResult&) {
+        trash->recycle({}, [&](const RecycleResult&) {
+            trash.reset();
+            isDone = true;
+        });
+    });
+    mainThread.runUntil([&] { return isDone; });
+    EXPECT_EQ(trash, nullptr);
+}
+
+} // namespace
+} // namespace tessera
