@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/TempTree.h"
+#include "support/fileContent.h"
 #include "support/runProgram.h"
 
 #include <QByteArray>
@@ -10,8 +11,6 @@
 #include <unistd.h>
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <vector>
 
@@ -29,9 +28,7 @@ test::ProgramResult tessera(const std::vector<std::string>& arguments)
 
 QImage pictureAt(const std::string& path)
 {
-    std::ifstream file(path, std::ios::binary);
-    const std::string bytes{std::istreambuf_iterator<char>(file), {}};
-    return QImage::fromData(QByteArray::fromStdString(bytes), "PNG");
+    return QImage::fromData(QByteArray::fromStdString(test::fileContent(path)), "PNG");
 }
 
 long linesIn(const std::string& text)

@@ -2,11 +2,7 @@
 #include "Layout/LevelRenderer.h"
 #include "Layout/MultiLayoutObject.h"
 #include "Model/Folder.h"
-#include "Platform/Linux/LinuxFileManager.h"
-#include "Platform/Linux/LinuxFileSystemAttributes.h"
-#include "Platform/Linux/LinuxResourceValues.h"
-#include "Scanning/Scanner.h"
-#include "support/FakeMainThread.h"
+#include "scanFolder.h"
 
 #include <ftw.h>
 #include <gmock/gmock.h>
@@ -67,17 +63,7 @@ const Totals& independentTotals()
 
 const TopFolder& scannedFolder()
 {
-    static const std::unique_ptr<TopFolder> kTree = [] {
-        const LinuxFileManager fileManager;
-        const LinuxResourceValues resourceValues;
-        const LinuxFileSystemAttributes fileSystem;
-        test::FakeMainThread mainThread;
-        const auto scanner = Scanner::create(
-            {fileManager, resourceValues, fileSystem, mainThread, [] { return 0.0; }, "/nobody"});
-        scanner->scan(Url(kRealFolder, true));
-        Scanner::waitForWorkers();
-        return scanner->takeTopFolder();
-    }();
+    static const std::unique_ptr<TopFolder> kTree = test::scanFolder(kRealFolder);
     return *kTree;
 }
 

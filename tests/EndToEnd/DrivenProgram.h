@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "XDesk.h"
+#include "XServer.h"
+#include "support/ChildProcess.h"
+#include "support/TempTree.h"
+
+#include <optional>
+#include <string>
+
+namespace tessera::test {
+
+/// The program itself, started on a folder in a session of its own: an X server, a home folder and
+/// no session bus, so that nothing of the user's takes part and programs do not meet each other.
+class DrivenProgram {
+public:
+    explicit DrivenProgram(const std::string& folder);
+
+    XDesk& desk() { return m_desk; }
+    ChildProcess& process() { return m_process; }
+    /// What it has written to its standard error so far.
+    std::string log() const;
+    /// The XDG data folder that it was given.
+    std::string dataFolder() const { return m_session.pathOf("data"); }
+
+    /// The topmost window of the kind; nothing when there is none.
+    std::optional<XWindow> window(XWindow::Kind kind) const { return m_desk.window(kind); }
+
+    /// Where the tree's map lies on the screen; nothing while it is not shown.
+    std::optional<QRect> map() const;
+
+private:
+    TempTree m_session;
+    XServer m_server;
+    XDesk m_desk;
+    ChildProcess m_process;
+};
+
+} // namespace tessera::test

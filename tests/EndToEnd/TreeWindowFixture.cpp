@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "TreeWindowFixture.h"
+
+#include "eventually.h"
+
+namespace tessera::test {
+
+namespace {
+
+constexpr QRect kFirstFrame(200, 100, 1000, 700);
+constexpr int kIntoFolderHead = 12;
+
+} // namespace
+
+TreeWindow::TreeWindow()
+{
+    tree.makeFile("movie", 600'000);
+    tree.makeFile("song", 300'000);
+    tree.makeFolder("docs");
+    tree.makeFile("docs/report", 400'000);
+    tree.makeFile("docs/notes", 200'000);
+    tree.makeFolder("docs/drafts");
+    tree.makeFile("docs/drafts/first", 350'000);
+    tree.makeFile("docs/drafts/second", 150'000);
+}
+
+void TreeWindow::SetUp()
+{
+    program = std::make_unique<DrivenProgram>(tree.path());
+    desk().movePointer(beside());
+    ASSERT_TRUE(opens(XWindow::Kind::Main));
+    desk().setFrame(mainWindow(), kFirstFrame);
+    desk().activate(mainWindow());
+    ASSERT_TRUE(shows());
+}
+
+QPoint TreeWindow::beside() const
+{
+    return program->desk().screen().bottomRight();
+}
+
+testing::AssertionResult TreeWindow::failure(const std::string& reason) const
+{
+    return testing::AssertionFailure() << reason << "\nThe program wrote:\n" << program->log();
+}
+
+testing::AssertionResult TreeWindow::shows(const std::string& shown, const std::string& selected)
+{
+    m_expected = std::make_unique<ExpectedPicture>(tree.path(), shown);
+    m_expected->setSelected(selected);
+    desk().movePointer(beside()); // so that no tooltip covers the map
+    std::string difference = "there is no map";
+    const bool isShown = eventually([&] {
+        if (const std::optional<QRect> map = program->map()) {
+            m_map = *map;
+            m_expected->setMapSize(m_map.size());
+            difference = m_expected->firstDifference(desk().picture(m_map));
+        }
+        return difference.empty();
+    });
+    return isShown ? testing::AssertionSuccess() : failure(difference);
+}
+
+testing::AssertionResult TreeWindow::opens(XWindow::Kind kind)
+{
+    return eventually([&] { return program->window(kind).has_value(); })
+        ? testing::AssertionSuccess()
+        : failure("no such window came");
+}
+
+testing::AssertionResult TreeWindow::closes(XWindow::Kind kind)
+{
+    return eventually([&] { return !program->window(kind).has_value(); })
+        ? testing::AssertionSuccess()
+        : failure("the window stayed");
+}
+
+testing::AssertionResult TreeWindow::hover(const std::string& path)
+{
+    const QPoint place = placeOf(path);
+    const bool isShown = eventually([&] {
+        // The window heeds the pointer once it knows that it is active, and only a move tells it.
+        desk().movePointer(place + QPoint(1, 0));
+        desk().movePointer(place);
+        const std::optional<XWindow> tooltip = program->window(XWindow::Kind::Tooltip);
+        return tooltip && tooltip->frame.left() == place.x();
+    });
+    return isShown ? testing::AssertionSuccess() : failure("no tooltip came");
+}
+
+QPoint TreeWindow::placeOf(const std::string& path) const
+{
+    const QRectF box = m_expected->boxOf(path);
+    const bool isFolder = m_expected->isFolder(path);
+    const QPointF place
+        = isFolder ? QPointF(box.center().x(), box.top() + kIntoFolderHead) : box.center();
+    return m_map.topLeft() + place.toPoint();
+}
+
+} // namespace tessera::test

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#include "scanFolder.h"
+
+#include "Platform/Linux/LinuxFileManager.h"
+#include "Platform/Linux/LinuxFileSystemAttributes.h"
+#include "Platform/Linux/LinuxResourceValues.h"
+#include "Scanning/Scanner.h"
+#include "support/FakeMainThread.h"
+
+namespace tessera::test {
+
+std::unique_ptr<TopFolder> scanFolder(const std::string& path)
+{
+    const LinuxFileManager fileManager;
+    const LinuxResourceValues resourceValues;
+    const LinuxFileSystemAttributes fileSystem;
+    FakeMainThread mainThread;
+    const auto scanner = Scanner::create(
+        {fileManager, resourceValues, fileSystem, mainThread, [] { return 0.0; }, "/nobody"});
+    scanner->scan(Url(path, true));
+    Scanner::waitForWorkers();
+    return scanner->takeTopFolder();
+}
+
+} // namespace tessera::test
