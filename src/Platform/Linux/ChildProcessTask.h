@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "FileOps/Task.h"
+#include "Platform/Linux/FileDescriptor.h"
+
+#include <sys/types.h>
+
+#include <memory>
+
+class QObject;
+class QSocketNotifier;
+
+namespace tessera {
+
+/// A child process whose end the event loop reports. (QProcess takes its arguments as text, which
+/// file names need not be.)
+class ChildProcessTask final : public Task {
+public:
+    ChildProcessTask();
+    ~ChildProcessTask() override;
+
+    void start(
+        const std::string& program,
+        const std::vector<std::string>& arguments,
+        TerminationHandler onTerminated) override;
+    void terminate() override;
+
+private:
+    void watch();
+    void reportLater(int status);
+    void ended();
+    bool waitForEnd(int milliseconds) const;
+    /// Whether there is a process whose end nobody has taken note of.
+    bool isRunning() const { return m_process > 0; }
+
+    TerminationHandler m_onTerminated;
+    pid_t m_process = 0;
+    FileDescriptor m_handle; ///< becomes readable when the process ends
+    std::unique_ptr<QSocketNotifier> m_notifier;
+    std::unique_ptr<QObject> m_pendingReport;
+};
+
+} // namespace tessera
