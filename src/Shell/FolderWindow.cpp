@@ -6,15 +6,13 @@
 #include "TreeView/TreeViewController.h"
 #include "TreeView/TreeViewServices.h"
 #include "Utils/DisplayText.h"
+#include "Utils/ProgressSteps.h"
 #include "Utils/Util.h"
 
 #include <QLabel>
 #include <QProgressBar>
 #include <QStackedWidget>
 #include <QVBoxLayout>
-
-#include <algorithm>
-#include <cmath>
 
 namespace tessera {
 
@@ -23,17 +21,7 @@ namespace {
 constexpr QSize kFirstSize{1080, 720};
 constexpr QSize kLeastSize{320, 240};
 constexpr int kProgressWidth = 480;
-constexpr int kProgressSteps = 1000;
 constexpr int kProgressSpacing = 12;
-
-/// The scanner's figure is neither clamped nor always a number.
-int progressSteps(double percentComplete)
-{
-    if (!std::isfinite(percentComplete)) {
-        return 0;
-    }
-    return static_cast<int>(std::clamp(percentComplete, 0.0, 1.0) * kProgressSteps);
-}
 
 } // namespace
 
