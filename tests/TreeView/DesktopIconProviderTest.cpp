@@ -53,6 +53,15 @@ TEST_F(DesktopIconProviderTest, NamesThatAreNoTextHaveIconsToo)
     EXPECT_FALSE(icons.icon(*document, 32, 1).isNull());
 }
 
+TEST_F(DesktopIconProviderTest, WhatIsInNoTreeHasTheIconOfItsKind)
+{
+    const QPixmap folder = icons.iconForUrl(Url("/home/anna/new", true), 32, 1);
+    const QPixmap file = icons.iconForUrl(Url("/home/anna/new.mp3", false), 32, 1);
+
+    EXPECT_EQ(folder.cacheKey(), icons.icon(test::at(*tree, "docs"), 32, 1).cacheKey());
+    EXPECT_EQ(file.cacheKey(), icons.icon(test::at(*tree, "song.mp3"), 32, 1).cacheKey());
+}
+
 TEST_F(DesktopIconProviderTest, VolumesHaveIconsToo)
 {
     const auto volume = makeNode<Volume>("/");
