@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Resources/InterfaceFiles.h"
 
+#include "ui_CompressWindow.h"
 #include "ui_TreeTooltip.h"
 
 #include <algorithm>
@@ -24,6 +25,7 @@ std::unique_ptr<QWidget> instantiate()
 }
 
 constexpr std::array kInterfaceFiles{
+    InterfaceFile{"CompressWindow", &instantiate<Ui::CompressWindow, QDialog>},
     InterfaceFile{"TreeTooltip", &instantiate<Ui::TreeTooltip, TooltipWindow>},
 };
 

@@ -4,6 +4,7 @@
 #include "Model/FileSystemAttributes.h"
 #include "Scanning/ResourceValues.h"
 
+#include <map>
 #include <set>
 #include <string>
 
@@ -34,7 +35,8 @@ private:
 class FakeResourceValues final : public ResourceValues {
 public:
     std::set<std::string> volumes;
-    std::optional<std::uint64_t> size;
+    std::map<std::string, std::uint64_t> sizes; ///< of single paths
+    std::optional<std::uint64_t> size; ///< of all others
     std::optional<std::int64_t> modificationDate;
 
     [[nodiscard]] bool isVolume(const std::string& path) const override
@@ -42,10 +44,10 @@ public:
         return volumes.contains(path);
     }
 
-    [[nodiscard]] std::optional<std::uint64_t> allocatedSize(
-        const std::string& /*path*/) const override
+    [[nodiscard]] std::optional<std::uint64_t> allocatedSize(const std::string& path) const override
     {
-        return size;
+        const auto found = sizes.find(path);
+        return found != sizes.end() ? std::optional(found->second) : size;
     }
 
     [[nodiscard]] std::optional<std::int64_t> contentModificationDate(

@@ -1,0 +1,254 @@
+// SPDX-License-Identifier: MIT
+#include "FileOps/CompressWindowController.h"
+
+#include "Model/NotificationCenter.h"
+#include "Scanning/ResourceValues.h"
+#include "TreeView/IconProvider.h"
+#include "Utils/DisplayText.h"
+#include "Utils/Log.h"
+#include "Utils/ProgressSteps.h"
+#include "Utils/Util.h"
+#include "Utils/Workspace.h"
+
+#include <QCoreApplication>
+#include <QDialog>
+#include <QLabel>
+#include <QPointer>
+#include <QProgressBar>
+#include <QPushButton>
+
+#include <algorithm>
+#include <set>
+#include <utility>
+
+namespace tessera {
+
+namespace {
+
+constexpr std::chrono::milliseconds kUpdateInterval{100};
+constexpr std::chrono::milliseconds kTimeToReadTheEnd{1000};
+constexpr int kIconPoints = 48;
+constexpr int kFirstNumber = 2;
+
+/// Archives are usually smaller than what is in them; after success the rest of the bar is filled
+/// by this much at a time up to a bound beyond its end.
+constexpr double kFillStep = 0.1;
+constexpr double kFillEnd = 1.1;
+
+/// The archives that are being written, some of which are not on the disk yet.
+std::set<std::string>& targetsInUse()
+{
+    static std::set<std::string> targets;
+    return targets;
+}
+
+bool isTaken(const std::string& path, const ResourceValues& resourceValues)
+{
+    // Whatever has a size is there, a dangling link too.
+    return targetsInUse().contains(path) || resourceValues.allocatedSize(path).has_value();
+}
+
+/// "X.zip", or the first of "X 2.zip", "X 3.zip" and so on that is free.
+std::string freeTarget(const std::string& sourcePath, const ResourceValues& resourceValues)
+{
+    std::string candidate = sourcePath + ".zip";
+    for (int number = kFirstNumber; isTaken(candidate, resourceValues); ++number) {
+        candidate = sourcePath + ' ' + std::to_string(number) + ".zip";
+    }
+    return candidate;
+}
+
+void callLaterByTimer(std::chrono::milliseconds delay, std::function<void()> work)
+{
+    QTimer::singleShot(delay, qApp, [work = std::move(work)] { work(); });
+}
+
+} // namespace
+
+std::shared_ptr<CompressWindowController> CompressWindowController::make(
+    CompressServices services, CallLater callLater)
+{
+    // It may let go of itself while one of its own signals is being delivered.
+    return {
+        new CompressWindowController(
+            std::move(services), callLater ? std::move(callLater) : callLaterByTimer),
+        [](CompressWindowController* controller) { controller->deleteLater(); }};
+}
+
+CompressWindowController::CompressWindowController(CompressServices services, CallLater callLater)
+    : m_services(std::move(services))
+    , m_callLater(std::move(callLater))
+    , m_window(Util::loadViewFromNib<QDialog>("CompressWindow"))
+    , m_outputIcon(m_window->findChild<QLabel*>(QStringLiteral("outputIcon")))
+    , m_outputField(m_window->findChild<QLabel*>(QStringLiteral("outputField")))
+    , m_progress(m_window->findChild<QProgressBar*>(QStringLiteral("progress")))
+    , m_cancelButton(m_window->findChild<QPushButton*>(QStringLiteral("cancelButton")))
+{
+    m_progress->setRange(0, kProgressSteps);
+    m_updateTimer.setInterval(kUpdateInterval);
+    connect(&m_updateTimer, &QTimer::timeout, this, &CompressWindowController::updateProgress);
+    connect(m_cancelButton, &QPushButton::clicked, this, &CompressWindowController::cancelCompress);
+    connect(m_window.get(), &QDialog::rejected, this, &CompressWindowController::cancelCompress);
+    connect(qApp, &QCoreApplication::aboutToQuit, this, &CompressWindowController::breakOffAtExit);
+}
+
+CompressWindowController::~CompressWindowController() = default;
+
+void CompressWindowController::showWindow(const QWidget* above)
+{
+    m_window->adjustSize();
+    if (above != nullptr) {
+        const QRect frame = above->frameGeometry();
+        m_window->move(frame.center() - m_window->rect().center());
+    }
+    m_window->show();
+}
+
+void CompressWindowController::compressURL(const Url& url, std::uint64_t withSize)
+{
+    m_self = shared_from_this();
+    m_state = State::New;
+    m_lastCompressedPercent = 0;
+    m_sourceAllocation = withSize;
+    m_sourcePath = url.path();
+    m_targetPath = freeTarget(m_sourcePath, m_services.resourceValues);
+    targetsInUse().insert(m_targetPath);
+    setOutputText(tr("Creating '%1'").arg(displayText(archive().lastPathComponent())));
+    m_updateTimer.start();
+    startArchiver();
+    m_state = State::Running;
+}
+
+void CompressWindowController::startArchiver()
+{
+    m_backupTask = m_services.makeTask();
+    m_backupTask->start(
+        m_services.archiver,
+        {"-c", "-k", "--sequesterRsrc", m_sourcePath, m_targetPath},
+        [this](int status) { checkATaskStatus(status); });
+}
+
+void CompressWindowController::updateProgress()
+{
+    const std::optional<std::uint64_t> archiveBytes
+        = m_services.resourceValues.allocatedSize(m_targetPath);
+    if (archiveBytes) {
+        showIcon();
+    }
+    double value
+        = static_cast<double>(archiveBytes.value_or(0)) / static_cast<double>(m_sourceAllocation);
+    if (m_state == State::Succeeded) {
+        m_lastCompressedPercent += kFillStep;
+        value += m_lastCompressedPercent;
+    }
+    m_progress->setValue(progressSteps(value));
+    if (m_state == State::Succeeded && value >= kFillEnd) {
+        m_updateTimer.stop();
+        compressFinished(archive());
+    } else if (m_state >= State::Failed && m_backupTask == nullptr) {
+        // A cancelled program that still runs might yet write what was moved away.
+        m_updateTimer.stop();
+        trashIncompleteArchive();
+    }
+}
+
+void CompressWindowController::cancelCompress()
+{
+    if (m_backupTask == nullptr) {
+        return;
+    }
+    m_backupTask->terminate();
+    m_state = State::Cancelled;
+    setOutputText(tr("Compression Canceled"));
+    m_cancelButton->setEnabled(false);
+}
+
+void CompressWindowController::checkATaskStatus(int status)
+{
+    m_backupTask.reset();
+    m_cancelButton->setEnabled(false);
+    if (status != 0) {
+        logLine("Task failed.");
+        m_state = State::Failed;
+        setOutputText(tr("Compression Failed"));
+        return;
+    }
+    logLine("Task succeeded.");
+    // Who cancels at the last moment wants no archive either.
+    if (m_state != State::Cancelled) {
+        m_state = State::Succeeded;
+    }
+}
+
+void CompressWindowController::trashIncompleteArchive()
+{
+    m_services.workspace.recycleURLs(
+        {archive()}, [self = QPointer(this)](const RecycleResult& result) {
+            if (self.isNull()) {
+                return;
+            }
+            std::optional<Url> inTrash;
+            const auto moved = result.newUrls.find(self->archive().absoluteString());
+            if (moved != result.newUrls.end()) {
+                inTrash = moved->second;
+            } else {
+                logLine("Error deleting incomplete archive");
+            }
+            self->m_callLater(kTimeToReadTheEnd, [self, inTrash] {
+                if (!self.isNull()) {
+                    self->compressFinished(inTrash);
+                }
+            });
+        });
+}
+
+void CompressWindowController::compressFinished(const std::optional<Url>& archive)
+{
+    targetsInUse().erase(m_targetPath);
+    m_sourcePath.clear();
+    m_targetPath.clear();
+    m_progress->reset();
+    NotificationCenter::defaultCenter().post(
+        "ItemCompressed", archive ? NotificationObject(*archive) : NotificationObject());
+    release();
+}
+
+void CompressWindowController::breakOffAtExit()
+{
+    if (m_self == nullptr) {
+        return;
+    }
+    // Ends the archiving program, so that it does not go on writing without us.
+    m_backupTask.reset();
+    const bool isUntouched = m_updateTimer.isActive() && m_state != State::Succeeded;
+    m_updateTimer.stop();
+    if (isUntouched) {
+        m_services.workspace.recycleURLs({archive()}, [](const RecycleResult& /*result*/) {});
+    }
+    targetsInUse().erase(m_targetPath);
+    release();
+}
+
+void CompressWindowController::release()
+{
+    m_window->close();
+    m_self.reset();
+}
+
+void CompressWindowController::setOutputText(const QString& text)
+{
+    m_outputField->ensurePolished();
+    m_outputField->setText(m_outputField->fontMetrics().elidedText(
+        text, Qt::ElideMiddle, m_outputField->maximumWidth()));
+    m_outputField->setAccessibleName(text);
+}
+
+void CompressWindowController::showIcon()
+{
+    if (m_outputIcon->pixmap(Qt::ReturnByValue).isNull()) {
+        m_outputIcon->setPixmap(
+            m_services.icons.iconForUrl(archive(), kIconPoints, m_window->devicePixelRatioF()));
+    }
+}
+
+} // namespace tessera

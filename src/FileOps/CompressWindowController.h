@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "FileOps/Task.h"
+#include "Model/Url.h"
+
+#include <QObject>
+#include <QTimer>
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+class QDialog;
+class QLabel;
+class QProgressBar;
+class QPushButton;
+class QString;
+
+namespace tessera {
+
+class IconProvider;
+class ResourceValues;
+class Workspace;
+
+/// What compressing needs from the system. Everything must outlive the program's run.
+struct CompressServices {
+    std::string archiver; ///< path of the archiving program, as bytes
+    std::function<std::unique_ptr<Task>()> makeTask;
+    Workspace& workspace;
+    const ResourceValues& resourceValues;
+    IconProvider& icons;
+};
+
+/// Calls back once after a time, from the event loop.
+using CallLater = std::function<void(std::chrono::milliseconds, std::function<void()>)>;
+
+/// Makes a zip archive of an item beside the item, in a small window of its own. The progress is
+/// estimated from the archive's growing size. Whatever the end, the notification "ItemCompressed"
+/// is posted: with the URL of the archive, or of the incomplete archive in the trash, or of none.
+///
+/// Once started the controller keeps itself alive until that end, so that nobody need hold it.
+/// The work also goes on when the main window is closed; it is broken off, and the incomplete
+/// archive moved to the trash, when its own window is closed or the program ends. Main thread
+/// only.
+class CompressWindowController final
+    : public QObject,
+      public std::enable_shared_from_this<CompressWindowController> {
+    Q_OBJECT
+
+public:
+    enum class State : std::int32_t { New, Running, Succeeded, Failed, Cancelled };
+
+    /// Loads the window, hidden. It is shared with itself while it works. Tests pass a `callLater`.
+    static std::shared_ptr<CompressWindowController> make(
+        CompressServices services, CallLater callLater = {});
+    ~CompressWindowController() override;
+
+    /// Shows the window in the middle of `above`, or of the screen.
+    void showWindow(const QWidget* above = nullptr);
+
+    /// Starts; to be called once. `withSize` is what the item allocates, in bytes.
+    void compressURL(const Url& url, std::uint64_t withSize);
+
+    /// What the timer does, ten times a second: shows the progress and ends what has ended.
+    void updateProgress();
+
+    /// Breaks the work off; nothing when the archiving program has ended.
+    void cancelCompress();
+
+    State state() const { return m_state; }
+    QDialog& window() const { return *m_window; }
+    /// Runs updateProgress() while there is something to wait for.
+    const QTimer& updateTimer() const { return m_updateTimer; }
+
+private:
+    explicit CompressWindowController(CompressServices services, CallLater callLater);
+
+    void startArchiver();
+    void checkATaskStatus(int status);
+    void compressFinished(const std::optional<Url>& archive);
+    void trashIncompleteArchive();
+    void breakOffAtExit();
+    void release();
+
+    void setOutputText(const QString& text);
+    void showIcon();
+    Url archive() const { return {m_targetPath, false}; }
+
+    CompressServices m_services;
+    CallLater m_callLater;
+
+    std::unique_ptr<QDialog> m_window;
+    QLabel* m_outputIcon;
+    QLabel* m_outputField;
+    QProgressBar* m_progress;
+    QPushButton* m_cancelButton;
+
+    std::string m_sourcePath;
+    std::string m_targetPath;
+    std::uint64_t m_sourceAllocation = 0;
+    std::unique_ptr<Task> m_backupTask; ///< null when it has ended
+    QTimer m_updateTimer;
+    State m_state = State::New;
+    double m_lastCompressedPercent = 0; ///< what is added to the progress after success
+
+    /// Its hold on itself while it works.
+    std::shared_ptr<CompressWindowController> m_self;
+};
+
+} // namespace tessera
