@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "QuickLook/ImageDecoding.h"
+
+#include <QByteArray>
+#include <QImageIOHandler>
+#include <QImageReader>
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <mutex>
+#include <string_view>
+
+namespace tessera {
+
+namespace {
+
+/// More pixels take seconds to decode, whatever remains of them.
+constexpr std::int64_t kMostPixels = 256 * 1024 * 1024;
+/// Qt's own limit refuses the larger ones of today's cameras.
+constexpr int kMostMegabytes = 512;
+
+bool isPlainPixels(const QByteArray& format)
+{
+    static constexpr std::array<std::string_view, 21> kFormats{
+        "avif", "bmp", "cur", "gif", "heic", "heif", "icns", "ico", "jp2",  "jpeg", "jpg",
+        "jxl",  "pbm", "pgm", "png", "pnm",  "ppm",  "qoi",  "tif", "tiff", "webp"};
+    const std::string_view name(format.constData(), static_cast<std::size_t>(format.size()));
+    return std::ranges::find(kFormats, name) != kFormats.end();
+}
+
+void raiseAllocationLimit()
+{
+    static std::once_flag once;
+    std::call_once(once, [] { QImageReader::setAllocationLimit(kMostMegabytes); });
+}
+
+/// An icon file holds the same picture in several sizes.
+void goToLargestImage(QImageReader& reader)
+{
+    constexpr int kMostImages = 64;
+    const QByteArray format = reader.format();
+    if (format != "ico" && format != "icns") {
+        return;
+    }
+    int largest = 0;
+    int largestWidth = reader.size().width();
+    for (int i = 1; i < std::min(reader.imageCount(), kMostImages); ++i) {
+        if (reader.jumpToImage(i) && reader.size().width() > largestWidth) {
+            largest = i;
+            largestWidth = reader.size().width();
+        }
+    }
+    (void)reader.jumpToImage(largest);
+}
+
+/// How many pixels to ask for of an image of `size`; it is never enlarged.
+QSize shownSize(const QSize& size, const QSize& limit)
+{
+    if (size.width() <= limit.width() && size.height() <= limit.height()) {
+        return size;
+    }
+    return size.scaled(limit, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+}
+
+} // namespace
+
+DecodedImage decodedImage(QIODevice& device, const QSize& limit)
+{
+    raiseAllocationLimit();
+    QImageReader reader(&device);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    if (!isPlainPixels(reader.format())) {
+        return {};
+    }
+    goToLargestImage(reader);
+    const QSize stored = reader.size();
+    if (!stored.isValid() || stored.isEmpty()) {
+        return {};
+    }
+    const bool liesOnItsSide
+        = reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
+    DecodedImage decoded;
+    decoded.pixelSize = liesOnItsSide ? stored.transposed() : stored;
+    if (std::int64_t{stored.width()} * stored.height() > kMostPixels) {
+        return decoded;
+    }
+    const QSize wanted = shownSize(decoded.pixelSize, limit);
+    if (wanted != decoded.pixelSize) {
+        // The size asked for is that before the turn.
+        reader.setScaledSize(liesOnItsSide ? wanted.transposed() : wanted);
+    }
+    decoded.image = reader.read();
+    return decoded;
+}
+
+} // namespace tessera

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "QuickLook/Preview.h"
+
+#include <atomic>
+
+namespace tessera {
+
+class FileReader;
+
+/// How much of a text is shown, in bytes.
+inline constexpr std::size_t kPreviewTextBytes = 64 * 1024;
+
+/// Looks at the file and makes of it what can be shown: a picture, pages, the beginning of a text,
+/// or no more than its description. It may block for as long as the file system does, hence runs
+/// on workers only; once `isCancelled` is set it ends soon, with whatever it has.
+Preview readPreview(
+    const FileReader& files, const PreviewRequest& request, const std::atomic<bool>& isCancelled);
+
+} // namespace tessera
