@@ -161,6 +161,17 @@ File* CoreUtil::locateURL(const Url& url, Folder& inFolder)
     return nullptr;
 }
 
+Folder* CoreUtil::locateParent(const Url& url, Folder& inFolder)
+{
+    const std::string& path = url.path();
+    const std::size_t slash = path.rfind('/');
+    if (slash == std::string::npos) {
+        return nullptr;
+    }
+    const std::string_view parent = std::string_view(path).substr(0, slash);
+    return nodeCast<Folder>(locateURL(Url(parent.empty() ? "/" : parent, true), inFolder));
+}
+
 double CoreUtil::aspectRatio(double width, double height)
 {
     return width > height ? width / height : height / width;

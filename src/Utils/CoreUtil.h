@@ -31,6 +31,10 @@ public:
     /// hide its smaller sibling "ab".
     static File* locateURL(const Url& url, Folder& inFolder);
 
+    /// The folder in that tree which holds, or would hold, the item of `url`; null when it is not
+    /// there. Found as locateURL() finds it.
+    static Folder* locateParent(const Url& url, Folder& inFolder);
+
     /// The larger side divided by the smaller.
     static double aspectRatio(double width, double height);
 

@@ -48,6 +48,42 @@ TEST(FormatSize, AHalfIsRoundedToTheEvenDigit)
     EXPECT_EQ(CoreUtil::formatSize(1250000), "1.2 MB");
 }
 
+TEST(LocateParent, IsTheFolderThatHoldsTheItem)
+{
+    const auto top = test::makeTree("/home/me", "docs/ ( deep/ ( a:1 ) )");
+    EXPECT_EQ(
+        CoreUtil::locateParent(Url("/home/me/docs/deep/new.zip", false), *top),
+        &test::at(*top, "docs/deep"));
+}
+
+TEST(LocateParent, IsTheTopFolderForWhatLiesInIt)
+{
+    const auto top = test::makeTree("/home/me", "docs/ ( a:1 )");
+    EXPECT_EQ(CoreUtil::locateParent(Url("/home/me/new", false), *top), top.get());
+    const auto root = test::makeTree("/", "docs/ ( a:1 )");
+    EXPECT_EQ(CoreUtil::locateParent(Url("/new", false), *root), root.get());
+}
+
+TEST(LocateParent, IsNothingOutsideTheTree)
+{
+    const auto top = test::makeTree("/home/me", "docs/ ( a:1 )");
+    EXPECT_EQ(CoreUtil::locateParent(Url("/home/you/new", false), *top), nullptr);
+    EXPECT_EQ(CoreUtil::locateParent(Url("/home/me/gone/new", false), *top), nullptr);
+    EXPECT_EQ(CoreUtil::locateParent(Url(), *top), nullptr);
+}
+
+TEST(LocateParent, IsNothingBelowADocument)
+{
+    const auto top = test::makeTree("/home/me", "docs:1");
+    EXPECT_EQ(CoreUtil::locateParent(Url("/home/me/docs/new", false), *top), nullptr);
+}
+
+TEST(LocateParent, ALargerSiblingWhoseNameIsAPrefixHidesTheFolder)
+{
+    const auto top = test::makeTree("/a", "b/ ( x:9 ) bc/ ( y:1 )");
+    EXPECT_EQ(CoreUtil::locateParent(Url("/a/bc/new", false), *top), nullptr);
+}
+
 TEST(AspectRatio, IsThatOfTheLargerSideToTheSmaller)
 {
     EXPECT_EQ(CoreUtil::aspectRatio(2, 8), 4);

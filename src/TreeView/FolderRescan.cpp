@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+#include "TreeView/FolderRescan.h"
+
+#include "Model/TopFolder.h"
+#include "Model/nodeLookup.h"
+#include "Scanning/Scanner.h"
+#include "TreeView/RescanIndicator.h"
+#include "TreeView/TreeMapView.h"
+#include "TreeView/TreeScreen.h"
+#include "Utils/Log.h"
+
+#include <utility>
+
+namespace tessera {
+
+FolderRescan::FolderRescan(
+    const ScanEnvironment& environment, TreeMapView& treeView, TreeScreen& screen)
+    : m_environment(environment)
+    , m_treeView(treeView)
+    , m_screen(screen)
+{
+}
+
+FolderRescan::~FolderRescan()
+{
+    if (m_rescanner != nullptr) {
+        m_rescanner->setDelegate(nullptr);
+        m_rescanner->cancel();
+    }
+    removeIndicator();
+}
+
+void FolderRescan::rescan(Folder& folder)
+{
+    if (m_rescanFolder != nullptr || folder.parent() == nullptr) {
+        return;
+    }
+    m_rescanFolder = &folder;
+    folder.setRescanning(true);
+    m_screen.renderTree();
+    addIndicator();
+    m_rescanner = Scanner::create(m_environment);
+    m_rescanner->setDelegate(this);
+    m_rescanner->scan(folder.url());
+}
+
+std::optional<Rect> FolderRescan::indicatorFrame() const
+{
+    const std::optional<Rect> box = m_treeView.findRectForFile(*m_rescanFolder);
+    if (!box) {
+        return std::nullopt;
+    }
+    const Rect frame = RescanIndicator::frameFor(*box);
+    return RescanIndicator::fits(frame) ? std::optional(frame) : std::nullopt;
+}
+
+void FolderRescan::addIndicator()
+{
+    if (const std::optional<Rect> frame = indicatorFrame()) {
+        // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the view owns it
+        m_rescanIndicator = new RescanIndicator(&m_treeView);
+        m_rescanIndicator->place(*frame);
+    }
+}
+
+void FolderRescan::pictureChanged()
+{
+    if (m_rescanFolder == nullptr || m_rescanIndicator == nullptr) {
+        return;
+    }
+    if (const std::optional<Rect> frame = indicatorFrame()) {
+        m_rescanIndicator->place(*frame);
+    } else {
+        m_rescanIndicator->hide();
+    }
+}
+
+void FolderRescan::removeIndicator()
+{
+    delete m_rescanIndicator.data();
+}
+
+void FolderRescan::nodeWillLeave(const File& node)
+{
+    if (m_rescanFolder != nullptr && isAtOrBelow(*m_rescanFolder, node)) {
+        removeIndicator();
+        const std::shared_ptr<Scanner> rescanner = m_rescanner; // dropped while it cancels
+        rescanner->cancel();
+    }
+}
+
+void FolderRescan::scanUpdated(Scanner& scanner)
+{
+    if (m_rescanIndicator != nullptr) {
+        const double percent = scanner.percentComplete();
+        logLine("percent %f", percent);
+        m_rescanIndicator->setValue(percent);
+    }
+}
+
+void FolderRescan::scanEnded(Scanner& scanner)
+{
+    removeIndicator();
+    Folder& folder = *m_rescanFolder;
+    std::unique_ptr<TopFolder> scanned = scanner.takeTopFolder();
+    TopFolder& with = *scanned;
+    // What the folder looked like from outside was not read anew.
+    with.setHidden(folder.hidden());
+    with.setIgnored(folder.ignored());
+    // Released when nothing on screen stands for what is in it any more.
+    const std::unique_ptr<File> old = folder.parent()->replaceChild(folder, std::move(scanned));
+    m_screen.folderWasReplaced(folder, with);
+    m_screen.objectTreeRefreshed();
+    m_screen.renderTree();
+    folder.setRescanning(false);
+    m_rescanFolder = nullptr;
+    m_rescanner.reset();
+}
+
+void FolderRescan::scanCancelled(Scanner& /*scanner*/)
+{
+    m_screen.renderTree();
+    m_rescanFolder->setRescanning(false);
+    m_rescanFolder = nullptr;
+    m_rescanner.reset();
+}
+
+} // namespace tessera

@@ -1,0 +1,181 @@
+// SPDX-License-Identifier: MIT
+#include "TreeView/ItemTrasher.h"
+
+#include "Model/RootModel.h"
+#include "Model/UserDefaults.h"
+#include "Model/nodeLookup.h"
+#include "TreeView/TreeScreen.h"
+#include "Utils/Alert.h"
+#include "Utils/CoreUtil.h"
+#include "Utils/DisplayText.h"
+#include "Utils/Workspace.h"
+
+#include <QPointer>
+
+#include <algorithm>
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace tessera {
+
+namespace {
+
+constexpr int kCancelled = Alert::kFirstButton + 1;
+
+QString kindOf(const File& item)
+{
+    return item.isFolder() ? ItemTrasher::tr("folder") : ItemTrasher::tr("file");
+}
+
+/// Whether the item or a folder around it is hidden. The scan's own top folder is where the user
+/// chose to look, so it hides nothing.
+bool isHiddenBelow(const TopFolder* top, const File& item)
+{
+    for (const File* at = &item; at != nullptr && at != top; at = at->parent()) {
+        if (at->hidden()) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// Nodes that know their own path, as rescanned folders do, learn the one they have now.
+void rebase(File& node, const std::string& from, const std::string& to)
+{
+    std::vector<File*> left{&node};
+    while (!left.empty()) {
+        File* const at = left.back();
+        left.pop_back();
+        if (auto* top = nodeCast<TopFolder>(at); top != nullptr && top->origin().starts_with(from)) {
+            top->setOrigin(to + top->origin().substr(from.size()));
+        }
+        if (const auto* folder = nodeCast<Folder>(at)) {
+            left.insert(left.end(), folder->children().begin(), folder->children().end());
+        }
+    }
+}
+
+bool liesAtOrBelow(const std::string& path, const std::string& above)
+{
+    return path == above || path.starts_with(above + '/');
+}
+
+} // namespace
+
+ItemTrasher::ItemTrasher(
+    RootModel& model,
+    const UserDefaults& defaults,
+    Workspace& workspace,
+    Alert& alert,
+    TreeScreen& screen)
+    : m_model(model)
+    , m_defaults(defaults)
+    , m_workspace(workspace)
+    , m_alert(alert)
+    , m_screen(screen)
+{
+}
+
+void ItemTrasher::trash(const File& item)
+{
+    const Url url = item.url();
+    if (isOnItsWay(url.path()) || !mayTrash(item)) {
+        return;
+    }
+    m_onTheirWay.insert(url.path());
+    m_workspace.recycleURLs(
+        {url}, [self = QPointer<ItemTrasher>(this), url](const RecycleResult& result) {
+            if (self != nullptr) {
+                self->recycled(url, result);
+            }
+        });
+}
+
+bool ItemTrasher::isOnItsWay(const std::string& path) const
+{
+    return std::any_of(m_onTheirWay.begin(), m_onTheirWay.end(), [&path](const auto& moving) {
+        return liesAtOrBelow(path, moving);
+    });
+}
+
+bool ItemTrasher::mayTrash(const File& item) const
+{
+    return needsSystemWarning(item.url()) ? confirmSystem(item) : confirmHidden(item);
+}
+
+bool ItemTrasher::needsSystemWarning(const Url& url) const
+{
+    const std::string text = url.absoluteString();
+    const std::vector<std::string>& safe = m_model.nonSystemFolders();
+    return m_defaults.boolean(kWarnDeleteSystemKey)
+        && std::none_of(safe.begin(), safe.end(), [&text](const std::string& folder) {
+               return text.starts_with(folder);
+           });
+}
+
+bool ItemTrasher::confirmSystem(const File& item) const
+{
+    return ask(tr("The selected %1 '%2' is located inside a system folder. Other applications may "
+                  "be using this %1. Are you sure you want to move this %1 to the trash?")
+                   .arg(kindOf(item), displayText(item.name())));
+}
+
+bool ItemTrasher::confirmHidden(const File& item) const
+{
+    if (!isHiddenBelow(m_model.topFolder(), item) || !m_defaults.boolean(kWarnDeleteHiddenKey)) {
+        return true;
+    }
+    const QString question = item.hidden()
+        ? tr("The selected %1 '%2' is marked as hidden, are you sure you want to move this item to "
+             "the trash?")
+        : tr("The selected %1 '%2' is located inside a hidden folder, are you sure you want to "
+             "move this item to the trash?");
+    return ask(question.arg(kindOf(item), displayText(item.name())));
+}
+
+bool ItemTrasher::ask(const QString& question) const
+{
+    return m_alert.runModal({tr("Warning"), question, {tr("Move To Trash"), tr("Cancel")}})
+        != kCancelled;
+}
+
+void ItemTrasher::recycled(const Url& url, const RecycleResult& result)
+{
+    m_onTheirWay.erase(url.path());
+    if (!result.error.empty()) {
+        m_alert.beginSheet(
+            {tr("Error moving to Trash"),
+             tr("Error moving '%1' to the Trash for recycling. This file may be restricted or you "
+                "may have read-only access to this file.")
+                 .arg(displayText(url.lastPathComponent())),
+             {tr("OK")},
+             displayText(result.error)});
+        return;
+    }
+    const auto found = result.newUrls.find(url.absoluteString());
+    moveNode(url, found == result.newUrls.end() ? nullptr : &found->second);
+    m_screen.setSelectedFile(nullptr);
+    m_screen.objectTreeRefreshed();
+    m_screen.renderTree();
+}
+
+void ItemTrasher::moveNode(const Url& from, const Url* to)
+{
+    // Looked up again: a rescan may have put another tree in the place of what the item was in.
+    TopFolder* const top = m_model.topFolder();
+    File* const item = top == nullptr ? nullptr : nodeAtPath(*top, from.path());
+    if (item == nullptr || item == top) {
+        return;
+    }
+    m_screen.nodeWillLeave(*item);
+    std::unique_ptr<File> node = item->parent()->removeChild(*item);
+    Folder* const trash = to == nullptr ? nullptr : CoreUtil::locateParent(*to, *top);
+    if (trash != nullptr) {
+        node->setFragment(to->lastPathComponent());
+        rebase(*node, from.path(), to->path());
+        trash->insertChild(std::move(node));
+    }
+}
+
+} // namespace tessera

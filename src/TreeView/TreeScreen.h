@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+namespace tessera {
+
+class File;
+class Folder;
+
+/// The screen that shows the tree, as those see it who change the tree under it.
+class TreeScreen {
+public:
+    TreeScreen() = default;
+    TreeScreen(const TreeScreen&) = delete;
+    TreeScreen& operator=(const TreeScreen&) = delete;
+    virtual ~TreeScreen() = default;
+
+    /// To be called while the node is still in its place, before it leaves that for another or for
+    /// good: what is shown or done in there ends.
+    virtual void nodeWillLeave(File& node) = 0;
+
+    /// The replaced folder is out of the tree and about to be released; `with` stands in its
+    /// place.
+    virtual void folderWasReplaced(Folder& folder, Folder& with) = 0;
+
+    /// Does not draw.
+    virtual void setSelectedFile(File* file) = 0;
+
+    /// The tree has other sizes now: a volume reads its own anew.
+    virtual void objectTreeRefreshed() = 0;
+
+    /// Rebuilds the whole picture from the tree.
+    virtual void renderTree() = 0;
+};
+
+} // namespace tessera

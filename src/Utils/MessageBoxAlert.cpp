@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "Utils/MessageBoxAlert.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include <memory>
+
+namespace tessera {
+
+namespace {
+
+QString below(const QString& text, const QString& reason)
+{
+    return reason.isEmpty() ? text : text + QStringLiteral("\n\n") + reason;
+}
+
+std::unique_ptr<QMessageBox> makeBox(const AlertText& text)
+{
+    auto box = std::make_unique<QMessageBox>(QApplication::activeWindow());
+    box->setIcon(QMessageBox::Warning);
+    // Names of files stand in the texts, and must not be taken for markup.
+    box->setTextFormat(Qt::PlainText);
+    box->setText(text.messageText);
+    box->setInformativeText(below(text.informativeText, text.reason));
+    for (int i = 0; i < text.buttons.size(); ++i) {
+        const auto role = i == 0 ? QMessageBox::AcceptRole : QMessageBox::RejectRole;
+        QPushButton* const button = box->addButton(text.buttons[i], role);
+        button->setProperty("answer", Alert::kFirstButton + i);
+        if (i == 0) {
+            box->setDefaultButton(button);
+        }
+        box->setEscapeButton(button);
+    }
+    return box;
+}
+
+} // namespace
+
+int MessageBoxAlert::runModal(const AlertText& text)
+{
+    const std::unique_ptr<QMessageBox> box = makeBox(text);
+    box->exec();
+    const int last = kFirstButton + static_cast<int>(text.buttons.size()) - 1;
+    const QAbstractButton* const clicked = box->clickedButton();
+    return clicked == nullptr ? last : clicked->property("answer").toInt();
+}
+
+void MessageBoxAlert::beginSheet(const AlertText& text)
+{
+    QMessageBox* const box = makeBox(text).release();
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setWindowModality(Qt::WindowModal);
+    box->show();
+}
+
+} // namespace tessera
