@@ -26,7 +26,11 @@ tessera::LaunchServices launchServices(const tessera::PlatformServices& services
          services.userAccount->homeDirectory()},
         {*services.userDefaults, *services.recentDocuments, *services.standardFolders},
         *services.fileAccess,
-        *services.motionPreference};
+        *services.motionPreference,
+        *services.workspace,
+        services.fileReader,
+        services.makeTask,
+        services.programFolder + "/tessera-ditto"};
 }
 
 } // namespace

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "FileOps/Task.h"
 #include "Model/FileSystemAttributes.h"
 #include "Model/RecentDocuments.h"
 #include "Model/StandardFolders.h"
 #include "Model/UserDefaults.h"
 #include "Platform/Qt/QtMainThread.h"
+#include "QuickLook/FileReader.h"
 #include "Scanning/DirectoryEnumerator.h"
 #include "Scanning/ResourceValues.h"
 #include "Shell/FileAccess.h"
@@ -15,6 +17,7 @@
 
 #include <functional>
 #include <memory>
+#include <string>
 
 namespace tessera {
 
@@ -32,6 +35,9 @@ struct PlatformServices {
     std::unique_ptr<MotionPreference> motionPreference;
     std::unique_ptr<QtMainThread> mainThread;
     std::unique_ptr<Workspace> workspace; ///< uses mainThread
+    std::shared_ptr<const FileReader> fileReader;
+    std::function<std::unique_ptr<Task>()> makeTask; ///< a child process, not yet started
+    std::string programFolder; ///< the folder that holds the program's own files; bytes
     std::function<double()> clock;
 
     /// Whether windows can be shown; asked before there is an application object.

@@ -25,17 +25,12 @@ constexpr int kProgressSpacing = 12;
 
 } // namespace
 
-FolderWindow::FolderWindow(
-    const ScanEnvironment& environment,
-    RootModel& model,
-    const UserDefaults& defaults,
-    const MotionPreference& motion)
+FolderWindow::FolderWindow(const TreeViewServices& services, RootModel& model)
     : m_model(model)
-    , m_fileSystem(environment.fileSystemAttributes)
-    , m_motion(motion)
-    , m_scanner(Scanner::create(environment))
+    , m_services(std::make_unique<const TreeViewServices>(services))
+    , m_scanner(Scanner::create(services.scanEnvironment))
     , m_pages(new QStackedWidget(this))
-    , m_treeView(new TreeMapView(defaults, m_pages))
+    , m_treeView(new TreeMapView(services.defaults, m_pages))
 {
     m_pages->addWidget(makeProgressPage());
     m_pages->addWidget(m_treeView);
@@ -89,9 +84,9 @@ void FolderWindow::scanEnded(Scanner& scanner)
 {
     m_controller.reset();
     m_model.setTopFolder(scanner.takeTopFolder());
-    m_controller = std::make_unique<TreeViewController>(
-        m_model, *m_treeView, TreeViewServices{m_fileSystem, m_motion});
+    m_controller = std::make_unique<TreeViewController>(m_model, *m_treeView, *m_services);
     m_pages->setCurrentWidget(m_treeView);
+    m_treeView->setFocus();
     setWindowTitle(displayText(Util::getFolderTitle(*m_model.topFolder())));
 }
 

@@ -14,12 +14,10 @@ class QStackedWidget;
 
 namespace tessera {
 
-class FileSystemAttributes;
-class MotionPreference;
 class RootModel;
 class TreeMapView;
 class TreeViewController;
-class UserDefaults;
+struct TreeViewServices;
 
 /// The program's window on one folder: how far its scan is, then its picture. Closing it cancels
 /// the scan.
@@ -27,12 +25,8 @@ class FolderWindow final : public QMainWindow, private ScannerDelegate {
     Q_OBJECT
 
 public:
-    /// All arguments must outlive the window.
-    FolderWindow(
-        const ScanEnvironment& environment,
-        RootModel& model,
-        const UserDefaults& defaults,
-        const MotionPreference& motion);
+    /// The model, and all that the services refer to, must outlive the window.
+    FolderWindow(const TreeViewServices& services, RootModel& model);
     ~FolderWindow() override;
 
     /// Scans the folder and then shows it.
@@ -46,8 +40,7 @@ private:
     QWidget* makeProgressPage();
 
     RootModel& m_model;
-    const FileSystemAttributes& m_fileSystem;
-    const MotionPreference& m_motion;
+    const std::unique_ptr<const TreeViewServices> m_services;
     std::shared_ptr<Scanner> m_scanner;
     QStackedWidget* m_pages;
     QLabel* m_scannedPath = nullptr;

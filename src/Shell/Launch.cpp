@@ -1,13 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "Shell/Launch.h"
 
+#include "QuickLook/QuickLookPanel.h"
 #include "Shell/Defaults.h"
 #include "Shell/FileAccess.h"
 #include "Shell/FolderWindow.h"
 #include "Shell/PictureWriter.h"
 #include "TreeView/DesktopIconProvider.h"
 #include "TreeView/TooltipController.h"
+#include "TreeView/TreeViewServices.h"
 #include "Utils/Log.h"
+#include "Utils/MessageBoxAlert.h"
+#include "Utils/MotionPreference.h"
 
 #include <QApplication>
 
@@ -33,6 +37,15 @@ int writePicture(const CommandLine& commandLine, const LaunchServices& services)
     return problem.empty() ? kDone : fail(problem);
 }
 
+void setUpPreview(QWidget& mainWindow, const LaunchServices& services, IconProvider& icons)
+{
+    QuickLookPanel& panel = QuickLookPanel::sharedInstance();
+    panel.setFileReader(services.fileReader);
+    panel.setIconProvider(&icons);
+    panel.setMainWindow(&mainWindow);
+    panel.setReducedMotion([&motion = services.motion] { return motion.reducesMotion(); });
+}
+
 int showWindow(const std::string& folder, const LaunchServices& services)
 {
     const std::string path = services.files.absolutePath(folder);
@@ -45,15 +58,25 @@ int showWindow(const std::string& folder, const LaunchServices& services)
     TooltipController& tooltip = TooltipController::sharedInstance();
     tooltip.setResourceValues(&services.scanEnvironment.resourceValues);
     tooltip.setIconProvider(&icons);
+    MessageBoxAlert alert;
     FolderWindow window(
-        services.scanEnvironment,
-        RootModel::sharedInstance(),
-        services.rootModelServices.defaults,
-        services.motion);
+        {services.scanEnvironment,
+         services.rootModelServices.defaults,
+         services.workspace,
+         alert,
+         {services.archiver,
+          services.makeTask,
+          services.workspace,
+          services.scanEnvironment.resourceValues,
+          icons},
+         services.motion},
+        RootModel::sharedInstance());
+    setUpPreview(window, services, icons);
     window.open(Url(path, true));
     window.show();
     const int status = QApplication::exec();
     tooltip.setIconProvider(nullptr);
+    QuickLookPanel::sharedInstance().setIconProvider(nullptr);
     return status;
 }
 

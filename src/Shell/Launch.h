@@ -5,12 +5,17 @@
 #include "Scanning/ScanEnvironment.h"
 #include "Shell/CommandLine.h"
 
+#include <functional>
+#include <memory>
 #include <string>
 
 namespace tessera {
 
 class FileAccess;
+class FileReader;
 class MotionPreference;
+class Task;
+class Workspace;
 
 /// What the program's screens need from the system. Everything must outlive the program's run.
 struct LaunchServices {
@@ -18,6 +23,10 @@ struct LaunchServices {
     RootModelServices rootModelServices;
     const FileAccess& files;
     const MotionPreference& motion;
+    Workspace& workspace;
+    std::shared_ptr<const FileReader> fileReader;
+    std::function<std::unique_ptr<Task>()> makeTask;
+    std::string archiver; ///< path of the program that makes archives; bytes
 };
 
 /// Prints the text that --help or --version asks for; false when the command line asks for

@@ -24,8 +24,7 @@ struct Place {
 
 bool isSelectable(const LayoutObject& item)
 {
-    return item.ref != nullptr
-        && (item.ref->isFolder() || item.ref->type() == NodeType::Document);
+    return item.ref != nullptr && (item.ref->isFolder() || item.ref->type() == NodeType::Document);
 }
 
 Place placeOf(const File& file, const TreeBranch& top)

@@ -4,7 +4,6 @@
 #include "Model/TopFolder.h"
 #include "Model/nodeLookup.h"
 #include "Scanning/Scanner.h"
-#include "TreeView/RescanIndicator.h"
 #include "TreeView/TreeMapView.h"
 #include "TreeView/TreeScreen.h"
 #include "Utils/Log.h"

@@ -4,6 +4,7 @@
 #include "Layout/Rect.h"
 #include "Scanning/ScanEnvironment.h"
 #include "Scanning/ScannerDelegate.h"
+#include "TreeView/RescanIndicator.h"
 
 #include <QPointer>
 
@@ -14,7 +15,6 @@ namespace tessera {
 
 class File;
 class Folder;
-class RescanIndicator;
 class TreeMapView;
 class TreeScreen;
 
@@ -37,8 +37,8 @@ public:
     /// behind.
     RescanIndicator* rescanIndicator() const { return m_rescanIndicator; }
 
-    /// The picture was rebuilt: the bar follows the folder's box, and is out of sight where there is
-    /// none or a small one.
+    /// The picture was rebuilt: the bar follows the folder's box, and is out of sight where there
+    /// is none or a small one.
     void pictureChanged();
 
     /// The folder, or one around it, leaves its place: the rescan ends without an effect.

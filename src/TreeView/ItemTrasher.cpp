@@ -47,7 +47,8 @@ void rebase(File& node, const std::string& from, const std::string& to)
     while (!left.empty()) {
         File* const at = left.back();
         left.pop_back();
-        if (auto* top = nodeCast<TopFolder>(at); top != nullptr && top->origin().starts_with(from)) {
+        if (auto* top = nodeCast<TopFolder>(at);
+            top != nullptr && top->origin().starts_with(from)) {
             top->setOrigin(to + top->origin().substr(from.size()));
         }
         if (const auto* folder = nodeCast<Folder>(at)) {

@@ -36,10 +36,10 @@ std::optional<TreeKeyAction> treeKeyAction(const QKeyEvent& event)
     if ((event.modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier)) != Qt::NoModifier) {
         return std::nullopt;
     }
-    const auto* const found = std::find_if(
-        kBindings.begin(), kBindings.end(), [&event](const Binding& binding) {
-            return binding.key == event.key();
-        });
+    const auto* const found
+        = std::find_if(kBindings.begin(), kBindings.end(), [&event](const Binding& binding) {
+              return binding.key == event.key();
+          });
     return found == kBindings.end() ? std::nullopt : std::optional(found->action);
 }
 

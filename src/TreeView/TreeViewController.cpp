@@ -2,13 +2,23 @@
 #include "TreeView/TreeViewController.h"
 
 #include "Layout/LevelRenderer.h"
+#include "Model/Document.h"
 #include "Model/NotificationCenter.h"
 #include "Model/RootModel.h"
 #include "Model/Volume.h"
+#include "Model/nodeLookup.h"
+#include "Scanning/ResourceValues.h"
 #include "TreeView/TreeBranch.h"
+#include "TreeView/TreeKeys.h"
 #include "TreeView/TreeMapView.h"
 #include "TreeView/TreeViewServices.h"
+#include "Utils/Alert.h"
+#include "Utils/DisplayText.h"
+#include "Utils/Util.h"
 
+#include <QKeyEvent>
+
+#include <optional>
 #include <utility>
 #include <variant>
 
@@ -18,8 +28,11 @@ TreeViewController::TreeViewController(
     RootModel& model, TreeMapView& treeView, const TreeViewServices& services)
     : m_model(model)
     , m_treeView(treeView)
-    , m_fileSystem(services.fileSystem)
+    , m_services(services)
     , m_zoom(*this, treeView, services)
+    , m_rescan(services.scanEnvironment, treeView, *this)
+    , m_trasher(model, services.defaults, services.workspace, services.alert, *this)
+    , m_preview(*this, treeView)
 {
     setCurrentFolder(m_model.topFolder());
     observe();
@@ -27,27 +40,39 @@ TreeViewController::TreeViewController(
     renderTree();
 }
 
-TreeViewController::~TreeViewController() = default;
+TreeViewController::~TreeViewController()
+{
+    m_treeView.setCommandTarget(nullptr);
+}
 
 void TreeViewController::observe()
 {
     connect(&m_treeView, &TreeMapView::frameChanged, this, &TreeViewController::renderTree);
     connect(&m_treeView, &TreeMapView::zoomEnded, this, &TreeViewController::animationDidStop);
+    m_treeView.installEventFilter(this);
+    m_treeView.setCommandTarget(this);
     NotificationCenter& center = NotificationCenter::defaultCenter();
     m_clickObservation
         = center.addObserver("ClickTreeItem", [this](const NotificationObject& object) {
               File* const* clicked = std::get_if<File*>(&object);
-              setSelectedFile(clicked == nullptr ? nullptr : *clicked);
-              renderTree();
+              select(clicked == nullptr ? nullptr : *clicked);
           });
     m_doubleClickObservation = center.addObserver(
         "DoubleClickTreeItem", [this](const NotificationObject&) { doubleClickTreeItem(); });
+    m_compressObservation
+        = center.addObserver("ItemCompressed", [this](const NotificationObject& object) {
+              if (const Url* archive = std::get_if<Url>(&object)) {
+                  itemCompressed(*archive);
+              }
+          });
 }
 
 void TreeViewController::doubleClickTreeItem()
 {
-    if (m_selectedFile != nullptr && m_selectedFile->isFolder()) {
+    if (nodeCast<Folder>(m_selectedFile) != nullptr) {
         zoomIn();
+    } else if (nodeCast<Document>(m_selectedFile) != nullptr) {
+        quickLook();
     }
 }
 
@@ -67,6 +92,13 @@ void TreeViewController::setSelectedFile(File* file)
     if (m_selectedFile != nullptr) {
         m_selectedFile->setSelected(true);
     }
+    SelectionPreview::selectionChanged();
+}
+
+void TreeViewController::select(File* file)
+{
+    setSelectedFile(file);
+    renderTree();
 }
 
 void TreeViewController::zoomIn()
@@ -97,10 +129,196 @@ void TreeViewController::clickFolderPath(const Url& clicked)
     renderTree();
 }
 
+void TreeViewController::trashItem()
+{
+    if (m_selectedFile != nullptr) {
+        m_trasher.trash(*m_selectedFile);
+    }
+}
+
+void TreeViewController::refreshFolder()
+{
+    if (auto* const folder = nodeCast<Folder>(m_selectedFile)) {
+        rescanSelectedFolder(*folder);
+        setSelectedFile(nullptr);
+    }
+}
+
+void TreeViewController::quickLook()
+{
+    SelectionPreview::open();
+}
+
+Folder* TreeViewController::locateParent(const Url& url) const
+{
+    TopFolder* const top = m_model.topFolder();
+    return top == nullptr ? nullptr : Util::locateParent(url, *top);
+}
+
+void TreeViewController::showInFinder()
+{
+    if (m_selectedFile != nullptr
+        && !Util::revealInFinder(m_selectedFile->url(), m_services.workspace)) {
+        m_services.alert.beginSheet(
+            {tr("There is no file manager"),
+             tr("'%1' cannot be shown, because the desktop offers no program for that.")
+                 .arg(displayText(m_selectedFile->name())),
+             {tr("OK")}});
+    }
+}
+
+void TreeViewController::compressItem()
+{
+    if (m_selectedFile == nullptr) {
+        return;
+    }
+    const auto compressing = CompressWindowController::make(m_services.compressing);
+    compressing->showWindow(m_treeView.window());
+    compressing->compressURL(m_selectedFile->url(), m_selectedFile->totalAllocation());
+}
+
+void TreeViewController::itemCompressed(const Url& archive)
+{
+    auto document = makeNode<Document>(archive.lastPathComponent());
+    document->setTotalAllocation(
+        m_services.scanEnvironment.resourceValues.allocatedSize(archive.path()).value_or(0));
+    if (Folder* const parent = locateParent(archive)) {
+        parent->insertChild(std::move(document));
+    }
+    objectTreeRefreshed();
+    renderTree();
+}
+
+bool TreeViewController::validate(TreeCommand command) const
+{
+    const bool isFolder = m_selectedFile != nullptr && m_selectedFile->isFolder();
+    switch (command) {
+    case TreeCommand::QuickLook:
+    case TreeCommand::ShowInFinder:
+    case TreeCommand::Compress:
+    case TreeCommand::MoveToTrash:
+        return m_selectedFile != nullptr;
+    case TreeCommand::ZoomIn:
+        return isFolder;
+    case TreeCommand::Rescan:
+        return isFolder && m_rescan.rescanFolder() == nullptr;
+    case TreeCommand::Ignore:
+        break; // there is no list of ignored folders yet
+    }
+    return false;
+}
+
+void TreeViewController::perform(TreeCommand command)
+{
+    switch (command) {
+    case TreeCommand::QuickLook:
+        SelectionPreview::toggle();
+        break;
+    case TreeCommand::ShowInFinder:
+        showInFinder();
+        break;
+    case TreeCommand::ZoomIn:
+        zoomIn();
+        break;
+    case TreeCommand::Rescan:
+        refreshFolder();
+        break;
+    case TreeCommand::Compress:
+        compressItem();
+        break;
+    case TreeCommand::MoveToTrash:
+        trashItem();
+        break;
+    case TreeCommand::Ignore:
+        break;
+    }
+}
+
+bool TreeViewController::keyDown(const QKeyEvent& event)
+{
+    const std::optional<TreeKeyAction> action = treeKeyAction(event);
+    if (!action) {
+        return false;
+    }
+    if (const auto* direction = std::get_if<Direction>(&*action)) {
+        return moveSelection(*direction);
+    }
+    if (const auto* command = std::get_if<TreeCommand>(&*action)) {
+        // A key that is held down asks once.
+        if (event.isAutoRepeat() || !validate(*command)) {
+            return false;
+        }
+        perform(*command);
+        return true;
+    }
+    return std::get<TreeKey>(*action) == TreeKey::Open ? openSelected() : leaveFolder();
+}
+
+bool TreeViewController::moveSelection(Direction direction)
+{
+    File* const next = nextSelection(*m_treeView.branches().back(), m_selectedFile, direction);
+    if (next == nullptr) {
+        return false;
+    }
+    select(next);
+    return true;
+}
+
+bool TreeViewController::openSelected()
+{
+    if (m_selectedFile == nullptr) {
+        return false;
+    }
+    doubleClickTreeItem();
+    return true;
+}
+
+bool TreeViewController::leaveFolder()
+{
+    if (m_currentFolder == nullptr || m_currentFolder->parent() == nullptr) {
+        return false;
+    }
+    zoomOut();
+    return true;
+}
+
+bool TreeViewController::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress && keyDown(*static_cast<QKeyEvent*>(event))) {
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void TreeViewController::nodeWillLeave(File& node)
+{
+    m_rescan.nodeWillLeave(node);
+    if (m_selectedFile != nullptr && isAtOrBelow(*m_selectedFile, node)) {
+        setSelectedFile(nullptr);
+    }
+    if (m_currentFolder != nullptr && isAtOrBelow(*m_currentFolder, node)) {
+        setCurrentFolder(node.parent());
+    }
+}
+
+void TreeViewController::folderWasReplaced(Folder& folder, Folder& with)
+{
+    TopFolder& top = *m_model.topFolder();
+    if (m_selectedFile != nullptr && isAtOrBelow(*m_selectedFile, folder)) {
+        setSelectedFile(nodeAtPath(top, m_selectedFile->absolutePath()));
+    }
+    if (m_currentFolder != nullptr && isAtOrBelow(*m_currentFolder, folder)) {
+        // What is in view may have vanished since it was scanned first; then it is what is left.
+        File* const nearest = nearestNodeAtPath(top, m_currentFolder->absolutePath());
+        auto* const shown = nodeCast<Folder>(nearest);
+        setCurrentFolder(shown == nullptr ? &with : shown);
+    }
+}
+
 void TreeViewController::objectTreeRefreshed()
 {
     if (auto* const volume = nodeCast<Volume>(static_cast<File*>(m_model.topFolder()))) {
-        volume->refreshVolume(m_fileSystem);
+        volume->refreshVolume(m_services.scanEnvironment.fileSystemAttributes);
     }
 }
 
@@ -110,6 +328,7 @@ void TreeViewController::renderTree()
     const Rect bounds{
         0, 0, static_cast<double>(m_treeView.width()), static_cast<double>(m_treeView.height())};
     m_treeView.addBranch(renderFolder(m_currentFolder, bounds, nullptr, 0));
+    m_rescan.pictureChanged();
 }
 
 std::unique_ptr<TreeBranch> TreeViewController::renderFolder(

@@ -3,26 +3,36 @@
 
 #include "Layout/Rect.h"
 #include "Model/Observation.h"
+#include "TreeView/BoxNavigation.h"
+#include "TreeView/FolderRescan.h"
 #include "TreeView/FolderZoom.h"
+#include "TreeView/ItemTrasher.h"
+#include "TreeView/SelectionPreview.h"
+#include "TreeView/TreeCommand.h"
+#include "TreeView/TreeScreen.h"
+#include "TreeView/TreeViewServices.h"
 
 #include <QObject>
 
 #include <memory>
 
+class QKeyEvent;
+
 namespace tessera {
 
 class File;
-class FileSystemAttributes;
 class Folder;
 class RootModel;
 class TreeBranch;
 class TreeMapView;
 class Url;
-struct TreeViewServices;
 
-/// The controller of the tree screen: knows the folder in view and the selected item, and rebuilds
-/// the picture whenever either of them, the tree or the view's size changes. Main thread only.
-class TreeViewController final : public QObject {
+/// The controller of the tree screen: knows the folder in view and the selected item, rebuilds the
+/// picture whenever either of them, the tree or the view's size changes, and carries out what the
+/// user asks for. Main thread only.
+class TreeViewController final : public QObject, public TreeCommandTarget, private TreeScreen {
+    Q_OBJECT
+
 public:
     /// Shows the model's tree in the view; both must outlive the controller, and so must what the
     /// services refer to. A volume's free space is read anew.
@@ -37,7 +47,7 @@ public:
     /// The selected item or null. Its node carries the mark as well.
     File* selectedFile() const { return m_selectedFile; }
     /// Does not draw.
-    void setSelectedFile(File* file);
+    void setSelectedFile(File* file) override;
 
     /// Shows the selected folder's content; nothing when no folder is selected.
     void zoomIn();
@@ -53,11 +63,32 @@ public:
     /// click on the folder in view, or on one that is not above it, takes the selection away.
     void clickFolderPath(const Url& clicked);
 
+    /// Moves the selected item to the trash, after a warning where that is risky.
+    void trashItem();
+    /// Scans the selected folder anew, in the background, and takes the selection away; nothing
+    /// when no folder is selected.
+    void refreshFolder();
+    /// Does nothing while another rescan runs.
+    void rescanSelectedFolder(Folder& folder) { m_rescan.rescan(folder); }
+    /// The folder of the tree that holds, or would hold, the item of that URL; or null.
+    Folder* locateParent(const Url& url) const;
+    void showInFinder();
+    /// Opens the preview panel on the selected item, or brings it to the front.
+    void quickLook();
+    /// Compresses the selected item beside itself, in a window of its own.
+    void compressItem();
+
+    bool validate(TreeCommand command) const override;
+    void perform(TreeCommand command) override;
+
+    /// A key was pressed on the tree screen; false when it does nothing now.
+    bool keyDown(const QKeyEvent& event);
+
     /// To be called when the disk has changed under the tree: a volume reads its sizes anew.
-    void objectTreeRefreshed();
+    void objectTreeRefreshed() override;
 
     /// Rebuilds the whole picture from the tree; a running zoom ends.
-    void renderTree();
+    void renderTree() override;
 
     /// Lays a folder out as a branch of frame `inRect`: at the top of the view when `inView` is
     /// null, and then the new branch is returned; else inside `inView`, which takes it over.
@@ -65,17 +96,30 @@ public:
         Folder* folder, const Rect& inRect, TreeBranch* inView, long withLevel);
 
 private:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void nodeWillLeave(File& node) override;
+    void folderWasReplaced(Folder& folder, Folder& with) override;
+
     void observe();
     void doubleClickTreeItem();
+    void itemCompressed(const Url& archive);
+    void select(File* file);
+    bool moveSelection(Direction direction);
+    bool openSelected();
+    bool leaveFolder();
 
     RootModel& m_model;
     TreeMapView& m_treeView;
-    const FileSystemAttributes& m_fileSystem;
+    const TreeViewServices m_services;
     FolderZoom m_zoom;
+    FolderRescan m_rescan;
+    ItemTrasher m_trasher;
+    SelectionPreview m_preview;
     Folder* m_currentFolder = nullptr;
     File* m_selectedFile = nullptr;
     Observation m_clickObservation;
     Observation m_doubleClickObservation;
+    Observation m_compressObservation;
 };
 
 } // namespace tessera

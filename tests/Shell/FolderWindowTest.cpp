@@ -3,9 +3,6 @@
 
 #include "TreeView/TreeBranch.h"
 #include "TreeView/TreeMapView.h"
-#include "support/FakeDirectoryEnumerator.h"
-#include "support/FakeFileSystem.h"
-#include "support/FakeMainThread.h"
 #include "support/FakeRootModelServices.h"
 #include "support/FakeTreeViewServices.h"
 
@@ -14,7 +11,6 @@
 
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <memory>
 
 namespace tessera {
@@ -30,17 +26,7 @@ protected:
 
     void open()
     {
-        window = std::make_unique<FolderWindow>(
-            ScanEnvironment{
-                files,
-                resourceValues,
-                fileSystem,
-                mainThread,
-                [this] { return now.load(); },
-                "/me"},
-            model,
-            services.defaults,
-            motion);
+        window = std::make_unique<FolderWindow>(services.get(), model);
         window->show();
         window->open(Url("/data/some\xFF folder", true));
     }
@@ -51,14 +37,11 @@ protected:
         mainThread.runUntil([this] { return model.topFolder() != nullptr; });
     }
 
-    test::FakeFileManager files{"docs/ ( a:700000 ) b:300000"};
-    test::FakeResourceValues resourceValues;
-    test::FixedFileSystem fileSystem{FileSystemSizes{1000, 300}};
-    test::FakeMainThread mainThread;
-    std::atomic<double> now = 100.0;
-    test::FakeRootModelServices services;
-    test::FakeMotionPreference motion;
-    RootModel model{services.get()};
+    test::FakeTreeViewServices services{"docs/ ( a:700000 ) b:300000"};
+    test::FakeFileManager& files = services.files;
+    test::FakeMainThread& mainThread = services.mainThread;
+    test::FakeRootModelServices modelServices;
+    RootModel model{modelServices.get()};
     std::unique_ptr<FolderWindow> window;
 };
 
@@ -75,7 +58,7 @@ TEST_F(FolderWindowTest, ShowsTheProgressOfTheScan)
     files.onItem([this](const std::string& /*path*/) {
         if (files.enumeratedPaths().size() == 2) {
             mainThread.performAndWait([] {});
-            now = now.load() + 1.0;
+            services.scanClock = services.scanClock.load() + 1.0;
         }
     });
     open();

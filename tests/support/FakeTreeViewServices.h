@@ -3,7 +3,18 @@
 
 #include "TreeView/TreeViewServices.h"
 #include "Utils/MotionPreference.h"
+#include "support/FakeAlert.h"
+#include "support/FakeDirectoryEnumerator.h"
 #include "support/FakeFileSystem.h"
+#include "support/FakeIconProvider.h"
+#include "support/FakeMainThread.h"
+#include "support/FakeTask.h"
+#include "support/FakeUserDefaults.h"
+#include "support/FakeWorkspace.h"
+
+#include <atomic>
+#include <memory>
+#include <string>
 
 namespace tessera::test {
 
@@ -14,15 +25,46 @@ public:
     bool reduced = false;
 };
 
-/// All that a TreeViewController needs, and a clock that stands still.
+/// All that a TreeViewController needs, and a clock that stands still. Whatever is rescanned holds
+/// the items given to the constructor.
 struct FakeTreeViewServices {
+    explicit FakeTreeViewServices(std::string_view rescannedItems = "")
+        : files(rescannedItems)
+    {
+    }
+
+    FakeFileManager files;
+    FakeResourceValues resourceValues;
     FixedFileSystem fileSystem{FileSystemSizes{1000, 300}};
+    FakeMainThread mainThread;
+    FakeUserDefaults defaults;
+    FakeWorkspace workspace;
+    FakeAlert alert;
+    FakeIconProvider icons;
+    FakeTaskRecord archiver;
     FakeMotionPreference motion;
     double now = 100;
+    std::atomic<double> scanClock = 100;
 
     TreeViewServices get()
     {
-        return {fileSystem, motion, [this] { return now; }};
+        return {
+            {files,
+             resourceValues,
+             fileSystem,
+             mainThread,
+             [this] { return scanClock.load(); },
+             "/me"},
+            defaults,
+            workspace,
+            alert,
+            {"/archiver",
+             [this] { return FakeTask::make(archiver); },
+             workspace,
+             resourceValues,
+             icons},
+            motion,
+            [this] { return now; }};
     }
 };
 

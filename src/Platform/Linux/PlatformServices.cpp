@@ -1,16 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/PlatformServices.h"
 
+#include "Platform/Linux/ChildProcessTask.h"
 #include "Platform/Linux/DBusWorkspace.h"
 #include "Platform/Linux/DesktopMotionPreference.h"
 #include "Platform/Linux/HeapMemory.h"
 #include "Platform/Linux/LinuxFileAccess.h"
 #include "Platform/Linux/LinuxFileManager.h"
+#include "Platform/Linux/LinuxFileReader.h"
 #include "Platform/Linux/LinuxFileSystemAttributes.h"
 #include "Platform/Linux/LinuxResourceValues.h"
 #include "Platform/Linux/LinuxStandardFolders.h"
 #include "Platform/Linux/LinuxUserAccount.h"
 #include "Platform/Linux/XbelRecentDocuments.h"
+#include "Platform/Linux/executableFolder.h"
 #include "Platform/Qt/SettingsUserDefaults.h"
 
 #include <cstdlib>
@@ -63,6 +66,9 @@ PlatformServices makePlatformServices()
     services.motionPreference = std::make_unique<DesktopMotionPreference>();
     services.mainThread = std::make_unique<QtMainThread>();
     services.workspace = std::make_unique<DBusWorkspace>(*services.mainThread);
+    services.fileReader = std::make_shared<LinuxFileReader>();
+    services.makeTask = [] { return std::make_unique<ChildProcessTask>(); };
+    services.programFolder = executableFolder();
     services.clock = coarseSeconds;
     return services;
 }

@@ -1,0 +1,325 @@
+// SPDX-License-Identifier: MIT
+#include "TreeView/FolderRescan.h"
+
+#include "Model/RootModel.h"
+#include "Scanning/Scanner.h"
+#include "TreeView/TreeMapView.h"
+#include "TreeView/TreeViewController.h"
+#include "support/FakeRootModelServices.h"
+#include "support/FakeTreeViewServices.h"
+#include "support/makeTree.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <limits>
+#include <memory>
+#include <thread>
+
+namespace tessera {
+namespace {
+
+/// A tree whose folders hold "a:900 new/ ( b:100 )" when they are scanned anew.
+class FolderRescanTest : public testing::Test {
+protected:
+    FolderRescanTest()
+    {
+        model.setTopFolder(test::makeTree(
+            "/data", "docs/ ( a:500 gone/ ( deep/ ( x:200 ) ) ) other/ ( o:600 ) tiny/ ( t:1 )"));
+        view.resize(400, 300);
+        controller = std::make_unique<TreeViewController>(model, view, services.get());
+    }
+    ~FolderRescanTest() override
+    {
+        controller.reset();
+        endWorkers();
+    }
+
+    /// A worker may wait for the main thread, so that has to turn meanwhile.
+    void endWorkers()
+    {
+        std::atomic<bool> isDone = false;
+        std::thread waiting([&] {
+            Scanner::waitForWorkers();
+            isDone = true;
+            services.mainThread.perform([] {});
+        });
+        services.mainThread.runUntil([&] { return isDone.load(); });
+        waiting.join();
+    }
+
+    File& node(std::string_view path) { return test::at(*model.topFolder(), path); }
+    Folder& folder(std::string_view path) { return static_cast<Folder&>(node(path)); }
+
+    void rescan(std::string_view path)
+    {
+        controller->setSelectedFile(&node(path));
+        controller->refreshFolder();
+    }
+
+    void goTo(std::string_view path)
+    {
+        controller->setCurrentFolder(path.empty() ? model.topFolder() : &folder(path));
+        controller->renderTree();
+    }
+
+    const RescanIndicator* indicator() const { return view.findChild<RescanIndicator*>(); }
+    bool isRescanning() const { return !controller->validate(TreeCommand::Rescan); }
+
+    void finish()
+    {
+        const Folder* const old = &folder("docs");
+        services.mainThread.runUntil([&] { return &folder("docs") != old; });
+    }
+
+    test::FakeRootModelServices modelServices;
+    RootModel model{modelServices.get()};
+    test::FakeTreeViewServices services{"a:900 new/ ( b:100 )"};
+    TreeMapView view{services.defaults};
+    std::unique_ptr<TreeViewController> controller;
+};
+
+TEST_F(FolderRescanTest, PutsTheNewTreeInTheFoldersPlace)
+{
+    rescan("docs");
+    finish();
+    EXPECT_EQ(services.files.enumeratedPaths().back(), "/data/docs");
+    EXPECT_EQ(node("docs/new/b").totalAllocation(), 100U);
+    EXPECT_EQ(node("docs/new/b").absolutePath(), "/data/docs/new/b");
+    EXPECT_EQ(model.topFolder()->totalAllocation(), 1601U);
+    EXPECT_TRUE(view.findRectForFile(node("docs")).has_value());
+}
+
+TEST_F(FolderRescanTest, ShowsTheFolderWithoutItsContentMeanwhile)
+{
+    rescan("docs");
+    EXPECT_TRUE(folder("docs").rescanning());
+    EXPECT_FALSE(view.findRectForFile(node("docs/a")).has_value());
+    finish();
+    EXPECT_FALSE(folder("docs").rescanning());
+    EXPECT_TRUE(view.findRectForFile(node("docs/a")).has_value());
+}
+
+TEST_F(FolderRescanTest, TakesTheSelectionAway)
+{
+    rescan("docs");
+    EXPECT_EQ(controller->selectedFile(), nullptr);
+    finish();
+}
+
+TEST_F(FolderRescanTest, NothingHappensWithoutASelectedFolder)
+{
+    controller->refreshFolder();
+    controller->setSelectedFile(&node("docs/a"));
+    controller->refreshFolder();
+    EXPECT_TRUE(services.files.enumeratedPaths().empty());
+    EXPECT_EQ(controller->selectedFile(), &node("docs/a"));
+}
+
+TEST_F(FolderRescanTest, ASecondRequestMeanwhileIsIgnored)
+{
+    rescan("docs");
+    rescan("other");
+    EXPECT_FALSE(folder("other").rescanning());
+    finish();
+    EXPECT_EQ(services.files.enumeratedPaths().size(), 2U);
+    EXPECT_EQ(node("other").totalAllocation(), 600U);
+}
+
+TEST_F(FolderRescanTest, AnotherCanFollow)
+{
+    rescan("docs");
+    finish();
+    controller->setSelectedFile(&node("other"));
+    EXPECT_TRUE(controller->validate(TreeCommand::Rescan));
+}
+
+TEST_F(FolderRescanTest, TheTopFolderHasNoPlaceToBeReplacedIn)
+{
+    controller->rescanSelectedFolder(*model.topFolder());
+    EXPECT_FALSE(model.topFolder()->rescanning());
+}
+
+TEST_F(FolderRescanTest, ABarLiesTenPointsInsideTheFoldersBox)
+{
+    rescan("docs");
+    const Rect box = view.findRectForFile(node("docs")).value();
+    ASSERT_NE(indicator(), nullptr);
+    EXPECT_EQ(
+        indicator()->geometry(),
+        QRectF(box.x + 10, box.y + 10, box.width - 20, box.height - 20).toRect());
+    EXPECT_EQ(indicator()->value(), 0.0);
+    finish();
+    EXPECT_EQ(indicator(), nullptr);
+}
+
+TEST_F(FolderRescanTest, ASmallBoxGetsNoBar)
+{
+    rescan("tiny");
+    EXPECT_EQ(indicator(), nullptr);
+    const Folder* const old = &folder("tiny");
+    services.mainThread.runUntil([&] { return &folder("tiny") != old; });
+}
+
+TEST_F(FolderRescanTest, TheBarShowsTheProgress)
+{
+    bool isUnderWay = false;
+    services.files.onItem([&](const std::string& /*path*/) {
+        if (services.files.enumeratedPaths().size() == 2 && !isUnderWay) {
+            isUnderWay = true;
+            services.scanClock = services.scanClock.load() + 1.0;
+        }
+    });
+    rescan("docs");
+    bool wasShown = false;
+    services.mainThread.runUntil([&] {
+        wasShown = wasShown || (indicator() != nullptr && indicator()->value() > 0);
+        return node("docs").totalAllocation() == 1000U;
+    });
+    EXPECT_TRUE(wasShown);
+}
+
+TEST_F(FolderRescanTest, TheBarFollowsTheBoxWhenTheViewIsResized)
+{
+    rescan("docs");
+    view.resize(640, 480);
+    const Rect box = view.findRectForFile(node("docs")).value();
+    EXPECT_EQ(indicator()->geometry().topLeft(), QPointF(box.x + 10, box.y + 10).toPoint());
+    finish();
+}
+
+TEST_F(FolderRescanTest, TheBarHidesWithTheBox)
+{
+    rescan("docs");
+    goTo("other");
+    EXPECT_FALSE(indicator()->isVisibleTo(&view));
+    goTo("");
+    EXPECT_TRUE(indicator()->isVisibleTo(&view));
+    finish();
+}
+
+TEST_F(FolderRescanTest, AFolderThatIsHiddenOrIgnoredStaysSo)
+{
+    folder("docs").setHidden(true);
+    folder("docs").setIgnored(true);
+    rescan("docs");
+    finish();
+    EXPECT_TRUE(folder("docs").hidden());
+    EXPECT_TRUE(folder("docs").ignored());
+}
+
+TEST_F(FolderRescanTest, TheFolderInViewIsTheNewOne)
+{
+    rescan("docs");
+    goTo("docs");
+    finish();
+    EXPECT_EQ(controller->currentFolder(), &folder("docs"));
+    EXPECT_TRUE(view.findRectForFile(node("docs/new")).has_value());
+}
+
+TEST_F(FolderRescanTest, WhenTheFolderInViewVanishedTheOneAroundItIsShown)
+{
+    rescan("docs");
+    goTo("docs/gone/deep");
+    finish();
+    EXPECT_EQ(controller->currentFolder(), &folder("docs"));
+}
+
+TEST_F(FolderRescanTest, ASelectionInsideMovesToTheSameItem)
+{
+    rescan("docs");
+    controller->setSelectedFile(&node("docs/a"));
+    finish();
+    EXPECT_EQ(controller->selectedFile(), &node("docs/a"));
+    EXPECT_TRUE(node("docs/a").selected());
+}
+
+TEST_F(FolderRescanTest, ASelectionOfWhatVanishedIsTakenAway)
+{
+    rescan("docs");
+    controller->setSelectedFile(&node("docs/gone"));
+    finish();
+    EXPECT_EQ(controller->selectedFile(), nullptr);
+}
+
+TEST_F(FolderRescanTest, GoingAwayEndsIt)
+{
+    rescan("docs");
+    controller.reset();
+    EXPECT_EQ(indicator(), nullptr);
+    endWorkers();
+    EXPECT_EQ(node("docs").totalAllocation(), 700U);
+}
+
+TEST_F(FolderRescanTest, TrashingTheFolderEndsIt)
+{
+    rescan("docs");
+    const Url url = node("docs").url();
+    controller->setSelectedFile(&node("docs"));
+    controller->trashItem();
+    RecycleResult result;
+    result.newUrls[url.absoluteString()] = Url("/trash/docs", true);
+    ASSERT_TRUE(services.workspace.finishRecycling(result));
+    endWorkers();
+    EXPECT_EQ(indicator(), nullptr);
+    EXPECT_EQ(model.topFolder()->totalAllocation(), 601U);
+    controller->setSelectedFile(&node("other"));
+    EXPECT_TRUE(controller->validate(TreeCommand::Rescan));
+}
+
+TEST_F(FolderRescanTest, TrashingSomethingElseDoesNot)
+{
+    rescan("docs");
+    const Url url = node("other").url();
+    controller->setSelectedFile(&node("other"));
+    controller->trashItem();
+    RecycleResult result;
+    result.newUrls[url.absoluteString()] = Url("/trash/other", true);
+    ASSERT_TRUE(services.workspace.finishRecycling(result));
+    finish();
+    EXPECT_EQ(node("docs").totalAllocation(), 1000U);
+}
+
+TEST_F(FolderRescanTest, AnItemTrashedWhileItsFolderIsRescannedLeavesTheNewTree)
+{
+    const Url url = node("docs/a").url();
+    controller->setSelectedFile(&node("docs/a"));
+    controller->trashItem();
+    rescan("docs");
+    finish();
+    RecycleResult result;
+    result.newUrls[url.absoluteString()] = Url("/trash/a", false);
+    ASSERT_TRUE(services.workspace.finishRecycling(result));
+    EXPECT_EQ(node("docs").totalAllocation(), 100U);
+}
+
+TEST(RescanIndicator, NeedsABoxThatLeavesMoreThanTwentyByThirtyFive)
+{
+    EXPECT_EQ(RescanIndicator::frameFor({5, 6, 41, 56}), (Rect{15, 16, 21, 36}));
+    EXPECT_TRUE(RescanIndicator::fits({0, 0, 20.5, 35.5}));
+    EXPECT_FALSE(RescanIndicator::fits({0, 0, 20, 36}));
+    EXPECT_FALSE(RescanIndicator::fits({0, 0, 21, 35}));
+}
+
+TEST(RescanIndicator, HoldsItsValueBetweenItsEnds)
+{
+    QWidget parent;
+    RescanIndicator indicator(&parent);
+    indicator.setValue(0.25);
+    EXPECT_EQ(indicator.value(), 0.25);
+    indicator.setValue(7);
+    EXPECT_EQ(indicator.value(), 1.0);
+    indicator.setValue(std::numeric_limits<double>::quiet_NaN());
+    EXPECT_EQ(indicator.value(), 0.0);
+}
+
+TEST(RescanIndicator, ThePointerDoesNotNoticeIt)
+{
+    QWidget parent;
+    RescanIndicator indicator(&parent);
+    indicator.place({0, 0, 100, 100});
+    EXPECT_TRUE(indicator.testAttribute(Qt::WA_TransparentForMouseEvents));
+}
+
+} // namespace
+} // namespace tessera

@@ -1,0 +1,321 @@
+// SPDX-License-Identifier: MIT
+#include "TreeView/ItemTrasher.h"
+
+#include "Model/RootModel.h"
+#include "Model/UserDefaults.h"
+#include "TreeView/TreeScreen.h"
+#include "support/FakeAlert.h"
+#include "support/FakeRootModelServices.h"
+#include "support/FakeWorkspace.h"
+#include "support/makeTree.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tessera {
+namespace {
+
+constexpr int kCancel = Alert::kFirstButton + 1;
+
+/// Writes down what it hears of.
+class FakeScreen final : public TreeScreen {
+public:
+    void nodeWillLeave(File& node) override { leaving.emplace_back(node.name()); }
+    void folderWasReplaced(Folder& /*folder*/, Folder& /*with*/) override { }
+    void setSelectedFile(File* file) override { isSelectionTaken = file == nullptr; }
+    void objectTreeRefreshed() override { ++refreshCount; }
+    void renderTree() override { ++renderCount; }
+
+    std::vector<std::string> leaving;
+    bool isSelectionTaken = false;
+    int refreshCount = 0;
+    int renderCount = 0;
+};
+
+class ItemTrasherTest : public testing::Test {
+protected:
+    ItemTrasherTest()
+    {
+        model.setTopFolder(test::makeTree(
+            "/Users/me",
+            "docs/ ( a:500 deep/ ( b:200 ) ) .cfg/ ( x:10 .y:5 ) c:100 "
+            ".local/ ( Trash/ ( files/ ( old:1 ) ) )"));
+        modelServices.defaults.setBoolean(kWarnDeleteSystemKey, true);
+        modelServices.defaults.setBoolean(kWarnDeleteHiddenKey, true);
+    }
+
+    File& node(std::string_view path) { return test::at(*model.topFolder(), path); }
+    void hide(std::string_view path) { node(path).setHidden(true); }
+
+    void trash(std::string_view path) { trasher.trash(node(path)); }
+
+    /// The oldest move ends with the item in the home trash, under that name.
+    void moveEnds(const Url& item, std::string_view as)
+    {
+        RecycleResult result;
+        result.newUrls[item.absoluteString()]
+            = Url("/Users/me/.local/Trash/files/" + std::string(as), item.isDirectory());
+        ASSERT_TRUE(workspace.finishRecycling(result));
+    }
+
+    void moveFails(const std::string& reason)
+    {
+        RecycleResult result;
+        result.error = reason;
+        ASSERT_TRUE(workspace.finishRecycling(result));
+    }
+
+    bool isAskedToMove() const { return !workspace.recycled.empty(); }
+    std::string question() const
+    {
+        return alert.asked.empty() ? "" : alert.asked.back().informativeText.toStdString();
+    }
+
+    test::FakeRootModelServices modelServices;
+    RootModel model{modelServices.get()};
+    test::FakeWorkspace workspace;
+    test::FakeAlert alert;
+    FakeScreen screen;
+    ItemTrasher trasher{model, modelServices.defaults, workspace, alert, screen};
+};
+
+TEST_F(ItemTrasherTest, MovesAnItemOfTheUsersWithoutAWord)
+{
+    trash("docs/a");
+    EXPECT_TRUE(alert.asked.empty());
+    ASSERT_EQ(workspace.recycled.size(), 1U);
+    EXPECT_EQ(workspace.recycled[0], (std::vector{Url("/Users/me/docs/a", false)}));
+}
+
+TEST_F(ItemTrasherTest, WarnsOfAFileInASystemFolder)
+{
+    model.setTopFolder(test::makeTree("/usr", "lib/ ( a.so:5 )"));
+    trash("lib/a.so");
+    EXPECT_EQ(
+        question(),
+        "The selected file 'a.so' is located inside a system folder. Other applications may be "
+        "using this file. Are you sure you want to move this file to the trash?");
+    EXPECT_EQ(alert.asked[0].messageText, QStringLiteral("Warning"));
+    EXPECT_EQ(
+        alert.asked[0].buttons,
+        (QStringList{QStringLiteral("Move To Trash"), QStringLiteral("Cancel")}));
+    EXPECT_TRUE(isAskedToMove());
+}
+
+TEST_F(ItemTrasherTest, WarnsOfAFolderInASystemFolder)
+{
+    model.setTopFolder(test::makeTree("/usr", "lib/ ( a.so:5 )"));
+    trash("lib");
+    EXPECT_EQ(
+        question(),
+        "The selected folder 'lib' is located inside a system folder. Other applications may be "
+        "using this folder. Are you sure you want to move this folder to the trash?");
+}
+
+TEST_F(ItemTrasherTest, CancellingTheSystemWarningLeavesAllAsItIs)
+{
+    model.setTopFolder(test::makeTree("/usr", "lib/ ( a.so:5 )"));
+    alert.answer = kCancel;
+    trash("lib");
+    EXPECT_FALSE(isAskedToMove());
+}
+
+TEST_F(ItemTrasherTest, AcceptingTheSystemWarningSparesTheOneForHiddenItems)
+{
+    model.setTopFolder(test::makeTree("/usr", "lib/ ( a.so:5 )"));
+    hide("lib/a.so");
+    trash("lib/a.so");
+    EXPECT_EQ(alert.asked.size(), 1U);
+    EXPECT_TRUE(isAskedToMove());
+}
+
+TEST_F(ItemTrasherTest, WithoutTheSystemWarningAHiddenSystemItemGetsTheOther)
+{
+    modelServices.defaults.setBoolean(kWarnDeleteSystemKey, false);
+    model.setTopFolder(test::makeTree("/usr", "lib/ ( a.so:5 )"));
+    hide("lib/a.so");
+    trash("lib/a.so");
+    EXPECT_EQ(
+        question(),
+        "The selected file 'a.so' is marked as hidden, are you sure you want to move this item to "
+        "the trash?");
+}
+
+TEST_F(ItemTrasherTest, AHiddenItemOnAMountedVolumeGetsOnlyTheHiddenWarning)
+{
+    model.setTopFolder(test::makeTree("/Volumes/stick", "a:5"));
+    hide("a");
+    trash("a");
+    ASSERT_EQ(alert.asked.size(), 1U);
+    EXPECT_NE(question().find("is marked as hidden"), std::string::npos);
+}
+
+TEST_F(ItemTrasherTest, WarnsOfAnItemInAHiddenFolder)
+{
+    hide(".cfg");
+    trash(".cfg/x");
+    EXPECT_EQ(
+        question(),
+        "The selected file 'x' is located inside a hidden folder, are you sure you want to move "
+        "this item to the trash?");
+}
+
+TEST_F(ItemTrasherTest, AHiddenItemInAHiddenFolderIsItselfHidden)
+{
+    hide(".cfg");
+    hide(".cfg/.y");
+    trash(".cfg/.y");
+    EXPECT_NE(question().find("'.y' is marked as hidden"), std::string::npos);
+}
+
+TEST_F(ItemTrasherTest, CancellingTheHiddenWarningLeavesAllAsItIs)
+{
+    hide(".cfg");
+    alert.answer = kCancel;
+    trash(".cfg");
+    EXPECT_FALSE(isAskedToMove());
+}
+
+TEST_F(ItemTrasherTest, AHiddenItemGoesQuietlyWhenTheUserWantsNoWarning)
+{
+    modelServices.defaults.setBoolean(kWarnDeleteHiddenKey, false);
+    hide(".cfg");
+    trash(".cfg");
+    EXPECT_TRUE(alert.asked.empty());
+    EXPECT_TRUE(isAskedToMove());
+}
+
+TEST_F(ItemTrasherTest, TheScannedFolderHidesNothing)
+{
+    model.topFolder()->setHidden(true);
+    trash("docs/a");
+    EXPECT_TRUE(alert.asked.empty());
+}
+
+TEST_F(ItemTrasherTest, AnItemNeverHidesTheScannedFolderItself)
+{
+    model.topFolder()->setHidden(true);
+    trasher.trash(*model.topFolder());
+    EXPECT_TRUE(alert.asked.empty());
+}
+
+TEST_F(ItemTrasherTest, TheTreeStaysAsItIsUntilTheItemHasMoved)
+{
+    trash("docs/a");
+    EXPECT_EQ(node("docs").totalAllocation(), 700U);
+    EXPECT_EQ(screen.renderCount, 0);
+}
+
+TEST_F(ItemTrasherTest, AMovedItemsNodeGoesUnderTheScannedTrash)
+{
+    const Url url = node("docs/a").url();
+    trash("docs/a");
+    moveEnds(url, "a");
+    EXPECT_EQ(node("docs").totalAllocation(), 200U);
+    EXPECT_EQ(node(".local/Trash/files").totalAllocation(), 501U);
+    EXPECT_EQ(node(".local/Trash/files/a").totalAllocation(), 500U);
+    EXPECT_EQ(screen.leaving, std::vector<std::string>{"a"});
+    EXPECT_TRUE(screen.isSelectionTaken);
+    EXPECT_EQ(screen.refreshCount, 1);
+    EXPECT_EQ(screen.renderCount, 1);
+}
+
+TEST_F(ItemTrasherTest, ItIsCalledThereAsTheTrashCallsIt)
+{
+    const Url url = node("docs").url();
+    trash("docs");
+    moveEnds(url, "docs 2\xFF");
+    EXPECT_EQ(
+        node(".local/Trash/files/docs 2\xFF/deep/b").absolutePath(),
+        "/Users/me/.local/Trash/files/docs 2\xFF/deep/b");
+}
+
+TEST_F(ItemTrasherTest, ARescannedFolderKnowsWhereItIsAfterTheMove)
+{
+    auto& docs = static_cast<Folder&>(node("docs"));
+    docs.replaceChild(node("docs/deep"), test::makeTree("/Users/me/docs/deep", "b:300"));
+    const Url url = docs.url();
+    trash("docs");
+    moveEnds(url, "docs 2");
+    EXPECT_EQ(
+        node(".local/Trash/files/docs 2/deep/b").absolutePath(),
+        "/Users/me/.local/Trash/files/docs 2/deep/b");
+}
+
+TEST_F(ItemTrasherTest, WithoutAScannedTrashTheItemLeavesTheTree)
+{
+    const Url url = node("docs/a").url();
+    trash("docs/a");
+    RecycleResult result;
+    result.newUrls[url.absoluteString()] = Url("/elsewhere/Trash/files/a", false);
+    ASSERT_TRUE(workspace.finishRecycling(result));
+    EXPECT_EQ(model.topFolder()->totalAllocation(), 316U);
+    EXPECT_EQ(screen.renderCount, 1);
+}
+
+TEST_F(ItemTrasherTest, AFailureIsToldAndLeavesTheTreeAsItIs)
+{
+    trash("docs/a");
+    moveFails("The disk is read-only.");
+    ASSERT_EQ(alert.told.size(), 1U);
+    EXPECT_EQ(alert.told[0].messageText, QStringLiteral("Error moving to Trash"));
+    EXPECT_EQ(
+        alert.told[0].informativeText,
+        QStringLiteral("Error moving 'a' to the Trash for recycling. This file may be restricted "
+                       "or you may have read-only access to this file."));
+    EXPECT_EQ(alert.told[0].reason, QStringLiteral("The disk is read-only."));
+    EXPECT_EQ(alert.told[0].buttons, QStringList{QStringLiteral("OK")});
+    EXPECT_EQ(node("docs").totalAllocation(), 700U);
+    EXPECT_EQ(screen.renderCount, 0);
+}
+
+TEST_F(ItemTrasherTest, AnItemOnItsWayIsNotAskedForAgain)
+{
+    trash("docs");
+    trash("docs");
+    trash("docs/a");
+    EXPECT_EQ(workspace.recycled.size(), 1U);
+}
+
+TEST_F(ItemTrasherTest, AfterAFailureItCanBeAskedForAgain)
+{
+    trash("docs");
+    moveFails("No.");
+    trash("docs");
+    EXPECT_EQ(workspace.recycled.size(), 2U);
+}
+
+TEST_F(ItemTrasherTest, AnotherTreeOfTheSamePlaceLosesTheItemToo)
+{
+    const Url url = node("docs/a").url();
+    trash("docs/a");
+    model.setTopFolder(test::makeTree("/Users/me", "docs/ ( a:600 )"));
+    moveEnds(url, "a");
+    EXPECT_EQ(node("docs").totalAllocation(), 0U);
+}
+
+TEST_F(ItemTrasherTest, ATreeWithoutTheItemStaysAsItIs)
+{
+    const Url url = node("docs/a").url();
+    trash("docs/a");
+    model.setTopFolder(test::makeTree("/Users/me", "docs/ ( b:600 )"));
+    moveEnds(url, "a");
+    EXPECT_EQ(model.topFolder()->totalAllocation(), 600U);
+}
+
+TEST_F(ItemTrasherTest, AMoveMayEndWhenTheTrasherIsGone)
+{
+    auto other
+        = std::make_unique<ItemTrasher>(model, modelServices.defaults, workspace, alert, screen);
+    const Url url = node("docs/a").url();
+    other->trash(node("docs/a"));
+    other.reset();
+    moveEnds(url, "a");
+    EXPECT_EQ(node("docs").totalAllocation(), 700U);
+}
+
+} // namespace
+} // namespace tessera

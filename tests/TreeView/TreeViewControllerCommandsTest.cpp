@@ -1,0 +1,319 @@
+// SPDX-License-Identifier: MIT
+#include "FileOps/CompressWindowController.h"
+#include "Model/FreeSpace.h"
+#include "Model/NotificationCenter.h"
+#include "Model/RootModel.h"
+#include "QuickLook/QuickLookPanel.h"
+#include "TreeView/SelectionPreview.h"
+#include "TreeView/TreeBranch.h"
+#include "TreeView/TreeMapView.h"
+#include "TreeView/TreeViewController.h"
+#include "support/FakeRootModelServices.h"
+#include "support/FakeTreeViewServices.h"
+#include "support/makeTree.h"
+
+#include <QApplication>
+#include <QMenu>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace tessera {
+namespace {
+
+class TreeViewControllerCommandsTest : public testing::Test {
+protected:
+    TreeViewControllerCommandsTest()
+    {
+        services.motion.reduced = true;
+        panel.setReducedMotion([] { return true; });
+        model.setTopFolder(test::makeTree("/data", "docs/ ( a:500000 b:200000 ) c\xFF:300000"));
+        view.resize(400, 300);
+        view.show();
+        controller = std::make_unique<TreeViewController>(model, view, services.get());
+    }
+    ~TreeViewControllerCommandsTest() override { panel.orderOut(); }
+
+    File& node(std::string_view path) { return test::at(*model.topFolder(), path); }
+    void select(std::string_view path) { controller->setSelectedFile(&node(path)); }
+
+    bool press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        return controller->keyDown(QKeyEvent(QEvent::KeyPress, key, modifiers));
+    }
+
+    bool canDo(TreeCommand command) const { return controller->validate(command); }
+
+    test::FakeRootModelServices modelServices;
+    RootModel model{modelServices.get()};
+    test::FakeTreeViewServices services;
+    QuickLookPanel& panel = QuickLookPanel::sharedInstance();
+    TreeMapView view{services.defaults};
+    std::unique_ptr<TreeViewController> controller;
+};
+
+TEST_F(TreeViewControllerCommandsTest, WithoutASelectionNoCommandMakesSense)
+{
+    for (const TreeCommand command :
+         {TreeCommand::QuickLook,
+          TreeCommand::ShowInFinder,
+          TreeCommand::ZoomIn,
+          TreeCommand::Rescan,
+          TreeCommand::Compress,
+          TreeCommand::MoveToTrash}) {
+        EXPECT_FALSE(canDo(command));
+    }
+}
+
+TEST_F(TreeViewControllerCommandsTest, OnlyFoldersAreZoomedIntoAndRescanned)
+{
+    select("docs");
+    EXPECT_TRUE(canDo(TreeCommand::ZoomIn));
+    EXPECT_TRUE(canDo(TreeCommand::Rescan));
+    select("docs/a");
+    EXPECT_FALSE(canDo(TreeCommand::ZoomIn));
+    EXPECT_FALSE(canDo(TreeCommand::Rescan));
+    EXPECT_TRUE(canDo(TreeCommand::MoveToTrash));
+}
+
+TEST_F(TreeViewControllerCommandsTest, ShowsAFileInTheFileManager)
+{
+    select("docs/a");
+    controller->perform(TreeCommand::ShowInFinder);
+    EXPECT_EQ(services.workspace.revealed, std::vector<std::string>{"/data/docs/a"});
+}
+
+TEST_F(TreeViewControllerCommandsTest, SaysWhenThereIsNoFileManager)
+{
+    services.workspace.answer = false;
+    select("docs/a");
+    controller->perform(TreeCommand::ShowInFinder);
+    EXPECT_EQ(services.alert.told.size(), 1U);
+}
+
+TEST_F(TreeViewControllerCommandsTest, MovesTheSelectedItemToTheTrash)
+{
+    select("c\xFF");
+    controller->perform(TreeCommand::MoveToTrash);
+    ASSERT_EQ(services.workspace.recycled.size(), 1U);
+    EXPECT_EQ(services.workspace.recycled[0][0].path(), "/data/c\xFF");
+}
+
+TEST_F(TreeViewControllerCommandsTest, WhatIsInViewEndsWhenItIsTrashed)
+{
+    select("docs");
+    const Url url = node("docs").url();
+    controller->trashItem();
+    controller->zoomIn();
+    select("docs/a");
+    ASSERT_EQ(controller->currentFolder(), &node("docs"));
+    RecycleResult result;
+    result.newUrls[url.absoluteString()] = Url("/trash/docs", true);
+    ASSERT_TRUE(services.workspace.finishRecycling(result));
+    EXPECT_EQ(controller->currentFolder(), model.topFolder());
+    EXPECT_EQ(controller->selectedFile(), nullptr);
+}
+
+TEST_F(TreeViewControllerCommandsTest, CompressesTheSelectedItem)
+{
+    select("docs");
+    controller->perform(TreeCommand::Compress);
+    EXPECT_EQ(services.archiver.program, "/archiver");
+    EXPECT_EQ(
+        services.archiver.arguments,
+        (std::vector<std::string>{"-c", "-k", "--sequesterRsrc", "/data/docs", "/data/docs.zip"}));
+    services.archiver.onTerminated(1);
+    QTRY_COMPARE(services.workspace.recycled.size(), 1U);
+    ASSERT_TRUE(services.workspace.finishRecycling({}));
+    QTRY_VERIFY(services.archiver.isDestroyed);
+    QTest::qWait(0);
+}
+
+TEST_F(TreeViewControllerCommandsTest, AnArchiveJoinsTheTree)
+{
+    services.resourceValues.size = 4096;
+    NotificationCenter::defaultCenter().post("ItemCompressed", Url("/data/docs/a.zip", false));
+    EXPECT_EQ(node("docs/a.zip").totalAllocation(), 4096U);
+    EXPECT_EQ(node("docs/a.zip").type(), NodeType::Document);
+    EXPECT_EQ(node("docs").totalAllocation(), 704096U);
+    EXPECT_EQ(view.branches().front()->layoutItems().size(), 2U);
+}
+
+TEST_F(TreeViewControllerCommandsTest, AnArchiveThatCannotBeReadHasNoSize)
+{
+    NotificationCenter::defaultCenter().post("ItemCompressed", Url("/data/docs/a.zip", false));
+    EXPECT_EQ(node("docs/a.zip").totalAllocation(), 0U);
+}
+
+TEST_F(TreeViewControllerCommandsTest, AnArchiveElsewhereIsNobodysConcern)
+{
+    NotificationCenter::defaultCenter().post("ItemCompressed", Url("/trash/a.zip", false));
+    NotificationCenter::defaultCenter().post("ItemCompressed");
+    EXPECT_EQ(model.topFolder()->totalAllocation(), 1000000U);
+}
+
+TEST_F(TreeViewControllerCommandsTest, ADoubleClickOnADocumentPreviewsIt)
+{
+    select("docs/a");
+    NotificationCenter::defaultCenter().post("DoubleClickTreeItem");
+    EXPECT_TRUE(panel.isOpen());
+}
+
+TEST_F(TreeViewControllerCommandsTest, ADoubleClickOnSpaceDoesNothing)
+{
+    const auto space = makeNode<FreeSpace>("");
+    controller->setSelectedFile(space.get());
+    NotificationCenter::defaultCenter().post("DoubleClickTreeItem");
+    EXPECT_FALSE(panel.isOpen());
+    EXPECT_EQ(controller->currentFolder(), model.topFolder());
+    controller->setSelectedFile(nullptr);
+}
+
+TEST_F(TreeViewControllerCommandsTest, ThePreviewHasOneItemWhateverIsSelected)
+{
+    EXPECT_EQ(panel.dataSource()->numberOfPreviewItemsInPreviewPanel(), 1);
+    EXPECT_TRUE(panel.dataSource()->previewItemAtIndex(0).previewItemURL().empty());
+    select("docs/a");
+    EXPECT_EQ(panel.dataSource()->numberOfPreviewItemsInPreviewPanel(), 1);
+    EXPECT_EQ(
+        panel.dataSource()->previewItemAtIndex(7).previewItemURL(), Url("/data/docs/a", false));
+}
+
+TEST_F(TreeViewControllerCommandsTest, ThePreviewGrowsOutOfTheSelectedBox)
+{
+    select("c\xFF");
+    const Rect box = view.findRectForFile(node("c\xFF")).value();
+    const QRectF frame = panel.delegate()->sourceFrameOnScreenForPreviewItem(
+        panel.dataSource()->previewItemAtIndex(0));
+    EXPECT_EQ(frame.topLeft(), view.mapToGlobal(QPointF(box.x, box.y)));
+    EXPECT_EQ(frame.size(), QSizeF(box.width, box.height));
+}
+
+TEST_F(TreeViewControllerCommandsTest, WhatIsNotInThePictureHasNoPlaceToGrowOutOf)
+{
+    EXPECT_TRUE(panel.delegate()
+                    ->sourceFrameOnScreenForPreviewItem(panel.dataSource()->previewItemAtIndex(0))
+                    .isEmpty());
+}
+
+TEST_F(TreeViewControllerCommandsTest, KeysInThePreviewReachTheTreeScreen)
+{
+    QKeyEvent down(QEvent::KeyPress, Qt::Key_Left, Qt::NoModifier);
+    EXPECT_TRUE(panel.delegate()->handleEvent(down));
+    EXPECT_EQ(controller->selectedFile(), &node("docs"));
+    QKeyEvent up(QEvent::KeyRelease, Qt::Key_Left, Qt::NoModifier);
+    EXPECT_FALSE(panel.delegate()->handleEvent(up));
+}
+
+TEST_F(TreeViewControllerCommandsTest, GoingAwayTakesThePreviewAlong)
+{
+    select("docs/a");
+    controller->quickLook();
+    controller.reset();
+    EXPECT_FALSE(panel.isOpen());
+    EXPECT_EQ(panel.dataSource(), nullptr);
+    EXPECT_EQ(panel.delegate(), nullptr);
+}
+
+TEST_F(TreeViewControllerCommandsTest, ArrowsMoveTheSelection)
+{
+    EXPECT_TRUE(press(Qt::Key_Right));
+    EXPECT_EQ(controller->selectedFile(), &node("docs"));
+    const Rect docs = view.findRectForFile(node("docs")).value();
+    const Rect c = view.findRectForFile(node("c\xFF")).value();
+    EXPECT_TRUE(press(c.x > docs.x ? Qt::Key_Right : Qt::Key_Down));
+    EXPECT_EQ(controller->selectedFile(), &node("c\xFF"));
+    EXPECT_FALSE(press(c.x > docs.x ? Qt::Key_Right : Qt::Key_Down));
+}
+
+TEST_F(TreeViewControllerCommandsTest, AMovedSelectionIsDrawn)
+{
+    const QImage before = view.picture().copy();
+    press(Qt::Key_Right);
+    EXPECT_NE(view.picture(), before);
+}
+
+TEST_F(TreeViewControllerCommandsTest, EnterZoomsIntoAFolder)
+{
+    EXPECT_FALSE(press(Qt::Key_Return));
+    select("docs");
+    EXPECT_TRUE(press(Qt::Key_Return));
+    EXPECT_EQ(controller->currentFolder(), &node("docs"));
+}
+
+TEST_F(TreeViewControllerCommandsTest, EnterPreviewsADocument)
+{
+    select("c\xFF");
+    EXPECT_TRUE(press(Qt::Key_Enter, Qt::KeypadModifier));
+    EXPECT_TRUE(panel.isOpen());
+}
+
+TEST_F(TreeViewControllerCommandsTest, BackspaceAndEscapeZoomOut)
+{
+    for (const Qt::Key key : {Qt::Key_Backspace, Qt::Key_Escape}) {
+        EXPECT_FALSE(press(key));
+        select("docs");
+        press(Qt::Key_Return);
+        EXPECT_TRUE(press(key));
+        EXPECT_EQ(controller->currentFolder(), model.topFolder());
+    }
+}
+
+TEST_F(TreeViewControllerCommandsTest, SpaceOpensAndClosesThePreview)
+{
+    EXPECT_FALSE(press(Qt::Key_Space));
+    select("docs/a");
+    EXPECT_TRUE(press(Qt::Key_Space));
+    EXPECT_TRUE(panel.isOpen());
+    EXPECT_TRUE(press(Qt::Key_Space));
+    EXPECT_FALSE(panel.isOpen());
+}
+
+TEST_F(TreeViewControllerCommandsTest, DeleteMovesToTheTrash)
+{
+    EXPECT_FALSE(press(Qt::Key_Delete));
+    select("docs/a");
+    EXPECT_TRUE(press(Qt::Key_Delete));
+    EXPECT_EQ(services.workspace.recycled.size(), 1U);
+}
+
+TEST_F(TreeViewControllerCommandsTest, AHeldDeleteKeyAsksOnce)
+{
+    select("docs/a");
+    const QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier, QString(), true);
+    EXPECT_FALSE(controller->keyDown(repeated));
+    EXPECT_TRUE(services.workspace.recycled.empty());
+}
+
+TEST_F(TreeViewControllerCommandsTest, KeysWithModifiersAreLeftToOthers)
+{
+    select("docs/a");
+    EXPECT_FALSE(press(Qt::Key_Delete, Qt::ShiftModifier));
+    EXPECT_FALSE(press(Qt::Key_Left, Qt::AltModifier));
+    EXPECT_FALSE(press(Qt::Key_A));
+}
+
+TEST_F(TreeViewControllerCommandsTest, TheViewPassesItsKeysOn)
+{
+    QTest::keyClick(&view, Qt::Key_Down);
+    EXPECT_EQ(controller->selectedFile(), &node("docs"));
+}
+
+TEST_F(TreeViewControllerCommandsTest, TheMenuKeyOpensTheMenuOfTheSelectedBox)
+{
+    select("docs");
+    controller->renderTree();
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+    QApplication::sendEvent(&view, &event);
+    const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    EXPECT_TRUE(menu->actions().front()->isEnabled());
+    QApplication::activePopupWidget()->close();
+}
+
+} // namespace
+} // namespace tessera
