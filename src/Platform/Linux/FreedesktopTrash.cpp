@@ -222,9 +222,9 @@ std::string FreedesktopTrash::refusal(const TrashItem& item, const MountTable& m
 
 bool FreedesktopTrash::isInTrash(const TrashItem& item, const MountTable& mounts) const
 {
-    const Mount* const mount = mounts.mountOf(item.path, item.parentStatus.mountId);
+    const std::optional<Mount> mount = mounts.mountOf(item.path, item.parentStatus.mountId);
     return isAtOrInside(item.path, withoutLinks(m_user.homeTrash))
-        || (mount != nullptr && isInTopTrash(item.path, mount->point));
+        || (mount && isInTopTrash(item.path, mount->point));
 }
 
 TrashDirectoryResult FreedesktopTrash::openTrashFor(
@@ -233,8 +233,8 @@ TrashDirectoryResult FreedesktopTrash::openTrashFor(
     if (isTrashOnMountOf(item.parentStatus, m_user.homeTrash)) {
         return openHomeTrash(m_user.homeTrash);
     }
-    const Mount* const mount = mounts.mountOf(item.path, item.parentStatus.mountId);
-    if (mount == nullptr) {
+    const std::optional<Mount> mount = mounts.mountOf(item.path, item.parentStatus.mountId);
+    if (!mount) {
         TrashDirectoryResult unknown;
         unknown.error = EXDEV;
         return unknown;

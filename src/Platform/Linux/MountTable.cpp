@@ -77,7 +77,8 @@ MountTable MountTable::ofThisProcess()
     return MountTable(text);
 }
 
-const Mount* MountTable::mountOf(std::string_view path, std::optional<std::uint64_t> id) const
+std::optional<Mount> MountTable::mountOf(
+    std::string_view path, std::optional<std::uint64_t> id) const
 {
     const Mount* longest = nullptr;
     for (const Mount& mount : m_mounts) {
@@ -86,7 +87,7 @@ const Mount* MountTable::mountOf(std::string_view path, std::optional<std::uint6
             longest = &mount;
         }
     }
-    return longest;
+    return longest != nullptr ? std::optional(*longest) : std::nullopt;
 }
 
 bool MountTable::hasMountInside(std::string_view folder) const

@@ -27,8 +27,8 @@ public:
 
     /// The mount that a path without links lies on: the one with the longest mount point above it,
     /// and of several at that point the last. With `id`, only the mount of that number: another
-    /// may be covered by one mounted higher up later. Null when there is none.
-    const Mount* mountOf(std::string_view path, std::optional<std::uint64_t> id) const;
+    /// may be covered by one mounted higher up later. Nothing when there is none.
+    std::optional<Mount> mountOf(std::string_view path, std::optional<std::uint64_t> id) const;
 
     /// Whether something is mounted at a place inside the folder.
     bool hasMountInside(std::string_view folder) const;

@@ -113,8 +113,10 @@ TrashDirectoryResult openOwnTrash(const FileDescriptor& parent, const std::strin
 
 NewFolders::~NewFolders()
 {
-    for (auto folder = m_made.rbegin(); folder != m_made.rend(); ++folder) {
-        ::unlinkat(folder->parent.number(), folder->name.c_str(), AT_REMOVEDIR);
+    while (!m_made.empty()) {
+        const Folder& last = m_made.back();
+        ::unlinkat(last.parent.number(), last.name.c_str(), AT_REMOVEDIR);
+        m_made.pop_back();
     }
 }
 
