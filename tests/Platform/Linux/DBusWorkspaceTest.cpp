@@ -4,6 +4,7 @@
 #include "Model/Url.h"
 #include "support/FakeMainThread.h"
 
+#include <QByteArray>
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -11,6 +12,7 @@
 #include <QDeadlineTimer>
 #include <QProcess>
 #include <QStandardPaths>
+#include <QTemporaryFile>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -44,6 +46,18 @@ public:
     std::vector<std::string> calls;
 };
 
+/// A session bus on which nothing is started when it is asked for: the file manager that is
+/// installed here must not answer.
+const QByteArray kBusConfiguration = R"(<busconfig>
+  <type>session</type>
+  <listen>unix:tmpdir=/tmp</listen>
+  <policy context="default">
+    <allow send_destination="*" eavesdrop="true"/>
+    <allow eavesdrop="true"/>
+    <allow own="*"/>
+  </policy>
+</busconfig>)";
+
 /// A bus of the test's own, so that no real file manager is asked.
 class DBusWorkspaceOnABus : public testing::Test {
 protected:
@@ -53,9 +67,12 @@ protected:
         if (daemon.isEmpty()) {
             GTEST_SKIP() << "dbus-daemon is not installed";
         }
+        ASSERT_TRUE(m_configuration.open());
+        m_configuration.write(kBusConfiguration);
+        m_configuration.close();
         m_daemon.start(
             daemon,
-            {QStringLiteral("--session"),
+            {QStringLiteral("--config-file=") + m_configuration.fileName(),
              QStringLiteral("--nofork"),
              QStringLiteral("--print-address")});
         ASSERT_TRUE(m_daemon.waitForReadyRead());
@@ -103,6 +120,7 @@ protected:
         }
     }
 
+    QTemporaryFile m_configuration;
     QProcess m_daemon;
     QString m_address;
     std::unique_ptr<QDBusConnection> m_bus;
