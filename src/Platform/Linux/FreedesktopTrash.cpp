@@ -236,7 +236,7 @@ TrashDirectoryResult FreedesktopTrash::openTrashFor(
     const std::optional<Mount> mount = mounts.mountOf(item.path, item.parentStatus.mountId);
     if (!mount) {
         TrashDirectoryResult unknown;
-        unknown.error = EXDEV;
+        unknown.error = ENODEV;
         return unknown;
     }
     return openTopTrash(mount->point, m_user.id);

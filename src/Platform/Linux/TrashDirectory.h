@@ -7,6 +7,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace tessera {
@@ -17,7 +18,12 @@ class NewFolders {
 public:
     NewFolders() = default;
     NewFolders(NewFolders&& other) noexcept = default;
-    NewFolders& operator=(NewFolders&& other) noexcept = default;
+    NewFolders& operator=(NewFolders&& other) noexcept
+    {
+        // The other's end removes what this one made.
+        std::swap(m_made, other.m_made);
+        return *this;
+    }
     NewFolders(const NewFolders&) = delete;
     NewFolders& operator=(const NewFolders&) = delete;
     ~NewFolders();

@@ -79,7 +79,7 @@ std::string trashErrorSentence(const std::string& name, int error)
     case EDQUOT:
         return quoted + " was not moved to the trash, because its disk has no space left.";
     case EXDEV:
-        return quoted + " was not moved to the trash, because its disk has no trash for you.";
+        return quoted + " was not moved to the trash, because it could only be copied there.";
     case EBUSY:
         return quoted + " was not moved to the trash, because the system is using it.";
     case ENAMETOOLONG:
@@ -98,7 +98,7 @@ std::string noTrashSentence(const std::string& name, int error)
     case EDQUOT:
         return trashErrorSentence(name, error);
     default:
-        return trashErrorSentence(name, EXDEV);
+        return '\'' + name + "' was not moved to the trash, because its disk has no trash for you.";
     }
 }
 

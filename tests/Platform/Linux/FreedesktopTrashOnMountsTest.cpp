@@ -142,14 +142,40 @@ TEST_F(TrashOnAMount, WithoutSpaceForTheInfoFilesContentTheItemStays)
 
 TEST_F(TrashOnAMount, WithoutRoomForAnotherFileTheItemStays)
 {
-    // With "." and the item, one more folder fits in, then two, then three.
-    for (const int inodes : {2, 3, 4, 5}) {
-        const std::string name = "full" + std::to_string(inodes);
+    // The mount's top and the item are two; each further one is one more folder that is made before
+    // there is no room.
+    for (const int files : {2, 3, 4, 5}) {
+        const std::string name = "full" + std::to_string(files);
         m_tree.makeFolder(name);
-        m_mounts.mountMemory(m_tree.pathOf(name), "nr_inodes=" + std::to_string(inodes));
+        m_mounts.mountMemory(m_tree.pathOf(name), "nr_inodes=" + std::to_string(files));
         m_tree.makeFile(name + "/a");
-        EXPECT_THAT(moveInVain(name + "/a"), HasSubstr("its disk has no space left")) << inodes;
+        EXPECT_THAT(moveInVain(name + "/a"), HasSubstr("its disk has no space left")) << files;
     }
+}
+
+TEST_F(TrashOnAMount, WithoutRoomInTheTrashForAllUsersTheItemStays)
+{
+    for (const int files : {3, 4, 5, 6}) {
+        const std::string name = "full" + std::to_string(files);
+        m_tree.makeFolder(name);
+        m_mounts.mountMemory(m_tree.pathOf(name), "nr_inodes=" + std::to_string(files));
+        m_tree.makeFolder(name + "/.Trash");
+        m_tree.setMode(name + "/.Trash", kForAllUsers);
+        m_tree.makeFile(name + "/a");
+        EXPECT_THAT(moveInVain(name + "/a"), HasSubstr("its disk has no space left")) << files;
+    }
+}
+
+TEST_F(TrashOnAMount, ATrashOnAnotherMountThanTheItemIsNotMovedTo)
+{
+    m_tree.makeFolder("disk/.Trash-" + m_userId);
+    m_tree.makeFolder("disk/.Trash-" + m_userId + "/files");
+    m_mounts.mountMemory(m_disk + "/.Trash-" + m_userId + "/files");
+    m_tree.makeFile("disk/a");
+    EXPECT_EQ(
+        move("disk/a"), "'a' was not moved to the trash, because it could only be copied there.");
+    EXPECT_TRUE(exists(m_disk + "/a"));
+    EXPECT_THAT(namesIn(m_disk + "/.Trash-" + m_userId + "/info"), IsEmpty());
 }
 
 TEST_F(TrashOnAMount, AMountPointStays)
