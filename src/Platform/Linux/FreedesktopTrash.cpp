@@ -185,7 +185,7 @@ FreedesktopTrash::Outcome FreedesktopTrash::move(const Url& url) const
     if (std::string refused = refusal(item, mounts); !refused.empty()) {
         return {std::move(refused), {}};
     }
-    TrashDirectoryResult opened = openTrashFor(item, mounts);
+    const TrashDirectoryResult opened = openTrashFor(item, mounts);
     if (!opened) {
         return {noTrashSentence(item.name, opened.error), {}};
     }
@@ -193,7 +193,6 @@ FreedesktopTrash::Outcome FreedesktopTrash::move(const Url& url) const
     if (const int error = moveInto(opened.trash, item, name); error != 0) {
         return {trashErrorSentence(item.name, error), {}};
     }
-    opened.trash.newFolders.keep();
     return {{}, Url(opened.trash.path + "/files/" + name, url.isDirectory())};
 }
 

@@ -12,8 +12,8 @@
 
 namespace tessera {
 
-/// Makes folders that only the user may enter, and removes those it made again unless they are
-/// kept: a move that fails leaves nothing behind.
+/// Makes folders that only the user may enter, and in the end removes those it made again that are
+/// empty still: a move that fails leaves nothing behind.
 class NewFolders {
 public:
     NewFolders() = default;
@@ -31,8 +31,6 @@ public:
     /// Makes the folder unless something has the name already. 0, or the errno.
     [[nodiscard]] int make(const FileDescriptor& parent, const std::string& name);
 
-    void keep() { m_made.clear(); }
-
 private:
     struct Folder {
         FileDescriptor parent;
@@ -48,7 +46,7 @@ struct TrashDirectory {
     FileDescriptor info; ///< holds a file for each of them that says where it was
     std::string path; ///< the folder that holds those two
     std::string topDirectory; ///< what the original paths are relative to; empty: to nothing
-    NewFolders newFolders; ///< to be kept once an item has come in
+    NewFolders newFolders;
 };
 
 /// A trash, or the errno that says why it cannot be used.

@@ -5,10 +5,13 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
+#include <functional>
 #include <future>
 #include <memory>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace tessera {
@@ -92,19 +95,47 @@ TEST(BackgroundTrash, OneThatIsGoneTellsNothingAnyMore)
     EXPECT_FALSE(told);
 }
 
+/// Keeps what it is given until it is asked to run it.
+class HeldMainThread final : public MainThread {
+public:
+    void perform(std::function<void()> work) override { m_held.set_value(std::move(work)); }
+    void performAndWait(std::function<void()> work) override { perform(std::move(work)); }
+
+    std::function<void()> held() { return m_held.get_future().get(); }
+
+private:
+    std::promise<std::function<void()>> m_held;
+};
+
+TEST(BackgroundTrash, OneThatGoesWhileItsNewsWaitTellsNothingEither)
+{
+    HeldMainThread mainThread;
+    auto trash = std::make_unique<BackgroundTrash>(
+        mainThread, [](const std::vector<Url>&) { return RecycleResult(); });
+    bool told = false;
+    trash->recycle({}, [&](const RecycleResult&) { told = true; });
+    const std::function<void()> news = mainThread.held();
+    trash.reset();
+    news();
+    EXPECT_FALSE(told);
+}
+
 TEST(BackgroundTrash, TheEndWaitsForAMoveUnderWay)
 {
     test::FakeMainThread mainThread;
-    bool hasEnded = false;
+    std::atomic<bool> hasEnded = false;
     {
-        std::promise<void> goOn;
+        std::promise<void> begun;
         BackgroundTrash trash(mainThread, [&](const std::vector<Url>&) {
-            goOn.get_future().wait();
+            begun.set_value();
+            for (int i = 0; i < 10'000; ++i) {
+                std::this_thread::yield();
+            }
             hasEnded = true;
             return RecycleResult();
         });
         trash.recycle({}, [](const RecycleResult&) {});
-        goOn.set_value();
+        begun.get_future().wait();
     }
     EXPECT_TRUE(hasEnded);
 }

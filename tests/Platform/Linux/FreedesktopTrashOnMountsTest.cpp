@@ -251,6 +251,15 @@ TEST_F(TrashOnAMount, AFolderIsNotATrashBecauseItsNameBeginsLikeOne)
     }
 }
 
+TEST_F(TrashOnAMount, AHomeTrashThatNobodyCanReachGivesWayToTheMounts)
+{
+    m_tree.makeFile("disk/file");
+    m_tree.makeFile("disk/a");
+    const FreedesktopTrash trash({::geteuid(), m_disk + "/file/Trash", {}});
+    EXPECT_EQ(trash.recycle({Url(m_disk + "/a", false)}).error, "");
+    EXPECT_THAT(namesIn(m_disk + "/.Trash-" + m_userId + "/files"), ElementsAre("a"));
+}
+
 TEST_F(TrashOnAMount, OneWhoseHomeTrashIsOnTheMountUsesThatOne)
 {
     const FreedesktopTrash trash({::geteuid(), m_disk + "/data/Trash", {}});
