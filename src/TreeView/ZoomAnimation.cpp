@@ -6,6 +6,7 @@
 #include <QPainter>
 
 #include <chrono>
+#include <cmath>
 #include <utility>
 
 namespace tessera {
@@ -17,7 +18,7 @@ constexpr int kFrameMilliseconds = 16;
 
 QTransform between(const QTransform& from, const QTransform& to, double progress)
 {
-    const auto mix = [progress](double a, double b) { return a + (b - a) * progress; };
+    const auto mix = [progress](double a, double b) { return std::lerp(a, b, progress); };
     return {
         mix(from.m11(), to.m11()),
         mix(from.m12(), to.m12()),
@@ -29,9 +30,16 @@ QTransform between(const QTransform& from, const QTransform& to, double progress
 
 void paintLayer(QPainter& painter, const ZoomLayer& layer, double progress)
 {
+    const double opacity = std::lerp(layer.opacityFrom, layer.opacityTo, progress);
+    if (opacity <= 0) {
+        return;
+    }
     painter.save();
+    // Besides looking better, it is quicker: Qt has vector code for this way of scaling alone, and
+    // spreads it over several threads.
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.setTransform(between(layer.transformFrom, layer.transformTo, progress), true);
-    painter.setOpacity(layer.opacityFrom + (layer.opacityTo - layer.opacityFrom) * progress);
+    painter.setOpacity(opacity);
     painter.drawImage(QPointF(0, 0), layer.picture);
     painter.restore();
 }

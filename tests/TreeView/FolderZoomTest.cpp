@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "TreeView/FolderZoom.h"
 
-#include "Model/NotificationCenter.h"
 #include "Model/RootModel.h"
+#include "Model/UserDefaults.h"
+#include "TreeView/TooltipController.h"
 #include "TreeView/TreeBranch.h"
 #include "TreeView/TreeMapView.h"
 #include "TreeView/TreeViewController.h"
@@ -280,6 +281,33 @@ TEST_F(FolderZoomTest, AClickEndsTheZoomAtOnceAndSelectsInTheNewPicture)
     EXPECT_FALSE(view.isZooming());
     EXPECT_EQ(branches(), Names{"docs"});
     EXPECT_EQ(controller.selectedFile(), &folder("docs/deep"));
+}
+
+TEST_F(FolderZoomTest, AnyButtonPressedAnywhereEndsTheZoomAtOnce)
+{
+    controller.zoomInFolder(folder("docs"));
+    QTest::mouseClick(&view, Qt::MiddleButton, {}, QPoint(1, 1));
+    EXPECT_FALSE(view.isZooming());
+    EXPECT_EQ(branches(), Names{"docs"});
+}
+
+TEST_F(FolderZoomTest, ThereIsNoTooltipDuringAZoom)
+{
+    view.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&view));
+    defaults.setInteger(kTooltipTypeKey, 2);
+    const QWidget& tooltip = TooltipController::sharedInstance().window();
+    QTest::mouseMove(view.windowHandle(), QPoint(50, 100));
+    ASSERT_TRUE(tooltip.isVisible());
+    controller.zoomInFolder(folder("docs"));
+    EXPECT_FALSE(tooltip.isVisible());
+    QTest::mouseMove(view.windowHandle(), QPoint(60, 110));
+    EXPECT_FALSE(tooltip.isVisible());
+    finishZoom();
+    EXPECT_FALSE(tooltip.isVisible());
+    QTest::mouseMove(view.windowHandle(), QPoint(70, 120));
+    EXPECT_TRUE(tooltip.isVisible());
+    view.hideTooltip();
 }
 
 TEST_F(FolderZoomTest, RenderingEndsTheZoomAtOnce)

@@ -9,7 +9,7 @@
 #include <optional>
 #include <string>
 
-using GSettings = struct _GSettings;
+using GSettings = struct _GSettings; // NOLINT(bugprone-reserved-identifier): as GIO declares it
 
 namespace tessera {
 
