@@ -320,6 +320,7 @@ void TreeViewController::objectTreeRefreshed()
     if (auto* const volume = nodeCast<Volume>(static_cast<File*>(m_model.topFolder()))) {
         volume->refreshVolume(m_services.scanEnvironment.fileSystemAttributes);
     }
+    emit treeChanged();
 }
 
 void TreeViewController::renderTree()

@@ -95,6 +95,10 @@ public:
     std::unique_ptr<TreeBranch> renderFolder(
         Folder* folder, const Rect& inRect, TreeBranch* inView, long withLevel);
 
+signals:
+    /// Sizes or names in the tree are others than before.
+    void treeChanged();
+
 private:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void nodeWillLeave(File& node) override;

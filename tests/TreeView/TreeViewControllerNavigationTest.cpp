@@ -10,6 +10,8 @@
 #include "support/FakeUserDefaults.h"
 #include "support/makeTree.h"
 
+#include <QSignalSpy>
+
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -95,6 +97,13 @@ TEST_F(TreeViewControllerNavigationTest, WithoutATreeZoomingDoesNothing)
     controller->zoomIn();
     controller->zoomOut();
     EXPECT_EQ(controller->currentFolder(), nullptr);
+}
+
+TEST_F(TreeViewControllerNavigationTest, TellsWhenTheTreeHasOtherSizes)
+{
+    const QSignalSpy changes(controller.get(), &TreeViewController::treeChanged);
+    controller->objectTreeRefreshed();
+    EXPECT_EQ(changes.count(), 1);
 }
 
 TEST_F(TreeViewControllerNavigationTest, ADoubleClickZoomsIntoTheSelectedFolder)
