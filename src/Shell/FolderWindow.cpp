@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "Shell/FolderWindow.h"
 
+#include "Model/NotificationCenter.h"
 #include "Model/RootModel.h"
+#include "TreeView/ToolbarPathControl.h"
+#include "TreeView/ToolbarPathItem.h"
 #include "TreeView/TreeMapView.h"
 #include "TreeView/TreeViewController.h"
 #include "TreeView/TreeViewServices.h"
@@ -12,6 +15,7 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QStackedWidget>
+#include <QToolBar>
 #include <QVBoxLayout>
 
 namespace tessera {
@@ -31,13 +35,17 @@ FolderWindow::FolderWindow(const TreeViewServices& services, RootModel& model)
     , m_scanner(Scanner::create(services.scanEnvironment))
     , m_pages(new QStackedWidget(this))
     , m_treeView(new TreeMapView(services.defaults, m_pages))
+    , m_toolbar(makeToolbar())
 {
+    addToolBar(m_toolbar);
     m_pages->addWidget(makeProgressPage());
     m_pages->addWidget(m_treeView);
     setCentralWidget(m_pages);
     setMinimumSize(kLeastSize);
     resize(kFirstSize);
     m_scanner->setDelegate(this);
+    m_currentFolderObservation = NotificationCenter::defaultCenter().addObserver(
+        "CurrentFolderChanged", [this](const NotificationObject&) { refreshPathControl(); });
 }
 
 FolderWindow::~FolderWindow()
@@ -49,6 +57,7 @@ FolderWindow::~FolderWindow()
 void FolderWindow::open(const Url& folder)
 {
     setWindowTitle(displayText(folder.lastPathComponent()));
+    m_toolbar->hide();
     m_pages->setCurrentIndex(0);
     m_scanner->scan(folder);
 }
@@ -73,6 +82,38 @@ QWidget* FolderWindow::makeProgressPage()
     return page;
 }
 
+QToolBar* FolderWindow::makeToolbar()
+{
+    // NOLINTBEGIN(cppcoreguidelines-owning-memory): their parents own them
+    auto* toolbar = new QToolBar(tr("Path"), this);
+    auto* pathControlItem = new ToolbarPathItem(toolbar);
+    // NOLINTEND(cppcoreguidelines-owning-memory)
+    toolbar->setMovable(false);
+    toolbar->setContextMenuPolicy(Qt::PreventContextMenu);
+    toolbar->addWidget(pathControlItem);
+    m_toolbarPathControl = &pathControlItem->pathControl();
+    connect(m_toolbarPathControl, &ToolbarPathControl::clicked, this, &FolderWindow::pathSelected);
+    return toolbar;
+}
+
+void FolderWindow::pathSelected()
+{
+    if (m_controller != nullptr) {
+        m_controller->clickFolderPath(m_toolbarPathControl->clickedPathComponentCell()->url());
+    }
+}
+
+void FolderWindow::refreshPathControl()
+{
+    if (m_controller == nullptr || m_controller->currentFolder() == nullptr) {
+        return;
+    }
+    m_toolbarPathControl->setPathComponentCells(
+        pathComponentCells(*m_controller->currentFolder(), m_services->compressing.icons));
+    m_toolbarPathControl->refreshWidth();
+    setWindowTitle(displayText(Util::getFolderTitle(*m_model.topFolder())));
+}
+
 void FolderWindow::scanUpdated(Scanner& scanner)
 {
     m_progress->setValue(progressSteps(scanner.percentComplete()));
@@ -85,9 +126,15 @@ void FolderWindow::scanEnded(Scanner& scanner)
     m_controller.reset();
     m_model.setTopFolder(scanner.takeTopFolder());
     m_controller = std::make_unique<TreeViewController>(m_model, *m_treeView, *m_services);
+    connect(
+        m_controller.get(),
+        &TreeViewController::treeChanged,
+        this,
+        &FolderWindow::refreshPathControl);
+    refreshPathControl();
+    m_toolbar->show();
     m_pages->setCurrentWidget(m_treeView);
     m_treeView->setFocus();
-    setWindowTitle(displayText(Util::getFolderTitle(*m_model.topFolder())));
 }
 
 void FolderWindow::scanCancelled(Scanner& /*scanner*/) { }

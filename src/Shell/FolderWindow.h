@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Model/Observation.h"
 #include "Scanning/Scanner.h"
 #include "Scanning/ScannerDelegate.h"
 
@@ -11,16 +12,18 @@
 class QLabel;
 class QProgressBar;
 class QStackedWidget;
+class QToolBar;
 
 namespace tessera {
 
 class RootModel;
+class ToolbarPathControl;
 class TreeMapView;
 class TreeViewController;
 struct TreeViewServices;
 
-/// The program's window on one folder: how far its scan is, then its picture. Closing it cancels
-/// the scan.
+/// The program's window on one folder: how far its scan is, then its picture below the path bar.
+/// Closing it cancels the scan.
 class FolderWindow final : public QMainWindow, private ScannerDelegate {
     Q_OBJECT
 
@@ -38,6 +41,9 @@ private:
     void scanCancelled(Scanner& scanner) override;
 
     QWidget* makeProgressPage();
+    QToolBar* makeToolbar();
+    void pathSelected();
+    void refreshPathControl();
 
     RootModel& m_model;
     const std::unique_ptr<const TreeViewServices> m_services;
@@ -46,7 +52,10 @@ private:
     QLabel* m_scannedPath = nullptr;
     QProgressBar* m_progress = nullptr;
     TreeMapView* m_treeView;
+    ToolbarPathControl* m_toolbarPathControl = nullptr;
+    QToolBar* m_toolbar;
     std::unique_ptr<TreeViewController> m_controller;
+    Observation m_currentFolderObservation;
 };
 
 } // namespace tessera

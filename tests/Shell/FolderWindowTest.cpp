@@ -1,13 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "Shell/FolderWindow.h"
 
+#include "Model/NotificationCenter.h"
+#include "TreeView/PathComponentButton.h"
+#include "TreeView/ToolbarPathControl.h"
 #include "TreeView/TreeBranch.h"
 #include "TreeView/TreeMapView.h"
 #include "support/FakeRootModelServices.h"
 #include "support/FakeTreeViewServices.h"
+#include "support/makeTree.h"
 
 #include <QLabel>
 #include <QProgressBar>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -35,6 +40,24 @@ protected:
     {
         open();
         mainThread.runUntil([this] { return model.topFolder() != nullptr; });
+    }
+
+    ToolbarPathControl& pathControl() const { return *window->findChild<ToolbarPathControl*>(); }
+
+    QStringList pathTitles() const
+    {
+        QStringList titles;
+        for (const auto& cell : pathControl().pathComponentCells()) {
+            titles.append(cell.title());
+        }
+        return titles;
+    }
+
+    void zoomIn() const
+    {
+        NotificationCenter& center = NotificationCenter::defaultCenter();
+        center.post("ClickTreeItem", &test::at(*model.topFolder(), "docs"));
+        center.post("DoubleClickTreeItem");
     }
 
     test::FakeTreeViewServices services{"docs/ ( a:700000 ) b:300000"};
@@ -76,6 +99,32 @@ TEST_F(FolderWindowTest, ShowsThePictureWhenTheScanHasEnded)
     EXPECT_TRUE(view->isVisible());
     EXPECT_EQ(view->branches().front()->layoutItems().size(), 2U);
     EXPECT_EQ(window->windowTitle(), QStringLiteral("some\uFFFD folder (1.0 MB)"));
+}
+
+TEST_F(FolderWindowTest, ShowsThePathBarWithThePicture)
+{
+    open();
+    EXPECT_FALSE(pathControl().isVisible());
+    mainThread.runUntil([this] { return model.topFolder() != nullptr; });
+    EXPECT_TRUE(pathControl().isVisible());
+    EXPECT_EQ(pathTitles(), QStringList{QStringLiteral("some\uFFFD folder (1.0 MB)")});
+}
+
+TEST_F(FolderWindowTest, ThePathBarFollowsTheFolderInView)
+{
+    scanToEnd();
+    zoomIn();
+    EXPECT_EQ(
+        pathTitles(),
+        (QStringList{QStringLiteral("some\uFFFD folder"), QStringLiteral("docs (700 KB)")}));
+}
+
+TEST_F(FolderWindowTest, AClickInThePathBarZoomsOut)
+{
+    scanToEnd();
+    zoomIn();
+    QTest::mouseClick(pathControl().findChild<PathComponentButton*>(), Qt::LeftButton);
+    EXPECT_EQ(pathTitles(), QStringList{QStringLiteral("some\uFFFD folder (1.0 MB)")});
 }
 
 TEST_F(FolderWindowTest, ClosingItWhileItScansCancelsTheScan)
