@@ -30,7 +30,7 @@ tessera::LaunchServices launchServices(const tessera::PlatformServices& services
         *services.workspace,
         services.fileReader,
         services.makeTask,
-        services.programFolder + "/tessera-ditto"};
+        services.archiver};
 }
 
 } // namespace

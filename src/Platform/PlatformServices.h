@@ -37,7 +37,7 @@ struct PlatformServices {
     std::unique_ptr<Workspace> workspace; ///< uses mainThread
     std::shared_ptr<const FileReader> fileReader;
     std::function<std::unique_ptr<Task>()> makeTask; ///< a child process, not yet started
-    std::string programFolder; ///< the folder that holds the program's own files; bytes
+    std::string archiver; ///< path of the archiving program, as bytes
     std::function<double()> clock;
 
     /// Whether windows can be shown; asked before there is an application object.

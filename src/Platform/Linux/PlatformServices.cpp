@@ -68,7 +68,7 @@ PlatformServices makePlatformServices()
     services.workspace = std::make_unique<DBusWorkspace>(*services.mainThread);
     services.fileReader = std::make_shared<LinuxFileReader>();
     services.makeTask = [] { return std::make_unique<ChildProcessTask>(); };
-    services.programFolder = executableFolder();
+    services.archiver = executableFolder() + "/tessera-ditto";
     services.clock = coarseSeconds;
     return services;
 }
