@@ -86,6 +86,22 @@ class GoalTest(unittest.TestCase):
         self.assertTrue(table.Row("", "", "", 0.55, 0.55).is_reached)
         self.assertFalse(table.Row("", "", "", 1.0, 1, " ms", is_strict=True).is_reached)
 
+    def test_at_least_allows_the_goal_itself_and_less_misses(self):
+        self.assertTrue(table.Row("", "", "", 55, 55, is_least=True).is_reached)
+        self.assertFalse(table.Row("", "", "", 54.9, 55, is_least=True).is_reached)
+        self.assertIn("at least 55", table.Row("", "", "", 55, 55, is_least=True).cells())
+
+
+class XServerTest(unittest.TestCase):
+    def test_programs_see_the_server_and_its_end(self):
+        script = 'test -n "$DISPLAY" && test "$QT_QPA_PLATFORM" = xcb'
+        result = runs.run_on_x_server(["sh", "-c", script], "640x480")
+        self.assertGreater(result.seconds, 0)
+
+    def test_a_failure_on_the_server_is_one(self):
+        with self.assertRaises(runs.RunFailed):
+            runs.run_on_x_server(["false"], "640x480")
+
 
 if __name__ == "__main__":
     unittest.main()

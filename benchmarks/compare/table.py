@@ -13,13 +13,16 @@ class Row:
     goal: float
     unit: str = ""
     is_strict: bool = False  # the goal itself misses
+    is_least: bool = False  # more is better
 
     @property
     def is_reached(self):
+        if self.is_least:
+            return self.figure >= self.goal
         return self.figure < self.goal if self.is_strict else self.figure <= self.goal
 
     def cells(self):
-        bound = "under" if self.is_strict else "at most"
+        bound = "at least" if self.is_least else "under" if self.is_strict else "at most"
         goal = f"{bound} {self.goal:g}{self.unit}"
         return [self.what, self.on, self.measured, goal, "ok" if self.is_reached else "MISSED"]
 

@@ -13,6 +13,7 @@ from collections.abc import Callable
 
 import runs
 
+LARGEST_MAP = "3840x2400"  # that ZoomBench shows
 
 @dataclasses.dataclass
 class Tool:
@@ -112,8 +113,8 @@ def prepare_tree(programs, folder, items):
     unfinished.rename(folder)
 
 
-class MemoryBenches:
-    """Our programs that measure by themselves, on trees that they make in memory."""
+class OwnBenches:
+    """Our programs that measure by themselves, most of them on trees that they make in memory."""
 
     def __init__(self, programs, items, limit):
         self.programs, self.items, self.limit = programs, items, limit
@@ -143,6 +144,22 @@ class MemoryBenches:
         pattern = r"^(\w+ \w+ box) .*median ([\d.]+) ms, 95th percentile ([\d.]+) ms"
         found = re.findall(pattern, self.output("TreeView/HoverBench", moves), re.M)
         return {kind: (float(median), float(high)) for kind, median, high in found}
+
+    def zooms(self, folder, count):
+        """Pictures a second in the slowest of some zooms, median and 95th percentile of the time
+        from one picture to the next in milliseconds; by the size of the map."""
+        command = [str(self.programs / "TreeView" / "ZoomBench"), folder, str(count)]
+        result, _ = runs.undisturbed(
+            lambda: runs.run_on_x_server(command, LARGEST_MAP), self.limit
+        )
+        if result.disturbance > self.limit:
+            self.disturbed.append("TreeView/ZoomBench")
+        pattern = (
+            r"^zoom (\d+x\d+) .*least ([\d.]+) .*"
+            r"median ([\d.]+) ms, 95th percentile ([\d.]+) ms, longest"
+        )
+        found = re.findall(pattern, result.output, re.M)
+        return {size: tuple(map(float, figures)) for size, *figures in found}
 
 
 def file_system_of(folder):

@@ -53,6 +53,8 @@ ZoomAnimation::ZoomAnimation(ZoomLayer lower, ZoomLayer upper, Clock clock)
     , m_begin(m_clock())
 {
     connect(&m_frames, &QTimer::timeout, this, &ZoomAnimation::advance);
+    // Whoever hears of the end drops the animation: not from within the timer's own function.
+    connect(this, &ZoomAnimation::wayGone, this, &ZoomAnimation::finished, Qt::QueuedConnection);
     m_frames.setTimerType(Qt::PreciseTimer);
     m_frames.start(kFrameMilliseconds);
 }
@@ -90,8 +92,7 @@ void ZoomAnimation::advance()
         return;
     }
     m_frames.stop();
-    // Whoever hears of the end drops the animation: not from within the timer's own function.
-    QMetaObject::invokeMethod(this, &ZoomAnimation::finished, Qt::QueuedConnection);
+    emit wayGone(QPrivateSignal());
 }
 
 } // namespace tessera

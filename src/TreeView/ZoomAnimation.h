@@ -49,6 +49,8 @@ signals:
     void frameDue();
     /// The whole way is gone. Emitted once, from the event loop.
     void finished();
+    /// For the animation itself: finished() follows.
+    void wayGone(QPrivateSignal);
 
 private:
     double timePassed() const;
