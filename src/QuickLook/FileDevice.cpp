@@ -43,14 +43,25 @@ bool FileDevice::seek(qint64 position)
 
 qint64 FileDevice::readData(char* into, qint64 maxSize)
 {
-    if (m_isCancelled.load(std::memory_order_relaxed)) {
-        return -1;
+    // Decoders take a read that brings less than asked for as the end of the file.
+    qint64 filled = 0;
+    while (filled < maxSize && m_position < m_length) {
+        const qint64 count = readFromPiece(into + filled, maxSize - filled);
+        if (count < 0) {
+            return -1;
+        }
+        if (count == 0) {
+            break;
+        }
+        filled += count;
     }
-    if (m_position >= m_length || maxSize <= 0) {
-        return 0;
-    }
+    return filled;
+}
+
+qint64 FileDevice::readFromPiece(char* into, qint64 maxSize)
+{
     const bool isInPiece = m_position >= m_pieceStart && m_position < m_pieceStart + m_piece.size();
-    if (!isInPiece && !fillPiece()) {
+    if (m_isCancelled.load(std::memory_order_relaxed) || (!isInPiece && !fillPiece())) {
         return -1;
     }
     const qint64 offset = m_position - m_pieceStart;

@@ -28,6 +28,7 @@ protected:
     qint64 writeData(const char* from, qint64 size) override;
 
 private:
+    qint64 readFromPiece(char* into, qint64 maxSize);
     bool fillPiece();
 
     ReadableFile& m_file;
