@@ -28,6 +28,7 @@ struct PlatformServices {
     std::unique_ptr<ResourceValues> resourceValues;
     std::unique_ptr<FileSystemAttributes> fileSystemAttributes;
     std::unique_ptr<FileAccess> fileAccess;
+    std::shared_ptr<const FileReader> fileReader; ///< a look that is stuck keeps it
     std::unique_ptr<StandardFolders> standardFolders;
     std::unique_ptr<UserAccount> userAccount;
     std::unique_ptr<UserDefaults> userDefaults;
@@ -35,7 +36,6 @@ struct PlatformServices {
     std::unique_ptr<MotionPreference> motionPreference;
     std::unique_ptr<QtMainThread> mainThread;
     std::unique_ptr<Workspace> workspace; ///< uses mainThread
-    std::shared_ptr<const FileReader> fileReader;
     std::function<std::unique_ptr<Task>()> makeTask; ///< a child process, not yet started
     std::string archiver; ///< path of the archiving program, as bytes
     std::function<double()> clock;

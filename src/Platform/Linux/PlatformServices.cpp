@@ -57,6 +57,7 @@ PlatformServices makePlatformServices()
     services.resourceValues = std::make_unique<LinuxResourceValues>();
     services.fileSystemAttributes = std::make_unique<LinuxFileSystemAttributes>();
     services.fileAccess = std::make_unique<LinuxFileAccess>();
+    services.fileReader = std::make_shared<LinuxFileReader>();
     services.standardFolders = std::make_unique<LinuxStandardFolders>();
     services.userAccount = std::make_unique<LinuxUserAccount>();
     services.userDefaults
@@ -66,7 +67,6 @@ PlatformServices makePlatformServices()
     services.motionPreference = std::make_unique<DesktopMotionPreference>();
     services.mainThread = std::make_unique<QtMainThread>();
     services.workspace = std::make_unique<DBusWorkspace>(*services.mainThread);
-    services.fileReader = std::make_shared<LinuxFileReader>();
     services.makeTask = [] { return std::make_unique<ChildProcessTask>(); };
     services.archiver = executableFolder() + "/tessera-ditto";
     services.clock = coarseSeconds;
