@@ -22,7 +22,7 @@ namespace {
 
 constexpr QSize kTextSize{720, 520};
 constexpr QSize kSummarySize{460, 220};
-constexpr QSize kLeastPictureSize{240, 160};
+constexpr QSize kLeastPictureSize{360, 200};
 constexpr int kPagesHeight = 900;
 constexpr int kPageGap = 12;
 constexpr int kTextMargin = 10;
@@ -41,6 +41,7 @@ QPlainTextEdit* makeTextView(QWidget* parent)
     view->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     view->setFocusPolicy(Qt::NoFocus);
     view->setFrameShape(QFrame::NoFrame);
+    view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     view->document()->setDocumentMargin(kTextMargin);
     return view;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "QuickLook/QuickLookPanel.h"
 
+#include "QuickLook/PanelBody.h"
 #include "QuickLook/PreviewItem.h"
 #include "QuickLook/PreviewLoader.h"
 #include "QuickLook/PreviewView.h"
@@ -9,19 +10,14 @@
 #include "QuickLook/Summary.h"
 #include "QuickLook/SummaryView.h"
 #include "TreeView/IconProvider.h"
+#include "Utils/MotionPreference.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QGuiApplication>
-#include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QPainter>
-#include <QPainterPath>
 #include <QScreen>
-#include <QStyle>
-#include <QToolButton>
-#include <QVBoxLayout>
 #include <QWindow>
 
 #include <algorithm>
@@ -33,14 +29,6 @@ namespace tessera {
 namespace {
 
 constexpr double kMostOfScreen = 0.7;
-constexpr int kHeaderHeight = 36;
-constexpr int kCaptionHeight = 28;
-constexpr int kButtonPoints = 22;
-constexpr int kSideMargin = 8;
-constexpr int kTitlePixels = 13;
-constexpr int kCaptionPixels = 11;
-constexpr double kCornerRadius = 10;
-constexpr int kBorderAlpha = 70;
 constexpr int kPageWidth = 640;
 /// Most files are read sooner, and the item before stays in sight so long.
 constexpr int kPatienceMs = 150;
@@ -48,21 +36,6 @@ constexpr int kPatienceMs = 150;
 constexpr std::chrono::milliseconds kEndOfProgramPatience{500};
 
 constexpr Qt::WindowFlags kPanelFlags = Qt::Tool | Qt::FramelessWindowHint;
-
-QFont fontOf(const QWidget& widget, int pixels, QFont::Weight weight)
-{
-    QFont font = widget.font();
-    font.setPixelSize(pixels);
-    font.setWeight(weight);
-    return font;
-}
-
-QPainterPath roundedPath(const QRectF& place)
-{
-    QPainterPath path;
-    path.addRoundedRect(place, kCornerRadius, kCornerRadius);
-    return path;
-}
 
 /// A Wayland client neither knows nor sets where on the screen its windows are.
 bool canPlaceWindows()
@@ -86,30 +59,16 @@ QuickLookPanel& QuickLookPanel::sharedInstance()
     return *instance;
 }
 
-// NOLINTBEGIN(cppcoreguidelines-owning-memory): their parents own them
 QuickLookPanel::QuickLookPanel()
     : QWidget(nullptr, kPanelFlags)
     , m_animation([this](const QRectF& frame) { moveOn(frame); })
-    , m_body(new QWidget(this))
-    , m_caption(new QLabel(m_body))
-    , m_view(new PreviewView(m_body))
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): its parent owns it
+    , m_body(new PanelBody(this))
 {
     setObjectName(QStringLiteral("quickLookPanel"));
     setAttribute(Qt::WA_TranslucentBackground);
     setFocusPolicy(Qt::StrongFocus);
-    m_caption->setObjectName(QStringLiteral("caption"));
-    m_caption->setTextFormat(Qt::PlainText);
-    m_caption->setAlignment(Qt::AlignCenter);
-    m_caption->setFixedHeight(kCaptionHeight);
-    m_caption->setFont(fontOf(*this, kCaptionPixels, QFont::Normal));
-    m_caption->setForegroundRole(QPalette::PlaceholderText);
-    auto* const layout = new QVBoxLayout(m_body);
-    layout->setContentsMargins(1, 0, 1, 0);
-    layout->setSpacing(0);
-    layout->addWidget(makeHeader());
-    layout->addWidget(m_view, 1);
-    layout->addWidget(m_caption);
-
+    connect(m_body, &PanelBody::closeRequested, this, &QuickLookPanel::orderOut);
     m_patience.setSingleShot(true);
     m_patience.setInterval(kPatienceMs);
     m_patience.callOnTimeout(this, &QuickLookPanel::showSummary);
@@ -120,32 +79,6 @@ QuickLookPanel::QuickLookPanel()
         }
     });
 }
-
-QWidget* QuickLookPanel::makeHeader()
-{
-    auto* const header = new QWidget(m_body);
-    header->setFixedHeight(kHeaderHeight);
-    auto* const close = new QToolButton(header);
-    close->setObjectName(QStringLiteral("closeButton"));
-    close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
-    close->setAutoRaise(true);
-    close->setFocusPolicy(Qt::NoFocus);
-    close->setFixedSize(kButtonPoints, kButtonPoints);
-    close->setAccessibleName(tr("Close"));
-    close->setToolTip(tr("Close"));
-    connect(close, &QToolButton::clicked, this, &QuickLookPanel::orderOut);
-    m_title = new QLabel(header);
-    m_title->setObjectName(QStringLiteral("title"));
-    m_title->setTextFormat(Qt::PlainText);
-    m_title->setAlignment(Qt::AlignCenter);
-    m_title->setFont(fontOf(*this, kTitlePixels, QFont::DemiBold));
-    auto* const layout = new QHBoxLayout(header);
-    layout->setContentsMargins(kSideMargin, 0, kSideMargin + kButtonPoints, 0);
-    layout->addWidget(close);
-    layout->addWidget(m_title, 1);
-    return header;
-}
-// NOLINTEND(cppcoreguidelines-owning-memory)
 
 QuickLookPanel::~QuickLookPanel() = default;
 
@@ -262,71 +195,66 @@ void QuickLookPanel::load()
         return;
     }
     const double scale = devicePixelRatioF();
-    m_loader->load(
-        {m_facts->path, mostContentSize() * scale, static_cast<int>(kPageWidth * scale)});
+    const QSize most = PanelBody::mostContentSize(availableGeometry().size() * kMostOfScreen);
+    m_loader->load({m_facts->path, most * scale, static_cast<int>(kPageWidth * scale)});
 }
 
 void QuickLookPanel::showPreview(const Preview& preview)
 {
     m_patience.stop();
-    m_view->showPreview(*m_facts, preview, m_icon);
-    m_caption->setText(m_view->hasContent() ? captionOf(*m_facts, preview) : QString());
-    contentChanged();
+    PreviewView& view = m_body->view();
+    view.showPreview(*m_facts, preview, m_icon);
+    contentChanged(view.hasContent() ? captionOf(*m_facts, preview) : QString());
 }
 
 void QuickLookPanel::showSummary()
 {
     m_patience.stop();
     if (m_facts) {
-        m_view->showSummary(*m_facts, m_icon);
+        m_body->view().showSummary(*m_facts, m_icon);
     } else {
-        m_view->showNothing();
+        m_body->view().showNothing();
     }
-    m_caption->clear();
-    contentChanged();
+    contentChanged({});
 }
 
-void QuickLookPanel::contentChanged()
+void QuickLookPanel::contentChanged(const QString& caption)
 {
     const QString name = m_facts ? m_facts->name : QString();
     setWindowTitle(name.isEmpty() ? tr("Quick Look") : name);
     setAccessibleName(tr("Quick Look: %1").arg(name));
-    m_caption->setVisible(m_view->hasContent());
+    m_body->setTexts(name, caption);
+    if (m_movedTo) {
+        m_centre = std::exchange(m_movedTo, std::nullopt);
+    }
     m_frame = frameForContent();
-    m_title->setText(m_title->fontMetrics().elidedText(
-        name, Qt::ElideMiddle, m_frame.width() - 2 * (kSideMargin + kButtonPoints)));
     if (m_animation.isRunning()) {
-        m_moving = picture();
+        m_moving = m_body->picture(m_frame.size(), devicePixelRatioF());
         m_animation.retarget(m_frame);
     } else if (m_state == State::Open) {
         settle();
     }
 }
 
-QSize QuickLookPanel::mostContentSize() const
+QRect QuickLookPanel::availableGeometry() const
 {
     const QScreen* const screen
         = m_mainWindow != nullptr ? m_mainWindow->screen() : QGuiApplication::primaryScreen();
-    const QSize most = screen->availableSize() * kMostOfScreen;
-    return most - QSize(2, kHeaderHeight + kCaptionHeight);
+    return screen->availableGeometry();
 }
 
 QRect QuickLookPanel::frameForContent() const
 {
-    const QWidget* const window = m_mainWindow;
-    const QScreen* const screen
-        = window != nullptr ? window->screen() : QGuiApplication::primaryScreen();
-    const QRect available = screen->availableGeometry();
-    const int captionHeight = m_view->hasContent() ? kCaptionHeight : 0;
-    const QSize size
-        = m_view->preferredSize(mostContentSize()) + QSize(2, kHeaderHeight + captionHeight);
+    const QRect available = availableGeometry();
+    const QSize size = m_body->preferredSize(available.size() * kMostOfScreen);
+    const QPoint middle
+        = m_mainWindow != nullptr ? m_mainWindow->frameGeometry().center() : available.center();
     QRect frame(QPoint(0, 0), size.boundedTo(available.size()));
-    frame.moveCenter(m_centre.value_or(
-        window != nullptr ? window->frameGeometry().center() : available.center()));
-    frame.moveLeft(
-        std::clamp(frame.left(), available.left(), available.right() + 1 - frame.width()));
-    frame.moveTop(
-        std::clamp(frame.top(), available.top(), available.bottom() + 1 - frame.height()));
+    frame.moveCenter(m_centre.value_or(middle));
+    frame.moveRight(std::min(frame.right(), available.right()));
+    frame.moveBottom(std::min(frame.bottom(), available.bottom()));
+    frame.moveLeft(std::max(frame.left(), available.left()));
+    frame.moveTop(std::max(frame.top(), available.top()));
     return frame;
 }
 
@@ -339,19 +267,20 @@ QRectF QuickLookPanel::sourceFrame() const
     return m_delegate->sourceFrameOnScreenForPreviewItem(m_dataSource->previewItemAtIndex(0));
 }
 
-bool QuickLookPanel::isMoving(const QRectF& source) const
+bool QuickLookPanel::canMove(const QRectF& source) const
 {
-    return !source.isEmpty() && canPlaceWindows() && !(m_isMotionReduced && m_isMotionReduced());
+    return !source.isEmpty() && canPlaceWindows()
+        && (m_motion == nullptr || !m_motion->reducesMotion());
 }
 
 void QuickLookPanel::startMoving(const QRectF& from, const QRectF& to)
 {
-    if (!isMoving(from) || !isMoving(to)) {
+    if (!canMove(from) || !canMove(to)) {
         m_animation.stop();
         moveOn(to);
         return;
     }
-    m_moving = picture();
+    m_moving = m_body->picture(m_frame.size(), devicePixelRatioF());
     m_body->hide();
     m_animation.start(from, to);
 }
@@ -395,7 +324,8 @@ void QuickLookPanel::closeAtOnce()
     m_icon = {};
     m_moving = {};
     m_centre.reset();
-    m_view->showNothing();
+    m_movedTo.reset();
+    m_body->view().showNothing();
     // The window must not take the panel with it when it goes away.
     setParent(nullptr, kPanelFlags);
     if (hadKeyboard && m_mainWindow != nullptr && m_mainWindow->isVisible()) {
@@ -403,34 +333,11 @@ void QuickLookPanel::closeAtOnce()
     }
 }
 
-QPixmap QuickLookPanel::picture()
-{
-    m_body->resize(m_frame.size());
-    const double scale = devicePixelRatioF();
-    QPixmap picture(m_frame.size() * scale);
-    picture.setDevicePixelRatio(scale);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    paintGround(painter, QRectF(QPointF(0, 0), m_frame.size()));
-    m_body->render(&painter, {}, {}, QWidget::DrawChildren);
-    return picture;
-}
-
-void QuickLookPanel::paintGround(QPainter& painter, const QRectF& place) const
-{
-    QColor border = palette().color(QPalette::WindowText);
-    border.setAlpha(kBorderAlpha);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(roundedPath(place), palette().color(QPalette::Window));
-    painter.setPen(border);
-    painter.drawPath(roundedPath(place.adjusted(0.5, 0.5, -0.5, -0.5)));
-}
-
 void QuickLookPanel::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     if (m_moving.isNull()) {
-        paintGround(painter, rect());
+        PanelBody::paintGround(painter, rect(), palette());
     } else {
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
         painter.drawPixmap(rect(), m_moving);
@@ -441,7 +348,7 @@ void QuickLookPanel::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
     // Where nobody blends windows together, the corners outside the curve would be black.
-    setMask(QRegion(roundedPath(rect()).toFillPolygon().toPolygon()));
+    setMask(PanelBody::groundRegion(rect()));
 }
 
 bool QuickLookPanel::eventFilter(QObject* watched, QEvent* event)
@@ -474,7 +381,7 @@ void QuickLookPanel::keyPressEvent(QKeyEvent* event)
         }
         return;
     }
-    event->setAccepted(m_view->handleKey(*event) || isHandledByDelegate(*event));
+    event->setAccepted(m_body->view().handleKey(*event) || isHandledByDelegate(*event));
 }
 
 void QuickLookPanel::keyReleaseEvent(QKeyEvent* event)
@@ -503,9 +410,13 @@ void QuickLookPanel::mousePressEvent(QMouseEvent* event)
 void QuickLookPanel::moveEvent(QMoveEvent* event)
 {
     QWidget::moveEvent(event);
-    if (m_state == State::Open && event->pos() != m_frame.topLeft()) {
-        m_centre = geometry().center();
+    if (m_state != State::Open) {
+        return;
     }
+    // The window system reports the steps of the way here late: only the last one tells whether
+    // somebody has moved the panel.
+    m_movedTo
+        = event->pos() == m_frame.topLeft() ? std::nullopt : std::optional(geometry().center());
 }
 
 } // namespace tessera

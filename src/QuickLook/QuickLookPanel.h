@@ -9,19 +9,17 @@
 #include <QTimer>
 #include <QWidget>
 
-#include <functional>
+#include <cstdint>
 #include <memory>
 #include <optional>
-
-class QKeyEvent;
-class QLabel;
 
 namespace tessera {
 
 class FileReader;
 class IconProvider;
+class MotionPreference;
+class PanelBody;
 class PreviewLoader;
-class PreviewView;
 class QuickLookPanelDataSource;
 class QuickLookPanelDelegate;
 struct Preview;
@@ -53,11 +51,8 @@ public:
     /// panel.
     void setMainWindow(QWidget* window);
 
-    /// Whether the desktop wants no motion; asked each time.
-    void setReducedMotion(std::function<bool()> isReduced)
-    {
-        m_isMotionReduced = std::move(isReduced);
-    }
+    /// Not owned; without one it moves.
+    void setMotionPreference(const MotionPreference* motion) { m_motion = motion; }
     PanelAnimation& animation() { return m_animation; }
 
     /// Neither is owned. Whoever is one of them takes himself back before he goes away; a panel
@@ -95,22 +90,19 @@ protected:
 private:
     enum class State : std::uint8_t { Closed, Opening, Open, Closing };
 
-    QWidget* makeHeader();
     void adoptItem();
     void load();
     void showPreview(const Preview& preview);
     void showSummary();
-    void contentChanged();
+    void contentChanged(const QString& caption);
     QRect frameForContent() const;
-    QSize mostContentSize() const;
+    QRect availableGeometry() const;
     QRectF sourceFrame() const;
-    bool isMoving(const QRectF& source) const;
+    bool canMove(const QRectF& source) const;
     void startMoving(const QRectF& from, const QRectF& to);
     void moveOn(const QRectF& frame);
     void settle();
     void closeAtOnce();
-    QPixmap picture();
-    void paintGround(QPainter& painter, const QRectF& place) const;
     bool isHandledByDelegate(QEvent& event);
 
     std::unique_ptr<PreviewLoader> m_loader;
@@ -118,7 +110,7 @@ private:
     QuickLookPanelDelegate* m_delegate = nullptr;
     QuickLookPanelDataSource* m_dataSource = nullptr;
     QPointer<QWidget> m_mainWindow;
-    std::function<bool()> m_isMotionReduced;
+    const MotionPreference* m_motion = nullptr;
     PanelAnimation m_animation;
     QTimer m_patience;
 
@@ -126,13 +118,11 @@ private:
     std::optional<ItemFacts> m_facts;
     QPixmap m_icon;
     QRect m_frame; ///< where it stands or is on its way to, on the screen
-    std::optional<QPoint> m_centre; ///< where the user put it
+    std::optional<QPoint> m_centre; ///< where the user wants its middle
+    std::optional<QPoint> m_movedTo; ///< where its middle is, if not where it was placed
     QPixmap m_moving; ///< its picture, while it grows or shrinks
 
-    QWidget* m_body;
-    QLabel* m_title = nullptr;
-    QLabel* m_caption;
-    PreviewView* m_view;
+    PanelBody* m_body;
 };
 
 } // namespace tessera

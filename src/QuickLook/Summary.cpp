@@ -125,7 +125,9 @@ QString captionOf(const ItemFacts& facts, const Preview& preview)
     const auto* const pages = std::get_if<PreviewPages>(&preview.content);
     const int shownPages = pages == nullptr ? 0 : static_cast<int>(pages->pages.size());
     if (pages != nullptr) {
-        parts << SummaryTexts::tr("%n page(s)", nullptr, pages->pageCount);
+        parts
+            << (pages->pageCount == 1 ? SummaryTexts::tr("1 page")
+                                      : SummaryTexts::tr("%1 pages").arg(pages->pageCount));
     }
     parts << sizeText(facts.allocatedBytes);
     if (preview.file.modified) {

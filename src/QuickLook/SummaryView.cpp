@@ -30,17 +30,29 @@ QFont fontOf(const QWidget& widget, int pixels, QFont::Weight weight)
     return font;
 }
 
-/// File names have few places to break a line at, and some have no end: every letter may end a
+/// How much of the text stands on a line; a word goes to the next one unless that leaves most of
+/// the line empty.
+qsizetype lineLength(const QString& text, const QFontMetrics& metrics)
+{
+    qsizetype count = text.size();
+    while (count > 1 && metrics.horizontalAdvance(text, static_cast<int>(count)) > kNameWidth) {
+        --count;
+    }
+    if (count == text.size()) {
+        return count;
+    }
+    const qsizetype blank = text.lastIndexOf(u' ', count - 1);
+    return blank > count / 2 ? blank + 1 : count;
+}
+
+/// File names have few places to break a line at, and some have no end: any letter may end a
 /// line, and what does not fit into the lines is left out of the middle.
 QString brokenName(const QString& name, const QFontMetrics& metrics)
 {
     QString rest = metrics.elidedText(name, Qt::ElideMiddle, kNameWidth * kNameLines);
     QString broken;
     while (!rest.isEmpty()) {
-        qsizetype count = rest.size();
-        while (count > 1 && metrics.horizontalAdvance(rest, static_cast<int>(count)) > kNameWidth) {
-            --count;
-        }
+        const qsizetype count = lineLength(rest, metrics);
         broken += (broken.isEmpty() ? QString() : QStringLiteral("\n")) + rest.left(count);
         rest.remove(0, count);
     }

@@ -11,7 +11,6 @@
 #include "TreeView/TreeViewServices.h"
 #include "Utils/Log.h"
 #include "Utils/MessageBoxAlert.h"
-#include "Utils/MotionPreference.h"
 
 #include <QApplication>
 
@@ -43,7 +42,7 @@ void setUpPreview(QWidget& mainWindow, const LaunchServices& services, IconProvi
     panel.setFileReader(services.fileReader);
     panel.setIconProvider(&icons);
     panel.setMainWindow(&mainWindow);
-    panel.setReducedMotion([&motion = services.motion] { return motion.reducesMotion(); });
+    panel.setMotionPreference(&services.motion);
 }
 
 int showWindow(const std::string& folder, const LaunchServices& services)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "QuickLook/PanelFixture.h"
+#include "Utils/MotionPreference.h"
 
 #include <QPlainTextEdit>
 
@@ -8,6 +9,11 @@ namespace tessera {
 namespace {
 
 const QRectF kItem(150, 120, 40, 30);
+
+class StillDesktop final : public MotionPreference {
+public:
+    [[nodiscard]] bool reducesMotion() const override { return true; }
+};
 
 class QuickLookPanelMotionTest : public test::PanelTest {
 protected:
@@ -54,7 +60,8 @@ TEST_F(QuickLookPanelMotionTest, ShrinksBackIntoTheItem)
 
 TEST_F(QuickLookPanelMotionTest, IsThereAtOnceWhenTheDesktopWantsNoMotion)
 {
-    panel.setReducedMotion([] { return true; });
+    const StillDesktop motion;
+    panel.setMotionPreference(&motion);
 
     open("docs");
     EXPECT_FALSE(panel.animation().isRunning());

@@ -85,7 +85,7 @@ TEST_F(SummaryTest, TheCaptionSaysHowManyPagesAreShown)
     preview.content = PreviewPages{std::vector<QImage>(10), 240};
 
     EXPECT_TRUE(captionOf(facts, preview).endsWith(QStringLiteral("first 10 shown")));
-    EXPECT_TRUE(captionOf(facts, preview).contains(QStringLiteral("240")));
+    EXPECT_TRUE(captionOf(facts, preview).contains(QStringLiteral("240 pages")));
 }
 
 } // namespace tessera

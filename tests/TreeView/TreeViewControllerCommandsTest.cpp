@@ -30,13 +30,17 @@ protected:
     TreeViewControllerCommandsTest()
     {
         services.motion.reduced = true;
-        panel.setReducedMotion([] { return true; });
+        panel.setMotionPreference(&services.motion);
         model.setTopFolder(test::makeTree("/data", "docs/ ( a:500000 b:200000 ) c\xFF:300000"));
         view.resize(400, 300);
         view.show();
         controller = std::make_unique<TreeViewController>(model, view, services.get());
     }
-    ~TreeViewControllerCommandsTest() override { panel.orderOut(); }
+    ~TreeViewControllerCommandsTest() override
+    {
+        panel.orderOut();
+        panel.setMotionPreference(nullptr);
+    }
 
     File& node(std::string_view path) { return test::at(*model.topFolder(), path); }
     void select(std::string_view path) { controller->setSelectedFile(&node(path)); }
