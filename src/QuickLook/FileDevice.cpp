@@ -12,7 +12,7 @@ namespace tessera {
 
 namespace {
 
-constexpr qsizetype kPieceBytes = 128 * 1024;
+constexpr qsizetype kPieceBytes = qsizetype{128} * 1024;
 
 qint64 signedLength(std::uint64_t length)
 {

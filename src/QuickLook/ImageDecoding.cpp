@@ -16,7 +16,7 @@ namespace tessera {
 namespace {
 
 /// More pixels take seconds to decode, whatever remains of them.
-constexpr std::int64_t kMostPixels = 256 * 1024 * 1024;
+constexpr std::int64_t kMostPixels = std::int64_t{256} * 1024 * 1024;
 /// Qt's own limit refuses the larger ones of today's cameras.
 constexpr int kMostMegabytes = 512;
 

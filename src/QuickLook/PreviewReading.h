@@ -4,13 +4,14 @@
 #include "QuickLook/Preview.h"
 
 #include <atomic>
+#include <cstddef>
 
 namespace tessera {
 
 class FileReader;
 
 /// How much of a text is shown, in bytes.
-inline constexpr std::size_t kPreviewTextBytes = 64 * 1024;
+inline constexpr std::size_t kPreviewTextBytes = std::size_t{64} * 1024;
 
 /// Looks at the file and makes of it what can be shown: a picture, pages, the beginning of a text,
 /// or no more than its description. It may block for as long as the file system does, hence runs
