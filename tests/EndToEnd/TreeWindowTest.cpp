@@ -64,5 +64,14 @@ TEST_F(TreeWindow, ClosingItEndsTheProgram)
     EXPECT_EQ(program->process().exitStatus(), 0) << program->log();
 }
 
+TEST(WindowOnALargeFolder, CanBeClosedDuringTheScan)
+{
+    DrivenProgram program("/usr");
+    ASSERT_TRUE(eventually([&] { return program.window(Kind::Main).has_value(); }));
+    program.desk().requestClose(*program.window(Kind::Main));
+    ASSERT_TRUE(eventually([&] { return program.process().exitStatus().has_value(); }));
+    EXPECT_EQ(program.process().exitStatus(), 0) << program.log();
+}
+
 } // namespace
 } // namespace tessera::test
