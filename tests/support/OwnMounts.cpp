@@ -20,16 +20,22 @@ void check(int result, const std::string& what)
     }
 }
 
+bool writeTo(const std::string& path, const std::string& text)
+{
+    std::ofstream file(path);
+    file << text << std::flush;
+    return file.good();
+}
+
 /// In a name space of its own anybody is allowed to mount, as the user who they are.
 bool enterAsUser()
 {
     const std::string user = std::to_string(::geteuid());
-    if (::unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0) {
-        return false;
-    }
-    std::ofstream map("/proc/self/uid_map");
-    map << user << ' ' << user << " 1\n";
-    return map.flush().good();
+    const std::string group = std::to_string(::getegid());
+    return ::unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0
+        && writeTo("/proc/self/uid_map", user + ' ' + user + " 1\n")
+        && writeTo("/proc/self/setgroups", "deny\n")
+        && writeTo("/proc/self/gid_map", group + ' ' + group + " 1\n");
 }
 
 bool leaveTheSystemsMounts()
@@ -42,8 +48,9 @@ bool leaveTheSystemsMounts()
 
 OwnMounts::~OwnMounts()
 {
-    for (auto point = m_points.rbegin(); point != m_points.rend(); ++point) {
-        ::umount2(point->c_str(), MNT_DETACH);
+    while (!m_points.empty()) {
+        ::umount2(m_points.back().c_str(), MNT_DETACH);
+        m_points.pop_back();
     }
 }
 
@@ -65,7 +72,7 @@ void OwnMounts::bind(const std::string& existing, const std::string& path)
     m_points.push_back(path);
 }
 
-void OwnMounts::makeReadOnly(const std::string& path) const
+void OwnMounts::makeReadOnly(const std::string& path)
 {
     check(::mount(nullptr, path.c_str(), nullptr, MS_REMOUNT | MS_BIND | MS_RDONLY, nullptr), path);
 }

@@ -21,7 +21,7 @@ public:
     /// Each throws std::system_error when it fails.
     void mountMemory(const std::string& path, const std::string& options = {});
     void bind(const std::string& existing, const std::string& path);
-    void makeReadOnly(const std::string& path) const;
+    static void makeReadOnly(const std::string& path);
 
 private:
     std::vector<std::string> m_points;

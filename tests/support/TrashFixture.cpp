@@ -6,8 +6,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <sstream>
 
 namespace tessera::test {
@@ -37,12 +35,6 @@ std::vector<std::string> snapshotOf(const std::string& path)
     }
     std::sort(lines.begin(), lines.end());
     return lines;
-}
-
-std::string contentOf(const std::string& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
 }
 
 bool exists(const std::string& path)
@@ -83,7 +75,7 @@ std::string TrashFixture::move(const std::string& name)
 std::string TrashFixture::moveInVain(const std::string& name)
 {
     const std::vector<std::string> before = snapshotOf(m_tree.path());
-    const std::string error = move(name);
+    std::string error = move(name);
     EXPECT_EQ(snapshotOf(m_tree.path()), before);
     EXPECT_EQ(m_newPath, "");
     return error;

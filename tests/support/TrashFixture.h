@@ -4,6 +4,7 @@
 #include "Platform/Linux/FreedesktopTrash.h"
 #include "support/OwnMounts.h"
 #include "support/TempTree.h"
+#include "support/fileContent.h"
 
 #include <gtest/gtest.h>
 
@@ -15,8 +16,6 @@ namespace tessera::test {
 /// Everything below a folder, mounts included: for each item a line with its path, kind, mode,
 /// inode and, unless it is a folder, its size and time. Equal when nothing has been touched.
 std::vector<std::string> snapshotOf(const std::string& path);
-
-std::string contentOf(const std::string& path);
 
 /// Whether something has that name, be it a link that leads nowhere.
 bool exists(const std::string& path);

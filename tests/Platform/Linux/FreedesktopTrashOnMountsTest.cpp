@@ -25,7 +25,7 @@ TEST_F(TrashOnAMount, AnItemStaysOnItsMountInATrashThatIsMadeForTheUser)
     m_tree.writeFile("disk/a", "content");
     EXPECT_EQ(move("disk/a"), "");
     EXPECT_EQ(m_newPath, m_disk + "/.Trash-" + m_userId + "/files/a");
-    EXPECT_EQ(contentOf(m_newPath), "content");
+    EXPECT_EQ(fileContent(m_newPath), "content");
     EXPECT_FALSE(exists(m_homeTrash));
 }
 
@@ -35,7 +35,7 @@ TEST_F(TrashOnAMount, TheInfoFileSaysWhereItWasOnTheMount)
     m_tree.makeFile("disk/a b/c");
     EXPECT_EQ(move("disk/a b/c"), "");
     EXPECT_THAT(
-        contentOf(m_disk + "/.Trash-" + m_userId + "/info/c.trashinfo"),
+        fileContent(m_disk + "/.Trash-" + m_userId + "/info/c.trashinfo"),
         StartsWith("[Trash Info]\nPath=a%20b/c\nDeletionDate="));
 }
 
@@ -56,7 +56,7 @@ TEST_F(TrashOnAMount, TheTrashThatTheAdministratorMadeForAllIsUsed)
     EXPECT_EQ(move("disk/folder/"), "");
     EXPECT_EQ(m_newPath, m_disk + "/.Trash/" + m_userId + "/files/folder");
     EXPECT_THAT(
-        contentOf(m_disk + "/.Trash/" + m_userId + "/info/folder.trashinfo"),
+        fileContent(m_disk + "/.Trash/" + m_userId + "/info/folder.trashinfo"),
         HasSubstr("\nPath=folder\n"));
 }
 
@@ -116,7 +116,7 @@ TEST_F(TrashOnAMount, AUsersTrashThatBelongsToSomebodyElseIsRefused)
 TEST_F(TrashOnAMount, AnItemOnAReadOnlyMountStays)
 {
     m_tree.makeFile("disk/a");
-    m_mounts.makeReadOnly(m_disk);
+    OwnMounts::makeReadOnly(m_disk);
     EXPECT_EQ(
         moveInVain("disk/a"), "'a' was not moved to the trash, because its disk can only be read.");
 }
@@ -126,7 +126,7 @@ TEST_F(TrashOnAMount, AnItemOnAReadOnlyMountWithATrashStays)
     m_tree.makeFile("disk/a");
     m_tree.makeFile("disk/b");
     ASSERT_EQ(move("disk/b"), "");
-    m_mounts.makeReadOnly(m_disk);
+    OwnMounts::makeReadOnly(m_disk);
     EXPECT_THAT(moveInVain("disk/a"), HasSubstr("its disk can only be read"));
 }
 

@@ -6,6 +6,7 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
 
 namespace tessera {
@@ -18,9 +19,9 @@ constexpr const char* kTable
       "23 21 0:6 / /home/me/disk rw - tmpfs none rw\n"
       "24 20 8:2 /x /home/me rw - ext4 /dev/sda2 rw\n";
 
-std::string pointOf(const Mount* mount)
+std::string pointOf(const std::optional<Mount>& mount)
 {
-    return mount == nullptr ? "none" : mount->point;
+    return mount ? mount->point : "none";
 }
 
 TEST(MountTable, APathIsOnTheMountWithTheLongestPointAboveIt)
@@ -47,8 +48,9 @@ TEST(MountTable, TheMountsNumberTellsWhichOfThemIsNotCovered)
 TEST(MountTable, OfTwoAtOnePointTheLaterOneCounts)
 {
     const MountTable mounts("1 0 8:1 / /a rw - x x rw\n2 1 8:2 / /a rw - x x rw\n");
-    ASSERT_NE(mounts.mountOf("/a/b", {}), nullptr);
-    EXPECT_EQ(mounts.mountOf("/a/b", {})->id, 2U);
+    const std::optional<Mount> mount = mounts.mountOf("/a/b", {});
+    ASSERT_TRUE(mount);
+    EXPECT_EQ(mount->id, 2U);
 }
 
 TEST(MountTable, PointsAreReadAsBytes)
@@ -81,7 +83,7 @@ TEST(MountTable, KnowsWhatIsMountedInsideAFolder)
 
 TEST(MountTable, TheSystemsOwnHasTheRootWithTheNumberThatTheSystemGivesIt)
 {
-    const Mount* const root = MountTable::ofThisProcess().mountOf("/", {});
+    const std::optional<Mount> root = MountTable::ofThisProcess().mountOf("/", {});
     ASSERT_EQ(pointOf(root), "/");
     const StatusResult found = statusAt(AT_FDCWD, "/");
     ASSERT_TRUE(found);

@@ -43,7 +43,7 @@ TEST_P(RenameBy, MovesAFile)
 {
     m_tree.writeFile("from/a", "content");
     EXPECT_EQ(rename("a", "b\xFF"), 0);
-    EXPECT_EQ(contentOf(m_to + "/b\xFF"), "content");
+    EXPECT_EQ(fileContent(m_to + "/b\xFF"), "content");
     EXPECT_THAT(namesIn(m_from), IsEmpty());
 }
 

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 namespace tessera::test {
 namespace {
@@ -15,7 +16,9 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
-class TrashReadBack : public TrashOnAMount {
+/// Asks the other program, whose user has the home of these surroundings.
+template <typename Surroundings>
+class ReadBack : public Surroundings {
 protected:
     std::string listed() const
     {
@@ -25,7 +28,7 @@ protected:
     /// Brings back the only item that was at this path or below it.
     void restore(const std::string& name) const
     {
-        const std::string command = "echo 0 | trash-restore '" + m_tree.pathOf(name) + "'";
+        const std::string command = "echo 0 | trash-restore '" + this->m_tree.pathOf(name) + "'";
         const ProgramResult result = runProgram("/bin/sh", {"-c", command}, environment());
         EXPECT_EQ(result.exitStatus, 0) << result.standardError;
     }
@@ -34,11 +37,14 @@ private:
     std::vector<std::string> environment() const
     {
         return {
-            "XDG_DATA_HOME=" + m_tree.pathOf("home/.local/share"),
-            "HOME=" + m_tree.pathOf("home"),
+            "XDG_DATA_HOME=" + this->m_tree.pathOf("home/.local/share"),
+            "HOME=" + this->m_tree.pathOf("home"),
             "LC_ALL=C.UTF-8"};
     }
 };
+
+using TrashReadBack = ReadBack<TrashFixture>;
+using TrashReadBackOnAMount = ReadBack<TrashOnAMount>;
 
 TEST_F(TrashReadBack, AnItemInTheHomesTrashIsListedWhereItWas)
 {
@@ -52,7 +58,7 @@ TEST_F(TrashReadBack, AnItemInTheHomesTrashIsBroughtBack)
     m_tree.writeFile("work/\xC3\xBC 100%", "content");
     ASSERT_EQ(move("work/\xC3\xBC 100%"), "");
     restore("work");
-    EXPECT_EQ(contentOf(m_tree.pathOf("work/\xC3\xBC 100%")), "content");
+    EXPECT_EQ(fileContent(m_tree.pathOf("work/\xC3\xBC 100%")), "content");
     EXPECT_THAT(namesIn(m_homeTrash + "/files"), IsEmpty());
     EXPECT_THAT(namesIn(m_homeTrash + "/info"), IsEmpty());
 }
@@ -65,7 +71,7 @@ TEST_F(TrashReadBack, AnItemWhoseNameWasTakenComesBackUnderItsOwn)
     m_tree.writeFile("work/b/a.txt", "second");
     ASSERT_EQ(move("work/b/a.txt"), "");
     restore("work/b");
-    EXPECT_EQ(contentOf(m_tree.pathOf("work/b/a.txt")), "second");
+    EXPECT_EQ(fileContent(m_tree.pathOf("work/b/a.txt")), "second");
 }
 
 TEST_F(TrashReadBack, AnItemWithTheLongestNameComesBackUnderIt)
@@ -77,7 +83,7 @@ TEST_F(TrashReadBack, AnItemWithTheLongestNameComesBackUnderIt)
     EXPECT_TRUE(exists(m_tree.pathOf(name)));
 }
 
-TEST_F(TrashReadBack, AnItemOnAMountIsListedAndBroughtBack)
+TEST_F(TrashReadBackOnAMount, AnItemIsListedAndBroughtBack)
 {
     m_tree.makeFolder("disk/folder");
     m_tree.makeFolder("disk/folder/inner");
@@ -89,7 +95,7 @@ TEST_F(TrashReadBack, AnItemOnAMountIsListedAndBroughtBack)
     EXPECT_THAT(listed(), Not(HasSubstr(m_disk)));
 }
 
-TEST_F(TrashReadBack, AnItemInTheTrashForAllUsersIsListedAndBroughtBack)
+TEST_F(TrashReadBackOnAMount, AnItemInTheTrashForAllUsersIsListedAndBroughtBack)
 {
     m_tree.makeFolder("disk/.Trash");
     m_tree.setMode("disk/.Trash", 01777);
