@@ -6,10 +6,12 @@
 #include "Scanning/ScanEnvironment.h"
 #include "Scanning/Scanner.h"
 #include "Scanning/ScannerDelegate.h"
+#include "TreeView/DesktopIconProvider.h"
 #include "TreeView/TreeBranch.h"
 #include "TreeView/TreeMapView.h"
 #include "TreeView/TreeViewController.h"
 #include "TreeView/TreeViewServices.h"
+#include "Utils/MessageBoxAlert.h"
 
 #include <QApplication>
 #include <QEventLoop>
@@ -163,6 +165,17 @@ std::vector<Folder*> shownFolders(const TreeBranch& top)
     return folders;
 }
 
+ScanEnvironment scanEnvironment(const PlatformServices& services)
+{
+    return {
+        *services.fileManager,
+        *services.resourceValues,
+        *services.fileSystemAttributes,
+        *services.mainThread,
+        services.clock,
+        services.userAccount->homeDirectory()};
+}
+
 /// Whether the figures it prints stand for anything.
 bool measure(RootModel& model, const PlatformServices& services, QSize size, std::size_t zooms)
 {
@@ -170,8 +183,21 @@ bool measure(RootModel& model, const PlatformServices& services, QSize size, std
     TreeMapView map(*services.userDefaults);
     map.resize(size);
     map.show();
+    MessageBoxAlert alert;
+    DesktopIconProvider icons;
     TreeViewController controller(
-        model, map, TreeViewServices{*services.fileSystemAttributes, motion});
+        model,
+        map,
+        {scanEnvironment(services),
+         *services.userDefaults,
+         *services.workspace,
+         alert,
+         {services.archiver,
+          services.makeTask,
+          *services.workspace,
+          *services.resourceValues,
+          icons},
+         motion});
     QCoreApplication::processEvents();
     const std::vector<Folder*> folders = shownFolders(*map.branches().front());
     if (folders.empty() || map.size() != size) {
@@ -191,13 +217,7 @@ bool measureFolder(const char* folder, std::size_t zooms)
     const PlatformServices services = makePlatformServices();
     RootModel model({*services.userDefaults, *services.recentDocuments, *services.standardFolders});
     model.setTopFolder(ScanWaiter().scan(
-        Url(services.fileAccess->absolutePath(folder), true),
-        {*services.fileManager,
-         *services.resourceValues,
-         *services.fileSystemAttributes,
-         *services.mainThread,
-         services.clock,
-         services.userAccount->homeDirectory()}));
+        Url(services.fileAccess->absolutePath(folder), true), scanEnvironment(services)));
     const bool isValid
         = measure(model, services, kSmallMap, zooms) && measure(model, services, kLargeMap, zooms);
     services.mainThread->close();
