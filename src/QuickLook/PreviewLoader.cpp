@@ -2,6 +2,7 @@
 #include "QuickLook/PreviewLoader.h"
 
 #include "QuickLook/PreviewReading.h"
+#include "QuickLook/PreviewThreads.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -9,7 +10,6 @@
 #include <atomic>
 #include <condition_variable>
 #include <mutex>
-#include <thread>
 #include <utility>
 
 namespace tessera {
@@ -52,9 +52,9 @@ public:
             return;
         }
         ++m_threads;
-        std::thread([crew = shared_from_this(), first = std::move(look)] {
+        PreviewThreads::start([crew = shared_from_this(), first = std::move(look)] {
             crew->run(first);
-        }).detach();
+        });
     }
 
     void dropWaiting()

@@ -36,7 +36,7 @@ public:
     bool isLoading() const { return m_current != nullptr; }
 
     /// Drops what is under way and waits for its end, but no longer than that; false when it is
-    /// stuck. To be called before the program ends: a decoder must not outlive what it uses.
+    /// stuck.
     bool cancelAndWait(std::chrono::milliseconds timeLimit);
 
     bool event(QEvent* event) override;

@@ -4,6 +4,7 @@
 #include "QuickLook/PanelBody.h"
 #include "QuickLook/PreviewItem.h"
 #include "QuickLook/PreviewLoader.h"
+#include "QuickLook/PreviewThreads.h"
 #include "QuickLook/PreviewView.h"
 #include "QuickLook/QuickLookPanelDataSource.h"
 #include "QuickLook/QuickLookPanelDelegate.h"
@@ -75,7 +76,8 @@ QuickLookPanel::QuickLookPanel()
     connect(qApp, &QCoreApplication::aboutToQuit, this, [this] {
         closeAtOnce();
         if (m_loader != nullptr) {
-            (void)m_loader->cancelAndWait(kEndOfProgramPatience);
+            m_loader->cancel();
+            (void)PreviewThreads::waitForEnd(kEndOfProgramPatience);
         }
     });
 }

@@ -1,7 +1,15 @@
 // SPDX-License-Identifier: MIT
+#include "QuickLook/PreviewThreads.h"
+
 #include <QApplication>
 
 #include <gtest/gtest.h>
+
+namespace {
+
+constexpr std::chrono::seconds kEndOfProgramPatience{10};
+
+} // namespace
 
 int main(int argc, char** argv)
 {
@@ -11,5 +19,7 @@ int main(int argc, char** argv)
     }
     testing::InitGoogleTest(&argc, argv);
     const QApplication application(argc, argv);
-    return RUN_ALL_TESTS();
+    const int status = RUN_ALL_TESTS();
+    (void)tessera::PreviewThreads::waitForEnd(kEndOfProgramPatience);
+    return status;
 }
