@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "DrivenProgram.h"
 
+#include "pixelColors.h"
 #include "support/fileContent.h"
 
 namespace tessera::test {
@@ -30,6 +31,8 @@ std::vector<std::string> sessionEnvironment(const TempTree& session, const std::
     return environment;
 }
 
+constexpr int kIconPixels = 16;
+
 bool isBlackRow(const QImage& picture, int y)
 {
     for (int x = 0; x < picture.width(); ++x) {
@@ -38,6 +41,16 @@ bool isBlackRow(const QImage& picture, int y)
         }
     }
     return true;
+}
+
+bool hasHueInColumn(const QImage& picture, int x)
+{
+    for (int y = 0; y < picture.height(); ++y) {
+        if (hasHue(picture.pixel(x, y))) {
+            return true;
+        }
+    }
+    return false;
 }
 
 } // namespace
@@ -75,6 +88,31 @@ std::optional<QRect> DrivenProgram::map() const
         return std::nullopt;
     }
     return QRect(0, top, picture.width(), bottom - top).translated(main->frame.topLeft());
+}
+
+std::vector<QPoint> DrivenProgram::pathIcons() const
+{
+    const std::optional<QRect> treeMap = map();
+    if (!treeMap) {
+        return {};
+    }
+    QRect bar = window(XWindow::Kind::Main)->frame;
+    bar.setBottom(treeMap->top() - 1);
+    const QImage picture = m_desk.picture(bar);
+    // Icons have colours, text and grooves are grey.
+    std::vector<QPoint> icons;
+    int left = 0;
+    for (int x = 0; x < picture.width(); ++x) {
+        if (!hasHueInColumn(picture, x)) {
+            continue;
+        }
+        const bool isNext = icons.empty() || x > left + kIconPixels;
+        if (isNext) {
+            left = x;
+            icons.push_back(bar.topLeft() + QPoint(x + kIconPixels / 2, picture.height() / 2));
+        }
+    }
+    return icons;
 }
 
 } // namespace tessera::test

@@ -6,8 +6,12 @@
 #include "support/ChildProcess.h"
 #include "support/TempTree.h"
 
+#include <QPoint>
+#include <QRect>
+
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace tessera::test {
 
@@ -29,6 +33,9 @@ public:
 
     /// Where the tree's map lies on the screen; nothing while it is not shown.
     std::optional<QRect> map() const;
+
+    /// Where on the screen the icons of the path bar's components are, from the left.
+    std::vector<QPoint> pathIcons() const;
 
 private:
     TempTree m_session;

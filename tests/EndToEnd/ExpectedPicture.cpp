@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "ExpectedPicture.h"
 
+#include "pixelColors.h"
 #include "scanFolder.h"
 
 #include <QColor>
 
 #include <algorithm>
 #include <array>
-#include <cstdlib>
 #include <stdexcept>
 
 namespace tessera::test {
@@ -24,22 +24,6 @@ constexpr double kInsidePage = 7;
 constexpr double kInsideFolder = 5;
 /// Boxes of the top level stand this far inside their rectangles.
 constexpr double kGap = 2;
-
-bool isLike(QRgb color, QRgb other)
-{
-    constexpr int kTolerance = 3;
-    return std::abs(qRed(color) - qRed(other)) <= kTolerance
-        && std::abs(qGreen(color) - qGreen(other)) <= kTolerance
-        && std::abs(qBlue(color) - qBlue(other)) <= kTolerance;
-}
-
-/// Pages, rims and the ground have no hue; folders have.
-bool hasHue(QRgb color)
-{
-    constexpr int kLeastSpread = 30;
-    const auto [least, most] = std::minmax({qRed(color), qGreen(color), qBlue(color)});
-    return most - least >= kLeastSpread;
-}
 
 /// The pixel in which the point lies.
 QRgb at(const QImage& image, QPointF point)

@@ -23,5 +23,30 @@ TEST_F(TreeWindow, ADoubleClickOnADocumentStaysInTheFolder)
     EXPECT_TRUE(shows({}, "movie"));
 }
 
+TEST_F(TreeWindow, ThePathBarHasAComponentForEachFolderDownToTheOneInView)
+{
+    desk().doubleClick(placeOf("docs/drafts"));
+    ASSERT_TRUE(shows("docs/drafts"));
+    EXPECT_EQ(program->pathIcons().size(), 3U);
+}
+
+TEST_F(TreeWindow, AClickInThePathBarZoomsOut)
+{
+    desk().doubleClick(placeOf("docs/drafts"));
+    ASSERT_TRUE(shows("docs/drafts"));
+    desk().click(program->pathIcons().at(1));
+    ASSERT_TRUE(shows("docs"));
+    desk().click(program->pathIcons().at(0));
+    EXPECT_TRUE(shows());
+}
+
+TEST_F(TreeWindow, AClickOnTheLastComponentOfThePathBarDeselects)
+{
+    desk().click(placeOf("movie"));
+    ASSERT_TRUE(shows({}, "movie"));
+    desk().click(program->pathIcons().at(0));
+    EXPECT_TRUE(shows());
+}
+
 } // namespace
 } // namespace tessera::test
