@@ -34,6 +34,15 @@ void TreeWindow::SetUp()
     ASSERT_TRUE(shows());
 }
 
+void TreeWindow::TearDown()
+{
+    if (const std::optional<XWindow> open = program->window(XWindow::Kind::Main)) {
+        desk().requestClose(*open);
+    }
+    EXPECT_TRUE(eventually([&] { return program->process().exitStatus().has_value(); }));
+    EXPECT_EQ(program->process().exitStatus(), 0) << program->log();
+}
+
 QPoint TreeWindow::beside() const
 {
     return program->desk().screen().bottomRight();

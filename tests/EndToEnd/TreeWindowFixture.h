@@ -48,6 +48,8 @@ protected:
 
 private:
     void SetUp() override;
+    /// Closes the window: whatever the test did, the program ends by itself and has no complaints.
+    void TearDown() override;
 
     std::unique_ptr<ExpectedPicture> m_expected;
     QRect m_map;

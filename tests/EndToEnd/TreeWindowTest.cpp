@@ -57,13 +57,6 @@ TEST_F(TreeWindow, TheTooltipGoesWhenThePointerLeavesTheWindow)
     EXPECT_TRUE(closes(Kind::Tooltip));
 }
 
-TEST_F(TreeWindow, ClosingItEndsTheProgram)
-{
-    desk().requestClose(mainWindow());
-    ASSERT_TRUE(eventually([&] { return program->process().exitStatus().has_value(); }));
-    EXPECT_EQ(program->process().exitStatus(), 0) << program->log();
-}
-
 TEST(WindowOnALargeFolder, CanBeClosedDuringTheScan)
 {
     DrivenProgram program("/usr");
