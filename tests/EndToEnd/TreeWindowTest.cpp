@@ -50,6 +50,12 @@ TEST_F(TreeWindow, HoveringABoxShowsATooltipBesideThePointer)
     EXPECT_EQ(program->window(Kind::Tooltip)->frame.topLeft(), placeOf("song") + kBelowPointer);
 }
 
+TEST_F(TreeWindow, TheTooltipLeavesTheKeysToTheWindow)
+{
+    ASSERT_TRUE(hover("song"));
+    EXPECT_TRUE(desk().isActive(mainWindow()));
+}
+
 TEST_F(TreeWindow, TheTooltipGoesWhenThePointerLeavesTheWindow)
 {
     ASSERT_TRUE(hover("song"));

@@ -238,6 +238,13 @@ void XDesk::activate(const XWindow& window)
     sync();
 }
 
+bool XDesk::isActive(const XWindow& window) const
+{
+    const auto focus = answer<xcb_get_input_focus_reply>(
+        m_connection.get(), xcb_get_input_focus(m_connection.get()));
+    return focus != nullptr && focus->focus == window.id;
+}
+
 void XDesk::setFrame(const XWindow& window, const QRect& frame)
 {
     const std::array values{

@@ -59,6 +59,7 @@ public:
     void typeKey(std::uint32_t keysym);
 
     void activate(const XWindow& window);
+    bool isActive(const XWindow& window) const; ///< whether it gets the keys
     void setFrame(const XWindow& window, const QRect& frame);
     void requestClose(const XWindow& window);
 
