@@ -3,6 +3,10 @@
 
 #include "eventually.h"
 
+#include <algorithm>
+#include <cstdlib>
+#include <random>
+
 namespace tessera::test {
 
 namespace {
@@ -10,11 +14,20 @@ namespace {
 constexpr QRect kFirstFrame(200, 100, 1000, 700);
 constexpr int kIntoFolderHead = 12;
 
+/// What no archiver makes smaller.
+std::string noise(std::size_t bytes)
+{
+    std::mt19937 numbers; // NOLINT(cert-msc51-cpp): the same in every run
+    std::string content(bytes, '\0');
+    std::ranges::generate(content, [&numbers] { return static_cast<char>(numbers()); });
+    return content;
+}
+
 } // namespace
 
 TreeWindow::TreeWindow()
 {
-    tree.makeFile("movie", 600'000);
+    tree.writeFile("movie", noise(600'000));
     tree.makeFile("song", 300'000);
     tree.makeFolder("docs");
     tree.makeFile("docs/report", 400'000);
@@ -95,6 +108,47 @@ testing::AssertionResult TreeWindow::hover(const std::string& path)
         return tooltip && tooltip->frame.left() == place.x();
     });
     return isShown ? testing::AssertionSuccess() : failure("no tooltip came");
+}
+
+testing::AssertionResult TreeWindow::pick(const std::string& path, MenuEntry entry)
+{
+    desk().click(placeOf(path), XDesk::Button::Right);
+    if (const auto opened = opens(XWindow::Kind::Menu); !opened) {
+        return opened;
+    }
+    const int steps = static_cast<int>(entry);
+    for (int i = 0; i < std::abs(steps); ++i) {
+        desk().typeKey(steps > 0 ? key::kDown : key::kUp);
+    }
+    desk().typeKey(key::kReturn);
+    return closes(XWindow::Kind::Menu);
+}
+
+testing::AssertionResult TreeWindow::acceptDialog()
+{
+    return closeWithKey(XWindow::Kind::Dialog, key::kReturn);
+}
+
+testing::AssertionResult TreeWindow::rejectDialog()
+{
+    return closeWithKey(XWindow::Kind::Dialog, key::kEscape);
+}
+
+testing::AssertionResult TreeWindow::closePreview()
+{
+    return closeWithKey(XWindow::Kind::Panel, key::kEscape);
+}
+
+testing::AssertionResult TreeWindow::closeWithKey(XWindow::Kind kind, std::uint32_t keysym)
+{
+    if (const auto opened = opens(kind); !opened) {
+        return opened;
+    }
+    desk().activate(*program->window(kind));
+    desk().typeKey(keysym);
+    const auto closed = closes(kind);
+    desk().activate(mainWindow());
+    return closed;
 }
 
 QPoint TreeWindow::placeOf(const std::string& path) const

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -19,6 +20,10 @@ namespace tessera::test {
 ///     docs/drafts/first, docs/drafts/second
 class TreeWindow : public testing::Test {
 protected:
+    /// Entries of the context menus: how far down from the top, or up from the bottom, without
+    /// separators.
+    enum class MenuEntry { ZoomIn = 3, RescanFolder = 4, Compress = -2, MoveToTrash = -1 };
+
     TreeWindow();
 
     /// Waits until the map shows the folder as it is on the disk now, `shown` filling the map and
@@ -36,6 +41,16 @@ protected:
     /// Moves the pointer onto that box and waits for the tooltip there.
     testing::AssertionResult hover(const std::string& path);
 
+    /// Opens the box's context menu and picks that entry with the arrow keys.
+    testing::AssertionResult pick(const std::string& path, MenuEntry entry);
+
+    /// Answer the dialog that comes, with its default button or with Escape.
+    testing::AssertionResult acceptDialog();
+    testing::AssertionResult rejectDialog();
+
+    /// Waits for the preview and closes it with Escape.
+    testing::AssertionResult closePreview();
+
     /// Where no window is.
     QPoint beside() const;
 
@@ -47,6 +62,8 @@ protected:
     testing::AssertionResult failure(const std::string& reason) const;
 
 private:
+    /// Waits for a window of the kind, types the key there and waits until it has closed.
+    testing::AssertionResult closeWithKey(XWindow::Kind kind, std::uint32_t keysym);
     void SetUp() override;
     /// Closes the window: whatever the test did, the program ends by itself and has no complaints.
     void TearDown() override;

@@ -17,12 +17,6 @@ TEST_F(TreeWindow, AResizeEndsAZoomWithThePictureOfTheNewSize)
     EXPECT_TRUE(shows("docs"));
 }
 
-TEST_F(TreeWindow, ADoubleClickOnADocumentStaysInTheFolder)
-{
-    desk().doubleClick(placeOf("movie"));
-    EXPECT_TRUE(shows({}, "movie"));
-}
-
 TEST_F(TreeWindow, ThePathBarHasAComponentForEachFolderDownToTheOneInView)
 {
     desk().doubleClick(placeOf("docs/drafts"));

@@ -132,10 +132,13 @@ XWindow::Kind XDesk::kindOf(xcb_window_t window, bool isUnmanaged) const
     if (isUnmanaged) {
         return XWindow::Kind::Menu;
     }
-    if (type == atom("_NET_WM_WINDOW_TYPE_DIALOG")) {
-        return XWindow::Kind::Dialog;
-    }
-    return type == atom("_NET_WM_WINDOW_TYPE_NORMAL") ? XWindow::Kind::Main : XWindow::Kind::Other;
+    const std::array kinds{
+        std::pair{"_NET_WM_WINDOW_TYPE_NORMAL", XWindow::Kind::Main},
+        std::pair{"_NET_WM_WINDOW_TYPE_DIALOG", XWindow::Kind::Dialog},
+        std::pair{"_NET_WM_WINDOW_TYPE_UTILITY", XWindow::Kind::Panel}};
+    const auto* const found
+        = std::ranges::find_if(kinds, [&](const auto& kind) { return atom(kind.first) == type; });
+    return found == kinds.end() ? XWindow::Kind::Other : found->second;
 }
 
 std::string XDesk::property(xcb_window_t window, const std::string& name) const

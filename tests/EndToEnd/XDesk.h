@@ -18,7 +18,7 @@ namespace tessera::test {
 
 /// A window that can be seen on the screen.
 struct XWindow {
-    enum class Kind { Main, Dialog, Tooltip, Menu, Other };
+    enum class Kind { Main, Dialog, Panel, Tooltip, Menu, Other };
 
     xcb_window_t id = XCB_NONE;
     Kind kind = Kind::Other;
@@ -33,7 +33,10 @@ inline constexpr std::uint32_t kReturn = 0xFF0D;
 inline constexpr std::uint32_t kBackspace = 0xFF08;
 inline constexpr std::uint32_t kDelete = 0xFFFF;
 inline constexpr std::uint32_t kSpace = 0x0020;
+inline constexpr std::uint32_t kUp = 0xFF52;
 inline constexpr std::uint32_t kDown = 0xFF54;
+inline constexpr std::uint32_t kRight = 0xFF53;
+inline constexpr std::uint32_t kMenu = 0xFF67;
 } // namespace key
 
 /// The user in front of an X server's screen: looks at it, moves the pointer and presses real

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#include "TreeWindowFixture.h"
+#include "eventually.h"
+#include "support/fileContent.h"
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <string>
+
+namespace tessera::test {
+namespace {
+
+using std::filesystem::exists;
+
+TEST_F(TreeWindow, ARescanFindsWhatCameSince)
+{
+    tree.makeFile("docs/more", 500'000);
+    tree.removeFile("docs/notes");
+    ASSERT_TRUE(pick("docs", MenuEntry::RescanFolder));
+    EXPECT_TRUE(shows());
+}
+
+TEST_F(TreeWindow, MovingToTheTrashTakesTheItemFromThePictureAndTheFolder)
+{
+    ASSERT_TRUE(pick("song", MenuEntry::MoveToTrash));
+    ASSERT_TRUE(acceptDialog());
+    ASSERT_TRUE(eventually([&] { return !exists(tree.pathOf("song")); }));
+    EXPECT_TRUE(shows());
+}
+
+TEST_F(TreeWindow, WhatWasMovedToTheTrashIsInTheTrash)
+{
+    ASSERT_TRUE(pick("docs", MenuEntry::MoveToTrash));
+    ASSERT_TRUE(acceptDialog());
+    const std::string trash = program->dataFolder() + "/Trash";
+    ASSERT_TRUE(eventually([&] { return exists(trash + "/files/docs/drafts/first"); }));
+    EXPECT_THAT(
+        fileContent(trash + "/info/docs.trashinfo"),
+        testing::HasSubstr("Path=" + tree.pathOf("docs") + '\n'));
+}
+
+TEST_F(TreeWindow, OneActionFollowsTheOther)
+{
+    ASSERT_TRUE(hover("docs/report"));
+    desk().click(placeOf("docs/report"));
+    ASSERT_TRUE(shows({}, "docs/report"));
+
+    desk().doubleClick(placeOf("docs"));
+    ASSERT_TRUE(shows("docs"));
+
+    tree.makeFile("docs/drafts/third", 300'000);
+    ASSERT_TRUE(pick("docs/drafts", MenuEntry::RescanFolder));
+    ASSERT_TRUE(shows("docs"));
+
+    ASSERT_TRUE(pick("docs/notes", MenuEntry::MoveToTrash));
+    ASSERT_TRUE(acceptDialog());
+    ASSERT_TRUE(eventually([&] { return !exists(tree.pathOf("docs/notes")); }));
+    ASSERT_TRUE(shows("docs"));
+
+    desk().click(program->pathIcons().at(0));
+    ASSERT_TRUE(shows());
+    EXPECT_TRUE(hover("movie"));
+}
+
+} // namespace
+} // namespace tessera::test
