@@ -449,6 +449,7 @@ TEST_F(CompressWindowControllerTest, EscapeCancelsAndLeavesTheWindowOpen)
 {
     controller->showWindow();
     compress();
+    controller->window().activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&controller->window()));
     QTest::keyClick(controller->window().windowHandle(), Qt::Key_Escape);
 

@@ -61,6 +61,7 @@ protected:
 
     void focusLast()
     {
+        control.activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&control));
         QTest::keyClick(&control, Qt::Key_Tab);
         ASSERT_EQ(QApplication::focusWidget(), buttons().back());
@@ -186,6 +187,7 @@ TEST_F(ToolbarPathControlTest, AClickMayChangeTheComponents)
 TEST_F(ToolbarPathControlTest, AClickLeavesTheFocusWhereItIs)
 {
     showPathTo("documents");
+    control.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&control));
     QTest::mouseClick(buttons().at(0), Qt::LeftButton);
 
