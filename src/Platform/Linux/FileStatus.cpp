@@ -17,7 +17,8 @@ namespace tessera {
 namespace {
 
 constexpr std::uint64_t kBytesPerBlock = 512;
-constexpr unsigned kWanted = STATX_TYPE | STATX_INO | STATX_BLOCKS | STATX_MTIME | STATX_MNT_ID;
+constexpr unsigned kWanted = STATX_TYPE | STATX_MODE | STATX_UID | STATX_GID | STATX_SIZE
+    | STATX_INO | STATX_BLOCKS | STATX_MTIME | STATX_MNT_ID;
 
 constexpr int kOpenFlags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 
@@ -27,6 +28,10 @@ FileStatus fromStatx(const struct statx& values)
     status.identity = {makedev(values.stx_dev_major, values.stx_dev_minor), values.stx_ino};
     status.isDirectory = S_ISDIR(values.stx_mode);
     status.isRegular = S_ISREG(values.stx_mode);
+    status.mode = values.stx_mode;
+    status.owner = values.stx_uid;
+    status.group = values.stx_gid;
+    status.length = values.stx_size;
     status.allocatedBytes = values.stx_blocks * kBytesPerBlock;
     status.modified = values.stx_mtime.tv_sec;
     if ((values.stx_mask & STATX_MNT_ID) != 0) {
@@ -45,6 +50,10 @@ FileStatus fromStat(const struct stat& values)
     status.identity = {values.st_dev, values.st_ino};
     status.isDirectory = S_ISDIR(values.st_mode);
     status.isRegular = S_ISREG(values.st_mode);
+    status.mode = values.st_mode;
+    status.owner = values.st_uid;
+    status.group = values.st_gid;
+    status.length = static_cast<std::uint64_t>(values.st_size);
     status.allocatedBytes = static_cast<std::uint64_t>(values.st_blocks) * kBytesPerBlock;
     status.modified = values.st_mtim.tv_sec;
     return status;

@@ -21,6 +21,10 @@ struct FileStatus {
     FileIdentity identity;
     bool isDirectory = false;
     bool isRegular = false;
+    std::uint32_t mode = 0; ///< kind and permissions, as stat(2) has them
+    std::uint32_t owner = 0;
+    std::uint32_t group = 0;
+    std::uint64_t length = 0; ///< bytes, what holes stand for included
     std::uint64_t allocatedBytes = 0;
     std::int64_t modified = 0; ///< seconds since 1970-01-01 00:00 UTC
     std::optional<std::uint64_t> mountId; ///< missing before Linux 5.8

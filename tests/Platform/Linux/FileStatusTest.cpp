@@ -29,6 +29,26 @@ TEST(FileStatus, TheOlderCallSaysTheSame)
     EXPECT_EQ(status.status.modified, older.status.modified);
     EXPECT_EQ(status.status.isRegular, older.status.isRegular);
     EXPECT_EQ(status.status.isDirectory, older.status.isDirectory);
+    EXPECT_EQ(status.status.mode, older.status.mode);
+    EXPECT_EQ(status.status.owner, older.status.owner);
+    EXPECT_EQ(status.status.group, older.status.group);
+    EXPECT_EQ(status.status.length, older.status.length);
+}
+
+TEST(FileStatus, TheLengthCountsHoles)
+{
+    constexpr off_t kLength = off_t{1} << 30;
+    const TempTree tree;
+    tree.makeSparseFile("sparse", kLength);
+    EXPECT_EQ(statusAtPath(tree.pathOf("sparse")).status.length, std::uint64_t{1} << 30);
+}
+
+TEST(FileStatus, TheModeHoldsKindAndPermissions)
+{
+    const TempTree tree;
+    tree.makeFile("file");
+    tree.setMode("file", 0640);
+    EXPECT_EQ(statusAtPath(tree.pathOf("file")).status.mode, 0100640U);
 }
 
 TEST(FileStatus, TheOlderCallKnowsNothingOfMounts)
