@@ -78,6 +78,13 @@ int ChildProcess::waitForExit()
     return *m_exitStatus;
 }
 
+void ChildProcess::signal(int number) const
+{
+    if (!m_exitStatus) {
+        ::kill(m_id, number);
+    }
+}
+
 bool ChildProcess::reap(int options)
 {
     if (!m_exitStatus) {

@@ -31,6 +31,9 @@ public:
     std::optional<int> exitStatus();
     int waitForExit();
 
+    /// Sends it a signal, unless its end is known already.
+    void signal(int number) const;
+
 private:
     bool reap(int options);
 
