@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#include "Archiver/ArchiverCommandLine.h"
+#include "Archiver/ArchiverProgram.h"
+#include "Archiver/ArchiverSystem.h"
+
+#include <cstdio>
+#include <span>
+
+namespace {
+
+constexpr int kFailed = 1;
+constexpr int kBadUsage = 2;
+
+} // namespace
+
+// NOLINTNEXTLINE(bugprone-exception-escape): out of memory ends the program
+int main(int argc, char** argv)
+{
+    using namespace tessera;
+    const std::span<const char* const> arguments(argv, static_cast<std::size_t>(argc));
+    const auto commandLine = parseArchiverCommandLine(arguments.subspan(argc > 0 ? 1 : 0));
+    if (!commandLine) {
+        (void)std::fprintf(stderr, "%s\n", archiverUsage());
+        return kBadUsage;
+    }
+    endOnTerminationSignals("tessera-ditto: stopped\n", kFailed);
+    return runArchiver(*commandLine, *makeArchiverSystem());
+}

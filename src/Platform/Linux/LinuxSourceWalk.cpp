@@ -1,0 +1,269 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/Linux/LinuxSourceWalk.h"
+
+#include "Platform/Linux/UserAttributes.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <functional>
+#include <memory>
+#include <utility>
+
+namespace tessera {
+
+namespace {
+
+constexpr std::size_t kMaxOpenFolders = 32;
+constexpr std::uint32_t kPermissionBits = 07777;
+constexpr std::size_t kUsualLinkLength = 256;
+
+struct OpenedItem {
+    int error = 0;
+    FileDescriptor handle;
+    FileStatus status;
+};
+
+/// Opens a file or folder for reading. Whatever has taken its place meanwhile, opening it waits
+/// for nothing.
+OpenedItem openAt(int folder, const std::string& name, std::uint32_t kind)
+{
+    int number = -1;
+    do {
+        number = ::openat(
+            folder, name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    } while (number < 0 && errno == EINTR);
+    if (number < 0) {
+        return {errno, {}, {}};
+    }
+    OpenedItem opened{0, FileDescriptor(number), {}};
+    const StatusResult found = statusOf(number);
+    opened.status = found.status;
+    opened.error = found.error;
+    if (found && (found.status.mode & S_IFMT) != kind) {
+        opened.error = ESTALE;
+    }
+    return opened;
+}
+
+/// What the folder holds, in descending order; the errno when it cannot be listed to its end.
+int listNames(int folder, std::vector<std::string>& names)
+{
+    const int copy = ::fcntl(folder, F_DUPFD_CLOEXEC, 0);
+    const std::unique_ptr<DIR, int (*)(DIR*)> listing(::fdopendir(copy), ::closedir);
+    if (listing == nullptr) {
+        const int error = errno;
+        ::close(copy);
+        return error;
+    }
+    errno = 0;
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): the stream is this function's own
+    while (const dirent* entry = ::readdir(listing.get())) {
+        const std::string name = &entry->d_name[0];
+        if (name != "." && name != "..") {
+            names.push_back(name);
+        }
+        errno = 0;
+    }
+    const int error = errno;
+    std::sort(names.begin(), names.end(), std::greater<>());
+    return error;
+}
+
+void describe(ArchiveItem& item, ArchiveItem::Kind kind, const FileStatus& status)
+{
+    item.kind = kind;
+    item.permissions = status.mode & kPermissionBits;
+    item.modified = status.modified;
+    item.owner = status.owner;
+    item.group = status.group;
+    item.length = kind == ArchiveItem::Kind::File ? status.length : 0;
+}
+
+} // namespace
+
+LinuxSourceWalk::LinuxSourceWalk(NamedPlace source, const FileStatus& start)
+    : m_start(start)
+    , m_boundary(start)
+{
+    Place around;
+    around.identity = statusOf(source.folder.number()).status.identity;
+    around.handle = std::move(source.folder);
+    around.names.push_back(std::move(source.name));
+    m_places.push_back(std::move(around));
+}
+
+std::uint32_t LinuxSourceWalk::permissions() const
+{
+    return m_start.mode & kPermissionBits;
+}
+
+void LinuxSourceWalk::passOver(const std::string& path)
+{
+    const NamedPlace place = openFolderOf(path);
+    if (place.error != 0) {
+        return;
+    }
+    const StatusResult found = statusAt(place.folder.number(), place.name.c_str());
+    if (found) {
+        m_passedOver = found.status.identity;
+    }
+}
+
+SourceWalk::Step LinuxSourceWalk::next(ArchiveItem& item)
+{
+    m_content.reset();
+    while (!m_places.empty()) {
+        Place& place = m_places.back();
+        if (place.names.empty()) {
+            leaveFolder();
+            continue;
+        }
+        m_path.resize(place.pathLength);
+        if (!place.handle.isOpen()) {
+            // Somebody has moved it away, and what is in it cannot be reached any more.
+            place.names.clear();
+            item.path = m_path;
+            m_error = ESTALE;
+            return Step::Failed;
+        }
+        const std::string name = std::move(place.names.back());
+        place.names.pop_back();
+        m_path += m_path.empty() ? "" : "/";
+        m_path += name;
+        item = ArchiveItem{};
+        item.path = m_path;
+        if (const auto step = visit(place.handle.number(), name, item)) {
+            return *step;
+        }
+    }
+    return Step::End;
+}
+
+std::optional<SourceWalk::Step> LinuxSourceWalk::visit(
+    int folder, const std::string& name, ArchiveItem& item)
+{
+    const StatusResult found = statusAt(folder, name.c_str());
+    if (!found) {
+        return failed(found.error);
+    }
+    if (found.status.identity == m_passedOver) {
+        return std::nullopt;
+    }
+    switch (found.status.mode & S_IFMT) {
+    case S_IFDIR:
+        return visitFolder(folder, name, found.status, item);
+    case S_IFREG:
+        return visitFile(folder, name, item);
+    case S_IFLNK:
+        return visitLink(folder, name, found.status, item);
+    default:
+        return Step::LeftOut;
+    }
+}
+
+std::optional<SourceWalk::Step> LinuxSourceWalk::visitFolder(
+    int folder, const std::string& name, const FileStatus& status, ArchiveItem& item)
+{
+    if (!isAtSource() && m_boundary.isCrossedBy(status)) {
+        describe(item, ArchiveItem::Kind::Folder, status);
+        return Step::Item;
+    }
+    OpenedItem opened = openAt(folder, name, S_IFDIR);
+    if (opened.error != 0) {
+        return failed(opened.error);
+    }
+    std::vector<std::string> names;
+    const int error = listNames(opened.handle.number(), names);
+    if (error != 0) {
+        return failed(error);
+    }
+    UserAttributes found = readUserAttributes(opened.handle.number());
+    if (found.error != 0) {
+        return failed(found.error);
+    }
+    item.attributes = std::move(found.attributes);
+    describe(item, ArchiveItem::Kind::Folder, opened.status);
+    enterFolder(std::move(opened.handle), std::move(names));
+    return Step::Item;
+}
+
+std::optional<SourceWalk::Step> LinuxSourceWalk::visitFile(
+    int folder, const std::string& name, ArchiveItem& item)
+{
+    OpenedItem opened = openAt(folder, name, S_IFREG);
+    if (opened.error != 0) {
+        return failed(opened.error);
+    }
+    UserAttributes found = readUserAttributes(opened.handle.number());
+    if (found.error != 0) {
+        return failed(found.error);
+    }
+    item.attributes = std::move(found.attributes);
+    describe(item, ArchiveItem::Kind::File, opened.status);
+    m_content.emplace(std::move(opened.handle), opened.status.length);
+    return Step::Item;
+}
+
+std::optional<SourceWalk::Step> LinuxSourceWalk::visitLink(
+    int folder, const std::string& name, const FileStatus& status, ArchiveItem& item)
+{
+    std::string target(kUsualLinkLength, '\0');
+    while (true) {
+        const ssize_t length = ::readlinkat(folder, name.c_str(), target.data(), target.size());
+        if (length < 0) {
+            return failed(errno);
+        }
+        // A target that fills the buffer may have been cut off.
+        if (std::cmp_less(length, target.size())) {
+            target.resize(static_cast<std::size_t>(length));
+            break;
+        }
+        target.resize(target.size() * 2);
+    }
+    item.linkTarget = std::move(target);
+    describe(item, ArchiveItem::Kind::Link, status);
+    return Step::Item;
+}
+
+std::optional<SourceWalk::Step> LinuxSourceWalk::failed(int error)
+{
+    if (error == ENOENT && !isAtSource()) {
+        return std::nullopt;
+    }
+    m_error = error;
+    return Step::Failed;
+}
+
+void LinuxSourceWalk::enterFolder(FileDescriptor handle, std::vector<std::string> names)
+{
+    const FileIdentity identity = statusOf(handle.number()).status.identity;
+    m_places.push_back({std::move(handle), identity, std::move(names), m_path.size()});
+    if (m_places.size() > kMaxOpenFolders) {
+        m_places[m_places.size() - kMaxOpenFolders - 1].handle = FileDescriptor();
+    }
+}
+
+void LinuxSourceWalk::leaveFolder()
+{
+    const Place left = std::move(m_places.back());
+    m_places.pop_back();
+    if (m_places.empty()) {
+        return;
+    }
+    Place& above = m_places.back();
+    if (!above.handle.isOpen() && left.handle.isOpen()) {
+        above.handle = openDirectoryAt(left.handle.number(), "..", above.identity);
+    }
+}
+
+ContentPart LinuxSourceWalk::read(std::span<char> buffer)
+{
+    return m_content ? m_content->read(buffer) : ContentPart{};
+}
+
+} // namespace tessera

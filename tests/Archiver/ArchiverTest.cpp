@@ -1,0 +1,231 @@
+// SPDX-License-Identifier: MIT
+#include "Archiver/Archiver.h"
+
+#include "Archiver/FakeArchiveOutput.h"
+#include "Archiver/FakeSourceWalk.h"
+#include "Archiver/archives.h"
+#include "support/TempTree.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <limits>
+#include <utility>
+
+namespace tessera::test {
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using Step = SourceWalk::Step;
+
+class ArchiverOfPreparedItems : public testing::Test {
+protected:
+    ArchiveReport run() { return Archiver(source, output).run(); }
+
+    std::vector<std::string> lines() const
+    {
+        const TempTree out;
+        out.writeFile("x.zip", output.bytes);
+        return linesOfArchive(out.pathOf("x.zip"));
+    }
+
+    /// Archives that item alone and returns the line for it.
+    std::string lineFor(FakeSourceWalk::Prepared prepared)
+    {
+        prepared.item.path = "file";
+        source.add(std::move(prepared));
+        const ArchiveReport report = run();
+        EXPECT_EQ(report.outputError, 0);
+        EXPECT_EQ(report.failureCount, 0U);
+        return lines().at(0);
+    }
+
+    std::string lineForTime(std::int64_t modified)
+    {
+        FakeSourceWalk::Prepared prepared;
+        prepared.item.modified = modified;
+        return lineFor(std::move(prepared));
+    }
+
+    std::string lineForContent(const std::string& content, std::uint64_t announcedLength)
+    {
+        FakeSourceWalk::Prepared prepared;
+        prepared.item.length = announcedLength;
+        prepared.content = content;
+        return lineFor(std::move(prepared));
+    }
+
+    FakeSourceWalk source;
+    FakeArchiveOutput output;
+};
+
+TEST_F(ArchiverOfPreparedItems, HoldsThemInTheirOrder)
+{
+    source.addFolder("X");
+    source.addFile("X/a", "content");
+    const ArchiveReport report = run();
+    EXPECT_EQ(report.outputError, 0);
+    EXPECT_THAT(
+        lines(),
+        ElementsAre(
+            "folder X mode=755 modified=0", "file X/a mode=644 modified=0 size=7 crc=fec530a9"));
+    EXPECT_TRUE(output.isClosed);
+}
+
+TEST_F(ArchiverOfPreparedItems, OfNoneIsAValidArchive)
+{
+    EXPECT_EQ(run().outputError, 0);
+    EXPECT_EQ(output.bytes.size(), 22U);
+}
+
+TEST_F(ArchiverOfPreparedItems, OneThatCannotBeReadKeepsNoOtherOut)
+{
+    source.addStep(Step::Failed, "X/secret", EACCES);
+    source.addFile("X/z", "z");
+    const ArchiveReport report = run();
+    EXPECT_EQ(report.failureCount, 1U);
+    EXPECT_EQ(report.firstFailure.text(), "cannot archive 'X/secret': Permission denied");
+    EXPECT_THAT(lines(), ElementsAre(HasSubstr("file X/z ")));
+}
+
+TEST_F(ArchiverOfPreparedItems, TheFirstFailureStandsForAll)
+{
+    source.addStep(Step::Failed, "first", EIO);
+    source.addStep(Step::Failed, "second", EACCES);
+    const ArchiveReport report = run();
+    EXPECT_EQ(report.failureCount, 2U);
+    EXPECT_EQ(report.firstFailure.path, "first");
+}
+
+TEST_F(ArchiverOfPreparedItems, WhatHasNoContentIsNoFailure)
+{
+    source.addStep(Step::LeftOut, "X/socket");
+    source.addStep(Step::LeftOut, "X/socket2");
+    const ArchiveReport report = run();
+    EXPECT_EQ(report.failureCount, 0U);
+    EXPECT_EQ(report.leftOutCount, 2U);
+    EXPECT_EQ(report.firstLeftOut, "X/socket");
+}
+
+TEST_F(ArchiverOfPreparedItems, AFileThatBreaksOffIsAFailureAndTheArchiveValid)
+{
+    FakeSourceWalk::Prepared broken;
+    broken.item.path = "broken";
+    broken.item.length = 100;
+    broken.content = "abc";
+    broken.error = EIO;
+    source.add(broken);
+    source.addFile("next", "n");
+    const ArchiveReport report = run();
+    EXPECT_EQ(report.firstFailure.text(), "cannot archive 'broken': Input/output error");
+    EXPECT_THAT(lines(), Contains(HasSubstr("file broken mode=0 modified=0 size=3 crc=352441c2")));
+    EXPECT_THAT(lines(), Contains(HasSubstr("file next ")));
+}
+
+TEST_F(ArchiverOfPreparedItems, AFileThatHasShrunkIsStoredWithWhatItHas)
+{
+    EXPECT_THAT(lineForContent("abc", 100), HasSubstr("size=3 crc=352441c2"));
+}
+
+TEST_F(ArchiverOfPreparedItems, AFileThatHasGrownIsStoredWithTheLengthItHad)
+{
+    EXPECT_THAT(lineForContent("abcdef", 3), HasSubstr("size=3 crc=352441c2"));
+}
+
+TEST_F(ArchiverOfPreparedItems, TheLongestPathFits)
+{
+    source.addFolder(std::string(65534, 'p'));
+    EXPECT_EQ(run().failureCount, 0U);
+    EXPECT_EQ(lines().at(0), "folder " + std::string(65534, 'p') + " mode=755 modified=0");
+}
+
+TEST_F(ArchiverOfPreparedItems, ALongerPathIsAFailure)
+{
+    source.addFolder(std::string(65535, 'p'));
+    source.addFile("next", "n");
+    const ArchiveReport report = run();
+    EXPECT_EQ(report.firstFailure.code, ENAMETOOLONG);
+    EXPECT_THAT(lines(), ElementsAre(HasSubstr("file next ")));
+}
+
+TEST_F(ArchiverOfPreparedItems, AttributesWhoseOwnPathIsTooLongAreAFailure)
+{
+    FakeSourceWalk::Prepared prepared;
+    prepared.item.path = std::string(65530, 'p');
+    prepared.item.attributes = {{"name", "value"}};
+    source.add(prepared);
+    EXPECT_EQ(run().firstFailure.code, ENAMETOOLONG);
+    EXPECT_EQ(lines().size(), 1U);
+}
+
+TEST_F(ArchiverOfPreparedItems, TimesAreSecondsSince1970)
+{
+    EXPECT_THAT(lineForTime(1'700'000'001), HasSubstr("modified=1700000001 "));
+}
+
+TEST_F(ArchiverOfPreparedItems, TimesBefore1970BecomeThatYear)
+{
+    EXPECT_THAT(lineForTime(std::numeric_limits<std::int64_t>::min()), HasSubstr("modified=0 "));
+}
+
+TEST_F(ArchiverOfPreparedItems, TimesTooLateForTheFormatBecomeTheLatest)
+{
+    EXPECT_THAT(
+        lineForTime(std::numeric_limits<std::int64_t>::max()), HasSubstr("modified=4294967295 "));
+}
+
+TEST_F(ArchiverOfPreparedItems, AFullDiskEndsTheWork)
+{
+    output.room = 1'000'000;
+    source.addFile("a", noise(2'000'000));
+    source.addFile("b", noise(2'000'000));
+    EXPECT_EQ(run().outputError, ENOSPC);
+    EXPECT_EQ(source.delivered(), 1U);
+    EXPECT_EQ(output.failedWrites, 1);
+}
+
+TEST_F(ArchiverOfPreparedItems, ADiskThatIsFullAtTheVeryEndIsAFailure)
+{
+    source.addFile("a", "content");
+    output.room = 100;
+    EXPECT_EQ(run().outputError, ENOSPC);
+}
+
+TEST_F(ArchiverOfPreparedItems, AFragmentIsNotCompleted)
+{
+    {
+        ZipWriter writer(output);
+        ArchiveItem item;
+        item.path = "file";
+        writer.begin(item);
+    }
+    EXPECT_EQ(output.bytes, "");
+}
+
+TEST_F(ArchiverOfPreparedItems, AnErrorThatClosingTellsIsAFailure)
+{
+    output.closeError = EDQUOT;
+    source.addFile("a", "content");
+    EXPECT_EQ(run().outputError, EDQUOT);
+}
+
+TEST_F(ArchiverOfPreparedItems, WhoeverMayNotReadTheFileMayNotReadItsAttributes)
+{
+    FakeSourceWalk::Prepared prepared;
+    prepared.item.path = "private";
+    prepared.item.permissions = 0700;
+    prepared.item.attributes = {{"name", "value"}};
+    source.add(prepared);
+    ASSERT_EQ(run().outputError, 0);
+    const TempTree out;
+    out.writeFile("x.zip", output.bytes);
+    EXPECT_THAT(
+        runTool("bsdtar", {"-tvf", out.pathOf("x.zip")}).standardOutput,
+        testing::ContainsRegex("-rw------- .* __MACOSX/\\._private"));
+}
+
+} // namespace
+} // namespace tessera::test

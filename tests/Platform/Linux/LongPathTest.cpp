@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/Linux/LongPath.h"
+
+#include "Platform/Linux/FileStatus.h"
+#include "support/TempTree.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+
+#include <cerrno>
+
+namespace tessera::test {
+namespace {
+
+FileIdentity identityOf(const std::string& path)
+{
+    return statusAt(AT_FDCWD, path.c_str()).status.identity;
+}
+
+FileIdentity identityOf(const FileDescriptor& opened)
+{
+    return statusOf(opened.number()).status.identity;
+}
+
+TEST(LongPath, OpensTheFolderThatHoldsTheItem)
+{
+    const TempTree tree;
+    const NamedPlace place = openFolderOf(tree.pathOf("item"));
+    EXPECT_EQ(place.error, 0);
+    EXPECT_EQ(place.name, "item");
+    EXPECT_EQ(identityOf(place.folder), identityOf(tree.path()));
+}
+
+TEST(LongPath, SlashesAtTheEndMeanNothing)
+{
+    const TempTree tree;
+    EXPECT_EQ(openFolderOf(tree.pathOf("item//")).name, "item");
+}
+
+TEST(LongPath, ANameAloneIsInTheCurrentFolder)
+{
+    const NamedPlace place = openFolderOf("item");
+    EXPECT_EQ(place.name, "item");
+    EXPECT_EQ(identityOf(place.folder), identityOf("."));
+}
+
+TEST(LongPath, ANameBelowTheRootIsInTheRoot)
+{
+    const NamedPlace place = openFolderOf("/item");
+    EXPECT_EQ(place.name, "item");
+    EXPECT_EQ(identityOf(place.folder), identityOf("/"));
+}
+
+TEST(LongPath, DotsAreResolved)
+{
+    const TempTree tree;
+    tree.makeFolder("a");
+    tree.makeFolder("a/b");
+    EXPECT_EQ(openFolderOf(tree.pathOf("a/b/.")).name, "b");
+    EXPECT_EQ(openFolderOf(tree.pathOf("a/b/..")).name, "a");
+}
+
+TEST(LongPath, TheRootIsInNoFolder)
+{
+    EXPECT_EQ(openFolderOf("/").error, EINVAL);
+    EXPECT_EQ(openFolderOf("/tmp/..").error, EINVAL);
+}
+
+TEST(LongPath, AnEmptyPathIsAnError)
+{
+    EXPECT_NE(openFolderOf("").error, 0);
+}
+
+TEST(LongPath, AFolderThatIsMissingIsAnError)
+{
+    EXPECT_EQ(openFolderOf("/no/such/item").error, ENOENT);
+}
+
+TEST(LongPath, ANameTooLongForTheSystemIsAnError)
+{
+    EXPECT_EQ(openFolderOf("/" + std::string(10'000, 'n') + "/item").error, ENAMETOOLONG);
+}
+
+TEST(LongPath, PathsLongerThanTheSystemTakesAreOpened)
+{
+    const TempTree tree;
+    tree.makeChain(6000);
+    std::string path = tree.path();
+    for (int i = 0; i < 6000; ++i) {
+        path += "/d";
+    }
+    const NamedPlace place = openFolderOf(path + "/item");
+    EXPECT_EQ(place.error, 0);
+    const NamedPlace deepest = openFolderOf(path);
+    EXPECT_EQ(identityOf(place.folder), statusAt(deepest.folder.number(), "d").status.identity);
+}
+
+} // namespace
+} // namespace tessera::test
