@@ -50,6 +50,19 @@ bool isDark(const QPalette& palette)
         < palette.color(QPalette::WindowText).lightness();
 }
 
+void drawChevron(const Rect& cellFrame, QPainter& painter, const QColor& color)
+{
+    const double right = cellFrame.right();
+    const double top = cellFrame.y + kChevronTop;
+    const double middle = top + cellFrame.height / 2;
+    QPainterPath chevron(QPointF(right - kChevronLeft, top));
+    chevron.lineTo(right - kChevronTip, middle);
+    chevron.lineTo(right - kChevronLeft, top + cellFrame.height);
+    chevron.lineTo(right - kChevronHollow, middle);
+    chevron.closeSubpath();
+    painter.fillPath(chevron, color);
+}
+
 } // namespace
 
 CenteredPathComponentCell::CenteredPathComponentCell(IconProvider& icons)
@@ -123,20 +136,6 @@ void CenteredPathComponentCell::drawInteriorWithFrame(
         drawTitle(text, inView, background(palette));
         drawTitle(text.translated(0, -kShadowDrop), inView, foreground(palette));
     }
-}
-
-void CenteredPathComponentCell::drawChevron(
-    const Rect& cellFrame, QPainter& painter, const QColor& color) const
-{
-    const double right = cellFrame.right();
-    const double top = cellFrame.y + kChevronTop;
-    const double middle = top + cellFrame.height / 2;
-    QPainterPath chevron(QPointF(right - kChevronLeft, top));
-    chevron.lineTo(right - kChevronTip, middle);
-    chevron.lineTo(right - kChevronLeft, top + cellFrame.height);
-    chevron.lineTo(right - kChevronHollow, middle);
-    chevron.closeSubpath();
-    painter.fillPath(chevron, color);
 }
 
 void CenteredPathComponentCell::drawTitle(

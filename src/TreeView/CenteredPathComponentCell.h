@@ -59,7 +59,6 @@ public:
 
 private:
     TextAttributes textAttributes(const QColor& color) const;
-    void drawChevron(const Rect& cellFrame, QPainter& painter, const QColor& color) const;
     void drawTitle(const Rect& text, QPainter& painter, const TextAttributes& attributes) const;
 
     IconProvider* m_icons;
