@@ -60,7 +60,14 @@ std::string freeTarget(const std::string& sourcePath, const ResourceValues& reso
 
 void callLaterByTimer(std::chrono::milliseconds delay, std::function<void()> work)
 {
-    QTimer::singleShot(delay, qApp, [work = std::move(work)] { work(); });
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): it deletes itself, or with the program
+    auto* const timer = new QTimer(qApp);
+    timer->setSingleShot(true);
+    timer->callOnTimeout(timer, [timer, work = std::move(work)] {
+        timer->deleteLater();
+        work();
+    });
+    timer->start(delay);
 }
 
 } // namespace

@@ -106,6 +106,7 @@ protected:
     }
 
     test::FakeTaskRecord task;
+    test::FakeTaskRecord otherTask;
     test::FakeWorkspace workspace;
     test::FakeResourceValues files;
     test::FakeIconProvider icons;
@@ -162,10 +163,9 @@ TEST_F(CompressWindowControllerTest, TakesTheFirstNumberThatIsFree)
 TEST_F(CompressWindowControllerTest, TwoAtOnceDoNotWriteTheSameArchive)
 {
     compress();
-    test::FakeTaskRecord otherTask;
     const auto other = CompressWindowController::make(
         {"/opt/archiver",
-         [&otherTask] { return test::FakeTask::make(otherTask); },
+         [this] { return test::FakeTask::make(otherTask); },
          workspace,
          files,
          icons});
