@@ -2,6 +2,7 @@
 #include "Utils/MessageBoxAlert.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -11,9 +12,24 @@ namespace tessera {
 
 namespace {
 
+constexpr int kTextWidth = 360;
+
 QString below(const QString& text, const QString& reason)
 {
     return reason.isEmpty() ? text : text + QStringLiteral("\n\n") + reason;
+}
+
+/// The headline stands out, and the text below gets lines of a readable length.
+void style(const QMessageBox& box)
+{
+    if (auto* headline = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
+        QFont font = headline->font();
+        font.setBold(true);
+        headline->setFont(font);
+    }
+    if (auto* text = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel"))) {
+        text->setMinimumWidth(kTextWidth);
+    }
 }
 
 std::unique_ptr<QMessageBox> makeBox(const AlertText& text)
@@ -24,6 +40,7 @@ std::unique_ptr<QMessageBox> makeBox(const AlertText& text)
     box->setTextFormat(Qt::PlainText);
     box->setText(text.messageText);
     box->setInformativeText(below(text.informativeText, text.reason));
+    style(*box);
     for (int i = 0; i < text.buttons.size(); ++i) {
         const auto role = i == 0 ? QMessageBox::AcceptRole : QMessageBox::RejectRole;
         QPushButton* const button = box->addButton(text.buttons[i], role);

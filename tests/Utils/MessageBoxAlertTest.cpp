@@ -2,6 +2,7 @@
 #include "Utils/MessageBoxAlert.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -84,6 +85,14 @@ TEST_F(MessageBoxAlertTest, ShowsItsTextsAsTheyAre)
         EXPECT_EQ(box.text(), QStringLiteral("Warning"));
         EXPECT_EQ(box.informativeText(), QStringLiteral("Really <b>remove</b> it?"));
         EXPECT_EQ(box.textFormat(), Qt::PlainText);
+        box.close();
+    });
+}
+
+TEST_F(MessageBoxAlertTest, ItsHeadlineIsBold)
+{
+    (void)answerAfter([](QMessageBox& box) {
+        EXPECT_TRUE(box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))->font().bold());
         box.close();
     });
 }
