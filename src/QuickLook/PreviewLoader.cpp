@@ -52,9 +52,8 @@ public:
             return;
         }
         ++m_threads;
-        PreviewThreads::start([crew = shared_from_this(), first = std::move(look)] {
-            crew->run(first);
-        });
+        PreviewThreads::start(
+            [crew = shared_from_this(), first = std::move(look)] { crew->run(first); });
     }
 
     void dropWaiting()
