@@ -2,6 +2,7 @@
 #include "TreeWindowFixture.h"
 #include "eventually.h"
 #include "support/fileContent.h"
+#include "support/runProgram.h"
 
 #include <gmock/gmock.h>
 
@@ -19,6 +20,25 @@ TEST_F(TreeWindow, ARescanFindsWhatCameSince)
     tree.removeFile("docs/notes");
     ASSERT_TRUE(pick("docs", MenuEntry::RescanFolder));
     EXPECT_TRUE(shows());
+}
+
+TEST_F(TreeWindow, CompressingPutsAnArchiveBesideTheItemAndIntoThePicture)
+{
+    ASSERT_TRUE(pick("movie", MenuEntry::Compress));
+    ASSERT_TRUE(opens(XWindow::Kind::Dialog));
+    ASSERT_TRUE(closes(XWindow::Kind::Dialog));
+    ASSERT_TRUE(exists(tree.pathOf("movie.zip")));
+    EXPECT_TRUE(shows({}, "movie"));
+}
+
+TEST_F(TreeWindow, TheArchiveHoldsTheItem)
+{
+    ASSERT_TRUE(pick("movie", MenuEntry::Compress));
+    ASSERT_TRUE(opens(XWindow::Kind::Dialog));
+    ASSERT_TRUE(closes(XWindow::Kind::Dialog));
+    const ProgramResult listing
+        = runProgram("python3", {"-m", "zipfile", "--list", tree.pathOf("movie.zip")});
+    EXPECT_THAT(listing.standardOutput, testing::ContainsRegex("movie .* 600000\n"));
 }
 
 TEST_F(TreeWindow, MovingToTheTrashTakesTheItemFromThePictureAndTheFolder)
@@ -52,6 +72,12 @@ TEST_F(TreeWindow, OneActionFollowsTheOther)
     tree.makeFile("docs/drafts/third", 300'000);
     ASSERT_TRUE(pick("docs/drafts", MenuEntry::RescanFolder));
     ASSERT_TRUE(shows("docs"));
+
+    ASSERT_TRUE(pick("docs/drafts/third", MenuEntry::Compress));
+    ASSERT_TRUE(opens(XWindow::Kind::Dialog));
+    ASSERT_TRUE(closes(XWindow::Kind::Dialog));
+    ASSERT_TRUE(exists(tree.pathOf("docs/drafts/third.zip")));
+    ASSERT_TRUE(shows("docs", "docs/drafts/third"));
 
     ASSERT_TRUE(pick("docs/notes", MenuEntry::MoveToTrash));
     ASSERT_TRUE(acceptDialog());
