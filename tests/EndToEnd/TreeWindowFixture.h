@@ -20,6 +20,10 @@ namespace tessera::test {
 ///     docs/drafts/first, docs/drafts/second
 class TreeWindow : public testing::Test {
 protected:
+    void SetUp() override;
+    /// Closes the window: whatever the test did, the program ends by itself and has no complaints.
+    void TearDown() override;
+
     /// Entries of the context menus: how far down from the top, or up from the bottom, without
     /// separators.
     enum class MenuEntry { ZoomIn = 3, RescanFolder = 4, Compress = -2, MoveToTrash = -1 };
@@ -64,10 +68,6 @@ protected:
 private:
     /// Waits for a window of the kind, types the key there and waits until it has closed.
     testing::AssertionResult closeWithKey(XWindow::Kind kind, std::uint32_t keysym);
-    void SetUp() override;
-    /// Closes the window: whatever the test did, the program ends by itself and has no complaints.
-    void TearDown() override;
-
     std::unique_ptr<ExpectedPicture> m_expected;
     QRect m_map;
 };

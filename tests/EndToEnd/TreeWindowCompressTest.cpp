@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#include "TreeWindowFixture.h"
+#include "eventually.h"
+#include "support/fileContent.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+
+namespace tessera::test {
+namespace {
+
+using std::filesystem::exists;
+
+/// So long that no archiver gets to its end while a test runs; it takes no room on the disk.
+constexpr std::uintmax_t kEndlessBytes = std::uintmax_t{1} << 42U;
+
+bool isRunning(const std::filesystem::path& process)
+{
+    const std::string status = fileContent((process / "stat").string());
+    return !status.empty() && status.find(") Z ") == std::string::npos;
+}
+
+/// The process that was started with the argument.
+std::optional<pid_t> processWithArgument(const std::string& argument)
+{
+    for (const auto& entry : std::filesystem::directory_iterator("/proc")) {
+        const std::string name = entry.path().filename().string();
+        const bool isProcess = name.find_first_not_of("0123456789") == std::string::npos;
+        if (isProcess && isRunning(entry.path())
+            && fileContent((entry.path() / "cmdline").string()).find('\0' + argument + '\0')
+                != std::string::npos) {
+            return std::stoi(name);
+        }
+    }
+    return std::nullopt;
+}
+
+/// A document is being compressed that takes for ever.
+class EndlessCompression : public TreeWindow {
+protected:
+    void SetUp() override
+    {
+        std::filesystem::resize_file(tree.pathOf("movie"), kEndlessBytes);
+        TreeWindow::SetUp();
+        ASSERT_TRUE(pick("movie", MenuEntry::Compress));
+        ASSERT_TRUE(opens(XWindow::Kind::Dialog));
+        ASSERT_TRUE(eventually([this] { return exists(archive()); }));
+    }
+
+    std::string archive() const { return tree.pathOf("movie.zip"); }
+    std::optional<pid_t> archiver() const { return processWithArgument(archive()); }
+
+    /// The partial archive is in the trash, the item is as it was, and nobody is writing.
+    void expectOnlyTheTrashHasAnArchive()
+    {
+        EXPECT_TRUE(closes(XWindow::Kind::Dialog));
+        EXPECT_FALSE(exists(archive()));
+        EXPECT_FALSE(archiver().has_value());
+        EXPECT_TRUE(exists(program->dataFolder() + "/Trash/files/movie.zip"));
+        EXPECT_EQ(std::filesystem::file_size(tree.pathOf("movie")), kEndlessBytes);
+        EXPECT_TRUE(shows({}, "movie"));
+    }
+};
+
+TEST_F(EndlessCompression, AKilledArchiverLeavesNothingBesideTheItem)
+{
+    const std::optional<pid_t> process = archiver();
+    ASSERT_TRUE(process.has_value());
+    ::kill(*process, SIGKILL);
+    expectOnlyTheTrashHasAnArchive();
+}
+
+TEST_F(EndlessCompression, CancellingLeavesNothingBesideTheItem)
+{
+    ASSERT_TRUE(rejectDialog());
+    expectOnlyTheTrashHasAnArchive();
+}
+
+} // namespace
+} // namespace tessera::test
