@@ -172,7 +172,8 @@ void ItemTrasher::moveNode(const Url& from, const Url* to)
     m_screen.nodeWillLeave(*item);
     std::unique_ptr<File> node = item->parent()->removeChild(*item);
     Folder* const trash = to == nullptr ? nullptr : CoreUtil::locateParent(*to, *top);
-    if (trash != nullptr) {
+    // A rescan of the trash meanwhile may have met the item there.
+    if (trash != nullptr && nodeAtPath(*top, to->path()) == nullptr) {
         node->setFragment(to->lastPathComponent());
         rebase(*node, from.path(), to->path());
         trash->insertChild(std::move(node));

@@ -183,6 +183,7 @@ void TreeViewController::itemCompressed(const Url& archive)
     document->setTotalAllocation(
         m_services.scanEnvironment.resourceValues.allocatedSize(archive.path()).value_or(0));
     if (Folder* const parent = locateParent(archive)) {
+        removeNodeAt(archive);
         parent->insertChild(std::move(document));
     }
     objectTreeRefreshed();
@@ -288,6 +289,15 @@ bool TreeViewController::eventFilter(QObject* watched, QEvent* event)
         return true;
     }
     return QObject::eventFilter(watched, event);
+}
+
+void TreeViewController::removeNodeAt(const Url& url)
+{
+    // A rescan meanwhile may have met what is about to be added.
+    if (File* const found = nodeAtPath(*m_model.topFolder(), url.path())) {
+        nodeWillLeave(*found);
+        found->parent()->removeChild(*found);
+    }
 }
 
 void TreeViewController::nodeWillLeave(File& node)

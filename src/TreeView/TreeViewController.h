@@ -107,6 +107,7 @@ private:
     void observe();
     void doubleClickTreeItem();
     void itemCompressed(const Url& archive);
+    void removeNodeAt(const Url& url);
     void select(File* file);
     bool moveSelection(Direction direction);
     bool openSelected();

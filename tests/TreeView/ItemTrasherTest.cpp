@@ -245,6 +245,15 @@ TEST_F(ItemTrasherTest, ARescannedFolderKnowsWhereItIsAfterTheMove)
         "/Users/me/.local/Trash/files/docs 2/deep/b");
 }
 
+TEST_F(ItemTrasherTest, AnItemThatARescanMetInTheTrashIsNotAddedTwice)
+{
+    const Url url = node("docs/a").url();
+    trash("docs/a");
+    moveEnds(url, "old");
+    EXPECT_EQ(node(".local/Trash/files").totalAllocation(), 1U);
+    EXPECT_EQ(node("docs").totalAllocation(), 200U);
+}
+
 TEST_F(ItemTrasherTest, WithoutAScannedTrashTheItemLeavesTheTree)
 {
     const Url url = node("docs/a").url();

@@ -147,6 +147,16 @@ TEST_F(TreeViewControllerCommandsTest, AnArchiveJoinsTheTree)
     EXPECT_EQ(view.branches().front()->layoutItems().size(), 2U);
 }
 
+TEST_F(TreeViewControllerCommandsTest, AnArchiveThatARescanMetIsNotAddedTwice)
+{
+    services.resourceValues.size = 4096;
+    select("docs/a");
+    NotificationCenter::defaultCenter().post("ItemCompressed", Url("/data/docs/a", false));
+    EXPECT_EQ(node("docs/a").totalAllocation(), 4096U);
+    EXPECT_EQ(node("docs").totalAllocation(), 204096U);
+    EXPECT_EQ(controller->selectedFile(), nullptr);
+}
+
 TEST_F(TreeViewControllerCommandsTest, AnArchiveThatCannotBeReadHasNoSize)
 {
     NotificationCenter::defaultCenter().post("ItemCompressed", Url("/data/docs/a.zip", false));
