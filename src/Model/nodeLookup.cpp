@@ -38,9 +38,10 @@ std::string_view takeComponent(std::string_view& path)
 File* childNamed(const Folder& folder, std::string_view name)
 {
     const ChildArray& children = folder.children();
-    const auto found = std::find_if(children.begin(), children.end(), [name](const File* child) {
-        return child->fragment() == name;
-    });
+    const auto* const found
+        = std::find_if(children.begin(), children.end(), [name](const File* child) {
+              return child->fragment() == name;
+          });
     return found == children.end() ? nullptr : *found;
 }
 

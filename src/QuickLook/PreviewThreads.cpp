@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "QuickLook/PreviewThreads.h"
 
+#include <algorithm>
 #include <condition_variable>
 #include <list>
 #include <mutex>
@@ -46,15 +47,7 @@ public:
     }
 
 private:
-    bool areAllDone() const
-    {
-        for (const Worker& worker : m_workers) {
-            if (!worker.isDone) {
-                return false;
-            }
-        }
-        return true;
-    }
+    bool areAllDone() const { return std::ranges::all_of(m_workers, &Worker::isDone); }
 
     /// Those that have done their work have nothing left to wait for.
     void joinDone()

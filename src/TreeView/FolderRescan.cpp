@@ -12,9 +12,8 @@
 
 namespace tessera {
 
-FolderRescan::FolderRescan(
-    const ScanEnvironment& environment, TreeMapView& treeView, TreeScreen& screen)
-    : m_environment(environment)
+FolderRescan::FolderRescan(ScanEnvironment environment, TreeMapView& treeView, TreeScreen& screen)
+    : m_environment(std::move(environment))
     , m_treeView(treeView)
     , m_screen(screen)
 {

@@ -23,7 +23,7 @@ class TreeScreen;
 class FolderRescan final : private ScannerDelegate {
 public:
     /// All must outlive it. The indicator is put on the view.
-    FolderRescan(const ScanEnvironment& environment, TreeMapView& treeView, TreeScreen& screen);
+    FolderRescan(ScanEnvironment environment, TreeMapView& treeView, TreeScreen& screen);
     /// Cancels.
     ~FolderRescan() override;
 

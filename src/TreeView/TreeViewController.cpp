@@ -144,6 +144,7 @@ void TreeViewController::refreshFolder()
     }
 }
 
+// NOLINTNEXTLINE(readability-convert-member-functions-to-static): a command like the others
 void TreeViewController::quickLook()
 {
     SelectionPreview::open();

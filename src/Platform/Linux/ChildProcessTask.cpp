@@ -2,7 +2,6 @@
 #include "Platform/Linux/ChildProcessTask.h"
 
 #include <QSocketNotifier>
-#include <QTimer>
 
 #include <fcntl.h>
 #include <poll.h>
@@ -146,10 +145,13 @@ void ChildProcessTask::watch()
 void ChildProcessTask::reportLater(int status)
 {
     m_pendingReport = std::make_unique<QObject>();
-    QTimer::singleShot(0, m_pendingReport.get(), [this, status] {
-        m_pendingReport.release()->deleteLater();
-        std::exchange(m_onTerminated, {})(status);
-    });
+    QMetaObject::invokeMethod(
+        m_pendingReport.get(),
+        [this, status] {
+            m_pendingReport.release()->deleteLater();
+            std::exchange(m_onTerminated, {})(status);
+        },
+        Qt::QueuedConnection);
 }
 
 void ChildProcessTask::ended()
