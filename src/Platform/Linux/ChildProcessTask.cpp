@@ -2,6 +2,7 @@
 #include "Platform/Linux/ChildProcessTask.h"
 
 #include <QSocketNotifier>
+#include <QTimer>
 
 #include <fcntl.h>
 #include <poll.h>
@@ -144,14 +145,13 @@ void ChildProcessTask::watch()
 
 void ChildProcessTask::reportLater(int status)
 {
-    m_pendingReport = std::make_unique<QObject>();
-    QMetaObject::invokeMethod(
-        m_pendingReport.get(),
-        [this, status] {
-            m_pendingReport.release()->deleteLater();
-            std::exchange(m_onTerminated, {})(status);
-        },
-        Qt::QueuedConnection);
+    m_pendingReport = std::make_unique<QTimer>();
+    m_pendingReport->setSingleShot(true);
+    m_pendingReport->callOnTimeout([this, status] {
+        m_pendingReport.release()->deleteLater();
+        std::exchange(m_onTerminated, {})(status);
+    });
+    m_pendingReport->start(0);
 }
 
 void ChildProcessTask::ended()

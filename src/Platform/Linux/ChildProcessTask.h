@@ -8,8 +8,8 @@
 
 #include <memory>
 
-class QObject;
 class QSocketNotifier;
+class QTimer;
 
 namespace tessera {
 
@@ -38,7 +38,7 @@ private:
     pid_t m_process = 0;
     FileDescriptor m_handle; ///< becomes readable when the process ends
     std::unique_ptr<QSocketNotifier> m_notifier;
-    std::unique_ptr<QObject> m_pendingReport;
+    std::unique_ptr<QTimer> m_pendingReport;
 };
 
 } // namespace tessera
