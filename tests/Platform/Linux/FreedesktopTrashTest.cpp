@@ -207,7 +207,8 @@ TEST_F(FreedesktopTrashTest, TheLongestNamesAreShortenedButNotInTheInfoFile)
     const std::string second = std::string(239, 'x') + " 2.txt";
     EXPECT_THAT(namesIn(m_homeTrash + "/files"), testing::UnorderedElementsAre(first, second));
     EXPECT_THAT(
-        fileContent(m_homeTrash + "/info/" + second + ".trashinfo"), HasSubstr("/work/" + name));
+        fileContent(m_homeTrash + "/info/" + second + ".trashinfo"),
+        HasSubstr("Path=" + m_tree.pathOf("work/" + name) + '\n'));
 }
 
 TEST_F(FreedesktopTrashTest, OneThatCannotBeMovedDoesNotStopTheOthers)
