@@ -15,6 +15,7 @@ namespace {
 
 constexpr int kDone = 0;
 constexpr int kFailed = 1;
+constexpr int kNothingMade = 3;
 constexpr std::uint32_t kReadAndWrite = 0666;
 constexpr std::uint32_t kOwnerReadsAndWrites = 0600;
 
@@ -23,10 +24,10 @@ std::string andMore(std::size_t count)
     return count > 1 ? " (and " + std::to_string(count - 1) + " more)" : std::string();
 }
 
-int fail(const std::string& message)
+int fail(const std::string& message, int exitStatus = kFailed)
 {
     logLine("tessera-ditto: %s", message.c_str());
-    return kFailed;
+    return exitStatus;
 }
 
 int exitStatusFor(const ArchiveReport& report, const std::string& target)
@@ -52,14 +53,14 @@ int runArchiver(const ArchiverCommandLine& commandLine, ArchiverSystem& system)
 {
     auto opened = system.openSource(commandLine.source);
     if (const auto* failure = std::get_if<ArchiveFailure>(&opened)) {
-        return fail(failure->text());
+        return fail(failure->text(), kNothingMade);
     }
     auto& source = *std::get<std::unique_ptr<SourceWalk>>(opened);
     // What others may not read they may not read in the archive either.
     const std::uint32_t permissions = (source.permissions() & kReadAndWrite) | kOwnerReadsAndWrites;
     auto created = system.createTarget(commandLine.target, permissions);
     if (const auto* failure = std::get_if<ArchiveFailure>(&created)) {
-        return fail(failure->text());
+        return fail(failure->text(), kNothingMade);
     }
     auto& target = *std::get<std::unique_ptr<ArchiveOutput>>(created);
     source.passOver(commandLine.target);

@@ -7,8 +7,9 @@
 namespace tessera {
 
 /// Makes the archive and returns the exit status: 0 when everything that has content is in it,
-/// else 1 after one line on standard error. What is in the way of the archive stays untouched; an
-/// archive that could not be completed stays where it is.
+/// else 1 after one line on standard error, or 3 when no archive was made at all: what is in its
+/// place is somebody else's and stays untouched. An archive that could not be completed stays where
+/// it is.
 int runArchiver(const ArchiverCommandLine& commandLine, ArchiverSystem& system);
 
 } // namespace tessera

@@ -30,6 +30,10 @@ constexpr std::chrono::milliseconds kTimeToReadTheEnd{1000};
 constexpr int kIconPoints = 48;
 constexpr int kFirstNumber = 2;
 
+/// The archiver's exit status when it has made no archive. A file of that name is not ours then: it
+/// was overlooked, on a disk that did not answer in time, or came in between.
+constexpr int kNothingMade = 3;
+
 /// Archives are usually smaller than what is in them; after success the rest of the bar is filled
 /// by this much at a time up to a bound beyond its end.
 constexpr double kFillStep = 0.1;
@@ -155,7 +159,7 @@ void CompressWindowController::updateProgress()
     } else if (m_state >= State::Failed && m_backupTask == nullptr) {
         // A cancelled program that still runs might yet write what was moved away.
         m_updateTimer.stop();
-        trashIncompleteArchive();
+        m_hasArchive ? trashIncompleteArchive() : finishLater(std::nullopt);
     }
 }
 
@@ -174,6 +178,7 @@ void CompressWindowController::checkATaskStatus(int status)
 {
     m_backupTask.reset();
     m_cancelButton->setEnabled(false);
+    m_hasArchive = status != kNothingMade;
     if (status != 0) {
         logLine("Task failed.");
         m_state = State::Failed;
@@ -201,12 +206,17 @@ void CompressWindowController::trashIncompleteArchive()
             } else {
                 logLine("Error deleting incomplete archive");
             }
-            self->m_callLater(kTimeToReadTheEnd, [self, inTrash] {
-                if (!self.isNull()) {
-                    self->compressFinished(inTrash);
-                }
-            });
+            self->finishLater(inTrash);
         });
+}
+
+void CompressWindowController::finishLater(const std::optional<Url>& archive)
+{
+    m_callLater(kTimeToReadTheEnd, [self = QPointer(this), archive] {
+        if (!self.isNull()) {
+            self->compressFinished(archive);
+        }
+    });
 }
 
 void CompressWindowController::compressFinished(const std::optional<Url>& archive)
@@ -227,7 +237,8 @@ void CompressWindowController::breakOffAtExit()
     }
     // Ends the archiving program, so that it does not go on writing without us.
     m_backupTask.reset();
-    const bool isUntouched = m_updateTimer.isActive() && m_state != State::Succeeded;
+    const bool isUntouched
+        = m_updateTimer.isActive() && m_state != State::Succeeded && m_hasArchive;
     m_updateTimer.stop();
     if (isUntouched) {
         m_services.workspace.recycleURLs({archive()}, [](const RecycleResult& /*result*/) {});

@@ -83,6 +83,7 @@ private:
     void checkATaskStatus(int status);
     void compressFinished(const std::optional<Url>& archive);
     void trashIncompleteArchive();
+    void finishLater(const std::optional<Url>& archive);
     void breakOffAtExit();
     void release();
 
@@ -105,6 +106,7 @@ private:
     std::unique_ptr<Task> m_backupTask; ///< null when it has ended
     QTimer m_updateTimer;
     State m_state = State::New;
+    bool m_hasArchive = true; ///< as far as known, what lies at the target is the tool's work
     double m_lastCompressedPercent = 0; ///< what is added to the progress after success
 
     /// Its hold on itself while it works.

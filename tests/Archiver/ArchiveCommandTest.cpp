@@ -118,7 +118,7 @@ TEST_F(ArchiveCommand, AnExistingFileStaysAsItIs)
 {
     out.writeFile("X.zip", "precious");
     const ProgramResult result = archiveX();
-    EXPECT_EQ(result.exitStatus, 1);
+    EXPECT_EQ(result.exitStatus, 3);
     EXPECT_EQ(result.standardError, "tessera-ditto: cannot create '" + target + "': File exists\n");
     EXPECT_EQ(fileContent(target), "precious");
 }
@@ -126,14 +126,14 @@ TEST_F(ArchiveCommand, AnExistingFileStaysAsItIs)
 TEST_F(ArchiveCommand, ALinkInTheArchivesPlaceIsNotFollowed)
 {
     out.makeSymbolicLink("X.zip", "elsewhere");
-    EXPECT_EQ(archiveX().exitStatus, 1);
+    EXPECT_EQ(archiveX().exitStatus, 3);
     EXPECT_FALSE(exists(out.pathOf("elsewhere")));
 }
 
 TEST_F(ArchiveCommand, ASourceThatIsNotThereLeavesNoArchive)
 {
     const ProgramResult result = makeArchive(tree.pathOf("none"), target);
-    EXPECT_EQ(result.exitStatus, 1);
+    EXPECT_EQ(result.exitStatus, 3);
     EXPECT_EQ(
         result.standardError,
         "tessera-ditto: cannot read '" + tree.pathOf("none") + "': No such file or directory\n");
@@ -143,7 +143,7 @@ TEST_F(ArchiveCommand, ASourceThatIsNotThereLeavesNoArchive)
 TEST_F(ArchiveCommand, AFolderForTheArchiveThatIsNotThereIsSaid)
 {
     const ProgramResult result = makeArchive(source, out.pathOf("none/X.zip"));
-    EXPECT_EQ(result.exitStatus, 1);
+    EXPECT_EQ(result.exitStatus, 3);
     EXPECT_EQ(
         result.standardError,
         "tessera-ditto: cannot create '" + out.pathOf("none/X.zip")
@@ -153,7 +153,7 @@ TEST_F(ArchiveCommand, AFolderForTheArchiveThatIsNotThereIsSaid)
 TEST_F(ArchiveCommand, TheRootFolderIsRefused)
 {
     const ProgramResult result = makeArchive("/", target);
-    EXPECT_EQ(result.exitStatus, 1);
+    EXPECT_EQ(result.exitStatus, 3);
     EXPECT_EQ(result.standardError, "tessera-ditto: cannot read '/': Invalid argument\n");
 }
 
@@ -239,7 +239,7 @@ TEST_F(ArchiveCommand, AFifoItselfIsNothingToArchive)
 {
     tree.makeFifo("fifo");
     const ProgramResult result = makeArchive(tree.pathOf("fifo"), target);
-    EXPECT_EQ(result.exitStatus, 1);
+    EXPECT_EQ(result.exitStatus, 3);
     EXPECT_THAT(result.standardError, EndsWith("/fifo': Operation not supported\n"));
     EXPECT_FALSE(exists(target));
 }

@@ -341,6 +341,19 @@ TEST_F(CompressWindowControllerTest, AfterAFailureTheNextTickMovesTheArchiveToTh
     EXPECT_FALSE(controller->updateTimer().isActive());
 }
 
+TEST_F(CompressWindowControllerTest, WhatTheArchiverFoundInItsWayIsNotMovedToTheTrash)
+{
+    compress();
+    endTool(3);
+    controller->updateProgress();
+
+    EXPECT_EQ(status(), "Compression Failed");
+    EXPECT_THAT(workspace.recycled, IsEmpty());
+    EXPECT_FALSE(controller->updateTimer().isActive());
+    endDelay();
+    EXPECT_THAT(posted, ElementsAre(NotificationObject()));
+}
+
 TEST_F(CompressWindowControllerTest, TheTrashedArchiveIsAnnouncedASecondLater)
 {
     compress();
