@@ -80,6 +80,15 @@ std::unique_ptr<File> Folder::removeChild(File& child)
     return std::unique_ptr<File>(&child);
 }
 
+std::vector<std::unique_ptr<File>> Folder::takeChildren()
+{
+    std::vector<std::unique_ptr<File>> taken(m_children.size());
+    for (auto slot = taken.rbegin(); slot != taken.rend(); ++slot) {
+        slot->reset(m_children.takeLast());
+    }
+    return taken;
+}
+
 void Folder::spread(std::uint64_t delta)
 {
     for (Folder* folder = this; folder != nullptr; folder = folder->parent()) {

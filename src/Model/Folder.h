@@ -5,6 +5,7 @@
 #include "Model/File.h"
 
 #include <memory>
+#include <vector>
 
 namespace tessera {
 
@@ -33,6 +34,10 @@ public:
     /// parent stays as it was, so do not follow it. Every folder up to the root shrinks and is
     /// sorted again.
     std::unique_ptr<File> removeChild(File& child);
+
+    /// Takes all children out, in their order, of a folder that is then of no more use: neither its
+    /// size nor anything above it is told.
+    std::vector<std::unique_ptr<File>> takeChildren();
 
     /// Orders the children by size, largest first, and gives a colour slot to each that has none.
     void sort();

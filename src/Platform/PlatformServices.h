@@ -9,6 +9,7 @@
 #include "Platform/Qt/QtMainThread.h"
 #include "QuickLook/FileReader.h"
 #include "Scanning/DirectoryEnumerator.h"
+#include "Scanning/LauncherProgress.h"
 #include "Scanning/ResourceValues.h"
 #include "Shell/FileAccess.h"
 #include "Utils/MotionPreference.h"
@@ -34,6 +35,7 @@ struct PlatformServices {
     std::unique_ptr<UserDefaults> userDefaults;
     std::unique_ptr<RecentDocuments> recentDocuments;
     std::unique_ptr<MotionPreference> motionPreference;
+    std::unique_ptr<LauncherProgress> launcherProgress;
     std::unique_ptr<QtMainThread> mainThread;
     std::unique_ptr<Workspace> workspace; ///< uses mainThread
     std::function<std::unique_ptr<Task>()> makeTask; ///< a child process, not yet started

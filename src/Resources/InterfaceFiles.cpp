@@ -2,6 +2,7 @@
 #include "Resources/InterfaceFiles.h"
 
 #include "ui_CompressWindow.h"
+#include "ui_ScanningViewController.h"
 #include "ui_TreeTooltip.h"
 
 #include <algorithm>
@@ -26,6 +27,7 @@ std::unique_ptr<QWidget> instantiate()
 
 constexpr std::array kInterfaceFiles{
     InterfaceFile{"CompressWindow", &instantiate<Ui::CompressWindow, QDialog>},
+    InterfaceFile{"ScanningViewController", &instantiate<Ui::ScanningViewController, QWidget>},
     InterfaceFile{"TreeTooltip", &instantiate<Ui::TreeTooltip, TooltipWindow>},
 };
 

@@ -12,6 +12,7 @@
 #include "Platform/Linux/LinuxResourceValues.h"
 #include "Platform/Linux/LinuxStandardFolders.h"
 #include "Platform/Linux/LinuxUserAccount.h"
+#include "Platform/Linux/UnityLauncherProgress.h"
 #include "Platform/Linux/XbelRecentDocuments.h"
 #include "Platform/Linux/executableFolder.h"
 #include "Platform/Qt/SettingsUserDefaults.h"
@@ -65,6 +66,7 @@ PlatformServices makePlatformServices()
     services.recentDocuments
         = std::make_unique<XbelRecentDocuments>(XbelRecentDocuments::defaultFilePath());
     services.motionPreference = std::make_unique<DesktopMotionPreference>();
+    services.launcherProgress = std::make_unique<UnityLauncherProgress>();
     services.mainThread = std::make_unique<QtMainThread>();
     services.workspace = std::make_unique<DBusWorkspace>(*services.mainThread);
     services.makeTask = [] { return std::make_unique<ChildProcessTask>(); };

@@ -3,16 +3,11 @@
 
 #include "Model/Url.h"
 #include "support/FakeMainThread.h"
+#include "support/SessionBus.h"
 
-#include <QByteArray>
-#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
-#include <QDeadlineTimer>
-#include <QProcess>
-#include <QStandardPaths>
-#include <QTemporaryFile>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -46,54 +41,19 @@ public:
     std::vector<std::string> calls;
 };
 
-/// A session bus on which nothing is started when it is asked for: the file manager that is
-/// installed here must not answer.
-const QByteArray kBusConfiguration = R"(<busconfig>
-  <type>session</type>
-  <listen>unix:tmpdir=/tmp</listen>
-  <policy context="default">
-    <allow send_destination="*" eavesdrop="true"/>
-    <allow eavesdrop="true"/>
-    <allow own="*"/>
-  </policy>
-</busconfig>)";
-
 /// A bus of the test's own, so that no real file manager is asked.
 class DBusWorkspaceOnABus : public testing::Test {
 protected:
     void SetUp() override
     {
-        const QString daemon = QStandardPaths::findExecutable(QStringLiteral("dbus-daemon"));
-        if (daemon.isEmpty()) {
-            GTEST_SKIP() << "dbus-daemon is not installed";
-        }
-        ASSERT_TRUE(m_configuration.open());
-        m_configuration.write(kBusConfiguration);
-        m_configuration.close();
-        m_daemon.start(
-            daemon,
-            {QStringLiteral("--config-file=") + m_configuration.fileName(),
-             QStringLiteral("--nofork"),
-             QStringLiteral("--print-address")});
-        ASSERT_TRUE(m_daemon.waitForReadyRead());
-        m_address = QString::fromUtf8(m_daemon.readLine()).trimmed();
-        m_bus = std::make_unique<QDBusConnection>(
-            QDBusConnection::connectToBus(m_address, kClientName));
+        ASSERT_TRUE(m_sessionBus.start());
+        m_bus = std::make_unique<QDBusConnection>(m_sessionBus.connection(kClientName));
         ASSERT_TRUE(m_bus->isConnected());
-    }
-
-    void TearDown() override
-    {
-        m_bus.reset();
-        QDBusConnection::disconnectFromBus(kClientName);
-        QDBusConnection::disconnectFromBus(kFileManagerName);
-        m_daemon.kill();
-        m_daemon.waitForFinished();
     }
 
     void startFileManager()
     {
-        QDBusConnection bus = QDBusConnection::connectToBus(m_address, kFileManagerName);
+        QDBusConnection bus = m_sessionBus.connection(kFileManagerName);
         ASSERT_TRUE(bus.registerVirtualObject(
             QStringLiteral("/org/freedesktop/FileManager1"), &m_fileManager));
         ASSERT_TRUE(bus.registerService(QStringLiteral("org.freedesktop.FileManager1")));
@@ -111,18 +71,7 @@ protected:
             [](const std::vector<Url>&) { return RecycleResult(); }};
     }
 
-    template <typename Condition>
-    static void runEventsUntil(Condition isMet)
-    {
-        const QDeadlineTimer deadline(10000);
-        while (!isMet() && !deadline.hasExpired()) {
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
-        }
-    }
-
-    QTemporaryFile m_configuration;
-    QProcess m_daemon;
-    QString m_address;
+    test::SessionBus m_sessionBus;
     std::unique_ptr<QDBusConnection> m_bus;
     FakeFileManager m_fileManager;
     test::FakeMainThread m_mainThread;
@@ -134,7 +83,7 @@ TEST_F(DBusWorkspaceOnABus, RevealAsksTheFileManagerToShowTheItem)
     startFileManager();
     DBusWorkspace workspace = this->workspace();
     EXPECT_TRUE(workspace.reveal(Url("/home/me/a \xFF", false)));
-    runEventsUntil([this] { return !m_fileManager.calls.empty(); });
+    test::SessionBus::runEventsUntil([this] { return !m_fileManager.calls.empty(); });
     EXPECT_THAT(
         m_fileManager.calls,
         ElementsAre("org.freedesktop.FileManager1.ShowItems file:///home/me/a%20%FF"));
@@ -153,7 +102,7 @@ TEST_F(DBusWorkspaceOnABus, WithoutAFileManagerTheParentFolderIsOpened)
 {
     DBusWorkspace workspace = this->workspace();
     EXPECT_TRUE(workspace.reveal(Url("/home/me/a", false)));
-    runEventsUntil([this] { return !m_opened.empty(); });
+    test::SessionBus::runEventsUntil([this] { return !m_opened.empty(); });
     EXPECT_THAT(m_opened, ElementsAre("file:///home/me/"));
 }
 
@@ -162,7 +111,7 @@ TEST_F(DBusWorkspaceOnABus, AWorkspaceMayGoBeforeItsCallIsAnswered)
     (void)workspace().reveal(Url("/home/me/a", false));
     DBusWorkspace later = workspace();
     EXPECT_TRUE(later.reveal(Url("/later/a", false)));
-    runEventsUntil([this] { return !m_opened.empty(); });
+    test::SessionBus::runEventsUntil([this] { return !m_opened.empty(); });
     EXPECT_THAT(m_opened, ElementsAre("file:///later/"));
 }
 

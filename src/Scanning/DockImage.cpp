@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#include "Scanning/DockImage.h"
+
+#include "Resources/Images.h"
+#include "TreeView/Bar.h"
+#include "TreeView/ColorHelper.h"
+
+#include <QIcon>
+#include <QLabel>
+
+namespace tessera {
+
+namespace {
+
+constexpr std::uint32_t kLightHex = 0x6485F4;
+constexpr std::uint32_t kDarkHex = 0x2B5CF1;
+constexpr int kBarMargin = 6; ///< on either side
+constexpr int kBarBottom = 10; ///< from the picture's lower edge
+constexpr int kBarHeight = 20;
+
+} // namespace
+
+// NOLINTBEGIN(cppcoreguidelines-owning-memory): the parent owns them
+DockImage::DockImage()
+    : m_imageView(new QLabel(this))
+    , m_barView(new Bar(this))
+// NOLINTEND(cppcoreguidelines-owning-memory)
+{
+    setAttribute(Qt::WA_TranslucentBackground);
+    m_barView->setLightColor(colorWithHex(kLightHex));
+    m_barView->setDarkColor(colorWithHex(kDarkHex));
+}
+
+void DockImage::setFrame(const QRect& frame)
+{
+    setGeometry(frame);
+    m_imageView->setGeometry(rect());
+    m_imageView->setPixmap(imageNamed("bullseye").pixmap(frame.size(), devicePixelRatioF()));
+    m_barView->setGeometry(
+        kBarMargin,
+        frame.height() - kBarBottom - kBarHeight,
+        frame.width() - 2 * kBarMargin,
+        kBarHeight);
+}
+
+void DockImage::setPercent(double fraction)
+{
+    m_barView->setPercentFilled(fraction);
+}
+
+double DockImage::percent() const
+{
+    return m_barView->percentFilled();
+}
+
+} // namespace tessera

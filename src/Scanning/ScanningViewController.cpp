@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: MIT
+#include "Scanning/ScanningViewController.h"
+
+#include "Model/NotificationCenter.h"
+#include "Model/RootModel.h"
+#include "Scanning/DockTile.h"
+#include "Scanning/PathLabel.h"
+#include "Scanning/Scanner.h"
+#include "TreeView/IconProvider.h"
+#include "Utils/DisplayText.h"
+#include "Utils/ProgressSteps.h"
+#include "Utils/Util.h"
+
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+
+#include <string_view>
+#include <utility>
+
+namespace tessera {
+
+namespace {
+
+constexpr int kIconPoints = 64;
+
+template <typename View>
+View* outlet(const QWidget& view, const char* name)
+{
+    return view.findChild<View*>(QString::fromLatin1(name));
+}
+
+/// A folder with what the scan found in the encrypted home. The space that is free there is free
+/// on the volume around it as well and must not count twice.
+std::unique_ptr<Folder> homeFolder(TopFolder& root)
+{
+    auto folder = makeNode<Folder>(root.fragment());
+    for (std::unique_ptr<File>& child : root.takeChildren()) {
+        if (child->type() != NodeType::FreeSpace) {
+            folder->addChild(std::move(child));
+        }
+    }
+    return folder;
+}
+
+} // namespace
+
+ScanningViewController::ScanningViewController(RootModel& model, const ScanningServices& services)
+    : m_model(model)
+    , m_services(services)
+    , m_view(Util::loadViewFromNib<QWidget>("ScanningViewController"))
+    , m_scanLabel(outlet<PathLabel>(*m_view, "scanLabel"))
+    , m_indicator(outlet<QProgressBar>(*m_view, "indicator"))
+    , m_iconView(outlet<QLabel>(*m_view, "iconView"))
+    , m_folderName(outlet<PathLabel>(*m_view, "folderName"))
+    , m_totalRead(outlet<QLabel>(*m_view, "totalRead"))
+    , m_readRate(outlet<QLabel>(*m_view, "readRate"))
+    , m_cancelButton(outlet<QPushButton>(*m_view, "cancelButton"))
+{
+    connect(m_cancelButton, &QPushButton::clicked, this, &ScanningViewController::stopScan);
+    stopAnimation();
+}
+
+ScanningViewController::~ScanningViewController()
+{
+    if (m_scanner != nullptr) {
+        m_scanner->setDelegate(nullptr);
+        m_scanner->cancel();
+    }
+    m_services.dockTile.removeContentView(m_dockImage);
+}
+
+void ScanningViewController::startScanning(const Url& url)
+{
+    m_rate.restart();
+    m_rootURL = url;
+    m_iconView->setPixmap(
+        m_services.icons.iconForUrl(url, kIconPoints, m_view->devicePixelRatioF()));
+    m_folderName->setText(displayText(url.lastPathComponent()));
+    m_totalRead->setText(QStringLiteral("-"));
+    m_readRate->setText(QStringLiteral("-"));
+    m_scanner = Scanner::create(m_services.scanEnvironment);
+    m_scanner->setDelegate(this);
+    m_scanner->scan(url);
+    startAnimation();
+    m_cancelButton->setEnabled(true);
+    m_services.dockTile.setContentView(m_dockImage);
+}
+
+void ScanningViewController::stopScan()
+{
+    if (!m_rootURL.empty()) {
+        m_scanner->cancel();
+    }
+}
+
+void ScanningViewController::scanUpdated(Scanner& scanner)
+{
+    showPath(scanner.currentURL());
+    const double percent = scanner.percentComplete();
+    m_totalRead->setText(QString::fromStdString(Util::formatSize(scanner.allocationRead())));
+    m_indicator->setRange(0, kProgressSteps);
+    m_indicator->setValue(progressSteps(percent));
+    m_dockImage.setPercent(percent);
+    m_services.dockTile.display();
+    if (const auto rate = m_rate.add(m_services.scanEnvironment.clock(), scanner.objectsRead())) {
+        m_readRate->setText(tr("%1 files/sec").arg(*rate));
+    }
+}
+
+void ScanningViewController::scanEnded(Scanner& scanner)
+{
+    stopAnimation();
+    m_rootURL = {};
+    const std::vector<Url> encryptedHomes = scanner.fileVaults();
+    if (!encryptedHomes.empty()) {
+        m_fileVault = scanner.takeTopFolder();
+        startScanning(encryptedHomes.front());
+        return;
+    }
+    m_model.setTopFolder(withEncryptedHome(scanner.takeTopFolder()));
+    m_model.recents().addToList(*m_model.topFolder());
+    m_services.dockTile.requestAttention();
+    m_services.dockTile.removeContentView(m_dockImage);
+    m_cancelButton->setEnabled(false);
+    NotificationCenter::defaultCenter().post("ScanComplete", static_cast<const void*>(this));
+}
+
+void ScanningViewController::scanCancelled(Scanner& /*scanner*/)
+{
+    stopAnimation();
+    m_rootURL = {};
+    m_services.dockTile.removeContentView(m_dockImage);
+    m_cancelButton->setEnabled(false);
+    NotificationCenter::defaultCenter().post("ScanCancelled", static_cast<const void*>(this));
+}
+
+/// From the scanned folder's own name on: where that folder lies is known to who chose it.
+void ScanningViewController::showPath(const Url& current)
+{
+    const std::string_view path = current.path();
+    const std::size_t dropped = m_rootURL.path().size() - m_rootURL.lastPathComponent().size();
+    if (path.size() > dropped) {
+        m_scanLabel->setText(displayText(path.substr(dropped)));
+    }
+}
+
+/// There is no fraction before the first report.
+void ScanningViewController::startAnimation()
+{
+    m_indicator->setRange(0, 0);
+}
+
+void ScanningViewController::stopAnimation()
+{
+    m_indicator->setRange(0, kProgressSteps);
+}
+
+std::unique_ptr<TopFolder> ScanningViewController::withEncryptedHome(
+    std::unique_ptr<TopFolder> home)
+{
+    if (m_fileVault == nullptr) {
+        return home;
+    }
+    File* const place = Util::locateURL(home->url(), *m_fileVault);
+    if (place != nullptr && place->parent() != nullptr) {
+        place->parent()->replaceChild(*place, homeFolder(*home));
+    }
+    return std::move(m_fileVault);
+}
+
+} // namespace tessera

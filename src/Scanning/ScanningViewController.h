@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Model/TopFolder.h"
+#include "Model/Url.h"
+#include "Scanning/DockImage.h"
+#include "Scanning/FileRate.h"
+#include "Scanning/ScanEnvironment.h"
+#include "Scanning/ScannerDelegate.h"
+
+#include <QObject>
+
+#include <memory>
+#include <vector>
+
+class QLabel;
+class QProgressBar;
+class QPushButton;
+class QWidget;
+
+namespace tessera {
+
+class DockTile;
+class IconProvider;
+class PathLabel;
+class RootModel;
+class Scanner;
+
+/// What the scan screen needs from the system and the desktop; each must outlive it.
+struct ScanningServices {
+    ScanEnvironment scanEnvironment;
+    IconProvider& icons;
+    DockTile& dockTile;
+};
+
+/// The controller of the panel that shows how far a scan is. It serves one scan: at the end it
+/// gives the tree to the model, notes it as recent and posts "ScanComplete", or else
+/// "ScanCancelled", with itself as the object. An observer may destroy it. Main thread only.
+class ScanningViewController final : public QObject, private ScannerDelegate {
+    Q_OBJECT
+
+public:
+    /// Height that the view is made for, in points; its width is free.
+    static constexpr int kViewHeight = 230;
+
+    /// The model must outlive the controller.
+    ScanningViewController(RootModel& model, const ScanningServices& services);
+    /// Stops a scan that still runs, and posts nothing.
+    ~ScanningViewController() override;
+
+    /// The panel. It may be put into another widget, which must not die before the controller.
+    QWidget& view() const { return *m_view; }
+
+    void startScanning(const Url& url);
+
+    /// Cancels the scan; nothing when none runs.
+    void stopScan();
+
+    /// What is being scanned; empty when nothing is.
+    const Url& rootURL() const { return m_rootURL; }
+    /// The home folder's surroundings, while an encrypted home folder is scanned in a second pass.
+    const TopFolder* fileVault() const { return m_fileVault.get(); }
+    const DockImage& dockImage() const { return m_dockImage; }
+
+private:
+    void scanUpdated(Scanner& scanner) override;
+    void scanEnded(Scanner& scanner) override;
+    void scanCancelled(Scanner& scanner) override;
+
+    void showPath(const Url& current);
+    void startAnimation();
+    void stopAnimation();
+    std::unique_ptr<TopFolder> withEncryptedHome(std::unique_ptr<TopFolder> home);
+
+    RootModel& m_model;
+    const ScanningServices m_services;
+    std::unique_ptr<QWidget> m_view;
+    PathLabel* m_scanLabel;
+    QProgressBar* m_indicator;
+    QLabel* m_iconView;
+    PathLabel* m_folderName;
+    QLabel* m_totalRead;
+    QLabel* m_readRate;
+    QPushButton* m_cancelButton;
+    DockImage m_dockImage;
+    FileRate m_rate;
+    std::shared_ptr<Scanner> m_scanner;
+    Url m_rootURL;
+    std::unique_ptr<TopFolder> m_fileVault;
+};
+
+} // namespace tessera
