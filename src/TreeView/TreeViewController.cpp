@@ -201,11 +201,10 @@ bool TreeViewController::validate(TreeCommand command) const
     case TreeCommand::MoveToTrash:
         return m_selectedFile != nullptr;
     case TreeCommand::ZoomIn:
+    case TreeCommand::Ignore:
         return isFolder;
     case TreeCommand::Rescan:
         return isFolder && m_rescan.rescanFolder() == nullptr;
-    case TreeCommand::Ignore:
-        break; // there is no list of ignored folders yet
     }
     return false;
 }
@@ -232,6 +231,7 @@ void TreeViewController::perform(TreeCommand command)
         trashItem();
         break;
     case TreeCommand::Ignore:
+        emit ignoreRequested();
         break;
     }
 }
@@ -304,6 +304,7 @@ void TreeViewController::removeNodeAt(const Url& url)
 void TreeViewController::nodeWillLeave(File& node)
 {
     m_rescan.nodeWillLeave(node);
+    emit nodeLeaving(&node);
     if (m_selectedFile != nullptr && isAtOrBelow(*m_selectedFile, node)) {
         setSelectedFile(nullptr);
     }
@@ -318,6 +319,7 @@ void TreeViewController::folderWasReplaced(Folder& folder, Folder& with)
     if (m_selectedFile != nullptr && isAtOrBelow(*m_selectedFile, folder)) {
         setSelectedFile(nodeAtPath(top, m_selectedFile->absolutePath()));
     }
+    emit folderReplaced(&folder);
     if (m_currentFolder != nullptr && isAtOrBelow(*m_currentFolder, folder)) {
         // What is in view may have vanished since it was scanned first; then it is what is left.
         File* const nearest = nearestNodeAtPath(top, m_currentFolder->absolutePath());
@@ -341,6 +343,7 @@ void TreeViewController::renderTree()
         0, 0, static_cast<double>(m_treeView.width()), static_cast<double>(m_treeView.height())};
     m_treeView.addBranch(renderFolder(m_currentFolder, bounds, nullptr, 0));
     m_rescan.pictureChanged();
+    emit pictureRebuilt();
 }
 
 std::unique_ptr<TreeBranch> TreeViewController::renderFolder(

@@ -98,6 +98,14 @@ public:
 signals:
     /// Sizes or names in the tree are others than before.
     void treeChanged();
+    /// The picture was rebuilt from the tree.
+    void pictureRebuilt();
+    /// The selected folder is to be left out of the picture.
+    void ignoreRequested();
+    /// The node, with all below it, is about to leave its place in the tree.
+    void nodeLeaving(File* node);
+    /// The folder is out of the tree and about to be released; another stands in its place.
+    void folderReplaced(Folder* folder);
 
 private:
     bool eventFilter(QObject* watched, QEvent* event) override;
