@@ -2,6 +2,7 @@
 #include "Resources/InterfaceFiles.h"
 
 #include "ui_CompressWindow.h"
+#include "ui_PreferencesWindowController.h"
 #include "ui_ScanningViewController.h"
 #include "ui_TreeTooltip.h"
 
@@ -27,6 +28,8 @@ std::unique_ptr<QWidget> instantiate()
 
 constexpr std::array kInterfaceFiles{
     InterfaceFile{"CompressWindow", &instantiate<Ui::CompressWindow, QDialog>},
+    InterfaceFile{
+        "PreferencesWindowController", &instantiate<Ui::PreferencesWindowController, QDialog>},
     InterfaceFile{"ScanningViewController", &instantiate<Ui::ScanningViewController, QWidget>},
     InterfaceFile{"TreeTooltip", &instantiate<Ui::TreeTooltip, TooltipWindow>},
 };
