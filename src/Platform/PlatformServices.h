@@ -40,6 +40,7 @@ struct PlatformServices {
     std::unique_ptr<Workspace> workspace; ///< uses mainThread
     std::function<std::unique_ptr<Task>()> makeTask; ///< a child process, not yet started
     std::string archiver; ///< path of the archiving program, as bytes
+    std::string helpFolder; ///< of features.html and faq.html, as bytes; empty when missing
     std::function<double()> clock;
 
     /// Whether windows can be shown; asked before there is an application object.

@@ -15,6 +15,7 @@
 #include "Platform/Linux/UnityLauncherProgress.h"
 #include "Platform/Linux/XbelRecentDocuments.h"
 #include "Platform/Linux/executableFolder.h"
+#include "Platform/Linux/helpFolder.h"
 #include "Platform/Qt/SettingsUserDefaults.h"
 
 #include <cstdlib>
@@ -71,6 +72,7 @@ PlatformServices makePlatformServices()
     services.workspace = std::make_unique<DBusWorkspace>(*services.mainThread);
     services.makeTask = [] { return std::make_unique<ChildProcessTask>(); };
     services.archiver = executableFolder() + "/tessera-ditto";
+    services.helpFolder = findHelpFolder(executableFolder());
     services.clock = coarseSeconds;
     return services;
 }
