@@ -1,0 +1,486 @@
+// SPDX-License-Identifier: MIT
+#include "Shell/SectionedCollectionView.h"
+
+#include "Shell/CollectionItemView.h"
+#include "Shell/SectionedCollectionViewDataSource.h"
+#include "Shell/SectionedCollectionViewDelegate.h"
+
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTest>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace tessera {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr int kHeaderHeight = 30;
+constexpr int kItemHeight = 72;
+
+class PlainItem final : public CollectionItemView {
+public:
+    bool disabled() const override { return isDisabled; }
+
+    bool isDisabled = false;
+};
+
+struct Section {
+    int count = 0;
+    double minimumWidth = 0;
+    double maximumWidth = 0;
+};
+
+class FixedSections final : public SectionedCollectionViewDataSource {
+public:
+    explicit FixedSections(std::vector<Section> given)
+        : sections(std::move(given))
+    {
+    }
+
+    int numberOfSections() const override { return static_cast<int>(sections.size()); }
+    int numberOfViewsInSection(int section) const override { return at(section).count; }
+    double minimumWidthInSection(int section) const override { return at(section).minimumWidth; }
+    double maximumWidthInSection(int section) const override { return at(section).maximumWidth; }
+
+    std::unique_ptr<QWidget> headerForSection(int /*section*/) override
+    {
+        auto header = std::make_unique<QWidget>();
+        header->resize(1, kHeaderHeight);
+        return header;
+    }
+
+    std::unique_ptr<CollectionItemView> viewForSection(int /*section*/, int /*index*/) override
+    {
+        auto item = std::make_unique<PlainItem>();
+        item->resize(1, kItemHeight);
+        return item;
+    }
+
+    std::vector<Section> sections;
+
+private:
+    const Section& at(int section) const { return sections.at(static_cast<std::size_t>(section)); }
+};
+
+std::string toText(const std::string& what, int section, int index)
+{
+    return what + ' ' + std::to_string(section) + '.' + std::to_string(index);
+}
+
+class SectionedCollectionViewTest : public testing::Test {
+protected:
+    void show(std::vector<Section> sections, int width)
+    {
+        dataSource.sections = std::move(sections);
+        surroundings.resize(width, 1000);
+        view.setDataSource(&dataSource);
+        view.setDelegate(&delegate);
+        view.reloadData();
+        surroundings.show();
+        told.clear();
+    }
+
+    SectionedCollectionViewDelegate::Message tell(const std::string& what)
+    {
+        return [this, what](CollectionItemView&, int section, int index) {
+            told.push_back(toText(what, section, index));
+        };
+    }
+
+    PlainItem& item(std::size_t metric)
+    {
+        return dynamic_cast<PlainItem&>(*view.layoutMetrics().at(metric).view);
+    }
+
+    std::vector<QRect> frames() const
+    {
+        std::vector<QRect> result;
+        for (const auto& metric : view.layoutMetrics()) {
+            result.push_back(metric.view->geometry());
+        }
+        return result;
+    }
+
+    void click(std::size_t metric)
+    {
+        QTest::mouseClick(&view, Qt::LeftButton, {}, item(metric).geometry().center());
+    }
+
+    void doubleClick(std::size_t metric)
+    {
+        QTest::mouseDClick(&view, Qt::LeftButton, {}, item(metric).geometry().center());
+    }
+
+    std::string selection() const
+    {
+        return toText("selected", view.selectedSection(), view.selectedIndex());
+    }
+
+    QWidget surroundings;
+    SectionedCollectionView view{&surroundings};
+    FixedSections dataSource{{}};
+    std::vector<std::string> told;
+    SectionedCollectionViewDelegate delegate{tell("select"), tell("deselect"), tell("double")};
+};
+
+TEST_F(SectionedCollectionViewTest, ItemsShareTheWidthAmongAsManyColumnsAsFit)
+{
+    show({{5, 200, 0}}, 450);
+    EXPECT_THAT(
+        frames(),
+        ElementsAre(
+            QRect(0, 0, 450, 30),
+            QRect(0, 30, 225, 72),
+            QRect(225, 30, 225, 72),
+            QRect(0, 102, 225, 72),
+            QRect(225, 102, 225, 72),
+            QRect(0, 174, 225, 72)));
+}
+
+TEST_F(SectionedCollectionViewTest, TheGreatestWidthLeavesRoomAtTheRightOfEachRow)
+{
+    show({{5, 200, 200}}, 450);
+    EXPECT_THAT(
+        frames(),
+        ElementsAre(
+            QRect(0, 0, 450, 30),
+            QRect(0, 30, 200, 72),
+            QRect(200, 30, 200, 72),
+            QRect(0, 102, 200, 72),
+            QRect(200, 102, 200, 72),
+            QRect(0, 174, 200, 72)));
+}
+
+TEST_F(SectionedCollectionViewTest, FewItemsGetThatManyWiderColumns)
+{
+    show({{2, 100, 0}}, 450);
+    EXPECT_EQ(frames().at(1), QRect(0, 30, 225, 72));
+    EXPECT_EQ(frames().at(2), QRect(225, 30, 225, 72));
+}
+
+TEST_F(SectionedCollectionViewTest, FewItemsGrowToTheGreatestWidthAtMost)
+{
+    show({{2, 100, 150}}, 450);
+    EXPECT_EQ(frames().at(1), QRect(0, 30, 150, 72));
+    EXPECT_EQ(frames().at(2), QRect(150, 30, 150, 72));
+}
+
+TEST_F(SectionedCollectionViewTest, NarrowItemsGoOnInTheRowUntilTheNextWouldNotFit)
+{
+    // One column would be 450 wide, but three of the greatest width fit beside each other.
+    show({{4, 300, 150}}, 450);
+    EXPECT_EQ(frames().at(3), QRect(300, 30, 150, 72));
+    EXPECT_EQ(frames().at(4), QRect(0, 102, 150, 72));
+}
+
+TEST_F(SectionedCollectionViewTest, WidthsAreWholePoints)
+{
+    show({{3, 100, 0}}, 400);
+    EXPECT_EQ(frames().at(1).width(), 133);
+    EXPECT_EQ(frames().at(3), QRect(266, 30, 133, 72));
+}
+
+TEST_F(SectionedCollectionViewTest, EachSectionBeginsBelowTheLastRowOfTheOneBefore)
+{
+    show({{1, 200, 400}, {1, 100, 200}}, 450);
+    EXPECT_EQ(frames().at(2), QRect(0, 102, 450, 30));
+    EXPECT_EQ(frames().at(3), QRect(0, 132, 200, 72));
+}
+
+TEST_F(SectionedCollectionViewTest, ASectionWithoutItemsIsItsHeaderAlone)
+{
+    show({{0, 100, 200}, {1, 100, 200}}, 450);
+    EXPECT_EQ(frames().at(1), QRect(0, 30, 450, 30));
+    EXPECT_EQ(view.height(), 30 + 30 + 72);
+}
+
+TEST_F(SectionedCollectionViewTest, ARowNarrowerThanTheLeastWidthHoldsOneItemOfTheGreatest)
+{
+    show({{2, 200, 400}}, 150);
+    EXPECT_EQ(frames().at(1), QRect(0, 30, 400, 72));
+    EXPECT_EQ(frames().at(2), QRect(0, 102, 400, 72));
+}
+
+TEST_F(SectionedCollectionViewTest, PositionsAreSinglePrecisionNumbers)
+{
+    // In double precision 25 times 30.4 would be 760, and a 25th item would fit.
+    show({{26, 31, 30.4}}, 760);
+    EXPECT_EQ(view.layoutMetrics().front().maxWidth, 30.4F);
+    EXPECT_EQ(frames().at(24), QRect(699, 30, 30, 72));
+    EXPECT_EQ(frames().at(25), QRect(0, 102, 30, 72));
+}
+
+TEST_F(SectionedCollectionViewTest, IsAsHighAsItsContentAndAsWideAsItsSurroundings)
+{
+    show({{5, 200, 200}}, 450);
+    EXPECT_EQ(view.size(), QSize(450, 30 + 3 * 72));
+}
+
+TEST_F(SectionedCollectionViewTest, ReflowsWhenItsSurroundingsChangeTheirWidth)
+{
+    show({{5, 200, 200}}, 450);
+    surroundings.resize(650, 1000);
+    EXPECT_EQ(view.size(), QSize(650, 30 + 2 * 72));
+    EXPECT_EQ(frames().at(3), QRect(400, 30, 200, 72));
+}
+
+TEST_F(SectionedCollectionViewTest, AScrollAreaScrollsOverTheWholeContent)
+{
+    QScrollArea area;
+    area.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area.resize(450, 100);
+    auto grid = std::make_unique<SectionedCollectionView>();
+    SectionedCollectionView& scrolled = *grid;
+    area.setWidget(grid.release());
+    dataSource.sections = {{5, 200, 200}};
+    scrolled.setScrollView(&area);
+    scrolled.setDataSource(&dataSource);
+    scrolled.reloadData();
+    area.show();
+    for (const int width : {450, 800, 300, 1200}) {
+        area.resize(width, 100);
+        QCoreApplication::sendPostedEvents();
+        EXPECT_EQ(scrolled.width(), area.viewport()->width());
+        EXPECT_EQ(
+            area.verticalScrollBar()->maximum(), scrolled.height() - area.viewport()->height());
+    }
+}
+
+TEST_F(SectionedCollectionViewTest, TheMetricsSayWhatIsShownInItsOrder)
+{
+    show({{2, 200, 400}}, 450);
+    const auto& metrics = view.layoutMetrics();
+    ASSERT_EQ(metrics.size(), 3U);
+    EXPECT_EQ(metrics[0].type, SectionedCollectionView::LayoutMetric::Type::Header);
+    EXPECT_EQ(metrics[0].count, 2);
+    EXPECT_EQ(metrics[1].type, SectionedCollectionView::LayoutMetric::Type::View);
+    EXPECT_FALSE(metrics[1].final);
+    EXPECT_TRUE(metrics[2].final);
+}
+
+TEST_F(SectionedCollectionViewTest, TheLastViewKeepsItsDistanceToTheRightEdge)
+{
+    show({{1, 200, 400}}, 450);
+    const auto* const last = qobject_cast<QWidget*>(view.children().last());
+    EXPECT_EQ(last->geometry(), QRect(0, 0, 1, 1));
+    surroundings.resize(470, 1000);
+    EXPECT_EQ(last->geometry(), QRect(20, 0, 1, 1));
+}
+
+TEST_F(SectionedCollectionViewTest, AClickSelectsTheItem)
+{
+    show({{1, 200, 400}, {2, 100, 200}}, 450);
+    click(4);
+    EXPECT_THAT(told, ElementsAre("select 1.1"));
+    EXPECT_EQ(selection(), "selected 1.1");
+    EXPECT_EQ(view.selectedView(), &item(4));
+}
+
+TEST_F(SectionedCollectionViewTest, AClickOnAnotherItemDeselectsTheFirst)
+{
+    show({{2, 200, 400}}, 450);
+    click(1);
+    click(2);
+    EXPECT_THAT(told, ElementsAre("select 0.0", "deselect 0.0", "select 0.1"));
+}
+
+TEST_F(SectionedCollectionViewTest, AClickOnTheSelectedItemDeselectsAndSelectsIt)
+{
+    show({{2, 200, 400}}, 450);
+    click(1);
+    told.clear();
+    click(1);
+    EXPECT_THAT(told, ElementsAre("deselect 0.0", "select 0.0"));
+    EXPECT_EQ(selection(), "selected 0.0");
+}
+
+TEST_F(SectionedCollectionViewTest, ADoubleClickSelectsDeselectsAndTellsOfItself)
+{
+    show({{2, 200, 400}}, 450);
+    click(2);
+    doubleClick(2);
+    EXPECT_THAT(told, ElementsAre("select 0.1", "deselect 0.1", "double 0.1"));
+    EXPECT_EQ(selection(), "selected 0.1");
+}
+
+TEST_F(SectionedCollectionViewTest, AClickOnADisabledItemChangesNothing)
+{
+    show({{2, 200, 400}}, 450);
+    click(1);
+    told.clear();
+    item(2).isDisabled = true;
+    click(2);
+    EXPECT_THAT(told, IsEmpty());
+    EXPECT_EQ(selection(), "selected 0.0");
+}
+
+TEST_F(SectionedCollectionViewTest, AClickBesideTheItemsChangesNothing)
+{
+    show({{1, 200, 200}}, 450);
+    click(1);
+    told.clear();
+    QTest::mouseClick(&view, Qt::LeftButton, {}, QPoint(300, 60));
+    EXPECT_THAT(told, IsEmpty());
+    EXPECT_EQ(selection(), "selected 0.0");
+}
+
+TEST_F(SectionedCollectionViewTest, OtherButtonsChangeNothing)
+{
+    show({{1, 200, 200}}, 450);
+    QTest::mouseClick(&view, Qt::RightButton, {}, item(1).geometry().center());
+    EXPECT_EQ(selection(), "selected -1.-1");
+}
+
+TEST_F(SectionedCollectionViewTest, WithoutAMessageForSelectionNothingIsSelected)
+{
+    show({{2, 200, 400}}, 450);
+    delegate.didSelectView = nullptr;
+    doubleClick(1);
+    EXPECT_THAT(told, IsEmpty());
+    EXPECT_EQ(selection(), "selected -1.-1");
+}
+
+TEST_F(SectionedCollectionViewTest, WhileDisabledClicksChangeNothing)
+{
+    show({{2, 200, 400}}, 450);
+    click(1);
+    told.clear();
+    view.setEnabled(false);
+    doubleClick(2);
+    EXPECT_THAT(told, IsEmpty());
+    EXPECT_EQ(selection(), "selected 0.0");
+}
+
+TEST_F(SectionedCollectionViewTest, WhileDisabledItCanBeDeselected)
+{
+    show({{2, 200, 400}}, 450);
+    click(1);
+    told.clear();
+    view.setEnabled(false);
+    view.deselectAll();
+    EXPECT_THAT(told, ElementsAre("deselect 0.0"));
+    EXPECT_EQ(selection(), "selected -1.-1");
+    EXPECT_EQ(view.selectedView(), nullptr);
+}
+
+TEST_F(SectionedCollectionViewTest, DisablingItLeavesTheItemViewsAsTheyAre)
+{
+    show({{1, 200, 400}}, 450);
+    view.setEnabled(false);
+    EXPECT_FALSE(view.enabled());
+    EXPECT_TRUE(item(1).isEnabled());
+}
+
+TEST_F(SectionedCollectionViewTest, KeepsItsSelectionFromADelegateThatIsNotToldOfItsEnd)
+{
+    show({{2, 200, 400}}, 450);
+    click(1);
+    delegate.didDeselectView = nullptr;
+    view.deselectAll();
+    EXPECT_EQ(selection(), "selected 0.0");
+    view.setDelegate(nullptr);
+    view.deselectAll();
+    EXPECT_EQ(selection(), "selected 0.0");
+}
+
+TEST_F(SectionedCollectionViewTest, LoadingAfreshForgetsTheSelectionSilently)
+{
+    show({{2, 200, 400}}, 450);
+    click(1);
+    told.clear();
+    view.reloadData();
+    EXPECT_THAT(told, IsEmpty());
+    EXPECT_EQ(selection(), "selected -1.-1");
+}
+
+TEST_F(SectionedCollectionViewTest, LoadingAfreshReplacesTheViews)
+{
+    show({{2, 200, 400}}, 450);
+    dataSource.sections = {{1, 200, 400}};
+    view.reloadData();
+    EXPECT_EQ(view.layoutMetrics().size(), 2U);
+    EXPECT_EQ(view.findChildren<PlainItem*>().size(), 1);
+    EXPECT_EQ(view.height(), 30 + 72);
+}
+
+TEST_F(SectionedCollectionViewTest, WithoutADataSourceItIsEmpty)
+{
+    show({{2, 200, 400}}, 450);
+    view.setDataSource(nullptr);
+    view.reloadData();
+    EXPECT_THAT(view.layoutMetrics(), IsEmpty());
+    EXPECT_EQ(view.height(), 0);
+}
+
+TEST_F(SectionedCollectionViewTest, TheFirstArrowKeySelectsTheFirstItem)
+{
+    show({{2, 200, 400}}, 450);
+    QTest::keyClick(&view, Qt::Key_Down);
+    EXPECT_THAT(told, ElementsAre("select 0.0"));
+}
+
+TEST_F(SectionedCollectionViewTest, LeftAndRightGoThroughAllSections)
+{
+    show({{1, 200, 400}, {1, 100, 200}}, 450);
+    click(1);
+    QTest::keyClick(&view, Qt::Key_Right);
+    EXPECT_EQ(selection(), "selected 1.0");
+    QTest::keyClick(&view, Qt::Key_Right);
+    EXPECT_EQ(selection(), "selected 1.0");
+    QTest::keyClick(&view, Qt::Key_Left);
+    EXPECT_EQ(selection(), "selected 0.0");
+    QTest::keyClick(&view, Qt::Key_Left);
+    EXPECT_EQ(selection(), "selected 0.0");
+}
+
+TEST_F(SectionedCollectionViewTest, UpAndDownGoToTheNextRowsNearestItem)
+{
+    show({{5, 200, 200}, {4, 100, 100}}, 450);
+    click(2);
+    QTest::keyClick(&view, Qt::Key_Down);
+    EXPECT_EQ(selection(), "selected 0.3");
+    QTest::keyClick(&view, Qt::Key_Down);
+    EXPECT_EQ(selection(), "selected 0.4");
+    QTest::keyClick(&view, Qt::Key_Down);
+    EXPECT_EQ(selection(), "selected 1.0");
+    QTest::keyClick(&view, Qt::Key_Up);
+    EXPECT_EQ(selection(), "selected 0.4");
+}
+
+TEST_F(SectionedCollectionViewTest, HomeAndEndGoToTheFirstAndTheLast)
+{
+    show({{2, 200, 400}, {2, 100, 200}}, 450);
+    QTest::keyClick(&view, Qt::Key_End);
+    QTest::keyClick(&view, Qt::Key_End);
+    EXPECT_EQ(selection(), "selected 1.1");
+    QTest::keyClick(&view, Qt::Key_Home);
+    EXPECT_EQ(selection(), "selected 0.0");
+}
+
+TEST_F(SectionedCollectionViewTest, KeysPassOverDisabledItems)
+{
+    show({{3, 100, 100}}, 450);
+    click(1);
+    item(2).isDisabled = true;
+    QTest::keyClick(&view, Qt::Key_Right);
+    EXPECT_EQ(selection(), "selected 0.2");
+}
+
+TEST_F(SectionedCollectionViewTest, WhileDisabledKeysChangeNothing)
+{
+    show({{2, 200, 400}}, 450);
+    view.setEnabled(false);
+    QTest::keyClick(&view, Qt::Key_Down);
+    EXPECT_THAT(told, IsEmpty());
+}
+
+} // namespace
+} // namespace tessera
