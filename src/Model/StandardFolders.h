@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Model/LocationKind.h"
 #include "Model/Url.h"
+
+#include <string>
 
 namespace tessera {
 
@@ -18,6 +21,11 @@ public:
 
     /// The folder that holds the users' homes.
     [[nodiscard]] virtual Url localUsers() const = 0;
+
+    /// Where the system keeps the location of a user with that home directory, should the usual
+    /// place be missing; paths are bytes. Empty where it has none. Reads the user's settings.
+    [[nodiscard]] virtual std::string equivalentLocation(
+        LocationKind kind, const std::string& homeDirectory) const = 0;
 };
 
 } // namespace tessera

@@ -3,6 +3,7 @@
 
 #include "FileOps/Task.h"
 #include "Model/FileSystemAttributes.h"
+#include "Model/MountedVolumes.h"
 #include "Model/RecentDocuments.h"
 #include "Model/StandardFolders.h"
 #include "Model/UserDefaults.h"
@@ -26,8 +27,9 @@ namespace tessera {
 /// makePlatformServices(); the rest of the program sees the interfaces alone.
 struct PlatformServices {
     std::unique_ptr<FileManager> fileManager;
-    std::unique_ptr<ResourceValues> resourceValues;
-    std::unique_ptr<FileSystemAttributes> fileSystemAttributes;
+    std::shared_ptr<const ResourceValues> resourceValues; ///< a question that is stuck keeps it
+    std::shared_ptr<const FileSystemAttributes> fileSystemAttributes; ///< likewise
+    std::unique_ptr<MountedVolumes> mountedVolumes;
     std::unique_ptr<FileAccess> fileAccess;
     std::shared_ptr<const FileReader> fileReader; ///< a look that is stuck keeps it
     std::unique_ptr<StandardFolders> standardFolders;

@@ -19,6 +19,9 @@ public:
     /// Whether `path` (bytes) is the root of a mounted file system; false when it cannot be read.
     [[nodiscard]] virtual bool isVolume(const std::string& path) const = 0;
 
+    /// Whether `path` is a directory, or a symbolic link to one; false when it cannot be read.
+    [[nodiscard]] virtual bool isDirectory(const std::string& path) const = 0;
+
     /// Bytes on disk of the item itself; a symbolic link is not followed.
     [[nodiscard]] virtual std::optional<std::uint64_t> allocatedSize(
         const std::string& path) const = 0;

@@ -35,6 +35,7 @@ private:
 class FakeResourceValues final : public ResourceValues {
 public:
     std::set<std::string> volumes;
+    std::set<std::string> directories;
     std::map<std::string, std::uint64_t> sizes; ///< of single paths
     std::optional<std::uint64_t> size; ///< of all others
     std::optional<std::int64_t> modificationDate;
@@ -42,6 +43,11 @@ public:
     [[nodiscard]] bool isVolume(const std::string& path) const override
     {
         return volumes.contains(path);
+    }
+
+    [[nodiscard]] bool isDirectory(const std::string& path) const override
+    {
+        return directories.contains(path);
     }
 
     [[nodiscard]] std::optional<std::uint64_t> allocatedSize(const std::string& path) const override

@@ -6,13 +6,25 @@
 #include "support/FakeRecentDocuments.h"
 #include "support/FakeUserDefaults.h"
 
+#include <map>
+#include <string>
+
 namespace tessera::test {
 
-/// Folders that exist nowhere.
+/// Folders that exist nowhere; equivalents as the test names them.
 class FakeStandardFolders final : public StandardFolders {
 public:
     [[nodiscard]] Url localApplications() const override { return {"/Local Apps", true}; }
     [[nodiscard]] Url localUsers() const override { return {"/Users", true}; }
+
+    [[nodiscard]] std::string equivalentLocation(
+        LocationKind kind, const std::string& homeDirectory) const override
+    {
+        const auto found = equivalents.find(kind);
+        return found != equivalents.end() ? homeDirectory + found->second : std::string();
+    }
+
+    std::map<LocationKind, std::string> equivalents; ///< below the home directory
 };
 
 /// All that a RootModel needs, in memory.

@@ -52,24 +52,31 @@ bool LinuxResourceValues::isVolume(const std::string& path) const
     return answer.value_or(false);
 }
 
+bool LinuxResourceValues::isDirectory(const std::string& path) const
+{
+    const std::optional<FileStatus> found = status(path, LinkMode::Follow);
+    return found && found->isDirectory;
+}
+
 std::optional<std::uint64_t> LinuxResourceValues::allocatedSize(const std::string& path) const
 {
-    const std::optional<FileStatus> found = status(path);
+    const std::optional<FileStatus> found = status(path, LinkMode::Keep);
     return found ? std::optional(found->allocatedBytes) : std::nullopt;
 }
 
 std::optional<std::int64_t> LinuxResourceValues::contentModificationDate(
     const std::string& path) const
 {
-    const std::optional<FileStatus> found = status(path);
+    const std::optional<FileStatus> found = status(path, LinkMode::Keep);
     return found ? std::optional(found->modified) : std::nullopt;
 }
 
-std::optional<FileStatus> LinuxResourceValues::status(const std::string& path) const
+std::optional<FileStatus> LinuxResourceValues::status(
+    const std::string& path, LinkMode linkMode) const
 {
     return callWithin<FileStatus>(
-        m_timeLimit, [query = m_query, path]() -> std::optional<FileStatus> {
-            const StatusResult found = query(path, LinkMode::Keep);
+        m_timeLimit, [query = m_query, path, linkMode]() -> std::optional<FileStatus> {
+            const StatusResult found = query(path, linkMode);
             return found ? std::optional(found.status) : std::nullopt;
         });
 }

@@ -21,6 +21,8 @@ public:
     /// A symbolic link is followed, as by the walk that starts there.
     [[nodiscard]] bool isVolume(const std::string& path) const override;
 
+    [[nodiscard]] bool isDirectory(const std::string& path) const override;
+
     [[nodiscard]] std::optional<std::uint64_t> allocatedSize(
         const std::string& path) const override;
 
@@ -29,7 +31,7 @@ public:
         const std::string& path) const override;
 
 private:
-    std::optional<FileStatus> status(const std::string& path) const;
+    std::optional<FileStatus> status(const std::string& path, LinkMode linkMode) const;
 
     Query m_query;
     std::chrono::milliseconds m_timeLimit;

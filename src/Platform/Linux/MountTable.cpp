@@ -23,38 +23,20 @@ bool isOctal(char c)
     return c >= '0' && c <= '7';
 }
 
-/// Space, tab, newline and backslash are written as a backslash and three octal digits.
-std::string unescaped(std::string_view text)
-{
-    constexpr std::size_t kDigits = 3;
-    constexpr int kOctal = 8;
-    std::string bytes;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const std::string_view digits = text.substr(i + 1, kDigits);
-        if (text[i] != '\\' || digits.size() != kDigits
-            || !std::all_of(digits.begin(), digits.end(), isOctal)) {
-            bytes += text[i];
-            continue;
-        }
-        unsigned value = 0;
-        std::from_chars(digits.data(), digits.data() + digits.size(), value, kOctal);
-        bytes += static_cast<char>(value);
-        i += kDigits;
-    }
-    return bytes;
-}
-
 /// Of "36 35 98:0 /root /mount/point rw,noatime master:1 - ext3 /dev/root rw".
 std::optional<Mount> mountFrom(std::string_view line)
 {
     const std::string_view id = takeUntil(line, ' ');
-    for (const char* skipped : {"parent", "device", "root"}) {
-        (void)skipped;
-        takeUntil(line, ' ');
-    }
+    takeUntil(line, ' '); // the mount that it is mounted in
     Mount mount;
     const auto read = std::from_chars(id.data(), id.data() + id.size(), mount.id);
-    mount.point = unescaped(takeUntil(line, ' '));
+    mount.device = takeUntil(line, ' ');
+    mount.root = unescapedMountField(takeUntil(line, ' '));
+    mount.point = unescapedMountField(takeUntil(line, ' '));
+    // Options follow, and fields whose number differs; a lone hyphen ends them.
+    while (!line.empty() && takeUntil(line, ' ') != "-") { }
+    mount.fileSystemType = takeUntil(line, ' ');
+    mount.source = unescapedMountField(takeUntil(line, ' '));
     const bool isWhole = read.ec == std::errc() && read.ptr == id.data() + id.size();
     return isWhole && mount.point.starts_with('/') ? std::optional(std::move(mount)) : std::nullopt;
 }
@@ -95,6 +77,26 @@ bool MountTable::hasMountInside(std::string_view folder) const
     return std::any_of(m_mounts.begin(), m_mounts.end(), [folder](const Mount& mount) {
         return mount.point != folder && isAtOrInside(mount.point, folder);
     });
+}
+
+std::string unescapedMountField(std::string_view field)
+{
+    constexpr std::size_t kDigits = 3;
+    constexpr int kOctal = 8;
+    std::string bytes;
+    for (std::size_t i = 0; i < field.size(); ++i) {
+        const std::string_view digits = field.substr(i + 1, kDigits);
+        if (field[i] != '\\' || digits.size() != kDigits
+            || !std::all_of(digits.begin(), digits.end(), isOctal)) {
+            bytes += field[i];
+            continue;
+        }
+        unsigned value = 0;
+        std::from_chars(digits.data(), digits.data() + digits.size(), value, kOctal);
+        bytes += static_cast<char>(value);
+        i += kDigits;
+    }
+    return bytes;
 }
 
 bool isAtOrInside(std::string_view path, std::string_view folder)

@@ -12,7 +12,11 @@ namespace tessera {
 /// One line of the kernel's table of mounts.
 struct Mount {
     std::uint64_t id = 0;
+    std::string device; ///< numbers of the device, like "8:1"
+    std::string root; ///< which of the file system's folders is mounted; absolute path as bytes
     std::string point; ///< absolute path as bytes
+    std::string fileSystemType;
+    std::string source; ///< what the file system says that it is on: a device's path, a share
 };
 
 /// What is mounted where, as the kernel tells it at one moment.
@@ -25,6 +29,9 @@ public:
     /// Of this process; empty when the system does not tell.
     static MountTable ofThisProcess();
 
+    /// In the kernel's order, a mount after those that it may cover.
+    const std::vector<Mount>& mounts() const { return m_mounts; }
+
     /// The mount that a path without links lies on: the one with the longest mount point above it,
     /// and of several at that point the last. With `id`, only the mount of that number: another
     /// may be covered by one mounted higher up later. Nothing when there is none.
@@ -36,6 +43,10 @@ public:
 private:
     std::vector<Mount> m_mounts;
 };
+
+/// A field of that table as bytes: in it, space, tab, newline and backslash are each written as a
+/// backslash and three octal digits.
+[[nodiscard]] std::string unescapedMountField(std::string_view field);
 
 /// Whether the path is the folder or lies somewhere inside it. Both without trailing slashes.
 [[nodiscard]] bool isAtOrInside(std::string_view path, std::string_view folder);

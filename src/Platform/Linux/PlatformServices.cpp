@@ -9,6 +9,7 @@
 #include "Platform/Linux/LinuxFileManager.h"
 #include "Platform/Linux/LinuxFileReader.h"
 #include "Platform/Linux/LinuxFileSystemAttributes.h"
+#include "Platform/Linux/LinuxMountedVolumes.h"
 #include "Platform/Linux/LinuxResourceValues.h"
 #include "Platform/Linux/LinuxStandardFolders.h"
 #include "Platform/Linux/LinuxUserAccount.h"
@@ -56,8 +57,9 @@ PlatformServices makePlatformServices()
     returnLargeBlocksAtOnce();
     PlatformServices services;
     services.fileManager = std::make_unique<LinuxFileManager>();
-    services.resourceValues = std::make_unique<LinuxResourceValues>();
-    services.fileSystemAttributes = std::make_unique<LinuxFileSystemAttributes>();
+    services.resourceValues = std::make_shared<const LinuxResourceValues>();
+    services.fileSystemAttributes = std::make_shared<const LinuxFileSystemAttributes>();
+    services.mountedVolumes = std::make_unique<LinuxMountedVolumes>();
     services.fileAccess = std::make_unique<LinuxFileAccess>();
     services.fileReader = std::make_shared<LinuxFileReader>();
     services.standardFolders = std::make_unique<LinuxStandardFolders>();

@@ -57,6 +57,17 @@ TEST(LinuxResourceValues, WhatIsNotThereIsNone)
     EXPECT_FALSE(LinuxResourceValues().isVolume("/no/such/path"));
 }
 
+TEST(LinuxResourceValues, AFolderAndALinkToOneAreDirectories)
+{
+    const TempTree tree;
+    tree.makeFile("file");
+    tree.makeSymbolicLink("link", ".");
+    EXPECT_TRUE(LinuxResourceValues().isDirectory(tree.path()));
+    EXPECT_TRUE(LinuxResourceValues().isDirectory(tree.pathOf("link")));
+    EXPECT_FALSE(LinuxResourceValues().isDirectory(tree.pathOf("file")));
+    EXPECT_FALSE(LinuxResourceValues().isDirectory(tree.pathOf("nothing")));
+}
+
 TEST(LinuxResourceValues, OnOldKernelsADeviceOfItsOwnMakesAVolume)
 {
     const LinuxResourceValues values(

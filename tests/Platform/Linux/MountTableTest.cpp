@@ -71,6 +71,17 @@ TEST(MountTable, LinesThatCannotBeReadAreLeftOut)
     EXPECT_EQ(pointOf(mounts.mountOf("/a/b", {})), "/");
 }
 
+TEST(MountTable, KnowsWhatIsMountedAndFromWhere)
+{
+    const MountTable mounts("7 1 8:3 /a\\040b /x rw shared:1 master:2 - ext4 /dev/a\\040b rw\n");
+    ASSERT_EQ(mounts.mounts().size(), 1U);
+    const Mount& mount = mounts.mounts().front();
+    EXPECT_EQ(mount.device, "8:3");
+    EXPECT_EQ(mount.root, "/a b");
+    EXPECT_EQ(mount.fileSystemType, "ext4");
+    EXPECT_EQ(mount.source, "/dev/a b");
+}
+
 TEST(MountTable, KnowsWhatIsMountedInsideAFolder)
 {
     const MountTable mounts(kTable);

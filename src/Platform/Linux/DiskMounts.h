@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Model/MountedVolumes.h"
+#include "Platform/Linux/MountTable.h"
+
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tessera {
+
+/// Those mounts that a user calls a disk: the root, block devices and network shares, each only
+/// once, without what the system mounts for itself and without the hidden points.
+[[nodiscard]] std::vector<MountedVolume> diskMounts(
+    const MountTable& mounts, const std::set<std::string>& hiddenPoints);
+
+/// What kind of volume a mount is.
+[[nodiscard]] MountedVolume volumeOf(const Mount& mount);
+
+/// The mount points that are to be hidden from users ("x-gvfs-hide"), of a text like /etc/fstab.
+/// https://man7.org/linux/man-pages/man5/fstab.5.html
+[[nodiscard]] std::set<std::string> pointsHiddenInFstab(std::string_view fstab);
+
+} // namespace tessera

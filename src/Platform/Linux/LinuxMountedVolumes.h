@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Model/MountedVolumes.h"
+#include "Platform/Linux/FileDescriptor.h"
+#include "Platform/Linux/MountTable.h"
+
+#include <string>
+
+namespace tessera {
+
+/// The kernel's table of mounts, read again when the kernel says that it has changed.
+class LinuxMountedVolumes final : public MountedVolumes {
+public:
+    /// Tests pass files of their own.
+    explicit LinuxMountedVolumes(
+        const std::string& mountInfo = "/proc/self/mountinfo", std::string fstab = "/etc/fstab");
+
+    [[nodiscard]] std::vector<MountedVolume> mountedVolumes() const override;
+    [[nodiscard]] std::optional<MountedVolume> volumeAt(const std::string& path) const override;
+
+private:
+    const MountTable& table() const;
+    bool hasChanged() const;
+
+    FileDescriptor m_mountInfo;
+    std::string m_fstab;
+    mutable std::optional<MountTable> m_table;
+};
+
+} // namespace tessera

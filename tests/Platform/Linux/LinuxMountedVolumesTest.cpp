@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/Linux/LinuxMountedVolumes.h"
+
+#include "support/ChildProcess.h"
+#include "support/OwnMounts.h"
+#include "support/TempTree.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+namespace tessera::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class LinuxMountedVolumesTest : public testing::Test {
+protected:
+    std::string write(const std::string& name, const std::string& text) const
+    {
+        std::ofstream(m_tree.pathOf(name)) << text;
+        return m_tree.pathOf(name);
+    }
+
+    TempTree m_tree;
+    std::string m_table = write(
+        "mountinfo",
+        "1 0 8:1 / / rw - ext4 /dev/sda1 rw\n"
+        "2 1 0:5 / /proc rw - proc proc rw\n"
+        "3 1 8:2 / /data rw - ext4 /dev/sda2 rw\n");
+};
+
+TEST_F(LinuxMountedVolumesTest, AreThoseOfTheTableThatAreNotHidden)
+{
+    const LinuxMountedVolumes volumes(
+        m_table, write("fstab", "/dev/sda2 /data ext4 x-gvfs-hide\n"));
+    EXPECT_THAT(
+        volumes.mountedVolumes(),
+        ElementsAre(MountedVolume{Url("/", true), MountedVolume::Kind::Disk}));
+}
+
+TEST_F(LinuxMountedVolumesTest, AVolumeIsKnownByItsPoint)
+{
+    const LinuxMountedVolumes volumes(m_table, "/no/such/fstab");
+    EXPECT_TRUE(volumes.volumeAt("/data").has_value());
+    EXPECT_TRUE(volumes.volumeAt("/proc").has_value()) << "though no disk";
+    EXPECT_FALSE(volumes.volumeAt("/data/folder").has_value());
+}
+
+TEST_F(LinuxMountedVolumesTest, WithoutATableThereAreNone)
+{
+    const LinuxMountedVolumes volumes("/no/such/table", "/no/such/fstab");
+    EXPECT_THAT(volumes.mountedVolumes(), IsEmpty());
+    EXPECT_FALSE(volumes.volumeAt("/").has_value());
+}
+
+TEST_F(LinuxMountedVolumesTest, WhatIsMountedLaterIsSeen)
+{
+    if (!OwnMounts::enter()) {
+        GTEST_SKIP() << "this process may not mount";
+    }
+    m_tree.makeFolder("disk");
+    const LinuxMountedVolumes volumes("/proc/self/mountinfo", "/no/such/fstab");
+    EXPECT_FALSE(volumes.volumeAt(m_tree.pathOf("disk")).has_value());
+    OwnMounts mounts;
+    mounts.mountMemory(m_tree.pathOf("disk"));
+    EXPECT_TRUE(volumes.volumeAt(m_tree.pathOf("disk")).has_value());
+}
+
+} // namespace
+} // namespace tessera::test
