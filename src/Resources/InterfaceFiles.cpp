@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "Resources/InterfaceFiles.h"
 
+#include "ui_CollectionHeaderView.h"
 #include "ui_CompressWindow.h"
+#include "ui_FolderCollectionView.h"
+#include "ui_HomeViewController.h"
 #include "ui_PreferencesWindowController.h"
 #include "ui_ScanningViewController.h"
 #include "ui_TreeTooltip.h"
+#include "ui_VolumeCollectionView.h"
 
 #include <algorithm>
 #include <array>
@@ -27,11 +31,18 @@ std::unique_ptr<QWidget> instantiate()
 }
 
 constexpr std::array kInterfaceFiles{
+    InterfaceFile{
+        "CollectionHeaderView", &instantiate<Ui::CollectionHeaderView, CollectionHeaderView>},
     InterfaceFile{"CompressWindow", &instantiate<Ui::CompressWindow, QDialog>},
+    InterfaceFile{
+        "FolderCollectionView", &instantiate<Ui::FolderCollectionView, FolderCollectionView>},
+    InterfaceFile{"HomeViewController", &instantiate<Ui::HomeViewController, QWidget>},
     InterfaceFile{
         "PreferencesWindowController", &instantiate<Ui::PreferencesWindowController, QDialog>},
     InterfaceFile{"ScanningViewController", &instantiate<Ui::ScanningViewController, QWidget>},
     InterfaceFile{"TreeTooltip", &instantiate<Ui::TreeTooltip, TooltipWindow>},
+    InterfaceFile{
+        "VolumeCollectionView", &instantiate<Ui::VolumeCollectionView, VolumeCollectionView>},
 };
 
 } // namespace

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#include "Shell/FolderCollectionView.h"
+
+#include "Shell/HomeColors.h"
+#include "Shell/NonBlockingTextField.h"
+#include "Utils/DisplayText.h"
+
+#include <QLabel>
+
+namespace tessera {
+
+namespace {
+
+constexpr double kDisabledAlpha = 0.6;
+
+} // namespace
+
+void FolderCollectionView::setUrl(const Url& url, const QIcon& icon, const QString& name)
+{
+    HomeItemView::setUrl(url);
+    imageView().setPixmap(icon.pixmap(imageView().maximumSize(), devicePixelRatioF()));
+    if (!name.isEmpty()) {
+        nameLabel().setText(name);
+        setAccessibleName(name);
+    }
+    setToolTip(displayText(url.path()));
+    updateColors();
+}
+
+QLabel& FolderCollectionView::imageView() const
+{
+    return *findChild<QLabel*>(QStringLiteral("imageView"));
+}
+
+NonBlockingTextField& FolderCollectionView::nameLabel() const
+{
+    return *findChild<NonBlockingTextField*>(QStringLiteral("nameLabel"));
+}
+
+void FolderCollectionView::updateColors()
+{
+    const HomeColors colors(palette());
+    nameLabel().setTextColor(selected() ? colors.selectedName : colors.name);
+}
+
+void FolderCollectionView::updateAlphaValue()
+{
+    setAlphaValue(disabled() ? kDisabledAlpha : 1.0);
+}
+
+} // namespace tessera

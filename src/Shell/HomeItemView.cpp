@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "Shell/HomeItemView.h"
+
+#include "Shell/SelectionBackground.h"
+
+#include <QEvent>
+#include <QGraphicsOpacityEffect>
+#include <QPainter>
+
+namespace tessera {
+
+void HomeItemView::setSelected(bool selected)
+{
+    m_selected = selected;
+    updateColors();
+    update();
+}
+
+void HomeItemView::setDisabled(bool disabled)
+{
+    m_disabled = disabled;
+    updateAlphaValue();
+    update();
+}
+
+double HomeItemView::alphaValue() const
+{
+    const auto* const effect = qobject_cast<QGraphicsOpacityEffect*>(graphicsEffect());
+    return effect != nullptr ? effect->opacity() : 1.0;
+}
+
+void HomeItemView::setAlphaValue(double alpha)
+{
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the view owns it
+    auto* const effect = new QGraphicsOpacityEffect;
+    effect->setOpacity(alpha);
+    setGraphicsEffect(effect);
+}
+
+void HomeItemView::paintEvent(QPaintEvent* /*event*/)
+{
+    if (m_selected) {
+        QPainter painter(this);
+        paintSelectionBackground(painter, rect(), palette(), isActiveWindow());
+    }
+}
+
+void HomeItemView::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange) {
+        updateColors();
+    } else if (event->type() == QEvent::ActivationChange) {
+        update();
+    }
+    CollectionItemView::changeEvent(event);
+}
+
+} // namespace tessera

@@ -1,0 +1,328 @@
+// SPDX-License-Identifier: MIT
+#include "Shell/HomeViewController.h"
+
+#include "Model/NotificationCenter.h"
+#include "Model/RootModel.h"
+#include "Shell/CollectionHeaderView.h"
+#include "Shell/FolderCollectionView.h"
+#include "Shell/HiddenButtonCell.h"
+#include "Shell/NonBlockingTextField.h"
+#include "Shell/PlaceIcons.h"
+#include "Shell/PlaceNames.h"
+#include "Shell/RecentsTableCell.h"
+#include "Shell/RecentsTableModel.h"
+#include "Shell/SectionedCollectionView.h"
+#include "Shell/VolumeCollectionView.h"
+#include "Utils/Log.h"
+#include "Utils/UserAccount.h"
+#include "Utils/Util.h"
+
+#include <QListView>
+#include <QShortcut>
+
+#include <algorithm>
+#include <utility>
+
+namespace tessera {
+
+namespace {
+
+constexpr int kVolumes = 0;
+constexpr int kSections = 2;
+constexpr double kLeastVolumeWidth = 200;
+constexpr double kGreatestVolumeWidth = 400;
+constexpr double kLeastLocationWidth = 100;
+constexpr double kGreatestLocationWidth = 200;
+
+/// Long enough for any file system that is alive and awake, and too short to be noticed.
+constexpr std::chrono::milliseconds kPatience{50};
+
+std::optional<Location> firstDirectory(
+    const LocationCandidate& candidate, const ResourceValues& resourceValues)
+{
+    for (const std::string& path : candidate.paths) {
+        if (resourceValues.isDirectory(path)) {
+            return Location{candidate.kind, Url(path, true)};
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+HomeViewController::HomeViewController(RootModel& model, const HomeViewServices& services)
+    : m_model(model)
+    , m_services(services)
+    , m_realHomeDirectory(Util::realHomeDirectory(services.account))
+    , m_view(Util::loadViewFromNib<QWidget>("HomeViewController"))
+{
+    loadView();
+}
+
+HomeViewController::~HomeViewController() = default;
+
+HiddenButtonCell& HomeViewController::openButton() const
+{
+    return *m_view->findChild<HiddenButtonCell*>(QStringLiteral("openButton"));
+}
+
+SectionedCollectionView& HomeViewController::locationsCollection() const
+{
+    return *m_view->findChild<SectionedCollectionView*>(QStringLiteral("locationsCollection"));
+}
+
+QListView& HomeViewController::recentsTable() const
+{
+    return *m_view->findChild<QListView*>(QStringLiteral("recentsTable"));
+}
+
+QPushButton& HomeViewController::scanButton() const
+{
+    return *m_view->findChild<QPushButton*>(QStringLiteral("scanButton"));
+}
+
+QPushButton& HomeViewController::clearRecentsButton() const
+{
+    return *m_view->findChild<QPushButton*>(QStringLiteral("clearRecentsButton"));
+}
+
+void HomeViewController::loadView()
+{
+    openButton().setShowsBorderOnlyWhileMouseInside(true);
+    openButton().setIcon(plainFolderIcon());
+    connectControls();
+    loadVolumes();
+    if (!m_model.isRunningAsRoot()) {
+        const auto candidates = locationCandidates(m_realHomeDirectory, m_services.standardFolders);
+        m_foundLocations.resize(candidates.size());
+        for (std::size_t place = 0; place < candidates.size(); ++place) {
+            askForLocation(place, candidates[place]);
+        }
+    }
+    m_questions.waitBriefly(kPatience);
+    m_isGridLoaded = true;
+    takeLocations();
+    locationsCollection().reloadData();
+    loadRecents();
+}
+
+void HomeViewController::connectControls()
+{
+    SectionedCollectionView& grid = locationsCollection();
+    m_gridDelegate.didSelectView = [this](CollectionItemView& item, int, int) {
+        dynamic_cast<HomeItemView&>(item).setSelected(true);
+        recentsTable().clearSelection();
+    };
+    m_gridDelegate.didDeselectView = [](CollectionItemView& item, int, int) {
+        dynamic_cast<HomeItemView&>(item).setSelected(false);
+    };
+    m_gridDelegate.didDoubleClickView = [this](CollectionItemView&, int, int) { scanSelected(); };
+    grid.setDataSource(this);
+    grid.setDelegate(&m_gridDelegate);
+    auto* const scrollView = m_view->findChild<QScrollArea*>(QStringLiteral("locationsScrollView"));
+    scrollView->viewport()->setBackgroundRole(QPalette::Base);
+    grid.setScrollView(scrollView);
+    connect(&openButton(), &QPushButton::clicked, this, &HomeViewController::openFolder);
+    connect(&scanButton(), &QPushButton::clicked, this, &HomeViewController::scanSelected);
+    connect(&clearRecentsButton(), &QPushButton::clicked, this, &HomeViewController::clearList);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the view owns it
+        auto* const shortcut = new QShortcut(QKeySequence(key), m_view.get());
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(shortcut, &QShortcut::activated, &scanButton(), &QPushButton::click);
+    }
+}
+
+void HomeViewController::loadVolumes()
+{
+    m_volumes = m_services.volumes.mountedVolumes();
+    for (const MountedVolume& volume : m_volumes) {
+        askForSizes(volume.url.path());
+    }
+}
+
+void HomeViewController::askForSizes(const std::string& path)
+{
+    using Sizes = std::optional<FileSystemSizes>;
+    m_questions.ask<Sizes>(
+        [attributes = m_services.fileSystemAttributes, path] {
+            return attributes->attributesOfFileSystem(path);
+        },
+        [this, path](const Sizes& sizes) {
+            m_sizes.insert_or_assign(path, sizes);
+            for (auto* const view : m_view->findChildren<VolumeCollectionView*>()) {
+                if (view->url().path() == path) {
+                    view->setFileSystemSizes(sizes);
+                }
+            }
+        });
+}
+
+void HomeViewController::askForLocation(std::size_t place, const LocationCandidate& candidate)
+{
+    m_questions.ask<std::optional<Location>>(
+        [resourceValues = m_services.resourceValues, candidate] {
+            return firstDirectory(candidate, *resourceValues);
+        },
+        [this, place](const std::optional<Location>& found) {
+            m_foundLocations[place] = found;
+            if (m_isGridLoaded && found.has_value()) {
+                takeLocations();
+                locationsCollection().reloadData();
+            }
+        });
+}
+
+void HomeViewController::takeLocations()
+{
+    m_locations.clear();
+    for (const std::optional<Location>& found : m_foundLocations) {
+        if (found) {
+            m_locations.push_back(*found);
+        }
+    }
+    m_locations = withoutRepeatedFolders(m_locations);
+}
+
+void HomeViewController::loadRecents()
+{
+    // NOLINTBEGIN(cppcoreguidelines-owning-memory): the view owns them
+    m_recents = new RecentsTableModel(m_model.recents(), m_view.get());
+    auto* const cell = new RecentsTableCell(
+        {m_services.volumes,
+         m_services.account.homeDirectory(),
+         m_realHomeDirectory,
+         [this](const Url& folder) { return iconOfRecent(folder); },
+         m_services.today},
+        m_view.get());
+    // NOLINTEND(cppcoreguidelines-owning-memory)
+    QListView& table = recentsTable();
+    table.setModel(m_recents);
+    table.setItemDelegate(cell);
+    table.setCurrentIndex(m_recents->index(0));
+    connect(&table, &QListView::doubleClicked, this, &HomeViewController::scanSelected);
+    connect(
+        table.selectionModel(),
+        &QItemSelectionModel::selectionChanged,
+        this,
+        &HomeViewController::recentSelected);
+    const bool hasRecents = m_recents->rowCount() > 0;
+    m_view->setFocusProxy(hasRecents ? static_cast<QWidget*>(&table) : &locationsCollection());
+}
+
+QIcon HomeViewController::iconOfRecent(const Url& folder) const
+{
+    if (const auto volume = m_services.volumes.volumeAt(folder.path())) {
+        return volumeIcon(volume->kind);
+    }
+    const auto found = std::ranges::find(m_locations, folder, &Location::url);
+    return found != m_locations.end() ? locationIcon(found->kind) : plainFolderIcon();
+}
+
+void HomeViewController::setEnabled(bool enabled)
+{
+    m_enabled = enabled;
+    openButton().setEnabled(enabled);
+    clearRecentsButton().setEnabled(enabled);
+    scanButton().setEnabled(enabled);
+    recentsTable().setEnabled(enabled);
+    locationsCollection().setEnabled(enabled);
+    scanButton().setVisible(enabled);
+    clearRecentsButton().setVisible(enabled);
+}
+
+void HomeViewController::scanSelected()
+{
+    if (const int row = selectedRecent(); row >= 0) {
+        scanURL(Url(m_recents->record(row).path, true));
+        return;
+    }
+    const int section = locationsCollection().selectedSection();
+    const int index = locationsCollection().selectedIndex();
+    if (section < 0 || index < 0) {
+        return;
+    }
+    const auto place = static_cast<std::size_t>(index);
+    scanURL(section == kVolumes ? m_volumes.at(place).url : m_locations.at(place).url);
+}
+
+void HomeViewController::scanURL(const Url& url)
+{
+    logLine("scanning %s", url.absoluteString().c_str());
+    // The sender may be gone when all observers have been told: a copy outlives it.
+    const Url copy = url;
+    NotificationCenter::defaultCenter().post("ScanURL", copy);
+}
+
+void HomeViewController::clearList()
+{
+    m_model.recents().clearList();
+    m_recents->reload();
+}
+
+void HomeViewController::recentSelected()
+{
+    if (selectedRecent() >= 0) {
+        locationsCollection().deselectAll();
+    }
+}
+
+int HomeViewController::selectedRecent() const
+{
+    const QModelIndexList rows = recentsTable().selectionModel()->selectedIndexes();
+    return rows.isEmpty() ? -1 : rows.first().row();
+}
+
+int HomeViewController::numberOfSections() const
+{
+    return kSections;
+}
+
+int HomeViewController::numberOfViewsInSection(int section) const
+{
+    return static_cast<int>(section == kVolumes ? m_volumes.size() : m_locations.size());
+}
+
+double HomeViewController::minimumWidthInSection(int section) const
+{
+    return section == kVolumes ? kLeastVolumeWidth : kLeastLocationWidth;
+}
+
+double HomeViewController::maximumWidthInSection(int section) const
+{
+    return section == kVolumes ? kGreatestVolumeWidth : kGreatestLocationWidth;
+}
+
+std::unique_ptr<QWidget> HomeViewController::headerForSection(int section)
+{
+    auto header = Util::loadViewFromNib<CollectionHeaderView>("CollectionHeaderView");
+    header->nameLabel().setText(section == kVolumes ? tr("Disks") : tr("Locations"));
+    return header;
+}
+
+std::unique_ptr<CollectionItemView> HomeViewController::viewForSection(int section, int index)
+{
+    const auto place = static_cast<std::size_t>(index);
+    return section == kVolumes ? volumeView(m_volumes.at(place))
+                               : locationView(m_locations.at(place));
+}
+
+std::unique_ptr<CollectionItemView> HomeViewController::volumeView(const MountedVolume& volume)
+{
+    auto view = Util::loadViewFromNib<VolumeCollectionView>("VolumeCollectionView");
+    view->setUrl(volume.url, volumeIcon(volume.kind));
+    const auto sizes = m_sizes.find(volume.url.path());
+    if (sizes != m_sizes.end()) {
+        view->setFileSystemSizes(sizes->second);
+    }
+    return view;
+}
+
+std::unique_ptr<CollectionItemView> HomeViewController::locationView(const Location& location) const
+{
+    auto view = Util::loadViewFromNib<FolderCollectionView>("FolderCollectionView");
+    view->setUrl(location.url, locationIcon(location.kind), localizedLocationName(location));
+    return view;
+}
+
+} // namespace tessera

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#include "Shell/PlaceNames.h"
+
+#include "Model/Url.h"
+#include "Shell/Locations.h"
+#include "Utils/DisplayText.h"
+
+#include <QCoreApplication>
+
+namespace tessera {
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("PlaceNames", text);
+}
+
+} // namespace
+
+QString localizedVolumeName(const Url& volume)
+{
+    return volume.path() == "/" ? tr("File System") : displayText(volume.lastPathComponent());
+}
+
+QString localizedLocationName(const Location& location)
+{
+    switch (location.kind) {
+    case LocationKind::Applications:
+        return tr("Applications");
+    case LocationKind::Library:
+        return tr("App Data");
+    case LocationKind::Trash:
+        return tr("Trash");
+    default:
+        return displayText(location.url.lastPathComponent());
+    }
+}
+
+QString pathWithTilde(const std::string& path, const std::string& homeDirectory)
+{
+    std::string text = path;
+    std::size_t place = homeDirectory.empty() ? std::string::npos : text.find(homeDirectory);
+    while (place != std::string::npos) {
+        text.replace(place, homeDirectory.size(), 1, '~');
+        place = text.find(homeDirectory, place + 1);
+    }
+    return displayText(text);
+}
+
+} // namespace tessera

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Shell/HomeColors.h"
+
+#include <QDate>
+#include <QStyledItemDelegate>
+
+#include <functional>
+#include <string>
+
+class QIcon;
+
+namespace tessera {
+
+class MountedVolumes;
+class Url;
+struct RecentRecord;
+
+/// Draws one recent scan: icon, title, when it was and how large the folder was then, each in a
+/// fixed place of the row.
+class RecentsTableCell final : public QStyledItemDelegate {
+    Q_OBJECT
+
+public:
+    /// What the cell asks for; all of it must outlive the cell.
+    struct Services {
+        const MountedVolumes& volumes;
+        std::string homeDirectory; ///< of the process
+        std::string realHomeDirectory; ///< of the user who started it
+        std::function<QIcon(const Url& folder)> icon;
+        std::function<QDate()> today = QDate::currentDate;
+    };
+
+    explicit RecentsTableCell(Services services, QObject* parent = nullptr);
+
+    QString title(const RecentRecord& record) const;
+    QString subtitle(const RecentRecord& record) const;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index)
+        const override;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+
+private:
+    struct Style {
+        QFont font;
+        QColor color;
+        Qt::Alignment alignment;
+    };
+
+    Style titleStyle(const QStyleOptionViewItem& option) const;
+    Style subtitleStyle(const QStyleOptionViewItem& option) const;
+    Style fileSizeStyle(const QStyleOptionViewItem& option) const;
+    static void drawText(
+        QPainter& painter, const QRect& box, const QString& text, const Style& style);
+
+    Services m_services;
+};
+
+} // namespace tessera

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#include "Shell/RoundHeaderView.h"
+
+#include "Shell/GradientPanel.h"
+#include "Shell/HomeColors.h"
+
+#include <QPainter>
+
+namespace tessera {
+
+void RoundHeaderView::paintEvent(QPaintEvent* /*event*/)
+{
+    constexpr double kRadius = 8;
+    const HomeColors colors(palette());
+    QPainter painter(this);
+    paintGradientPanel(
+        painter, rect(), kRadius, {colors.panelTop, colors.panelBottom, colors.outline});
+}
+
+} // namespace tessera

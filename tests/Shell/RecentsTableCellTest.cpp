@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: MIT
+#include "Shell/RecentsTableCell.h"
+
+#include "Model/RootModel.h"
+#include "Shell/RecentsTableModel.h"
+#include "TreeView/ColorHelper.h"
+#include "TreeView/MediumDate.h"
+#include "support/FakePlaces.h"
+#include "support/FakeRootModelServices.h"
+
+#include <QDateTime>
+#include <QIcon>
+#include <QImage>
+#include <QPainter>
+
+#include <gtest/gtest.h>
+
+namespace tessera {
+namespace {
+
+const QDate kToday(2026, 11, 21);
+
+std::chrono::sys_seconds noonOf(const QDate& day)
+{
+    const qint64 seconds = QDateTime(day, QTime(12, 0)).toSecsSinceEpoch();
+    return std::chrono::sys_seconds(std::chrono::seconds(seconds));
+}
+
+QIcon redIcon(const Url& /*folder*/)
+{
+    QPixmap picture(64, 64);
+    picture.fill(Qt::red);
+    return picture;
+}
+
+class RecentsTableCellTest : public testing::Test {
+protected:
+    QString title(const std::string& path) const { return cell.title({path, 0, {}}); }
+    QString subtitle(const QDate& day) const { return cell.subtitle({"/", 0, noonOf(day)}); }
+
+    /// The row of a scan of 1.2 GB.
+    QImage picture(bool isSelected)
+    {
+        const RecentRecord record{"/data/one", 1234567890, noonOf(kToday)};
+        services.defaults.setRecentRecords(kRecentsKey, {record});
+        services.documents.urls = {Url("/data/one", true)};
+        RootModel rootModel(services.get());
+        const RecentsTableModel model(rootModel.recents());
+        QStyleOptionViewItem option;
+        option.rect = QRect(0, 0, 290, 48);
+        option.palette.setColor(QPalette::Base, Qt::white);
+        option.state = QStyle::State_Enabled | QStyle::State_Active;
+        option.state.setFlag(QStyle::State_Selected, isSelected);
+        QImage image(option.rect.size(), QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        cell.paint(&painter, option, model.index(0));
+        return image;
+    }
+
+    test::FakeRootModelServices services;
+    test::FakeMountedVolumes volumes;
+    RecentsTableCell cell{{volumes, "/home/me", "/real/me", redIcon, [] { return kToday; }}};
+};
+
+/// Where something other than the background was drawn inside the box.
+QRect inkIn(const QImage& image, const QRect& box, const QColor& background)
+{
+    QRect ink;
+    for (int y = box.top(); y <= box.bottom(); ++y) {
+        for (int x = box.left(); x <= box.right(); ++x) {
+            if (image.pixelColor(x, y) != background) {
+                ink |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    return ink;
+}
+
+TEST_F(RecentsTableCellTest, TheRealUsersHomeIsATilde)
+{
+    EXPECT_EQ(title("/real/me"), QStringLiteral("~"));
+    EXPECT_EQ(title("/real/me/docs"), QStringLiteral("~/docs"));
+    EXPECT_EQ(title("/mnt/real/me/real/me"), QStringLiteral("/mnt~~"));
+    EXPECT_EQ(title("/home/me"), QStringLiteral("/home/me"));
+}
+
+TEST_F(RecentsTableCellTest, AVolumeIsCalledByItsName)
+{
+    volumes.list = {{Url("/mnt/data", true), MountedVolume::Kind::Disk}};
+    EXPECT_EQ(title("/mnt/data"), QStringLiteral("data"));
+    EXPECT_EQ(title("/mnt/data/docs"), QStringLiteral("/mnt/data/docs"));
+}
+
+TEST_F(RecentsTableCellTest, AVolumeThatIsTheProcesssHomeIsCalledByItsPath)
+{
+    volumes.list
+        = {{Url("/home/me", true), MountedVolume::Kind::Disk},
+           {Url("/real/me", true), MountedVolume::Kind::Disk}};
+    EXPECT_EQ(title("/home/me"), QStringLiteral("/home/me"));
+    EXPECT_EQ(title("/real/me"), QStringLiteral("me"));
+}
+
+TEST_F(RecentsTableCellTest, RecentDaysAreWords)
+{
+    EXPECT_EQ(subtitle(kToday), QStringLiteral("Last Scan: Today"));
+    EXPECT_EQ(subtitle(kToday.addDays(-1)), QStringLiteral("Last Scan: Yesterday"));
+    const QDate other = kToday.addDays(-2);
+    EXPECT_EQ(
+        subtitle(other),
+        QStringLiteral("Last Scan: ")
+            + mediumDate(noonOf(other).time_since_epoch().count(), QLocale()));
+}
+
+TEST_F(RecentsTableCellTest, TheIconHasAFixedPlace)
+{
+    const QImage image = picture(false);
+    const QRect icon = inkIn(image, QRect(0, 0, 52, 48), Qt::white);
+    EXPECT_TRUE(QRect(7, 4, 38, 39).contains(icon));
+    EXPECT_GE(icon.width(), 37);
+    EXPECT_EQ(image.pixelColor(26, 23), QColor(Qt::red));
+}
+
+TEST_F(RecentsTableCellTest, TheTextsHaveFixedPlaces)
+{
+    const QImage image = picture(false);
+    const QRect title = inkIn(image, QRect(50, 0, 240, 28), Qt::white);
+    EXPECT_TRUE(QRect(54, 10, 219, 17).contains(title));
+    const QRect subtitle = inkIn(image, QRect(50, 28, 160, 20), Qt::white);
+    EXPECT_TRUE(QRect(54, 28, 154, 17).contains(subtitle));
+    const QRect size = inkIn(image, QRect(210, 28, 80, 20), Qt::white);
+    EXPECT_TRUE(QRect(220, 28, 68, 17).contains(size));
+    EXPECT_GE(size.right(), 284) << "it ends at the right";
+}
+
+TEST_F(RecentsTableCellTest, ASelectedRowHasTheColourOfSelectedItems)
+{
+    const QImage image = picture(true);
+    EXPECT_EQ(image.pixelColor(150, 4), colorWithHex(0x3875D7));
+    EXPECT_EQ(image.pixelColor(150, 1), QColor(Qt::white));
+}
+
+TEST_F(RecentsTableCellTest, RowsAreHighEnoughForTheirTexts)
+{
+    EXPECT_EQ(cell.sizeHint({}, {}).height(), 48);
+}
+
+} // namespace
+} // namespace tessera
