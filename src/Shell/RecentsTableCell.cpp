@@ -31,9 +31,13 @@ constexpr QRect kSubtitleBox{54, 28, 154, 17};
 constexpr int kSizeFromRight = 70;
 constexpr QSize kSizeBox{68, 17};
 
+/// What is selected where the user is not working has a pale background, on which the texts must
+/// stay as dark as the others.
 bool isHighlighted(const QStyleOptionViewItem& option)
 {
-    return option.state.testFlag(QStyle::State_Selected);
+    return option.state.testFlag(QStyle::State_Selected)
+        && option.state.testFlag(QStyle::State_Active)
+        && option.state.testFlag(QStyle::State_Enabled);
 }
 
 QFont systemFont(int pixels)
@@ -72,9 +76,8 @@ void RecentsTableCell::paint(
     const RecentRecord& record = model.record(index.row());
     const QPoint corner = option.rect.topLeft();
     painter->save();
-    if (isHighlighted(option)) {
-        const bool isInMainWindow = option.state.testFlag(QStyle::State_Active);
-        paintSelectionBackground(*painter, option.rect, option.palette, isInMainWindow);
+    if (option.state.testFlag(QStyle::State_Selected)) {
+        paintSelectionBackground(*painter, option.rect, option.palette, isHighlighted(option));
     }
     const QIcon::Mode mode
         = option.state.testFlag(QStyle::State_Enabled) ? QIcon::Normal : QIcon::Disabled;

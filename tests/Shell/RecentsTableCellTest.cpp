@@ -15,9 +15,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace tessera {
 namespace {
 
+constexpr QStyle::State kUsual = QStyle::State_Enabled | QStyle::State_Active;
 const QDate kToday(2026, 11, 21);
 
 std::chrono::sys_seconds noonOf(const QDate& day)
@@ -39,7 +42,7 @@ protected:
     QString subtitle(const QDate& day) const { return cell.subtitle({"/", 0, noonOf(day)}); }
 
     /// The row of a scan of 1.2 GB.
-    QImage picture(bool isSelected)
+    QImage picture(QStyle::State state)
     {
         const RecentRecord record{"/data/one", 1234567890, noonOf(kToday)};
         services.defaults.setRecentRecords(kRecentsKey, {record});
@@ -49,8 +52,7 @@ protected:
         QStyleOptionViewItem option;
         option.rect = QRect(0, 0, 290, 48);
         option.palette.setColor(QPalette::Base, Qt::white);
-        option.state = QStyle::State_Enabled | QStyle::State_Active;
-        option.state.setFlag(QStyle::State_Selected, isSelected);
+        option.state = state;
         QImage image(option.rect.size(), QImage::Format_RGB32);
         image.fill(Qt::white);
         QPainter painter(&image);
@@ -114,7 +116,7 @@ TEST_F(RecentsTableCellTest, RecentDaysAreWords)
 
 TEST_F(RecentsTableCellTest, TheIconHasAFixedPlace)
 {
-    const QImage image = picture(false);
+    const QImage image = picture(kUsual);
     const QRect icon = inkIn(image, QRect(0, 0, 52, 48), Qt::white);
     EXPECT_TRUE(QRect(7, 4, 38, 39).contains(icon));
     EXPECT_GE(icon.width(), 37);
@@ -123,7 +125,7 @@ TEST_F(RecentsTableCellTest, TheIconHasAFixedPlace)
 
 TEST_F(RecentsTableCellTest, TheTextsHaveFixedPlaces)
 {
-    const QImage image = picture(false);
+    const QImage image = picture(kUsual);
     const QRect title = inkIn(image, QRect(50, 0, 240, 28), Qt::white);
     EXPECT_TRUE(QRect(54, 10, 219, 17).contains(title));
     const QRect subtitle = inkIn(image, QRect(50, 28, 160, 20), Qt::white);
@@ -135,9 +137,23 @@ TEST_F(RecentsTableCellTest, TheTextsHaveFixedPlaces)
 
 TEST_F(RecentsTableCellTest, ASelectedRowHasTheColourOfSelectedItems)
 {
-    const QImage image = picture(true);
+    const QImage image = picture(kUsual | QStyle::State_Selected);
     EXPECT_EQ(image.pixelColor(150, 4), colorWithHex(0x3875D7));
     EXPECT_EQ(image.pixelColor(150, 1), QColor(Qt::white));
+}
+
+TEST_F(RecentsTableCellTest, ASelectedRowThatCannotBeUsedIsPaleAndLegible)
+{
+    const QImage image = picture(QStyle::State_Active | QStyle::State_Selected);
+    const QColor pale = colorWithHex(0xD4D4D4);
+    EXPECT_EQ(image.pixelColor(150, 4), pale);
+    int darkest = 255;
+    for (int x = 54; x < 208; ++x) {
+        for (int y = 28; y < 45; ++y) {
+            darkest = std::min(darkest, image.pixelColor(x, y).lightness());
+        }
+    }
+    EXPECT_LT(darkest, 150);
 }
 
 TEST_F(RecentsTableCellTest, RowsAreHighEnoughForTheirTexts)
