@@ -249,9 +249,7 @@ void HomeViewController::scanSelected()
 void HomeViewController::scanURL(const Url& url)
 {
     logLine("scanning %s", url.absoluteString().c_str());
-    // The sender may be gone when all observers have been told: a copy outlives it.
-    const Url copy = url;
-    NotificationCenter::defaultCenter().post("ScanURL", copy);
+    NotificationCenter::defaultCenter().post("ScanURL", url);
 }
 
 void HomeViewController::clearList()
@@ -318,7 +316,7 @@ std::unique_ptr<CollectionItemView> HomeViewController::volumeView(const Mounted
     return view;
 }
 
-std::unique_ptr<CollectionItemView> HomeViewController::locationView(const Location& location) const
+std::unique_ptr<CollectionItemView> HomeViewController::locationView(const Location& location)
 {
     auto view = Util::loadViewFromNib<FolderCollectionView>("FolderCollectionView");
     view->setUrl(location.url, locationIcon(location.kind), localizedLocationName(location));

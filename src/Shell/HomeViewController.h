@@ -62,7 +62,8 @@ public:
     /// Scans what is selected, in the list of recent scans before the grid; else does nothing.
     void scanSelected();
 
-    void scanURL(const Url& url);
+    /// Asks for a scan of that folder.
+    static void scanURL(const Url& url);
 
     /// Empties the list of recent scans.
     void clearList();
@@ -91,7 +92,7 @@ private:
     int selectedRecent() const;
     QIcon iconOfRecent(const Url& folder) const;
     std::unique_ptr<CollectionItemView> volumeView(const MountedVolume& volume);
-    std::unique_ptr<CollectionItemView> locationView(const Location& location) const;
+    static std::unique_ptr<CollectionItemView> locationView(const Location& location);
 
     RootModel& m_model;
     HomeViewServices m_services;
