@@ -101,7 +101,7 @@ QSize RecentsTableCell::sizeHint(
     return {0, kRowHeight};
 }
 
-RecentsTableCell::Style RecentsTableCell::titleStyle(const QStyleOptionViewItem& option) const
+RecentsTableCell::Style RecentsTableCell::titleStyle(const QStyleOptionViewItem& option)
 {
     const HomeColors colors(option.palette);
     const bool isEnabled = option.state.testFlag(QStyle::State_Enabled);
@@ -112,7 +112,7 @@ RecentsTableCell::Style RecentsTableCell::titleStyle(const QStyleOptionViewItem&
         Qt::AlignLeft};
 }
 
-RecentsTableCell::Style RecentsTableCell::subtitleStyle(const QStyleOptionViewItem& option) const
+RecentsTableCell::Style RecentsTableCell::subtitleStyle(const QStyleOptionViewItem& option)
 {
     const HomeColors colors(option.palette);
     return {
@@ -121,7 +121,7 @@ RecentsTableCell::Style RecentsTableCell::subtitleStyle(const QStyleOptionViewIt
         Qt::AlignLeft};
 }
 
-RecentsTableCell::Style RecentsTableCell::fileSizeStyle(const QStyleOptionViewItem& option) const
+RecentsTableCell::Style RecentsTableCell::fileSizeStyle(const QStyleOptionViewItem& option)
 {
     Style style = subtitleStyle(option);
     style.alignment = Qt::AlignRight;

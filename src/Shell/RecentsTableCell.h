@@ -48,9 +48,9 @@ private:
         Qt::Alignment alignment;
     };
 
-    Style titleStyle(const QStyleOptionViewItem& option) const;
-    Style subtitleStyle(const QStyleOptionViewItem& option) const;
-    Style fileSizeStyle(const QStyleOptionViewItem& option) const;
+    static Style titleStyle(const QStyleOptionViewItem& option);
+    static Style subtitleStyle(const QStyleOptionViewItem& option);
+    static Style fileSizeStyle(const QStyleOptionViewItem& option);
     static void drawText(
         QPainter& painter, const QRect& box, const QString& text, const Style& style);
 

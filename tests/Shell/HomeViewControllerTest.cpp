@@ -336,6 +336,8 @@ TEST_F(HomeViewControllerTest, TheScreenIsLaidOutInFixedMeasures)
     const QWidget& view = home->view();
     const auto* const bar = view.findChild<QWidget*>(QStringLiteral("scanBar"));
     EXPECT_EQ(bar->geometry(), QRect(0, 660 - 56, 1080, 56));
+    const auto* const line = view.findChild<QWidget*>(QStringLiteral("scanBarLine"));
+    EXPECT_EQ(line->geometry(), QRect(0, 0, 1080, 1));
     EXPECT_EQ(view.findChild<QWidget*>(QStringLiteral("recentsColumn"))->width(), 300);
     EXPECT_EQ(home->openButton().size(), QSize(290, 60));
     EXPECT_EQ(table().visualRect(table().model()->index(0, 0)).height(), 48);
