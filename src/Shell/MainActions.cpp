@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#include "Shell/MainActions.h"
+
+#include <QAction>
+#include <QKeySequence>
+#include <QMenu>
+#include <QMenuBar>
+
+#include <utility>
+
+namespace tessera {
+
+MainActions::MainActions(QWidget& window, Validator validator)
+    : QObject(&window)
+    , m_validator(std::move(validator))
+{
+    for (const ActionRow& row : actionTable()) {
+        m_actions.emplace(row.command, makeAction(window, row));
+    }
+}
+
+MainActions::~MainActions() = default;
+
+QAction* MainActions::makeAction(QWidget& window, const ActionRow& row)
+{
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the parent owns it
+    auto* const action = new QAction(titleOf(row), this);
+    action->setShortcuts(QKeySequence::listFromString(QString::fromLatin1(row.shortcuts)));
+    // Titles must not make an entry move elsewhere in the menus of some desktops.
+    action->setMenuRole(QAction::NoRole);
+    action->setData(row.tag);
+    connect(action, &QAction::triggered, this, [this, command = row.command] {
+        emit triggered(command);
+    });
+    window.addAction(action);
+    return action;
+}
+
+void MainActions::fill(QMenuBar& menuBar)
+{
+    for (const MainMenu menu : {MainMenu::File, MainMenu::Item, MainMenu::View, MainMenu::Help}) {
+        fill(*menuBar.addMenu(titleOf(menu)), menu);
+    }
+}
+
+void MainActions::fill(QMenu& menu, MainMenu entries)
+{
+    for (const ActionRow& row : actionTable()) {
+        if (row.menu != entries) {
+            continue;
+        }
+        if (row.beginsGroup) {
+            menu.addSeparator();
+        }
+        menu.addAction(&action(row.command));
+    }
+    connect(&menu, &QMenu::aboutToShow, this, &MainActions::validate);
+}
+
+void MainActions::validate()
+{
+    for (const auto& [command, action] : m_actions) {
+        action->setEnabled(m_validator(action->data().toInt()));
+    }
+}
+
+} // namespace tessera

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Shell/ActionTable.h"
+
+#include <QObject>
+
+#include <functional>
+#include <map>
+
+class QAction;
+class QMenu;
+class QMenuBar;
+class QWidget;
+
+namespace tessera {
+
+/// The actions of the table, with their shortcuts, and the menus that are made of them. Main thread
+/// only.
+class MainActions final : public QObject {
+    Q_OBJECT
+
+public:
+    /// Says by its tag whether an entry is enabled.
+    using Validator = std::function<bool(int tag)>;
+
+    /// The shortcuts work in `window`, which owns this object.
+    MainActions(QWidget& window, Validator validator);
+    ~MainActions() override;
+
+    QAction& action(MainCommand command) const { return *m_actions.at(command); }
+
+    /// Adds all menus of the table.
+    void fill(QMenuBar& menuBar);
+    /// Adds the entries of one menu, and validates them whenever the menu opens.
+    void fill(QMenu& menu, MainMenu entries);
+
+    /// To be called when what the validator goes by has changed: the shortcuts of disabled entries
+    /// do nothing, and the key press goes on to whatever has the keyboard.
+    void validate();
+
+signals:
+    void triggered(tessera::MainCommand command);
+
+private:
+    QAction* makeAction(QWidget& window, const ActionRow& row);
+
+    Validator m_validator;
+    std::map<MainCommand, QAction*> m_actions;
+};
+
+} // namespace tessera
