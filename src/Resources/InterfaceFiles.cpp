@@ -3,6 +3,7 @@
 
 #include "ui_CollectionHeaderView.h"
 #include "ui_CompressWindow.h"
+#include "ui_MainWindowController.h"
 #include "ui_FolderCollectionView.h"
 #include "ui_HomeViewController.h"
 #include "ui_PreferencesWindowController.h"
@@ -34,6 +35,7 @@ constexpr std::array kInterfaceFiles{
     InterfaceFile{
         "CollectionHeaderView", &instantiate<Ui::CollectionHeaderView, CollectionHeaderView>},
     InterfaceFile{"CompressWindow", &instantiate<Ui::CompressWindow, QDialog>},
+    InterfaceFile{"MainWindowController", &instantiate<Ui::MainWindowController, QMainWindow>},
     InterfaceFile{
         "FolderCollectionView", &instantiate<Ui::FolderCollectionView, FolderCollectionView>},
     InterfaceFile{"HomeViewController", &instantiate<Ui::HomeViewController, QWidget>},

@@ -93,6 +93,7 @@ void TreeViewController::setSelectedFile(File* file)
         m_selectedFile->setSelected(true);
     }
     SelectionPreview::selectionChanged();
+    emit selectionChanged();
 }
 
 void TreeViewController::select(File* file)

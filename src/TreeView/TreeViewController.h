@@ -98,6 +98,8 @@ public:
 signals:
     /// Sizes or names in the tree are others than before.
     void treeChanged();
+    /// Another item is selected, or none any more.
+    void selectionChanged();
     /// The picture was rebuilt from the tree.
     void pictureRebuilt();
     /// The selected folder is to be left out of the picture.

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include "Shell/MainToolbar.h"
+
+#include "Shell/ToolbarSymbol.h"
+#include "TreeView/ToolbarPathControl.h"
+#include "TreeView/ToolbarPathItem.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QMenu>
+#include <QToolBar>
+#include <QToolButton>
+
+namespace tessera {
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("MainToolbar", text);
+}
+
+QToolButton* addButton(QToolBar& toolbar, ToolbarSymbol symbol, const QString& name)
+{
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the parent owns it
+    auto* const button = new QToolButton(&toolbar);
+    button->setIcon(iconOf(symbol));
+    button->setText(name);
+    button->setToolTip(name);
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::TabFocus);
+    toolbar.addWidget(button);
+    return button;
+}
+
+QAction* addSeparator(QToolBar& toolbar)
+{
+    return toolbar.addSeparator();
+}
+
+ToolbarPathControl* addPathControl(QToolBar& toolbar)
+{
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the parent owns it
+    auto* const item = new ToolbarPathItem(&toolbar);
+    toolbar.addWidget(item);
+    return &item->pathControl();
+}
+
+} // namespace
+
+MainToolbar::MainToolbar(QToolBar& toolbar, QMenu& actionsMenu)
+    : m_toolbarHomeButton(addButton(
+        toolbar,
+        ToolbarSymbol::Home,
+        tr(QT_TRANSLATE_NOOP("MainToolbar", "Choose another disk or folder"))))
+    , m_toolbarSeperator(addSeparator(toolbar))
+    , m_toolbarPathControl(addPathControl(toolbar))
+    , m_toolbarActionsButton(addButton(
+          toolbar,
+          ToolbarSymbol::Actions,
+          tr(QT_TRANSLATE_NOOP("MainToolbar", "Commands for the selected item"))))
+    , m_toolbarIgnoreButton(addButton(
+          toolbar,
+          ToolbarSymbol::Ignore,
+          tr(QT_TRANSLATE_NOOP("MainToolbar", "What the map leaves out"))))
+{
+    m_toolbarActionsButton->setMenu(&actionsMenu);
+    m_toolbarActionsButton->setPopupMode(QToolButton::InstantPopup);
+    m_toolbarIgnoreButton->setPopupMode(QToolButton::InstantPopup);
+}
+
+void MainToolbar::setTreeDisplayed(bool displayed)
+{
+    m_toolbarHomeButton->setEnabled(displayed);
+    m_toolbarSeperator->setVisible(displayed);
+    m_toolbarPathControl->setVisible(displayed);
+    m_toolbarActionsButton->setEnabled(displayed);
+}
+
+} // namespace tessera

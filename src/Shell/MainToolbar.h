@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+class QAction;
+class QMenu;
+class QToolBar;
+class QToolButton;
+
+namespace tessera {
+
+class ToolbarPathControl;
+
+/// What is on the main window's toolbar: the way home, the path bar, the item commands and the
+/// ignore menu. The widgets belong to the toolbar.
+class MainToolbar final {
+public:
+    /// `actionsMenu` opens under the actions button.
+    MainToolbar(QToolBar& toolbar, QMenu& actionsMenu);
+
+    /// While the tree is not displayed there is nowhere to go and nothing to act on.
+    void setTreeDisplayed(bool displayed);
+
+    QToolButton& toolbarHomeButton() const { return *m_toolbarHomeButton; }
+    QAction& toolbarSeperator() const { return *m_toolbarSeperator; }
+    ToolbarPathControl& toolbarPathControl() const { return *m_toolbarPathControl; }
+    QToolButton& toolbarActionsButton() const { return *m_toolbarActionsButton; }
+    QToolButton& toolbarIgnoreButton() const { return *m_toolbarIgnoreButton; }
+
+private:
+    QToolButton* m_toolbarHomeButton;
+    QAction* m_toolbarSeperator;
+    ToolbarPathControl* m_toolbarPathControl;
+    QToolButton* m_toolbarActionsButton;
+    QToolButton* m_toolbarIgnoreButton;
+};
+
+} // namespace tessera

@@ -1,0 +1,268 @@
+// SPDX-License-Identifier: MIT
+#include "Shell/MainWindowController.h"
+
+#include "MainWindowFixture.h"
+#include "Model/UserDefaults.h"
+#include "TreeView/CenteredPathComponentCell.h"
+#include "TreeView/PathComponentButton.h"
+#include "TreeView/ToolbarPathControl.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+
+namespace tessera {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class MainWindowControllerTest : public test::MainWindowFixture {
+protected:
+    ToolbarPathControl& path() const { return controller->toolbar().toolbarPathControl(); }
+
+    std::vector<int> pathTags() const
+    {
+        std::vector<int> tags;
+        for (const CenteredPathComponentCell& cell : path().pathComponentCells()) {
+            tags.push_back(cell.tag());
+        }
+        return tags;
+    }
+
+    void choose(const char* folder)
+    {
+        controller->openFolder();
+        services.openPanel.choose({Url(folder, true)});
+    }
+
+    bool isEnabled(MainCommand command) const
+    {
+        for (const QAction* action : controller->window().actions()) {
+            if (action->text() == titleOf(rowOf(command))) {
+                return action->isEnabled();
+            }
+        }
+        ADD_FAILURE() << "no such action";
+        return false;
+    }
+
+    static const ActionRow& rowOf(MainCommand command)
+    {
+        const auto table = actionTable();
+        return *std::find_if(table.begin(), table.end(), [command](const ActionRow& row) {
+            return row.command == command;
+        });
+    }
+};
+
+TEST_F(MainWindowControllerTest, ThePathOfTheRootIsOneCellTagged100)
+{
+    showTree();
+    EXPECT_THAT(pathTags(), ElementsAre(100));
+}
+
+TEST_F(MainWindowControllerTest, ThePathLeadsFromTheRootToTheFolderInView)
+{
+    showTree();
+    zoomIntoDocs();
+    EXPECT_THAT(pathTags(), ElementsAre(0, 100));
+    EXPECT_EQ(path().pathComponentCells().back().url().path(), "/data/docs");
+}
+
+TEST_F(MainWindowControllerTest, AClickInThePathBarZoomsOut)
+{
+    showTree();
+    zoomIntoDocs();
+    QTest::mouseClick(path().findChild<PathComponentButton*>(), Qt::LeftButton);
+    EXPECT_EQ(controller->treeVC()->currentFolder(), services.model.topFolder());
+}
+
+TEST_F(MainWindowControllerTest, WithoutATreeThePathBarIsLeftAlone)
+{
+    controller->refreshPathControl();
+    controller->pathSelected();
+    EXPECT_THAT(pathTags(), IsEmpty());
+}
+
+TEST_F(MainWindowControllerTest, ZoomOutIsDisabledWithTheRootInViewAndEnabledInAnyFolder)
+{
+    showTree();
+    EXPECT_FALSE(isEnabled(MainCommand::ZoomOut));
+    zoomIntoDocs();
+    EXPECT_TRUE(isEnabled(MainCommand::ZoomOut));
+}
+
+TEST_F(MainWindowControllerTest, TheCommandsFollowTheSelectionAtOnce)
+{
+    showTree();
+    EXPECT_FALSE(isEnabled(MainCommand::QuickLook));
+    select("c");
+    EXPECT_TRUE(isEnabled(MainCommand::QuickLook));
+    EXPECT_FALSE(isEnabled(MainCommand::Rescan));
+    select("docs");
+    EXPECT_TRUE(isEnabled(MainCommand::Rescan));
+}
+
+TEST_F(MainWindowControllerTest, TheWayHomeIsDisabledOnTheHomeScreen)
+{
+    EXPECT_FALSE(isEnabled(MainCommand::Home));
+    requestScan();
+    EXPECT_FALSE(isEnabled(MainCommand::Home));
+    finishScan();
+    EXPECT_TRUE(isEnabled(MainCommand::Home));
+}
+
+TEST_F(MainWindowControllerTest, CommandsOnItemsDoNothingWithoutATree)
+{
+    for (const ActionRow& row : actionTable()) {
+        if (row.menu == MainMenu::Item) {
+            controller->perform(row.command);
+        }
+    }
+    controller->perform(MainCommand::ZoomIn);
+    controller->perform(MainCommand::ZoomOut);
+    EXPECT_EQ(controller->state(), ScreenState::Home);
+    EXPECT_THAT(services.treeScreen.workspace.revealed, IsEmpty());
+}
+
+TEST_F(MainWindowControllerTest, CommandsOnItemsDoNothingWithoutASelection)
+{
+    showTree();
+    controller->perform(MainCommand::ShowInFinder);
+    controller->perform(MainCommand::MoveToTrash);
+    EXPECT_THAT(services.treeScreen.workspace.revealed, IsEmpty());
+    EXPECT_THAT(services.treeScreen.workspace.recycled, IsEmpty());
+}
+
+TEST_F(MainWindowControllerTest, CommandsReachTheTreeScreen)
+{
+    showTree();
+    select("c");
+    controller->perform(MainCommand::ShowInFinder);
+    EXPECT_THAT(services.treeScreen.workspace.revealed, ElementsAre("/data/c"));
+    controller->perform(MainCommand::MoveToTrash);
+    ASSERT_EQ(services.treeScreen.workspace.recycled.size(), 1U);
+    EXPECT_EQ(services.treeScreen.workspace.recycled[0][0].path(), "/data/c");
+}
+
+TEST_F(MainWindowControllerTest, ZoomOutNeedsNoSelection)
+{
+    showTree();
+    zoomIntoDocs();
+    ASSERT_EQ(controller->treeVC()->selectedFile(), nullptr);
+    controller->perform(MainCommand::ZoomOut);
+    EXPECT_EQ(controller->treeVC()->currentFolder(), services.model.topFolder());
+}
+
+TEST_F(MainWindowControllerTest, AChosenFolderIsScanned)
+{
+    controller->openFolder();
+    EXPECT_THAT(services.screens.scanned, IsEmpty());
+    services.openPanel.choose({Url("/a", true), Url("/b", true)});
+    EXPECT_THAT(services.screens.scanned, ElementsAre("/b"));
+}
+
+TEST_F(MainWindowControllerTest, APanelClosedWithoutAChoiceChangesNothing)
+{
+    controller->openFolder();
+    services.openPanel.choose({});
+    EXPECT_EQ(controller->state(), ScreenState::Home);
+}
+
+TEST_F(MainWindowControllerTest, ATimeMachineBackupIsRefusedWithTheNameOfItsVolume)
+{
+    services.treeScreen.resourceValues.volumes = {"/", "/media/me/Big Disk"};
+    choose("/media/me/Big Disk/Backups.backupdb/host/2026");
+    ASSERT_EQ(services.treeScreen.alert.told.size(), 1U);
+    const AlertText& told = services.treeScreen.alert.told[0];
+    EXPECT_EQ(told.messageText, QStringLiteral("Time Machine Detected"));
+    EXPECT_EQ(
+        told.informativeText,
+        QStringLiteral("Tessera is unable to scan inside a Time Machine backup. To estimate the "
+                       "overall size of Time Machine, please scan the disk labeled 'Big Disk'."));
+    EXPECT_EQ(told.buttons, QStringList{QStringLiteral("OK")});
+    EXPECT_THAT(services.screens.scanned, IsEmpty());
+    EXPECT_EQ(controller->state(), ScreenState::Home);
+}
+
+TEST_F(MainWindowControllerTest, ABackupIsKnownByAnyPartOfItsPath)
+{
+    choose("/a/old Backups.backupdb copy/b");
+    EXPECT_EQ(services.treeScreen.alert.told.size(), 1U);
+    EXPECT_THAT(services.screens.scanned, IsEmpty());
+}
+
+TEST_F(MainWindowControllerTest, ShortcutsOfTheWindowReachTheirCommands)
+{
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&controller->window()));
+    QTest::keyClick(&controller->window(), Qt::Key_O, Qt::ControlModifier);
+    EXPECT_EQ(services.openPanel.shown, 1);
+}
+
+TEST_F(MainWindowControllerTest, PreferencesAndHelpAreAskedForByTheirTags)
+{
+    const QSignalSpy preferences(controller.get(), &MainWindowController::preferencesRequested);
+    const QSignalSpy help(controller.get(), &MainWindowController::helpRequested);
+    controller->perform(MainCommand::Preferences);
+    controller->perform(MainCommand::Features);
+    controller->perform(MainCommand::Questions);
+    EXPECT_EQ(preferences.size(), 1);
+    ASSERT_EQ(help.size(), 2);
+    EXPECT_EQ(help.at(0).at(0).toInt(), 62);
+    EXPECT_EQ(help.at(1).at(0).toInt(), 64);
+}
+
+TEST_F(MainWindowControllerTest, QuitClosesTheWindow)
+{
+    const QSignalSpy closed(controller.get(), &MainWindowController::closed);
+    controller->perform(MainCommand::Quit);
+    EXPECT_EQ(closed.size(), 1);
+    EXPECT_FALSE(controller->window().isVisible());
+}
+
+TEST_F(MainWindowControllerTest, FullScreenIsSwitchedOnAndOff)
+{
+    controller->perform(MainCommand::FullScreen);
+    EXPECT_TRUE(controller->window().isFullScreen());
+    controller->perform(MainCommand::FullScreen);
+    EXPECT_FALSE(controller->window().isFullScreen());
+}
+
+TEST_F(MainWindowControllerTest, TheFirstWindowHasTheSizeThatIsMeantForIt)
+{
+    EXPECT_EQ(controller->window().size(), QSize(1080, 720));
+    EXPECT_EQ(controller->window().minimumSize(), QSize(760, 520));
+    EXPECT_EQ(controller->window().windowTitle(), QStringLiteral("Tessera"));
+}
+
+TEST_F(MainWindowControllerTest, TheNextWindowOpensWhereThisOneWas)
+{
+    controller->window().setGeometry(20, 30, 800, 600);
+    controller->window().close();
+    controller = std::make_unique<MainWindowController>(services.get());
+    controller->showWindow();
+    EXPECT_EQ(controller->window().geometry(), QRect(20, 30, 800, 600));
+}
+
+TEST_F(MainWindowControllerTest, ABrokenRecordOfTheWindowsPlaceIsLeftAside)
+{
+    services.rootModel.defaults.setString("MainWindowFrame", "nonsense");
+    controller = std::make_unique<MainWindowController>(services.get());
+    controller->showWindow();
+    EXPECT_EQ(controller->window().size(), QSize(1080, 720));
+}
+
+TEST_F(MainWindowControllerTest, TheRecentScansAreLoadedForTheHomeScreen)
+{
+    services.rootModel.defaults.setRecentRecords("recents", {{"/data", 5, {}}});
+    services.rootModel.documents.urls = {Url("/data", true)};
+    controller = std::make_unique<MainWindowController>(services.get());
+    EXPECT_EQ(services.model.recents().recentsList().size(), 1U);
+}
+
+} // namespace
+} // namespace tessera

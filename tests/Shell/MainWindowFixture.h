@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Model/NotificationCenter.h"
+#include "Shell/MainWindowController.h"
+#include "TreeView/TreeViewController.h"
+#include "support/FakeMainWindowServices.h"
+#include "support/makeTree.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QMainWindow>
+#include <QToolButton>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace tessera::test {
+
+/// A main window of fake screens around a true tree screen.
+class MainWindowFixture : public testing::Test {
+protected:
+    MainWindowFixture() { controller->showWindow(); }
+
+    static void post(const char* name) { NotificationCenter::defaultCenter().post(name); }
+    static void requestScan(const char* path = "/data")
+    {
+        NotificationCenter::defaultCenter().post("ScanURL", Url(path, true));
+    }
+
+    /// Lets the scan panel slide on for that many seconds.
+    void slideFor(double seconds)
+    {
+        services.now += seconds;
+        controller->slide().advance();
+    }
+
+    void finishScan()
+    {
+        services.model.setTopFolder(makeTree("/data", "docs/ ( a:700 b:200 ) c:50"));
+        post("ScanComplete");
+        QCoreApplication::processEvents();
+    }
+
+    void showTree()
+    {
+        requestScan();
+        finishScan();
+    }
+
+    void select(const char* path)
+    {
+        NotificationCenter::defaultCenter().post(
+            "ClickTreeItem", &at(*services.model.topFolder(), path));
+    }
+
+    void zoomIntoDocs()
+    {
+        select("docs");
+        controller->perform(MainCommand::ZoomIn);
+    }
+
+    QRect homeFrame() const { return services.screens.home->geometry(); }
+    QRect scanFrame() const { return services.screens.scan->geometry(); }
+    QSize area() const { return controller->window().centralWidget()->size(); }
+
+    FakeMainWindowServices services;
+    std::unique_ptr<MainWindowController> controller
+        = std::make_unique<MainWindowController>(services.get());
+};
+
+} // namespace tessera::test

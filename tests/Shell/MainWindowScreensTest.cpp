@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: MIT
+#include "MainWindowFixture.h"
+#include "TreeView/ToolbarPathControl.h"
+
+#include <gmock/gmock.h>
+
+namespace tessera {
+namespace {
+
+using testing::ElementsAre;
+
+class MainWindowScreensTest : public test::MainWindowFixture { };
+
+TEST_F(MainWindowScreensTest, OpensOnTheHomeScreenWhichFillsIt)
+{
+    EXPECT_EQ(controller->state(), ScreenState::Home);
+    EXPECT_TRUE(services.screens.home->isVisible());
+    EXPECT_EQ(homeFrame(), QRect(QPoint(0, 0), area()));
+}
+
+TEST_F(MainWindowScreensTest, AScanRequestDisablesTheHomeScreenAndStartsTheScan)
+{
+    requestScan("/data/some\xFF");
+    EXPECT_THAT(services.screens.scanned, ElementsAre("/data/some\xFF"));
+    EXPECT_FALSE(services.screens.homeEnabled);
+    EXPECT_TRUE(services.screens.scan->isVisible());
+}
+
+TEST_F(MainWindowScreensTest, TheScanPanelBeginsJustBelowTheLowerEdge)
+{
+    requestScan();
+    EXPECT_EQ(scanFrame(), QRect(0, area().height(), area().width(), 230));
+    EXPECT_EQ(homeFrame().height(), area().height());
+}
+
+TEST_F(MainWindowScreensTest, WithinHalfASecondThePanelSlidesInAndTheHomeScreenGetsShorter)
+{
+    requestScan();
+    slideFor(0.5);
+    EXPECT_EQ(scanFrame(), QRect(0, area().height() - 230, area().width(), 230));
+    EXPECT_EQ(homeFrame(), QRect(0, 0, area().width(), area().height() - 174));
+}
+
+TEST_F(MainWindowScreensTest, ThePanelStaysAtTheBottomOfALargerWindow)
+{
+    requestScan();
+    slideFor(0.5);
+    controller->window().resize(1300, 900);
+    EXPECT_EQ(scanFrame(), QRect(0, area().height() - 230, area().width(), 230));
+    EXPECT_EQ(homeFrame(), QRect(0, 0, area().width(), area().height() - 174));
+}
+
+TEST_F(
+    MainWindowScreensTest, AfterACancelTheHomeScreenIsBackInHalfASecondAndEnabledAfter55Hundredths)
+{
+    requestScan();
+    slideFor(0.5);
+    post("ScanCancelled");
+    slideFor(0.5);
+    EXPECT_EQ(homeFrame(), QRect(QPoint(0, 0), area()));
+    EXPECT_FALSE(services.screens.homeEnabled);
+    slideFor(0.0625);
+    EXPECT_TRUE(services.screens.homeEnabled);
+    EXPECT_EQ(controller->state(), ScreenState::Home);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(services.screens.scanScreens, 0);
+}
+
+TEST_F(MainWindowScreensTest, AScanRequestedWhileTheCancelledPanelSlidesAwayIsNotCleanedUp)
+{
+    requestScan();
+    slideFor(0.5);
+    post("ScanCancelled");
+    slideFor(0.25);
+    requestScan("/other");
+    slideFor(1);
+    EXPECT_EQ(controller->state(), ScreenState::Scanning);
+    EXPECT_FALSE(services.screens.homeEnabled);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(services.screens.scanScreens, 1);
+}
+
+TEST_F(MainWindowScreensTest, AnotherRequestTakesTheRunningScansPlace)
+{
+    requestScan();
+    slideFor(0.5);
+    requestScan("/other");
+    QCoreApplication::processEvents();
+    EXPECT_THAT(services.screens.scanned, ElementsAre("/data", "/other"));
+    EXPECT_EQ(services.screens.scanScreens, 1);
+    EXPECT_EQ(scanFrame(), QRect(0, area().height() - 230, area().width(), 230));
+}
+
+TEST_F(MainWindowScreensTest, AFinishedScanShowsTheTreeAlone)
+{
+    showTree();
+    ASSERT_NE(controller->treeVC(), nullptr);
+    EXPECT_EQ(controller->treeVC()->currentFolder(), services.model.topFolder());
+    EXPECT_EQ(services.screens.homeScreens, 0);
+    EXPECT_EQ(services.screens.scanScreens, 0);
+}
+
+TEST_F(MainWindowScreensTest, TheHomeButtonLeadsFromTheTreeToANewHomeScreen)
+{
+    showTree();
+    controller->toolbar().toolbarHomeButton().click();
+    EXPECT_EQ(controller->treeVC(), nullptr);
+    EXPECT_EQ(services.screens.homeScreensMade, 2);
+    EXPECT_EQ(homeFrame(), QRect(QPoint(0, 0), area()));
+}
+
+TEST_F(MainWindowScreensTest, AScanRequestedFromTheTreeFirstBringsTheHomeScreenBack)
+{
+    showTree();
+    requestScan("/other");
+    EXPECT_EQ(controller->treeVC(), nullptr);
+    EXPECT_EQ(services.screens.homeScreens, 1);
+    EXPECT_EQ(scanFrame().top(), area().height());
+    EXPECT_THAT(services.screens.scanned, ElementsAre("/data", "/other"));
+}
+
+TEST_F(MainWindowScreensTest, AfterTheTreeThePanelSlidesInFromBelowAgain)
+{
+    showTree();
+    controller->homeSelected();
+    requestScan();
+    EXPECT_EQ(scanFrame(), QRect(0, area().height(), area().width(), 230));
+    slideFor(0.5);
+    EXPECT_EQ(scanFrame().top(), area().height() - 230);
+}
+
+TEST_F(MainWindowScreensTest, EventsThatMakeNoSenseChangeNothing)
+{
+    for (const char* name : {"ScanCancelled", "ScanComplete", "CurrentFolderChanged"}) {
+        post(name);
+        EXPECT_EQ(controller->state(), ScreenState::Home) << name;
+    }
+    controller->homeSelected();
+    EXPECT_EQ(services.screens.homeScreensMade, 1);
+}
+
+TEST_F(MainWindowScreensTest, TheToolbarFollowsTheScreen)
+{
+    const MainToolbar& toolbar = controller->toolbar();
+    const auto isAsWithTree = [&] {
+        return std::vector<bool>{
+            toolbar.toolbarHomeButton().isEnabled(),
+            toolbar.toolbarSeperator().isVisible(),
+            toolbar.toolbarPathControl().isVisible(),
+            toolbar.toolbarActionsButton().isEnabled()};
+    };
+    EXPECT_THAT(isAsWithTree(), ElementsAre(false, false, false, false));
+    requestScan();
+    EXPECT_THAT(isAsWithTree(), ElementsAre(false, false, false, false));
+    finishScan();
+    EXPECT_THAT(isAsWithTree(), ElementsAre(true, true, true, true));
+    controller->homeSelected();
+    EXPECT_THAT(isAsWithTree(), ElementsAre(false, false, false, false));
+}
+
+TEST_F(MainWindowScreensTest, NothingJumpsWhenTheScreenChanges)
+{
+    const QSize before = area();
+    showTree();
+    EXPECT_EQ(area(), before);
+}
+
+TEST_F(MainWindowScreensTest, WithReducedMotionNothingSlides)
+{
+    services.treeScreen.motion.reduced = true;
+    requestScan();
+    EXPECT_EQ(scanFrame().top(), area().height() - 230);
+}
+
+} // namespace
+} // namespace tessera
