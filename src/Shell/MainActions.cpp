@@ -36,14 +36,14 @@ QAction* MainActions::makeAction(QWidget& window, const ActionRow& row)
     return action;
 }
 
-void MainActions::fill(QMenuBar& menuBar)
+void MainActions::fill(QMenuBar& menuBar) const
 {
     for (const MainMenu menu : {MainMenu::File, MainMenu::Item, MainMenu::View, MainMenu::Help}) {
         fill(*menuBar.addMenu(titleOf(menu)), menu);
     }
 }
 
-void MainActions::fill(QMenu& menu, MainMenu entries)
+void MainActions::fill(QMenu& menu, MainMenu entries) const
 {
     for (const ActionRow& row : actionTable()) {
         if (row.menu != entries) {

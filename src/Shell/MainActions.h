@@ -31,9 +31,9 @@ public:
     QAction& action(MainCommand command) const { return *m_actions.at(command); }
 
     /// Adds all menus of the table.
-    void fill(QMenuBar& menuBar);
+    void fill(QMenuBar& menuBar) const;
     /// Adds the entries of one menu, and validates them whenever the menu opens.
-    void fill(QMenu& menu, MainMenu entries);
+    void fill(QMenu& menu, MainMenu entries) const;
 
     /// To be called when what the validator goes by has changed: the shortcuts of disabled entries
     /// do nothing, and the key press goes on to whatever has the keyboard.

@@ -40,18 +40,6 @@ Url urlOf(const NotificationObject& object)
     return url == nullptr ? Url() : *url;
 }
 
-/// Releases a screen from the event loop: it may be its own call that ends it.
-template <typename Screen>
-void retire(QObject& context, std::unique_ptr<Screen>& screen)
-{
-    if (screen == nullptr) {
-        return;
-    }
-    screen->view().hide();
-    QMetaObject::invokeMethod(
-        &context, [retired = std::shared_ptr<Screen>(std::move(screen))] {}, Qt::QueuedConnection);
-}
-
 } // namespace
 
 MainWindowController::MainWindowController(const MainWindowServices& services)
@@ -94,6 +82,8 @@ void MainWindowController::loadWindow()
     connect(&m_slide, &ScanPanelSlide::cleanUpDue, this, [this] {
         handle(ScreenEvent::CleanUpDue, {});
     });
+    m_release.setSingleShot(true);
+    m_release.callOnTimeout(this, [this] { m_retired.clear(); });
     m_window->installEventFilter(this);
     m_view->installEventFilter(this);
 }
@@ -189,9 +179,19 @@ void MainWindowController::startScan(const Url& url)
     panel.setFocus();
 }
 
+template <typename Screen>
+void MainWindowController::retire(std::unique_ptr<Screen>& screen)
+{
+    if (screen != nullptr) {
+        screen->view().hide();
+        m_retired.push_back(std::move(screen));
+        m_release.start();
+    }
+}
+
 void MainWindowController::dropScan()
 {
-    retire(*this, m_scanVC);
+    retire(m_scanVC);
 }
 
 void MainWindowController::cleanUp()
@@ -205,7 +205,7 @@ void MainWindowController::displayTree()
 {
     m_slide.reset();
     dropScan();
-    retire(*this, m_homeVC);
+    retire(m_homeVC);
     m_toolbar->setTreeDisplayed(true);
     m_treeView = std::make_unique<TreeMapView>(m_services.treeScreen.defaults, m_view);
     placeScreens();

@@ -11,9 +11,11 @@
 
 #include <QMenu>
 #include <QObject>
+#include <QTimer>
 
 #include <array>
 #include <memory>
+#include <variant>
 #include <vector>
 
 class QMainWindow;
@@ -78,6 +80,8 @@ private:
     void showHome();
     void startScan(const Url& url);
     void slideScanIn(const Url& url);
+    template <typename Screen>
+    void retire(std::unique_ptr<Screen>& screen);
     void dropScan();
     void cleanUp();
     void displayTree();
@@ -99,6 +103,10 @@ private:
     std::unique_ptr<ScanScreen> m_scanVC;
     std::unique_ptr<TreeMapView> m_treeView;
     std::unique_ptr<TreeViewController> m_treeVC;
+    /// Screens that are no longer shown. It may be a call of their own that ended them, so they are
+    /// released from the event loop.
+    std::vector<std::variant<std::unique_ptr<HomeScreen>, std::unique_ptr<ScanScreen>>> m_retired;
+    QTimer m_release;
     std::array<Observation, 4> m_observations;
 };
 

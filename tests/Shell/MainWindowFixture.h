@@ -49,13 +49,13 @@ protected:
         finishScan();
     }
 
-    void select(const char* path)
+    void select(const char* path) const
     {
         NotificationCenter::defaultCenter().post(
             "ClickTreeItem", &at(*services.model.topFolder(), path));
     }
 
-    void zoomIntoDocs()
+    void zoomIntoDocs() const
     {
         select("docs");
         controller->perform(MainCommand::ZoomIn);

@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: MIT
+#include "Shell/AppDelegate.h"
+
+#include "Model/RootModel.h"
+#include "Shell/Defaults.h"
+#include "Shell/MainWindowController.h"
+#include "Utils/Alert.h"
+#include "Utils/Util.h"
+#include "Utils/Workspace.h"
+
+#include <QApplication>
+#include <QMainWindow>
+#include <QThread>
+
+#include <optional>
+#include <utility>
+
+namespace tessera {
+
+namespace {
+
+constexpr int kWaitMilliseconds = 100;
+
+/// Whether somebody waits for the user's answer further down on the stack, in an event loop of its
+/// own. What waits may use the screen that another scan would take away.
+bool isInNestedEventLoop()
+{
+    return QThread::currentThread()->loopLevel() > 1;
+}
+
+std::optional<HelpPage> helpPageOf(int tag)
+{
+    switch (tag) {
+    case menu_tag::kFeatures:
+        return HelpPage::Features;
+    case menu_tag::kQuestions:
+        return HelpPage::Questions;
+    default:
+        return std::nullopt;
+    }
+}
+
+void bringToFront(QWidget& window)
+{
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
+
+} // namespace
+
+AppDelegate::AppDelegate(const AppDelegateServices& services)
+    : m_services(services)
+{
+    m_wait.setInterval(kWaitMilliseconds);
+    m_wait.callOnTimeout(this, &AppDelegate::openWaiting);
+}
+
+AppDelegate::~AppDelegate() = default;
+
+void AppDelegate::applicationDidFinishLaunching()
+{
+    RootModel& model = m_services.mainWindow.model;
+    if (Util::realUserName(m_services.userAccount) == "root") {
+        model.setIsRunningAsRoot(true);
+    }
+    registerDefaults(m_services.mainWindow.defaults);
+    m_mainWindow = std::make_unique<MainWindowController>(m_services.mainWindow);
+    MainWindowController& mainWindow = *m_mainWindow;
+    connect(
+        &mainWindow,
+        &MainWindowController::preferencesRequested,
+        this,
+        &AppDelegate::showPreferences);
+    connect(&mainWindow, &MainWindowController::helpRequested, this, &AppDelegate::showHelpItem);
+    // Not from within the handling of its close event, and whatever other windows there are.
+    connect(
+        &mainWindow,
+        &MainWindowController::closed,
+        qApp,
+        &QApplication::quit,
+        Qt::QueuedConnection);
+    mainWindow.showWindow();
+}
+
+bool AppDelegate::openFile(const std::string& path)
+{
+    if (m_mainWindow != nullptr) {
+        m_waiting = Url(path, true);
+        openWaiting();
+    }
+    return true;
+}
+
+void AppDelegate::openWaiting()
+{
+    if (isInNestedEventLoop()) {
+        m_wait.start();
+        return;
+    }
+    m_wait.stop();
+    MainWindowController::scanURL(std::exchange(m_waiting, {}));
+}
+
+void AppDelegate::openFromElsewhere(const Url& folder)
+{
+    if (m_mainWindow == nullptr) {
+        return;
+    }
+    bringToFront(m_mainWindow->window());
+    if (!folder.empty()) {
+        openFile(folder.path());
+    }
+}
+
+void AppDelegate::showPreferences()
+{
+    m_prefWindow = m_services.makePreferencesWindow();
+    bringToFront(*m_prefWindow);
+}
+
+void AppDelegate::showHelpItem(int tag)
+{
+    const std::optional<HelpPage> page = helpPageOf(tag);
+    if (!page) {
+        return;
+    }
+    const TreeViewServices& desktop = m_services.mainWindow.treeScreen;
+    if (!desktop.workspace.openUrl(m_services.helpAddress(*page))) {
+        desktop.alert.beginSheet(
+            {tr("The help cannot be shown"),
+             tr("Either its pages are not installed or the desktop offers no web browser."),
+             {tr("OK")}});
+    }
+}
+
+} // namespace tessera

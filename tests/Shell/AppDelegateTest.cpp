@@ -1,0 +1,201 @@
+// SPDX-License-Identifier: MIT
+#include "Shell/AppDelegate.h"
+
+#include "Shell/MainWindowController.h"
+#include "Utils/UserAccount.h"
+#include "support/FakeMainWindowServices.h"
+#include "support/makeTree.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QMainWindow>
+#include <QPointer>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace tessera {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class FakeUserAccount final : public UserAccount {
+public:
+    [[nodiscard]] std::optional<PasswordEntry> realUser() const override
+    {
+        return PasswordEntry{name, "/me"};
+    }
+    [[nodiscard]] std::string homeDirectory() const override { return "/me"; }
+
+    std::string name = "me";
+};
+
+class AppDelegateTest : public testing::Test {
+protected:
+    AppDelegateServices appServices()
+    {
+        return {
+            services.get(),
+            account,
+            [] { return std::make_unique<QWidget>(); },
+            [](HelpPage page) -> std::string {
+                return page == HelpPage::Features ? "file:///features" : "file:///faq";
+            }};
+    }
+
+    void showTree()
+    {
+        delegate.openFile("/data");
+        services.model.setTopFolder(test::makeTree("/data", "a:700"));
+        NotificationCenter::defaultCenter().post("ScanComplete");
+    }
+
+    FakeUserAccount account;
+    test::FakeMainWindowServices services;
+    AppDelegate delegate{appServices()};
+};
+
+TEST_F(AppDelegateTest, TheStartOpensTheMainWindowOnTheHomeScreen)
+{
+    delegate.applicationDidFinishLaunching();
+    EXPECT_TRUE(delegate.mainWindow()->window().isVisible());
+    EXPECT_EQ(delegate.mainWindow()->state(), ScreenState::Home);
+}
+
+TEST_F(AppDelegateTest, TheStartRegistersTheDefaults)
+{
+    delegate.applicationDidFinishLaunching();
+    EXPECT_EQ(services.rootModel.defaults.integer("TooltipType"), 2);
+}
+
+TEST_F(AppDelegateTest, TheModelLearnsThatTheRealUserIsRoot)
+{
+    account.name = "root";
+    delegate.applicationDidFinishLaunching();
+    EXPECT_TRUE(services.model.isRunningAsRoot());
+}
+
+TEST_F(AppDelegateTest, AnyOtherRealUserIsNotRoot)
+{
+    account.name = "rooty";
+    delegate.applicationDidFinishLaunching();
+    EXPECT_FALSE(services.model.isRunningAsRoot());
+}
+
+TEST_F(AppDelegateTest, AFolderOpenedBeforeTheStartIsDropped)
+{
+    EXPECT_TRUE(delegate.openFile("/data"));
+    delegate.applicationDidFinishLaunching();
+    EXPECT_THAT(services.screens.scanned, IsEmpty());
+}
+
+TEST_F(AppDelegateTest, AFolderOpenedWithTheProgramIsScanned)
+{
+    delegate.applicationDidFinishLaunching();
+    EXPECT_TRUE(delegate.openFile("/data/some\xFF"));
+    EXPECT_THAT(services.screens.scanned, ElementsAre("/data/some\xFF"));
+}
+
+TEST_F(AppDelegateTest, ABackupOpenedWithTheProgramIsScanned)
+{
+    delegate.applicationDidFinishLaunching();
+    delegate.openFile("/a/Backups.backupdb");
+    EXPECT_THAT(services.screens.scanned, ElementsAre("/a/Backups.backupdb"));
+}
+
+TEST_F(AppDelegateTest, AFolderOpenedWhileATreeIsDisplayedIsScannedFromTheHomeScreen)
+{
+    delegate.applicationDidFinishLaunching();
+    showTree();
+    ASSERT_EQ(delegate.mainWindow()->state(), ScreenState::Tree);
+    delegate.openFile("/other");
+    EXPECT_EQ(delegate.mainWindow()->state(), ScreenState::Scanning);
+    EXPECT_THAT(services.screens.scanned, ElementsAre("/data", "/other"));
+}
+
+TEST_F(AppDelegateTest, WhileTheUserHasToAnswerAQuestionAFolderWaits)
+{
+    delegate.applicationDidFinishLaunching();
+    QEventLoop application;
+    QTimer::singleShot(0, &application, [&] {
+        QEventLoop question;
+        QTimer::singleShot(0, &question, [&] {
+            delegate.openFile("/data");
+            EXPECT_THAT(services.screens.scanned, IsEmpty());
+            question.quit();
+        });
+        question.exec();
+    });
+    QTimer poll;
+    poll.callOnTimeout([&] {
+        if (!services.screens.scanned.empty()) {
+            application.quit();
+        }
+    });
+    poll.start(1);
+    application.exec();
+    EXPECT_THAT(services.screens.scanned, ElementsAre("/data"));
+}
+
+TEST_F(AppDelegateTest, AnotherStartBringsTheWindowBack)
+{
+    delegate.applicationDidFinishLaunching();
+    QMainWindow& window = delegate.mainWindow()->window();
+    window.showMinimized();
+    delegate.openFromElsewhere(Url());
+    EXPECT_FALSE(window.isMinimized());
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_THAT(services.screens.scanned, IsEmpty());
+}
+
+TEST_F(AppDelegateTest, AnotherStartOnAFolderHasItScanned)
+{
+    delegate.applicationDidFinishLaunching();
+    delegate.openFromElsewhere(Url("/data", true));
+    EXPECT_THAT(services.screens.scanned, ElementsAre("/data"));
+}
+
+TEST_F(AppDelegateTest, EachPreferencesWindowTakesThePreviousOnesPlace)
+{
+    delegate.applicationDidFinishLaunching();
+    delegate.mainWindow()->perform(MainCommand::Preferences);
+    const QPointer<QWidget> first = delegate.prefWindow();
+    ASSERT_FALSE(first.isNull());
+    EXPECT_TRUE(first->isVisible());
+    delegate.showPreferences();
+    EXPECT_TRUE(first.isNull());
+    EXPECT_TRUE(delegate.prefWindow()->isVisible());
+}
+
+TEST_F(AppDelegateTest, HelpPagesAreOpenedByTheTagsOfTheirEntries)
+{
+    delegate.applicationDidFinishLaunching();
+    delegate.mainWindow()->perform(MainCommand::Features);
+    delegate.showHelpItem(64);
+    delegate.showHelpItem(63);
+    delegate.showHelpItem(0);
+    EXPECT_THAT(
+        services.treeScreen.workspace.opened, ElementsAre("file:///features", "file:///faq"));
+    EXPECT_THAT(services.treeScreen.alert.told, IsEmpty());
+}
+
+TEST_F(AppDelegateTest, HelpThatCannotBeShownIsSaidSo)
+{
+    services.treeScreen.workspace.answer = false;
+    delegate.showHelpItem(62);
+    ASSERT_EQ(services.treeScreen.alert.told.size(), 1U);
+    EXPECT_EQ(
+        services.treeScreen.alert.told[0].messageText, QStringLiteral("The help cannot be shown"));
+}
+
+TEST_F(AppDelegateTest, ClosingTheMainWindowQuitsAlsoWhenAnotherWindowIsOpen)
+{
+    delegate.applicationDidFinishLaunching();
+    delegate.showPreferences();
+    QTimer::singleShot(0, &delegate, [this] { delegate.mainWindow()->window().close(); });
+    EXPECT_EQ(QApplication::exec(), 0);
+}
+
+} // namespace
+} // namespace tessera
