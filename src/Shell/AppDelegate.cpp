@@ -50,8 +50,8 @@ void bringToFront(QWidget& window)
 
 } // namespace
 
-AppDelegate::AppDelegate(const AppDelegateServices& services)
-    : m_services(services)
+AppDelegate::AppDelegate(AppDelegateServices services)
+    : m_services(std::move(services))
 {
     m_wait.setInterval(kWaitMilliseconds);
     m_wait.callOnTimeout(this, &AppDelegate::openWaiting);

@@ -37,7 +37,7 @@ struct AppDelegateServices {
 /// takes folders that are to be opened with the program. Main thread only.
 class AppDelegate final : public QObject {
 public:
-    explicit AppDelegate(const AppDelegateServices& services);
+    explicit AppDelegate(AppDelegateServices services);
     ~AppDelegate() override;
 
     /// Null before the start.

@@ -151,7 +151,7 @@ void MainWindowController::showHome()
     m_treeVC.reset();
     m_treeView.reset();
     m_toolbar->setTreeDisplayed(false);
-    m_homeVC = m_services.makeHomeScreen();
+    m_homeVC = m_services.makeHomeScreen([this] { openFolder(); });
     QWidget& home = m_homeVC->view();
     home.setParent(m_view);
     placeScreens();

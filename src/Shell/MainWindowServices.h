@@ -48,7 +48,9 @@ struct MainWindowServices {
     TreeViewServices treeScreen;
     UserDefaults& defaults; ///< where the window's place on the screen is remembered
     OpenPanel& openPanel;
-    std::function<std::unique_ptr<HomeScreen>()> makeHomeScreen;
+    /// Gets what the home screen calls when a folder is to be chosen.
+    std::function<std::unique_ptr<HomeScreen>(const std::function<void()>& openFolder)>
+        makeHomeScreen;
     std::function<std::unique_ptr<ScanScreen>()> makeScanScreen;
     ScanPanelSlide::Clock slideClock = ZoomAnimation::steadyClock;
 };

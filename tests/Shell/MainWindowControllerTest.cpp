@@ -166,6 +166,12 @@ TEST_F(MainWindowControllerTest, AChosenFolderIsScanned)
     EXPECT_THAT(services.screens.scanned, ElementsAre("/b"));
 }
 
+TEST_F(MainWindowControllerTest, TheHomeScreensButtonLetsTheUserChooseAFolder)
+{
+    services.screens.openFolder();
+    EXPECT_EQ(services.openPanel.shown, 1);
+}
+
 TEST_F(MainWindowControllerTest, APanelClosedWithoutAChoiceChangesNothing)
 {
     controller->openFolder();

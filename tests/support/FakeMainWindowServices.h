@@ -10,6 +10,7 @@
 
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -26,6 +27,7 @@ struct ScreenRecord {
     QWidget* home = nullptr; ///< the view of the latest
     QWidget* scan = nullptr;
     bool homeEnabled = true;
+    std::function<void()> openFolder; ///< what the home screen's button does
 };
 
 class FakeHomeScreen final : public HomeScreen {
@@ -99,7 +101,10 @@ struct FakeMainWindowServices {
             treeScreen.get(),
             rootModel.defaults,
             openPanel,
-            [this] { return std::make_unique<FakeHomeScreen>(screens); },
+            [this](const std::function<void()>& openFolder) {
+                screens.openFolder = openFolder;
+                return std::make_unique<FakeHomeScreen>(screens);
+            },
             [this] { return std::make_unique<FakeScanScreen>(screens); },
             [this] { return now; }};
     }
