@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Shell/CommandLine.h"
 
+#include "Model/Url.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -104,10 +106,25 @@ private:
     {
         if (folder.empty()) {
             m_error = "the folder's name is empty";
+        } else if (folder.starts_with("file:")) {
+            takeUrl(folder);
+            return;
         } else if (!m_result.folder.empty()) {
             m_error = "more than one folder";
         }
         m_result.folder = folder;
+    }
+
+    /// Desktops name what they open by its URL, and may name several: the last one counts, as where
+    /// several are chosen in a dialog.
+    void takeUrl(std::string_view text)
+    {
+        const std::optional<Url> url = Url::fromAbsoluteString(text);
+        if (!url) {
+            m_error = "'" + std::string(text) + "' is no URL of a folder";
+            return;
+        }
+        m_result.folder = url->path();
     }
 
     void takePicture(std::string_view file)

@@ -95,6 +95,22 @@ TEST(CommandLine, RefusesTwoFolders)
     EXPECT_EQ(refusal({"/usr", "/home"}), "more than one folder");
 }
 
+TEST(CommandLine, TakesAFoldersUrlAsDesktopsGiveIt)
+{
+    EXPECT_EQ(accepted({"file:///data/a%20b%FF/"}).folder, "/data/a b\xFF");
+}
+
+TEST(CommandLine, OfSeveralUrlsTheLastIsTaken)
+{
+    EXPECT_EQ(accepted({"file:///a", "file:///b"}).folder, "/b");
+}
+
+TEST(CommandLine, RefusesUrlsOfNoFolderHere)
+{
+    EXPECT_EQ(refusal({"file://host/a"}), "'file://host/a' is no URL of a folder");
+    EXPECT_EQ(refusal({"file:///a%2"}), "'file:///a%2' is no URL of a folder");
+}
+
 TEST(CommandLine, RefusesAnEmptyFolder)
 {
     EXPECT_EQ(refusal({""}), "the folder's name is empty");
