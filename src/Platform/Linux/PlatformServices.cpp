@@ -2,6 +2,7 @@
 #include "Platform/PlatformServices.h"
 
 #include "Platform/Linux/ChildProcessTask.h"
+#include "Platform/Linux/DBusRunningInstance.h"
 #include "Platform/Linux/DBusWorkspace.h"
 #include "Platform/Linux/DesktopMotionPreference.h"
 #include "Platform/Linux/HeapMemory.h"
@@ -70,6 +71,7 @@ PlatformServices makePlatformServices()
         = std::make_unique<XbelRecentDocuments>(XbelRecentDocuments::defaultFilePath());
     services.motionPreference = std::make_unique<DesktopMotionPreference>();
     services.launcherProgress = std::make_unique<UnityLauncherProgress>();
+    services.runningInstance = std::make_unique<DBusRunningInstance>();
     services.mainThread = std::make_unique<QtMainThread>();
     services.workspace = std::make_unique<DBusWorkspace>(*services.mainThread);
     services.makeTask = [] { return std::make_unique<ChildProcessTask>(); };
