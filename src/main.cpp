@@ -25,12 +25,21 @@ tessera::LaunchServices launchServices(const tessera::PlatformServices& services
          services.clock,
          services.userAccount->homeDirectory()},
         {*services.userDefaults, *services.recentDocuments, *services.standardFolders},
+        {*services.mountedVolumes,
+         *services.standardFolders,
+         *services.userAccount,
+         services.fileSystemAttributes,
+         services.resourceValues},
         *services.fileAccess,
         *services.motionPreference,
         *services.workspace,
         services.fileReader,
         services.makeTask,
-        services.archiver};
+        services.archiver,
+        *services.userAccount,
+        *services.launcherProgress,
+        *services.runningInstance,
+        services.helpFolder};
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "Model/RootModel.h"
 #include "Shell/Defaults.h"
 #include "Shell/MainWindowController.h"
+#include "Shell/PreferencesWindowController.h"
 #include "Utils/Alert.h"
 #include "Utils/Util.h"
 #include "Utils/Workspace.h"
@@ -116,8 +117,8 @@ void AppDelegate::openFromElsewhere(const Url& folder)
 
 void AppDelegate::showPreferences()
 {
-    m_prefWindow = m_services.makePreferencesWindow();
-    bringToFront(*m_prefWindow);
+    m_prefWindow = std::make_unique<PreferencesWindowController>(m_services.mainWindow.defaults);
+    m_prefWindow->showWindow(m_mainWindow == nullptr ? nullptr : &m_mainWindow->window());
 }
 
 void AppDelegate::showHelpItem(int tag)

@@ -12,11 +12,10 @@
 #include <memory>
 #include <string>
 
-class QWidget;
-
 namespace tessera {
 
 class MainWindowController;
+class PreferencesWindowController;
 class UserAccount;
 class Workspace;
 
@@ -27,8 +26,6 @@ enum class HelpPage : std::uint8_t { Features, Questions };
 struct AppDelegateServices {
     MainWindowServices mainWindow;
     const UserAccount& userAccount;
-    /// Makes the preferences window, not yet shown.
-    std::function<std::unique_ptr<QWidget>()> makePreferencesWindow;
     /// The address of a help page; empty when it is not installed.
     std::function<std::string(HelpPage)> helpAddress;
 };
@@ -43,7 +40,7 @@ public:
     /// Null before the start.
     MainWindowController* mainWindow() const { return m_mainWindow.get(); }
     /// The preferences window that was opened last; null before the first.
-    QWidget* prefWindow() const { return m_prefWindow.get(); }
+    PreferencesWindowController* prefWindow() const { return m_prefWindow.get(); }
 
     /// Registers the defaults and opens the main window on the home screen.
     void applicationDidFinishLaunching();
@@ -67,7 +64,7 @@ private:
 
     const AppDelegateServices m_services;
     std::unique_ptr<MainWindowController> m_mainWindow;
-    std::unique_ptr<QWidget> m_prefWindow;
+    std::unique_ptr<PreferencesWindowController> m_prefWindow;
     Url m_waiting; ///< to be opened when the user is done
     QTimer m_wait;
 };

@@ -196,7 +196,7 @@ std::string commandLineHelp()
     return "Usage: tessera [FOLDER]\n"
            "       tessera --picture FILE.png [--size WxH] [--scale N] FOLDER\n"
            "\n"
-           "Shows where the space in FOLDER goes, the home folder if none is named.\n"
+           "Shows where the space in FOLDER goes; lets you choose one if none is named.\n"
            "\n"
            "  --picture FILE.png  write the picture to FILE.png instead of opening a window\n"
            "  --size WxH          width and height of the picture in points (1600x1000)\n"

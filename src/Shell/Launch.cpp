@@ -2,17 +2,23 @@
 #include "Shell/Launch.h"
 
 #include "QuickLook/QuickLookPanel.h"
-#include "Shell/Defaults.h"
+#include "Resources/Images.h"
+#include "Scanning/ApplicationDockTile.h"
+#include "Scanning/ScanningViewController.h"
+#include "Shell/AppDelegate.h"
 #include "Shell/FileAccess.h"
-#include "Shell/FolderWindow.h"
+#include "Shell/FileDialogOpenPanel.h"
+#include "Shell/MainWindowController.h"
+#include "Shell/MainWindowScreens.h"
 #include "Shell/PictureWriter.h"
+#include "Shell/RunningInstance.h"
 #include "TreeView/DesktopIconProvider.h"
 #include "TreeView/TooltipController.h"
-#include "TreeView/TreeViewServices.h"
 #include "Utils/Log.h"
 #include "Utils/MessageBoxAlert.h"
 
 #include <QApplication>
+#include <QMainWindow>
 
 #include <cstdio>
 
@@ -45,38 +51,95 @@ void setUpPreview(QWidget& mainWindow, const LaunchServices& services, IconProvi
     panel.setMotionPreference(&services.motion);
 }
 
-int showWindow(const std::string& folder, const LaunchServices& services)
+std::string helpAddress(const std::string& folder, HelpPage page)
 {
-    const std::string path = services.files.absolutePath(folder);
-    if (const std::error_code error = services.files.checkFolder(path)) {
-        return fail("cannot read the folder '" + folder + "': " + error.message());
+    const std::string name = page == HelpPage::Features ? "/features.html" : "/faq.html";
+    return folder.empty() ? std::string() : Url(folder + name, false).absoluteString();
+}
+
+/// What the tree screen and the preview share with the rest and that must outlive the window.
+struct Desktop {
+    explicit Desktop(const LaunchServices& services)
+        : dockTile(services.launcherProgress)
+    {
+        TooltipController& tooltip = TooltipController::sharedInstance();
+        tooltip.setResourceValues(&services.scanEnvironment.resourceValues);
+        tooltip.setIconProvider(&icons);
     }
-    registerDefaults(services.rootModelServices.defaults);
-    RootModel::setServices(services.rootModelServices);
+    Desktop(const Desktop&) = delete;
+    Desktop& operator=(const Desktop&) = delete;
+    ~Desktop()
+    {
+        TooltipController::sharedInstance().setIconProvider(nullptr);
+        QuickLookPanel::sharedInstance().setIconProvider(nullptr);
+    }
+
     DesktopIconProvider icons;
-    TooltipController& tooltip = TooltipController::sharedInstance();
-    tooltip.setResourceValues(&services.scanEnvironment.resourceValues);
-    tooltip.setIconProvider(&icons);
+    ApplicationDockTile dockTile;
     MessageBoxAlert alert;
-    FolderWindow window(
-        {services.scanEnvironment,
-         services.rootModelServices.defaults,
+    FileDialogOpenPanel openPanel;
+};
+
+MainWindowServices mainWindowServices(
+    const LaunchServices& services, RootModel& model, Desktop& desktop)
+{
+    const TreeViewServices treeScreen{
+        services.scanEnvironment,
+        services.rootModelServices.defaults,
+        services.workspace,
+        desktop.alert,
+        {services.archiver,
+         services.makeTask,
          services.workspace,
-         alert,
-         {services.archiver,
-          services.makeTask,
-          services.workspace,
-          services.scanEnvironment.resourceValues,
-          icons},
-         services.motion},
-        RootModel::sharedInstance());
-    setUpPreview(window, services, icons);
-    window.open(Url(path, true));
-    window.show();
+         services.scanEnvironment.resourceValues,
+         desktop.icons},
+        services.motion};
+    const ScanningServices scanScreen{services.scanEnvironment, desktop.icons, desktop.dockTile};
+    return {
+        model,
+        treeScreen,
+        services.rootModelServices.defaults,
+        desktop.openPanel,
+        [&model, homeScreen = services.homeScreen](const std::function<void()>& openFolder) {
+            return makeHomeScreen(model, homeScreen, openFolder);
+        },
+        [&model, scanScreen] { return makeScanScreen(model, scanScreen); }};
+}
+
+int showWindow(const Url& folder, const LaunchServices& services)
+{
+    QGuiApplication::setWindowIcon(imageNamed("bullseye"));
+    RootModel::setServices(services.rootModelServices);
+    Desktop desktop(services);
+    AppDelegate delegate(
+        {mainWindowServices(services, RootModel::sharedInstance(), desktop),
+         services.userAccount,
+         [helpFolder = services.helpFolder](HelpPage page) {
+             return helpAddress(helpFolder, page);
+         }});
+    delegate.applicationDidFinishLaunching();
+    setUpPreview(delegate.mainWindow()->window(), services, desktop.icons);
+    services.runningInstance.setHandler(
+        [&delegate](const Url& later) { delegate.openFromElsewhere(later); });
+    if (!folder.empty()) {
+        delegate.openFile(folder.path());
+    }
     const int status = QApplication::exec();
-    tooltip.setIconProvider(nullptr);
-    QuickLookPanel::sharedInstance().setIconProvider(nullptr);
+    services.runningInstance.setHandler([](const Url&) {});
     return status;
+}
+
+int openWindow(const std::string& folder, const LaunchServices& services)
+{
+    Url url;
+    if (!folder.empty()) {
+        const std::string path = services.files.absolutePath(folder);
+        if (const std::error_code error = services.files.checkFolder(path)) {
+            return fail("cannot read the folder '" + folder + "': " + error.message());
+        }
+        url = Url(path, true);
+    }
+    return services.runningInstance.handOver(url) ? kDone : showWindow(url, services);
 }
 
 } // namespace
@@ -108,8 +171,7 @@ int launch(const CommandLine& commandLine, const LaunchServices& services)
     if (commandLine.action == CommandLine::Action::WritePicture) {
         return writePicture(commandLine, services);
     }
-    const std::string& home = services.scanEnvironment.homeDirectory;
-    return showWindow(commandLine.folder.empty() ? home : commandLine.folder, services);
+    return openWindow(commandLine.folder, services);
 }
 
 } // namespace tessera

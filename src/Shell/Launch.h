@@ -4,6 +4,7 @@
 #include "Model/RootModel.h"
 #include "Scanning/ScanEnvironment.h"
 #include "Shell/CommandLine.h"
+#include "Shell/HomeViewServices.h"
 
 #include <functional>
 #include <memory>
@@ -13,20 +14,28 @@ namespace tessera {
 
 class FileAccess;
 class FileReader;
+class LauncherProgress;
 class MotionPreference;
+class RunningInstance;
 class Task;
+class UserAccount;
 class Workspace;
 
 /// What the program's screens need from the system. Everything must outlive the program's run.
 struct LaunchServices {
     ScanEnvironment scanEnvironment;
     RootModelServices rootModelServices;
+    HomeViewServices homeScreen;
     const FileAccess& files;
     const MotionPreference& motion;
     Workspace& workspace;
     std::shared_ptr<const FileReader> fileReader;
     std::function<std::unique_ptr<Task>()> makeTask;
     std::string archiver; ///< path of the program that makes archives; bytes
+    const UserAccount& userAccount;
+    LauncherProgress& launcherProgress;
+    RunningInstance& runningInstance;
+    std::string helpFolder; ///< path of the folder with the help pages; empty when missing
 };
 
 /// Prints the text that --help or --version asks for; false when the command line asks for
@@ -36,8 +45,9 @@ bool printRequestedText(const CommandLine& commandLine);
 /// Keeps Qt's advice to programmers out of what the user reads: only its failures are logged.
 void logQtFailuresOnly();
 
-/// Shows the window or writes the picture and returns the exit status: 0, or 1 when that could
-/// not be done, for a reason given in one line on standard error. Needs an application object.
+/// Shows the window, lets the program that already runs show it, or writes the picture, and
+/// returns the exit status: 0, or 1 when that could not be done, for a reason given in one line on
+/// standard error. Needs an application object.
 int launch(const CommandLine& commandLine, const LaunchServices& services);
 
 } // namespace tessera

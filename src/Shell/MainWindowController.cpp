@@ -48,6 +48,7 @@ MainWindowController::MainWindowController(const MainWindowServices& services)
     , m_view(m_window->centralWidget())
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the window owns it
     , m_actions(new MainActions(*m_window, [this](int tag) { return validateMenuItem(tag); }))
+    , m_ignoreMenu(services.model)
     , m_slide(services.treeScreen.motion, services.slideClock)
 {
     loadWindow();
@@ -67,6 +68,7 @@ void MainWindowController::loadWindow()
     m_actions->fill(*m_window->menuBar());
     m_actions->fill(m_itemMenu, MainMenu::Item);
     m_toolbar = std::make_unique<MainToolbar>(*m_window->findChild<QToolBar*>(), m_itemMenu);
+    m_toolbar->toolbarIgnoreButton().setMenu(&m_ignoreMenu);
     connect(m_actions, &MainActions::triggered, this, &MainWindowController::perform);
     connect(
         &m_toolbar->toolbarHomeButton(),
@@ -148,6 +150,8 @@ void MainWindowController::act(ScreenAction action, const Url& url)
 
 void MainWindowController::showHome()
 {
+    m_ignoreMenu.setTreeViewController(nullptr);
+    m_ignoreMenu.removeFolders();
     m_treeVC.reset();
     m_treeView.reset();
     m_toolbar->setTreeDisplayed(false);
@@ -218,6 +222,7 @@ void MainWindowController::displayTree()
         &MainWindowController::refreshPathControl);
     connect(
         m_treeVC.get(), &TreeViewController::selectionChanged, m_actions, &MainActions::validate);
+    m_ignoreMenu.setTreeViewController(m_treeVC.get());
     m_treeView->show();
     m_treeView->setFocus();
 }
@@ -328,7 +333,7 @@ void MainWindowController::performOnTree(MainCommand command)
         m_treeVC->refreshFolder();
         break;
     case MainCommand::Ignore:
-        m_treeVC->perform(TreeCommand::Ignore);
+        m_ignoreMenu.ignoreFolder();
         break;
     case MainCommand::Compress:
         m_treeVC->compressItem();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "FileOps/IgnoreMenu.h"
 #include "Model/Observation.h"
 #include "Shell/ActionTable.h"
 #include "Shell/MainToolbar.h"
@@ -45,6 +46,7 @@ public:
     /// Null while the tree is not displayed.
     TreeViewController* treeVC() const { return m_treeVC.get(); }
     const MainToolbar& toolbar() const { return *m_toolbar; }
+    IgnoreMenu& ignoreMenu() { return m_ignoreMenu; }
     ScanPanelSlide& slide() { return m_slide; }
 
     /// Shows the home screen instead of the tree.
@@ -97,6 +99,7 @@ private:
     QWidget* m_view; ///< the window's content area, which holds the screens
     MainActions* m_actions;
     QMenu m_itemMenu; ///< under the toolbar's button
+    IgnoreMenu m_ignoreMenu;
     std::unique_ptr<MainToolbar> m_toolbar;
     ScanPanelSlide m_slide;
     std::unique_ptr<HomeScreen> m_homeVC;

@@ -2,11 +2,13 @@
 #include "Shell/AppDelegate.h"
 
 #include "Shell/MainWindowController.h"
+#include "Shell/PreferencesWindowController.h"
 #include "Utils/UserAccount.h"
 #include "support/FakeMainWindowServices.h"
 #include "support/makeTree.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QEventLoop>
 #include <QMainWindow>
 #include <QPointer>
@@ -35,13 +37,9 @@ class AppDelegateTest : public testing::Test {
 protected:
     AppDelegateServices appServices()
     {
-        return {
-            services.get(),
-            account,
-            [] { return std::make_unique<QWidget>(); },
-            [](HelpPage page) -> std::string {
-                return page == HelpPage::Features ? "file:///features" : "file:///faq";
-            }};
+        return {services.get(), account, [](HelpPage page) -> std::string {
+                    return page == HelpPage::Features ? "file:///features" : "file:///faq";
+                }};
     }
 
     void showTree()
@@ -160,12 +158,12 @@ TEST_F(AppDelegateTest, EachPreferencesWindowTakesThePreviousOnesPlace)
 {
     delegate.applicationDidFinishLaunching();
     delegate.mainWindow()->perform(MainCommand::Preferences);
-    const QPointer<QWidget> first = delegate.prefWindow();
-    ASSERT_FALSE(first.isNull());
+    ASSERT_NE(delegate.prefWindow(), nullptr);
+    const QPointer<QWidget> first = &delegate.prefWindow()->window();
     EXPECT_TRUE(first->isVisible());
     delegate.showPreferences();
     EXPECT_TRUE(first.isNull());
-    EXPECT_TRUE(delegate.prefWindow()->isVisible());
+    EXPECT_TRUE(delegate.prefWindow()->window().isVisible());
 }
 
 TEST_F(AppDelegateTest, HelpPagesAreOpenedByTheTagsOfTheirEntries)

@@ -158,6 +158,17 @@ TEST_F(MainWindowScreensTest, TheToolbarFollowsTheScreen)
     EXPECT_THAT(isAsWithTree(), ElementsAre(false, false, false, false));
 }
 
+TEST_F(MainWindowScreensTest, OnTheHomeScreenTheIgnoreMenuHasItsFixedEntriesOnly)
+{
+    showTree();
+    select("docs");
+    controller->perform(MainCommand::Ignore);
+    EXPECT_TRUE(test::at(*services.model.topFolder(), "docs").ignored());
+    EXPECT_EQ(controller->ignoreMenu().actions().size(), 8);
+    requestScan();
+    EXPECT_EQ(controller->ignoreMenu().actions().size(), 6);
+}
+
 TEST_F(MainWindowScreensTest, NothingJumpsWhenTheScreenChanges)
 {
     const QSize before = area();
