@@ -45,9 +45,9 @@ std::unique_ptr<Folder> homeFolder(TopFolder& root)
 
 } // namespace
 
-ScanningViewController::ScanningViewController(RootModel& model, const ScanningServices& services)
+ScanningViewController::ScanningViewController(RootModel& model, ScanningServices services)
     : m_model(model)
-    , m_services(services)
+    , m_services(std::move(services))
     , m_view(Util::loadViewFromNib<QWidget>("ScanningViewController"))
     , m_scanLabel(outlet<PathLabel>(*m_view, "scanLabel"))
     , m_indicator(outlet<QProgressBar>(*m_view, "indicator"))

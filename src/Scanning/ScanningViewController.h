@@ -44,7 +44,7 @@ public:
     static constexpr int kViewHeight = 230;
 
     /// The model must outlive the controller.
-    ScanningViewController(RootModel& model, const ScanningServices& services);
+    ScanningViewController(RootModel& model, ScanningServices services);
     /// Stops a scan that still runs, and posts nothing.
     ~ScanningViewController() override;
 

@@ -271,7 +271,7 @@ class IgnoreMenuAfterRescanTest : public IgnoreMenuTest {
 protected:
     void replaceProjects(std::string_view found)
     {
-        Folder& old = static_cast<Folder&>(node("Projects"));
+        auto& old = static_cast<Folder&>(node("Projects"));
         const auto taken
             = old.parent()->replaceChild(old, test::makeTree("/Volumes/Data/Projects", found));
         emit tree->folderReplaced(&old);

@@ -32,10 +32,9 @@ public:
 
     std::vector<Update> updates;
 
-public slots:
-    void update(const QDBusMessage& message)
+    Q_SLOT void update(const QDBusMessage& message)
     {
-        const QVariantMap properties = qdbus_cast<QVariantMap>(message.arguments().at(1));
+        const auto properties = qdbus_cast<QVariantMap>(message.arguments().at(1));
         updates.push_back(
             {message.arguments().at(0).toString().toStdString(),
              properties.value(QStringLiteral("progress")).toDouble(),
@@ -64,7 +63,7 @@ protected:
             m_sessionBus.connection(QStringLiteral("tessera-test-program")));
     }
 
-    void waitForUpdates(std::size_t count)
+    void waitForUpdates(std::size_t count) const
     {
         test::SessionBus::runEventsUntil([&] { return panel.updates.size() >= count; });
     }
