@@ -2,12 +2,12 @@
 #include "TreeView/DesktopIconProvider.h"
 
 #include "Model/File.h"
+#include "Resources/Images.h"
 #include "Utils/DisplayText.h"
 
-#include <QApplication>
+#include <QGuiApplication>
 #include <QIcon>
 #include <QMimeType>
-#include <QStyle>
 
 namespace tessera {
 
@@ -15,54 +15,54 @@ namespace {
 
 constexpr int kCommonPoints = 32;
 
-QString folderIconName(const File& node)
-{
-    return node.type() == NodeType::Volume ? QStringLiteral("drive-harddisk")
-                                           : QStringLiteral("folder");
-}
-
-QIcon styleIcon(bool isFolder)
-{
-    return QApplication::style()->standardIcon(isFolder ? QStyle::SP_DirIcon : QStyle::SP_FileIcon);
-}
-
 } // namespace
 
 DesktopIconProvider::DesktopIconProvider()
 {
     const double scale = qApp->devicePixelRatio();
-    const QString folder = QStringLiteral("folder");
-    namedIcon({folder, kCommonPoints, scale}, folder, true);
-    const QMimeType type
-        = m_types.mimeTypeForFile(QStringLiteral("a.txt"), QMimeDatabase::MatchExtension);
-    namedIcon({type.iconName(), kCommonPoints, scale}, type.genericIconName(), false);
+    namedIcon(folderNames(NodeType::Folder), kCommonPoints, scale);
+    namedIcon(documentNames(QStringLiteral("a.txt")), kCommonPoints, scale);
+}
+
+DesktopIconProvider::IconNames DesktopIconProvider::folderNames(NodeType type)
+{
+    return type == NodeType::Volume
+        ? IconNames{QStringLiteral("drive-harddisk"), QStringLiteral("drive-harddisk"), "disk"}
+        : IconNames{QStringLiteral("folder"), QStringLiteral("folder"), "folder"};
+}
+
+DesktopIconProvider::IconNames DesktopIconProvider::documentNames(const QString& fileName) const
+{
+    const QMimeType type = m_types.mimeTypeForFile(fileName, QMimeDatabase::MatchExtension);
+    return {type.iconName(), type.genericIconName(), "document"};
+}
+
+QIcon DesktopIconProvider::findIcon(const IconNames& names)
+{
+    for (const QString& name : {names.inTheme, names.moreGeneral}) {
+        if (QIcon icon = QIcon::fromTheme(name); !icon.isNull()) {
+            return icon;
+        }
+    }
+    return imageNamed(names.own);
 }
 
 QPixmap DesktopIconProvider::icon(const File& node, int points, double scale)
 {
-    if (node.isFolder()) {
-        const QString name = folderIconName(node);
-        return namedIcon({name, points, scale}, QStringLiteral("folder"), true);
-    }
-    const QMimeType type
-        = m_types.mimeTypeForFile(displayText(node.name()), QMimeDatabase::MatchExtension);
-    return namedIcon({type.iconName(), points, scale}, type.genericIconName(), false);
+    return namedIcon(
+        node.isFolder() ? folderNames(node.type()) : documentNames(displayText(node.name())),
+        points,
+        scale);
 }
 
-QPixmap DesktopIconProvider::namedIcon(const Key& key, const QString& genericName, bool isFolder)
+QPixmap DesktopIconProvider::namedIcon(const IconNames& names, int points, double scale)
 {
+    const Key key{names.inTheme, points, scale};
     const auto known = m_icons.constFind(key);
     if (known != m_icons.constEnd()) {
         return *known;
     }
-    QIcon icon = QIcon::fromTheme(key.name);
-    if (icon.isNull()) {
-        icon = QIcon::fromTheme(genericName);
-    }
-    if (icon.isNull()) {
-        icon = styleIcon(isFolder);
-    }
-    QPixmap picture = icon.pixmap(QSize(key.points, key.points), key.scale);
+    QPixmap picture = findIcon(names).pixmap(QSize(points, points), scale);
     m_icons.insert(key, picture);
     return picture;
 }

@@ -3,6 +3,7 @@
 
 #include "Model/Document.h"
 #include "Model/Volume.h"
+#include "Resources/Images.h"
 #include "support/makeTree.h"
 
 #include <gtest/gtest.h>
@@ -28,6 +29,14 @@ TEST_F(DesktopIconProviderTest, FoldersAndFilesHaveIconsOfTheAskedSizeWithoutATh
     EXPECT_EQ(folder.size(), QSize(32, 32));
     EXPECT_FALSE(file.isNull());
     EXPECT_NE(folder.toImage(), file.toImage());
+}
+
+TEST_F(DesktopIconProviderTest, WithoutAThemeTheProgramsOwnPicturesAreShown)
+{
+    const auto own = [](std::string_view name) { return imageNamed(name).pixmap({32, 32}, 1); };
+
+    EXPECT_EQ(icons.icon(test::at(*tree, "docs"), 32, 1).toImage(), own("folder").toImage());
+    EXPECT_EQ(icons.icon(test::at(*tree, "song.mp3"), 32, 1).toImage(), own("document").toImage());
 }
 
 TEST_F(DesktopIconProviderTest, APictureIsKeptForAllFilesOfItsType)
