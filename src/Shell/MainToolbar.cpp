@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Shell/MainToolbar.h"
 
+#include "Shell/MenuToolButton.h"
 #include "Shell/ToolbarSymbol.h"
 #include "TreeView/ToolbarPathControl.h"
 #include "TreeView/ToolbarPathItem.h"
@@ -20,10 +21,11 @@ QString tr(const char* text)
     return QCoreApplication::translate("MainToolbar", text);
 }
 
+template <typename Button>
 QToolButton* addButton(QToolBar& toolbar, ToolbarSymbol symbol, const QString& name)
 {
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the parent owns it
-    auto* const button = new QToolButton(&toolbar);
+    auto* const button = new Button(&toolbar);
     button->setIcon(iconOf(symbol));
     button->setText(name);
     button->setToolTip(name);
@@ -49,24 +51,22 @@ ToolbarPathControl* addPathControl(QToolBar& toolbar)
 } // namespace
 
 MainToolbar::MainToolbar(QToolBar& toolbar, QMenu& actionsMenu)
-    : m_toolbarHomeButton(addButton(
+    : m_toolbarHomeButton(addButton<QToolButton>(
         toolbar,
         ToolbarSymbol::Home,
         tr(QT_TRANSLATE_NOOP("MainToolbar", "Choose another disk or folder"))))
     , m_toolbarSeperator(addSeparator(toolbar))
     , m_toolbarPathControl(addPathControl(toolbar))
-    , m_toolbarActionsButton(addButton(
+    , m_toolbarActionsButton(addButton<MenuToolButton>(
           toolbar,
           ToolbarSymbol::Actions,
           tr(QT_TRANSLATE_NOOP("MainToolbar", "Commands for the selected item"))))
-    , m_toolbarIgnoreButton(addButton(
+    , m_toolbarIgnoreButton(addButton<MenuToolButton>(
           toolbar,
           ToolbarSymbol::Ignore,
           tr(QT_TRANSLATE_NOOP("MainToolbar", "What the map leaves out"))))
 {
     m_toolbarActionsButton->setMenu(&actionsMenu);
-    m_toolbarActionsButton->setPopupMode(QToolButton::InstantPopup);
-    m_toolbarIgnoreButton->setPopupMode(QToolButton::InstantPopup);
 }
 
 void MainToolbar::setTreeDisplayed(bool displayed)
