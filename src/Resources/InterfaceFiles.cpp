@@ -3,9 +3,9 @@
 
 #include "ui_CollectionHeaderView.h"
 #include "ui_CompressWindow.h"
-#include "ui_MainWindowController.h"
 #include "ui_FolderCollectionView.h"
 #include "ui_HomeViewController.h"
+#include "ui_MainWindowController.h"
 #include "ui_PreferencesWindowController.h"
 #include "ui_ScanningViewController.h"
 #include "ui_TreeTooltip.h"

@@ -6,6 +6,7 @@
 #include "support/FakeIconProvider.h"
 #include "support/FakeTask.h"
 #include "support/FakeWorkspace.h"
+#include "support/becomesActive.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -463,7 +464,7 @@ TEST_F(CompressWindowControllerTest, EscapeCancelsAndLeavesTheWindowOpen)
     controller->showWindow();
     compress();
     controller->window().activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&controller->window()));
+    ASSERT_TRUE(test::becomesActive(controller->window()));
     QTest::keyClick(controller->window().windowHandle(), Qt::Key_Escape);
 
     EXPECT_TRUE(QTest::qWaitFor([this] { return controller->state() == State::Cancelled; }));

@@ -6,6 +6,7 @@
 #include "TreeView/Bar.h"
 #include "TreeView/ColorHelper.h"
 #include "Utils/Util.h"
+#include "support/becomesActive.h"
 
 #include <QApplication>
 #include <QImage>
@@ -147,7 +148,7 @@ TEST_F(HomeItemViewsTest, TheSelectionIsBlueInTheWindowThatIsWorkedIn)
     folder->setSelected(true);
     folder->show();
     QApplication::setActiveWindow(folder.get());
-    ASSERT_TRUE(QTest::qWaitForWindowActive(folder.get()));
+    ASSERT_TRUE(test::becomesActive(*folder));
     EXPECT_EQ(picture(*folder).pixelColor(50, 4), colorWithHex(0x3875D7));
 }
 

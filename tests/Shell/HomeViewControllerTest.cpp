@@ -13,6 +13,7 @@
 #include "support/FakeFileSystem.h"
 #include "support/FakePlaces.h"
 #include "support/FakeRootModelServices.h"
+#include "support/becomesActive.h"
 
 #include <QListView>
 #include <QScrollArea>
@@ -244,7 +245,7 @@ TEST_F(HomeViewControllerTest, ReturnScans)
     show();
     QApplication::setActiveWindow(&home->view());
     home->view().setFocus();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&home->view()));
+    ASSERT_TRUE(test::becomesActive(home->view()));
     QTest::keyClick(&table(), Qt::Key_Return);
     EXPECT_THAT(scanned, ElementsAre("file:///home/eve/one/"));
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Shell/MainActions.h"
 
+#include "support/becomesActive.h"
+
 #include <QAction>
 #include <QKeySequence>
 #include <QMainWindow>
@@ -46,7 +48,7 @@ protected:
     {
         window.show();
         window.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        ASSERT_TRUE(test::becomesActive(window));
     }
 
     std::set<int> disabledTags;

@@ -6,6 +6,7 @@
 #include "TreeView/CenteredPathComponentCell.h"
 #include "TreeView/PathComponentButton.h"
 #include "TreeView/ToolbarPathControl.h"
+#include "support/becomesActive.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -204,7 +205,7 @@ TEST_F(MainWindowControllerTest, ABackupIsKnownByAnyPartOfItsPath)
 
 TEST_F(MainWindowControllerTest, ShortcutsOfTheWindowReachTheirCommands)
 {
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&controller->window()));
+    ASSERT_TRUE(test::becomesActive(controller->window()));
     QTest::keyClick(&controller->window(), Qt::Key_O, Qt::ControlModifier);
     EXPECT_EQ(services.openPanel.shown, 1);
 }

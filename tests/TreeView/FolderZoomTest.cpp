@@ -10,6 +10,7 @@
 #include "support/FakeRootModelServices.h"
 #include "support/FakeTreeViewServices.h"
 #include "support/FakeUserDefaults.h"
+#include "support/becomesActive.h"
 #include "support/makeTree.h"
 
 #include <QPainter>
@@ -294,7 +295,7 @@ TEST_F(FolderZoomTest, AnyButtonPressedAnywhereEndsTheZoomAtOnce)
 TEST_F(FolderZoomTest, ThereIsNoTooltipDuringAZoom)
 {
     view.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&view));
+    ASSERT_TRUE(test::becomesActive(view));
     defaults.setInteger(kTooltipTypeKey, 2);
     const QWidget& tooltip = TooltipController::sharedInstance().window();
     QTest::mouseMove(view.windowHandle(), QPoint(50, 100));

@@ -3,6 +3,7 @@
 
 #include "TreeView/PathComponentButton.h"
 #include "support/FakeIconProvider.h"
+#include "support/becomesActive.h"
 #include "support/makeTree.h"
 
 #include <QApplication>
@@ -62,7 +63,7 @@ protected:
     void focusLast()
     {
         control.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&control));
+        ASSERT_TRUE(test::becomesActive(control));
         QTest::keyClick(&control, Qt::Key_Tab);
         ASSERT_EQ(QApplication::focusWidget(), buttons().back());
     }
@@ -188,7 +189,7 @@ TEST_F(ToolbarPathControlTest, AClickLeavesTheFocusWhereItIs)
 {
     showPathTo("documents");
     control.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&control));
+    ASSERT_TRUE(test::becomesActive(control));
     QTest::mouseClick(buttons().at(0), Qt::LeftButton);
 
     EXPECT_FALSE(buttons().at(0)->hasFocus());

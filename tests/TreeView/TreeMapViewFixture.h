@@ -10,6 +10,7 @@
 #include "support/FakeFileSystem.h"
 #include "support/FakeIconProvider.h"
 #include "support/FakeUserDefaults.h"
+#include "support/becomesActive.h"
 #include "support/makeTree.h"
 
 #include <QApplication>
@@ -59,7 +60,7 @@ protected:
         addBranches();
         window.show();
         window.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        EXPECT_TRUE(test::becomesActive(window));
     }
 
     ~TreeMapViewTest() override

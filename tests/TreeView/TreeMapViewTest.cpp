@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "TreeView/TreeMapViewFixture.h"
+#include "support/becomesActive.h"
 
 #include <QSignalSpy>
 
@@ -202,7 +203,7 @@ TEST_F(TreeMapViewTest, AnotherActiveWindowMeansNoTooltip)
     QWidget other;
     other.show();
     other.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    ASSERT_TRUE(test::becomesActive(other));
     EXPECT_FALSE(isTooltipShown());
 
     moveTo(kInGroup);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Utils/MessageBoxAlert.h"
 
+#include "support/becomesActive.h"
+
 #include <QApplication>
 #include <QLabel>
 #include <QMessageBox>
@@ -21,7 +23,7 @@ protected:
     {
         m_window.show();
         m_window.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_window));
+        EXPECT_TRUE(test::becomesActive(m_window));
     }
 
     static AlertText question()
