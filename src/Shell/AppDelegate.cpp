@@ -3,6 +3,7 @@
 
 #include "Model/RootModel.h"
 #include "Shell/Defaults.h"
+#include "Shell/FolderDrop.h"
 #include "Shell/MainWindowController.h"
 #include "Shell/PreferencesWindowController.h"
 #include "Utils/Alert.h"
@@ -82,6 +83,9 @@ void AppDelegate::applicationDidFinishLaunching()
         qApp,
         &QApplication::quit,
         Qt::QueuedConnection);
+    m_folderDrop = std::make_unique<FolderDrop>(
+        mainWindow.window(), m_services.mainWindow.treeScreen.scanEnvironment.resourceValues);
+    connect(m_folderDrop.get(), &FolderDrop::dropped, this, &AppDelegate::openFile);
     mainWindow.showWindow();
 }
 

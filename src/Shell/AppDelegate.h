@@ -14,6 +14,7 @@
 
 namespace tessera {
 
+class FolderDrop;
 class MainWindowController;
 class PreferencesWindowController;
 class UserAccount;
@@ -64,6 +65,7 @@ private:
 
     const AppDelegateServices m_services;
     std::unique_ptr<MainWindowController> m_mainWindow;
+    std::unique_ptr<FolderDrop> m_folderDrop;
     std::unique_ptr<PreferencesWindowController> m_prefWindow;
     Url m_waiting; ///< to be opened when the user is done
     QTimer m_wait;

@@ -9,8 +9,10 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QDropEvent>
 #include <QEventLoop>
 #include <QMainWindow>
+#include <QMimeData>
 #include <QPointer>
 
 #include <gmock/gmock.h>
@@ -59,6 +61,19 @@ TEST_F(AppDelegateTest, TheStartOpensTheMainWindowOnTheHomeScreen)
     delegate.applicationDidFinishLaunching();
     EXPECT_TRUE(delegate.mainWindow()->window().isVisible());
     EXPECT_EQ(delegate.mainWindow()->state(), ScreenState::Home);
+}
+
+TEST_F(AppDelegateTest, AFolderThatIsDroppedOnTheWindowIsScanned)
+{
+    services.treeScreen.resourceValues.directories = {"/data"};
+    delegate.applicationDidFinishLaunching();
+    QMimeData data;
+    data.setData(QStringLiteral("text/uri-list"), "file:///data");
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&delegate.mainWindow()->window(), &enter);
+    QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&delegate.mainWindow()->window(), &drop);
+    EXPECT_THAT(services.screens.scanned, ElementsAre("/data"));
 }
 
 TEST_F(AppDelegateTest, TheStartRegistersTheDefaults)
