@@ -129,7 +129,6 @@ void MainWindowController::act(ScreenAction action, const Url& url)
         slideScanIn(url);
         break;
     case ScreenAction::ReplaceScan:
-        dropScan();
         startScan(url);
         break;
     case ScreenAction::SlideScanOut:
@@ -165,14 +164,16 @@ void MainWindowController::showHome()
 
 void MainWindowController::slideScanIn(const Url& url)
 {
-    dropScan();
     startScan(url);
     m_homeVC->setEnabled(false);
     m_slide.slideIn();
 }
 
+/// A scan that still runs ends here and now: an end of it that is on its way already must not be
+/// taken for the new one's.
 void MainWindowController::startScan(const Url& url)
 {
+    m_scanVC.reset();
     m_scanVC = m_services.makeScanScreen();
     QWidget& panel = m_scanVC->view();
     panel.setParent(m_view);

@@ -91,6 +91,18 @@ TEST_F(MainWindowScreensTest, AnotherRequestTakesTheRunningScansPlace)
     EXPECT_EQ(scanFrame(), QRect(0, area().height() - 230, area().width(), 230));
 }
 
+TEST_F(MainWindowScreensTest, AReplacedScanIsGoneAtOnceSoThatItsEndIsNotTakenForTheNewOnes)
+{
+    requestScan();
+    requestScan("/other");
+    EXPECT_EQ(services.screens.scanScreens, 1);
+    slideFor(0.5);
+    post("ScanCancelled");
+    slideFor(0.25);
+    requestScan("/third");
+    EXPECT_EQ(services.screens.scanScreens, 1);
+}
+
 TEST_F(MainWindowScreensTest, AFinishedScanShowsTheTreeAlone)
 {
     showTree();
