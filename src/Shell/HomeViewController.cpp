@@ -167,10 +167,33 @@ void HomeViewController::askForLocation(std::size_t place, const LocationCandida
         [this, place](const std::optional<Location>& found) {
             m_foundLocations[place] = found;
             if (m_isGridLoaded && found.has_value()) {
-                takeLocations();
-                locationsCollection().reloadData();
+                showLateLocations();
             }
         });
+}
+
+/// The user may have chosen something in the grid meanwhile, whose place may be another now.
+void HomeViewController::showLateLocations()
+{
+    const int section = locationsCollection().selectedSection();
+    const Url* const selected = selectedUrl();
+    const Url kept = selected != nullptr ? *selected : Url();
+    takeLocations();
+    locationsCollection().reloadData();
+    if (section >= 0) {
+        selectUrl(section, kept);
+    }
+    // Recent scans of locations have the locations' icons.
+    recentsTable().viewport()->update();
+}
+
+void HomeViewController::selectUrl(int section, const Url& url)
+{
+    for (int index = 0; index < numberOfViewsInSection(section); ++index) {
+        if (*urlAt(section, index) == url) {
+            locationsCollection().selectItem(section, index);
+        }
+    }
 }
 
 void HomeViewController::takeLocations()
@@ -237,13 +260,23 @@ void HomeViewController::scanSelected()
         scanURL(Url(m_recents->record(row).path, true));
         return;
     }
+    if (const Url* const url = selectedUrl()) {
+        scanURL(*url);
+    }
+}
+
+/// In the grid; null when nothing is.
+const Url* HomeViewController::selectedUrl() const
+{
     const int section = locationsCollection().selectedSection();
     const int index = locationsCollection().selectedIndex();
-    if (section < 0 || index < 0) {
-        return;
-    }
+    return section < 0 || index < 0 ? nullptr : urlAt(section, index);
+}
+
+const Url* HomeViewController::urlAt(int section, int index) const
+{
     const auto place = static_cast<std::size_t>(index);
-    scanURL(section == kVolumes ? m_volumes.at(place).url : m_locations.at(place).url);
+    return section == kVolumes ? &m_volumes.at(place).url : &m_locations.at(place).url;
 }
 
 void HomeViewController::scanURL(const Url& url)

@@ -87,9 +87,13 @@ private:
     void askForSizes(const std::string& path);
     void askForLocation(std::size_t place, const LocationCandidate& candidate);
     void takeLocations();
+    void showLateLocations();
+    void selectUrl(int section, const Url& url);
     void loadRecents();
     void recentSelected();
     int selectedRecent() const;
+    const Url* selectedUrl() const;
+    const Url* urlAt(int section, int index) const;
     QIcon iconOfRecent(const Url& folder) const;
     std::unique_ptr<CollectionItemView> volumeView(const MountedVolume& volume);
     static std::unique_ptr<CollectionItemView> locationView(const Location& location);

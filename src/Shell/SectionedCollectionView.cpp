@@ -130,6 +130,15 @@ void SectionedCollectionView::updateLayout()
     }
 }
 
+void SectionedCollectionView::selectItem(int section, int index)
+{
+    for (const Place& place : openPlaces()) {
+        if (place.section == section && place.index == index) {
+            select(place, 1);
+        }
+    }
+}
+
 void SectionedCollectionView::deselectAll()
 {
     if (m_selectedView == nullptr || m_delegate == nullptr || !m_delegate->didDeselectView) {

@@ -61,6 +61,9 @@ public:
     /// Places the views in the present width.
     void updateLayout();
 
+    /// Selects an item as a click on it would; nothing when there is none or it is disabled.
+    void selectItem(int section, int index);
+
     /// Tells the delegate and then forgets the selection; keeps it when the delegate does not
     /// answer that message.
     void deselectAll();

@@ -49,6 +49,30 @@ private:
     std::shared_future<void> m_released{m_release.get_future().share()};
 };
 
+/// Says of one directory only when the test lets it that it is one.
+class SlowResourceValues final : public test::FakeResourceValues {
+public:
+    explicit SlowResourceValues(std::string slowPath)
+        : m_slowPath(std::move(slowPath))
+    {
+    }
+
+    [[nodiscard]] bool isDirectory(const std::string& path) const override
+    {
+        if (path == m_slowPath) {
+            m_released.wait();
+        }
+        return FakeResourceValues::isDirectory(path);
+    }
+
+    void release() { m_release.set_value(); }
+
+private:
+    std::string m_slowPath;
+    std::promise<void> m_release;
+    std::shared_future<void> m_released{m_release.get_future().share()};
+};
+
 class HomeViewControllerTest : public testing::Test {
 protected:
     HomeViewControllerTest()
@@ -91,6 +115,20 @@ protected:
     VolumeCollectionView& firstVolume() const
     {
         return dynamic_cast<VolumeCollectionView&>(item(1));
+    }
+
+    /// The home folder itself answers only when this is released.
+    std::shared_ptr<SlowResourceValues> makeHomeSlow()
+    {
+        auto slow = std::make_shared<SlowResourceValues>("/home/eve");
+        slow->directories = resourceValues->directories;
+        resourceValues = slow;
+        return slow;
+    }
+
+    void waitForLocations(std::size_t count) const
+    {
+        ASSERT_TRUE(QTest::qWaitFor([&] { return home->locations().size() == count; }));
     }
 
     QPoint centerOf(std::size_t metric) const { return item(metric).geometry().center(); }
@@ -329,6 +367,41 @@ TEST_F(HomeViewControllerTest, AnAnswerThatComesWhenTheScreenIsGoneIsDropped)
     home.reset();
     slow->release();
     EXPECT_THAT(scanned, IsEmpty());
+}
+
+TEST_F(HomeViewControllerTest, ALocationThatAnswersLateTakesItsPlace)
+{
+    const auto slow = makeHomeSlow();
+    show();
+    EXPECT_THAT(locationPaths(), ElementsAre("/home/eve/Music", "/home/eve/Public"));
+    slow->release();
+    waitForLocations(3);
+    EXPECT_THAT(locationPaths(), ElementsAre("/home/eve", "/home/eve/Music", "/home/eve/Public"));
+}
+
+TEST_F(HomeViewControllerTest, ALocationThatAnswersLateLeavesTheUsersChoiceAlone)
+{
+    const auto slow = makeHomeSlow();
+    show();
+    click(4);
+    ASSERT_EQ(item(4).url(), Url("/home/eve/Music", true));
+    slow->release();
+    waitForLocations(3);
+    EXPECT_EQ(item(5).url(), Url("/home/eve/Music", true));
+    EXPECT_TRUE(item(5).selected());
+    home->scanSelected();
+    EXPECT_THAT(scanned, ElementsAre("file:///home/eve/Music/"));
+}
+
+TEST_F(HomeViewControllerTest, ALocationThatAnswersLateLeavesAChosenRecentScanAlone)
+{
+    const auto slow = makeHomeSlow();
+    show();
+    slow->release();
+    waitForLocations(3);
+    EXPECT_EQ(grid().selectedView(), nullptr);
+    home->scanSelected();
+    EXPECT_THAT(scanned, ElementsAre("file:///home/eve/one/"));
 }
 
 TEST_F(HomeViewControllerTest, TheScreenIsLaidOutInFixedMeasures)

@@ -411,6 +411,26 @@ TEST_F(SectionedCollectionViewTest, LoadingAfreshReplacesTheViews)
     EXPECT_EQ(view.height(), 30 + 72);
 }
 
+TEST_F(SectionedCollectionViewTest, AnItemCanBeSelectedWithoutAClick)
+{
+    show({{1, 200, 400}, {2, 100, 200}}, 450);
+    click(1);
+    view.selectItem(1, 1);
+    EXPECT_THAT(told, ElementsAre("select 0.0", "deselect 0.0", "select 1.1"));
+    EXPECT_EQ(view.selectedView(), &item(4));
+}
+
+TEST_F(SectionedCollectionViewTest, ADisabledOrMissingItemIsNotSelected)
+{
+    show({{2, 200, 400}}, 450);
+    item(2).isDisabled = true;
+    view.selectItem(0, 1);
+    view.selectItem(0, 2);
+    view.selectItem(1, 0);
+    EXPECT_THAT(told, IsEmpty());
+    EXPECT_EQ(view.selectedView(), nullptr);
+}
+
 TEST_F(SectionedCollectionViewTest, WithoutADataSourceItIsEmpty)
 {
     show({{2, 200, 400}}, 450);

@@ -32,7 +32,7 @@ private:
 };
 
 /// Answers for paths that the test names.
-class FakeResourceValues final : public ResourceValues {
+class FakeResourceValues : public ResourceValues {
 public:
     std::set<std::string> volumes;
     std::set<std::string> directories;
