@@ -116,7 +116,11 @@ void HomeViewController::connectControls()
     m_gridDelegate.didDeselectView = [](CollectionItemView& item, int, int) {
         dynamic_cast<HomeItemView&>(item).setSelected(false);
     };
-    m_gridDelegate.didDoubleClickView = [this](CollectionItemView&, int, int) { scanSelected(); };
+    m_gridDelegate.didDoubleClickView = [this](CollectionItemView& item, int, int) {
+        // It was deselected just before, and is what stays selected should the scan be cancelled.
+        dynamic_cast<HomeItemView&>(item).setSelected(true);
+        scanSelected();
+    };
     grid.setDataSource(this);
     grid.setDelegate(&m_gridDelegate);
     auto* const scrollView = m_view->findChild<QScrollArea*>(QStringLiteral("locationsScrollView"));

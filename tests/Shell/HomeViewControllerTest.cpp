@@ -269,6 +269,15 @@ TEST_F(HomeViewControllerTest, ADoubleClickInTheGridScans)
     EXPECT_THAT(scanned, ElementsAre("file:///"));
 }
 
+TEST_F(HomeViewControllerTest, WhatWasDoubleClickedIsShownAsSelected)
+{
+    show();
+    click(1);
+    QTest::mouseDClick(&grid(), Qt::LeftButton, {}, centerOf(1));
+    EXPECT_TRUE(item(1).selected());
+    EXPECT_EQ(grid().selectedView(), &item(1));
+}
+
 TEST_F(HomeViewControllerTest, ADoubleClickOnARecentScanScans)
 {
     show();
