@@ -6,7 +6,6 @@
 #include "Scanning/DockTile.h"
 #include "Scanning/PathLabel.h"
 #include "Scanning/Scanner.h"
-#include "TreeView/IconProvider.h"
 #include "Utils/DisplayText.h"
 #include "Utils/ProgressSteps.h"
 #include "Utils/Util.h"
@@ -22,7 +21,7 @@ namespace tessera {
 
 namespace {
 
-constexpr int kIconPoints = 64;
+constexpr QSize kIconSize{64, 64};
 
 template <typename View>
 View* outlet(const QWidget& view, const char* name)
@@ -74,9 +73,9 @@ void ScanningViewController::startScanning(const Url& url)
 {
     m_rate.restart();
     m_rootURL = url;
-    m_iconView->setPixmap(
-        m_services.icons.iconForUrl(url, kIconPoints, m_view->devicePixelRatioF()));
-    m_folderName->setText(displayText(url.lastPathComponent()));
+    const PlaceLook look = m_services.look(url);
+    m_iconView->setPixmap(look.icon.pixmap(kIconSize, m_view->devicePixelRatioF()));
+    m_folderName->setText(look.name);
     m_totalRead->setText(QStringLiteral("-"));
     m_readRate->setText(QStringLiteral("-"));
     m_scanner = Scanner::create(m_services.scanEnvironment);

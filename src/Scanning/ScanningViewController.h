@@ -5,11 +5,13 @@
 #include "Model/Url.h"
 #include "Scanning/DockImage.h"
 #include "Scanning/FileRate.h"
+#include "Scanning/PlaceLook.h"
 #include "Scanning/ScanEnvironment.h"
 #include "Scanning/ScannerDelegate.h"
 
 #include <QObject>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -21,7 +23,6 @@ class QWidget;
 namespace tessera {
 
 class DockTile;
-class IconProvider;
 class PathLabel;
 class RootModel;
 class Scanner;
@@ -29,8 +30,8 @@ class Scanner;
 /// What the scan screen needs from the system and the desktop; each must outlive it.
 struct ScanningServices {
     ScanEnvironment scanEnvironment;
-    IconProvider& icons;
     DockTile& dockTile;
+    std::function<PlaceLook(const Url& folder)> look;
 };
 
 /// The controller of the panel that shows how far a scan is. It serves one scan: at the end it

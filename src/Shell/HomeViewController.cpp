@@ -54,6 +54,8 @@ HomeViewController::HomeViewController(RootModel& model, const HomeViewServices&
     : m_model(model)
     , m_services(services)
     , m_realHomeDirectory(Util::realHomeDirectory(services.account))
+    , m_candidates(locationCandidates(m_realHomeDirectory, services.standardFolders))
+    , m_places(services.volumes, m_candidates)
     , m_view(Util::loadViewFromNib<QWidget>("HomeViewController"))
 {
     loadView();
@@ -93,10 +95,9 @@ void HomeViewController::loadView()
     connectControls();
     loadVolumes();
     if (!m_model.isRunningAsRoot()) {
-        const auto candidates = locationCandidates(m_realHomeDirectory, m_services.standardFolders);
-        m_foundLocations.resize(candidates.size());
-        for (std::size_t place = 0; place < candidates.size(); ++place) {
-            askForLocation(place, candidates[place]);
+        m_foundLocations.resize(m_candidates.size());
+        for (std::size_t place = 0; place < m_candidates.size(); ++place) {
+            askForLocation(place, m_candidates[place]);
         }
     }
     m_questions.waitBriefly(kPatience);
@@ -187,8 +188,6 @@ void HomeViewController::showLateLocations()
     if (section >= 0) {
         selectUrl(section, kept);
     }
-    // Recent scans of locations have the locations' icons.
-    recentsTable().viewport()->update();
 }
 
 void HomeViewController::selectUrl(int section, const Url& url)
@@ -219,7 +218,7 @@ void HomeViewController::loadRecents()
         {m_services.volumes,
          m_services.account.homeDirectory(),
          m_realHomeDirectory,
-         [this](const Url& folder) { return iconOfRecent(folder); },
+         [this](const Url& folder) { return m_places.look(folder).icon; },
          m_services.today},
         m_view.get());
     // NOLINTEND(cppcoreguidelines-owning-memory)
@@ -235,15 +234,6 @@ void HomeViewController::loadRecents()
         &HomeViewController::recentSelected);
     const bool hasRecents = m_recents->rowCount() > 0;
     m_view->setFocusProxy(hasRecents ? static_cast<QWidget*>(&table) : &locationsCollection());
-}
-
-QIcon HomeViewController::iconOfRecent(const Url& folder) const
-{
-    if (const auto volume = m_services.volumes.volumeAt(folder.path())) {
-        return volumeIcon(volume->kind);
-    }
-    const auto found = std::ranges::find(m_locations, folder, &Location::url);
-    return found != m_locations.end() ? locationIcon(found->kind) : plainFolderIcon();
 }
 
 void HomeViewController::setEnabled(bool enabled)

@@ -5,11 +5,11 @@
 #include "Model/MountedVolumes.h"
 #include "Shell/BackgroundQuestions.h"
 #include "Shell/HomeViewServices.h"
+#include "Shell/KnownPlaces.h"
 #include "Shell/Locations.h"
 #include "Shell/SectionedCollectionViewDataSource.h"
 #include "Shell/SectionedCollectionViewDelegate.h"
 
-#include <QIcon>
 #include <QObject>
 
 #include <map>
@@ -94,13 +94,14 @@ private:
     int selectedRecent() const;
     const Url* selectedUrl() const;
     const Url* urlAt(int section, int index) const;
-    QIcon iconOfRecent(const Url& folder) const;
     std::unique_ptr<CollectionItemView> volumeView(const MountedVolume& volume);
     static std::unique_ptr<CollectionItemView> locationView(const Location& location);
 
     RootModel& m_model;
     HomeViewServices m_services;
     std::string m_realHomeDirectory;
+    std::vector<LocationCandidate> m_candidates;
+    KnownPlaces m_places;
     std::vector<MountedVolume> m_volumes;
     std::vector<Location> m_locations;
     std::vector<std::optional<Location>> m_foundLocations; ///< by the candidates' places

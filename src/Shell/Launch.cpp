@@ -8,6 +8,7 @@
 #include "Shell/AppDelegate.h"
 #include "Shell/FileAccess.h"
 #include "Shell/FileDialogOpenPanel.h"
+#include "Shell/KnownPlaces.h"
 #include "Shell/MainWindowController.h"
 #include "Shell/MainWindowScreens.h"
 #include "Shell/PictureWriter.h"
@@ -16,6 +17,7 @@
 #include "TreeView/TooltipController.h"
 #include "Utils/Log.h"
 #include "Utils/MessageBoxAlert.h"
+#include "Utils/Util.h"
 
 #include <QApplication>
 #include <QMainWindow>
@@ -61,6 +63,11 @@ std::string helpAddress(const std::string& folder, HelpPage page)
 struct Desktop {
     explicit Desktop(const LaunchServices& services)
         : dockTile(services.launcherProgress)
+        , places(
+              services.homeScreen.volumes,
+              locationCandidates(
+                  Util::realHomeDirectory(services.userAccount),
+                  services.homeScreen.standardFolders))
     {
         TooltipController& tooltip = TooltipController::sharedInstance();
         tooltip.setResourceValues(&services.scanEnvironment.resourceValues);
@@ -78,6 +85,7 @@ struct Desktop {
     ApplicationDockTile dockTile;
     MessageBoxAlert alert;
     FileDialogOpenPanel openPanel;
+    KnownPlaces places;
 };
 
 MainWindowServices mainWindowServices(
@@ -94,7 +102,10 @@ MainWindowServices mainWindowServices(
          services.scanEnvironment.resourceValues,
          desktop.icons},
         services.motion};
-    const ScanningServices scanScreen{services.scanEnvironment, desktop.icons, desktop.dockTile};
+    const ScanningServices scanScreen{
+        services.scanEnvironment, desktop.dockTile, [&desktop](const Url& folder) {
+            return desktop.places.look(folder);
+        }};
     return {
         model,
         treeScreen,

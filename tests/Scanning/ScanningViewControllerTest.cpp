@@ -7,6 +7,7 @@
 #include "Model/nodeLookup.h"
 #include "Scanning/PathLabel.h"
 #include "Scanning/Scanner.h"
+#include "Utils/DisplayText.h"
 #include "support/FakeDockTile.h"
 #include "support/FakeRootModelServices.h"
 #include "support/FakeTreeViewServices.h"
@@ -44,6 +45,14 @@ std::string filesText(int count)
     return text;
 }
 
+/// A place that is called by its path in brackets.
+PlaceLook redPlace(const Url& folder)
+{
+    QPixmap picture(64, 64);
+    picture.fill(Qt::red);
+    return {picture, displayText('[' + folder.path() + ']')};
+}
+
 class ScanningViewControllerTest : public testing::Test {
 protected:
     ~ScanningViewControllerTest() override
@@ -64,7 +73,7 @@ protected:
             system->scanClock = system->scanClock.load() + 0.5;
         });
         controller = std::make_unique<ScanningViewController>(
-            model, ScanningServices{system->get().scanEnvironment, system->icons, tile});
+            model, ScanningServices{system->get().scanEnvironment, tile, redPlace});
     }
 
     void start(std::string_view items, std::string_view path = "/Users/me/Documents")
@@ -144,10 +153,10 @@ TEST_F(ScanningViewControllerTest, ShowsWhatItStartsOn)
 {
     start("a:1", "/Users/me/some\xFF");
 
-    EXPECT_EQ(outlet<PathLabel>("folderName")->text(), QStringLiteral("some\uFFFD"));
-    EXPECT_EQ(
-        outlet<QLabel>("iconView")->pixmap(Qt::ReturnByValue).deviceIndependentSize(),
-        QSizeF(64, 64));
+    EXPECT_EQ(outlet<PathLabel>("folderName")->text(), QStringLiteral("[/Users/me/some\uFFFD]"));
+    const QPixmap icon = outlet<QLabel>("iconView")->pixmap(Qt::ReturnByValue);
+    EXPECT_EQ(icon.deviceIndependentSize(), QSizeF(64, 64));
+    EXPECT_EQ(icon.toImage().pixelColor(32, 32), QColor(Qt::red));
     EXPECT_EQ(text("totalRead"), "-");
     EXPECT_EQ(text("readRate"), "-");
     EXPECT_EQ(controller->rootURL(), Url("/Users/me/some\xFF", true));
