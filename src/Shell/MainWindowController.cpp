@@ -6,12 +6,12 @@
 #include "Shell/BackupFolder.h"
 #include "Shell/MainActions.h"
 #include "Shell/OpenPanel.h"
+#include "Shell/PlaceNames.h"
 #include "Shell/WindowFrame.h"
 #include "TreeView/ToolbarPathControl.h"
 #include "TreeView/TreeMapView.h"
 #include "TreeView/TreeViewController.h"
 #include "Utils/Alert.h"
-#include "Utils/DisplayText.h"
 #include "Utils/Log.h"
 #include "Utils/Util.h"
 
@@ -367,13 +367,12 @@ void MainWindowController::folderChosen(const std::vector<Url>& urls)
 
 void MainWindowController::refuseTimeMachine(const Url& url)
 {
-    const std::string volume
-        = nameOfVolume(url, m_services.treeScreen.scanEnvironment.resourceValues);
+    const Url volume = volumeOf(url, m_services.treeScreen.scanEnvironment.resourceValues);
     m_services.treeScreen.alert.beginSheet(
         {tr("Time Machine Detected"),
          tr("Tessera is unable to scan inside a Time Machine backup. To estimate the overall size "
             "of Time Machine, please scan the disk labeled '%1'.")
-             .arg(displayText(volume)),
+             .arg(localizedVolumeName(volume)),
          {tr("OK")}});
 }
 

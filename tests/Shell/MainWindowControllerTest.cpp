@@ -196,6 +196,15 @@ TEST_F(MainWindowControllerTest, ATimeMachineBackupIsRefusedWithTheNameOfItsVolu
     EXPECT_EQ(controller->state(), ScreenState::Home);
 }
 
+TEST_F(MainWindowControllerTest, TheDiskOfABackupIsNamedAsOnTheHomeScreen)
+{
+    services.treeScreen.resourceValues.volumes = {"/"};
+    choose("/old/Backups.backupdb");
+    ASSERT_EQ(services.treeScreen.alert.told.size(), 1U);
+    EXPECT_TRUE(services.treeScreen.alert.told[0].informativeText.endsWith(
+        QStringLiteral("please scan the disk labeled 'File System'.")));
+}
+
 TEST_F(MainWindowControllerTest, ABackupIsKnownByAnyPartOfItsPath)
 {
     choose("/a/old Backups.backupdb copy/b");
