@@ -6,6 +6,7 @@
 #include "Scanning/DockTile.h"
 #include "Scanning/PathLabel.h"
 #include "Scanning/Scanner.h"
+#include "Utils/Alert.h"
 #include "Utils/DisplayText.h"
 #include "Utils/ProgressSteps.h"
 #include "Utils/Util.h"
@@ -40,6 +41,19 @@ std::unique_ptr<Folder> homeFolder(TopFolder& root)
         }
     }
     return folder;
+}
+
+QString explanation(const std::error_code& problem)
+{
+    if (problem == std::errc::no_such_file_or_directory) {
+        return ScanningViewController::tr(
+            "There is no folder '%1' any more. It may have been moved, renamed or deleted, or its "
+            "disk may not be connected.");
+    }
+    if (problem == std::errc::permission_denied) {
+        return ScanningViewController::tr("You do not have permission to look into '%1'.");
+    }
+    return ScanningViewController::tr("'%1' cannot be read.");
 }
 
 } // namespace
@@ -110,14 +124,22 @@ void ScanningViewController::scanUpdated(Scanner& scanner)
 void ScanningViewController::scanEnded(Scanner& scanner)
 {
     stopAnimation();
-    m_rootURL = {};
+    const Url scanned = std::exchange(m_rootURL, {});
     const std::vector<Url> encryptedHomes = scanner.fileVaults();
     if (!encryptedHomes.empty()) {
         m_fileVault = scanner.takeTopFolder();
         startScanning(encryptedHomes.front());
         return;
     }
-    m_model.setTopFolder(withEncryptedHome(scanner.takeTopFolder()));
+    std::unique_ptr<TopFolder> tree = withEncryptedHome(scanner.takeTopFolder());
+    if (tree->children().empty()) {
+        if (const std::error_code problem = m_services.checkFolder(scanned.path())) {
+            tellProblem(scanned, problem);
+            endWithoutTree();
+            return;
+        }
+    }
+    m_model.setTopFolder(std::move(tree));
     m_model.recents().addToList(*m_model.topFolder());
     m_services.dockTile.requestAttention();
     m_services.dockTile.removeContentView(m_dockImage);
@@ -129,6 +151,20 @@ void ScanningViewController::scanCancelled(Scanner& /*scanner*/)
 {
     stopAnimation();
     m_rootURL = {};
+    endWithoutTree();
+}
+
+void ScanningViewController::tellProblem(const Url& folder, const std::error_code& problem)
+{
+    m_services.alert.beginSheet(
+        {tr("The folder cannot be scanned"),
+         explanation(problem).arg(displayText(folder.path())),
+         {tr("OK")},
+         QString::fromLocal8Bit(problem.message().c_str())});
+}
+
+void ScanningViewController::endWithoutTree()
+{
     m_services.dockTile.removeContentView(m_dockImage);
     m_cancelButton->setEnabled(false);
     NotificationCenter::defaultCenter().post("ScanCancelled", static_cast<const void*>(this));

@@ -13,6 +13,8 @@
 
 #include <functional>
 #include <memory>
+#include <string>
+#include <system_error>
 #include <vector>
 
 class QLabel;
@@ -22,6 +24,7 @@ class QWidget;
 
 namespace tessera {
 
+class Alert;
 class DockTile;
 class PathLabel;
 class RootModel;
@@ -31,12 +34,16 @@ class Scanner;
 struct ScanningServices {
     ScanEnvironment scanEnvironment;
     DockTile& dockTile;
+    Alert& alert;
     std::function<PlaceLook(const Url& folder)> look;
+    /// Why a folder cannot be read, by its path; no error when it can.
+    std::function<std::error_code(const std::string& path)> checkFolder;
 };
 
 /// The controller of the panel that shows how far a scan is. It serves one scan: at the end it
 /// gives the tree to the model, notes it as recent and posts "ScanComplete", or else
-/// "ScanCancelled", with itself as the object. An observer may destroy it. Main thread only.
+/// "ScanCancelled", with itself as the object. An observer may destroy it. A folder that cannot be
+/// read at all is told to the user and counts as cancelled. Main thread only.
 class ScanningViewController final : public QObject, private ScannerDelegate {
     Q_OBJECT
 
@@ -68,6 +75,8 @@ private:
     void scanEnded(Scanner& scanner) override;
     void scanCancelled(Scanner& scanner) override;
 
+    void endWithoutTree();
+    void tellProblem(const Url& folder, const std::error_code& problem);
     void showPath(const Url& current);
     void startAnimation();
     void stopAnimation();

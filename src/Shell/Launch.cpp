@@ -103,9 +103,11 @@ MainWindowServices mainWindowServices(
          desktop.icons},
         services.motion};
     const ScanningServices scanScreen{
-        services.scanEnvironment, desktop.dockTile, [&desktop](const Url& folder) {
-            return desktop.places.look(folder);
-        }};
+        services.scanEnvironment,
+        desktop.dockTile,
+        desktop.alert,
+        [&desktop](const Url& folder) { return desktop.places.look(folder); },
+        [&files = services.files](const std::string& path) { return files.checkFolder(path); }};
     return {
         model,
         treeScreen,

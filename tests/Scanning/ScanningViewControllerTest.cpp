@@ -73,7 +73,16 @@ protected:
             system->scanClock = system->scanClock.load() + 0.5;
         });
         controller = std::make_unique<ScanningViewController>(
-            model, ScanningServices{system->get().scanEnvironment, tile, redPlace});
+            model,
+            ScanningServices{
+                system->get().scanEnvironment,
+                tile,
+                system->alert,
+                redPlace,
+                [this](const std::string& path) {
+                    checked.push_back(path);
+                    return problem;
+                }});
     }
 
     void start(std::string_view items, std::string_view path = "/Users/me/Documents")
@@ -139,6 +148,8 @@ protected:
     std::unique_ptr<test::FakeTreeViewServices> system;
     std::unique_ptr<ScanningViewController> controller;
     std::function<void(const std::string&)> beforeItem;
+    std::error_code problem; ///< of every folder
+    std::vector<std::string> checked; ///< the folders that were asked about
     std::vector<std::string> posted;
     std::vector<std::string> paths;
     std::vector<std::string> rates;
@@ -292,6 +303,62 @@ TEST_F(ScanningViewControllerTest, AScanCancelledAtOnceIsNeverComplete)
     EXPECT_EQ(tile.attentionCount, 0);
     EXPECT_EQ(tile.contentView, nullptr);
     EXPECT_TRUE(controller->rootURL().empty());
+}
+
+TEST_F(ScanningViewControllerTest, AFolderThatHasVanishedIsSaidToHaveAndCountsAsCancelled)
+{
+    problem = std::make_error_code(std::errc::no_such_file_or_directory);
+    scanToEnd("");
+
+    EXPECT_THAT(posted, ElementsAre("cancelled"));
+    ASSERT_EQ(system->alert.told.size(), 1U);
+    EXPECT_EQ(system->alert.told[0].messageText, QStringLiteral("The folder cannot be scanned"));
+    EXPECT_TRUE(system->alert.told[0].informativeText.startsWith(
+        QStringLiteral("There is no folder '/Users/me/Documents' any more.")));
+    EXPECT_EQ(model.topFolder(), nullptr);
+    EXPECT_THAT(model.recents().recentsList(), IsEmpty());
+    EXPECT_EQ(tile.contentView, nullptr);
+    EXPECT_EQ(tile.attentionCount, 0);
+}
+
+TEST_F(ScanningViewControllerTest, AFolderThatMayNotBeReadIsSaidToBeForbidden)
+{
+    problem = std::make_error_code(std::errc::permission_denied);
+    scanToEnd("");
+
+    EXPECT_THAT(posted, ElementsAre("cancelled"));
+    EXPECT_EQ(
+        system->alert.told.at(0).informativeText,
+        QStringLiteral("You do not have permission to look into '/Users/me/Documents'."));
+}
+
+TEST_F(ScanningViewControllerTest, AnyOtherProblemIsToldInTheSystemsWords)
+{
+    problem = std::make_error_code(std::errc::io_error);
+    scanToEnd("");
+
+    const AlertText& told = system->alert.told.at(0);
+    EXPECT_EQ(told.informativeText, QStringLiteral("'/Users/me/Documents' cannot be read."));
+    EXPECT_EQ(told.reason, QString::fromStdString(problem.message()));
+}
+
+TEST_F(ScanningViewControllerTest, AnEmptyFolderIsScannedAsAnyOther)
+{
+    scanToEnd("");
+
+    EXPECT_THAT(checked, ElementsAre("/Users/me/Documents"));
+    EXPECT_THAT(posted, ElementsAre("complete"));
+    ASSERT_NE(model.topFolder(), nullptr);
+    EXPECT_EQ(model.topFolder()->totalAllocation(), 0U);
+}
+
+TEST_F(ScanningViewControllerTest, AFolderInWhichSomethingWasFoundIsNotAskedForAgain)
+{
+    problem = std::make_error_code(std::errc::no_such_file_or_directory);
+    scanToEnd("a:1");
+
+    EXPECT_THAT(checked, IsEmpty());
+    EXPECT_THAT(posted, ElementsAre("complete"));
 }
 
 TEST_F(ScanningViewControllerTest, TheCancelButtonCancelsOnce)
