@@ -37,8 +37,12 @@ struct PreviewLoader::Look {
 /// stuck may come back long after the loader is gone.
 class PreviewLoader::Crew : public std::enable_shared_from_this<Crew> {
 public:
-    Crew(std::shared_ptr<const FileReader> files, QObject& receiver)
+    Crew(
+        std::shared_ptr<const FileReader> files,
+        std::shared_ptr<PreviewThreads> threads,
+        QObject& receiver)
         : m_files(std::move(files))
+        , m_pool(std::move(threads))
         , m_receiver(&receiver)
     {
     }
@@ -52,8 +56,7 @@ public:
             return;
         }
         ++m_threads;
-        PreviewThreads::start(
-            [crew = shared_from_this(), first = std::move(look)] { crew->run(first); });
+        m_pool->start([crew = shared_from_this(), first = std::move(look)] { crew->run(first); });
     }
 
     void dropWaiting()
@@ -108,6 +111,7 @@ private:
     }
 
     const std::shared_ptr<const FileReader> m_files;
+    const std::shared_ptr<PreviewThreads> m_pool;
     std::mutex m_mutex;
     std::condition_variable m_ended;
     QObject* m_receiver;
@@ -117,8 +121,10 @@ private:
 };
 
 PreviewLoader::PreviewLoader(
-    std::shared_ptr<const FileReader> files, std::function<void(Preview)> show)
-    : m_crew(std::make_shared<Crew>(std::move(files), *this))
+    std::shared_ptr<const FileReader> files,
+    std::shared_ptr<PreviewThreads> threads,
+    std::function<void(Preview)> show)
+    : m_crew(std::make_shared<Crew>(std::move(files), std::move(threads), *this))
     , m_show(std::move(show))
 {
 }

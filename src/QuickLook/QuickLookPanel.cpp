@@ -77,19 +77,21 @@ QuickLookPanel::QuickLookPanel()
         closeAtOnce();
         if (m_loader != nullptr) {
             m_loader->cancel();
-            (void)PreviewThreads::waitForEnd(kEndOfProgramPatience);
+            (void)m_threads->waitForEnd(kEndOfProgramPatience);
         }
     });
 }
 
 QuickLookPanel::~QuickLookPanel() = default;
 
-void QuickLookPanel::setFileReader(const std::shared_ptr<const FileReader>& files)
+void QuickLookPanel::setFileReader(
+    const std::shared_ptr<const FileReader>& files, const std::shared_ptr<PreviewThreads>& threads)
 {
     m_loader.reset();
+    m_threads = threads;
     if (files != nullptr) {
         m_loader = std::make_unique<PreviewLoader>(
-            files, [this](const Preview& preview) { showPreview(preview); });
+            files, threads, [this](const Preview& preview) { showPreview(preview); });
     }
 }
 

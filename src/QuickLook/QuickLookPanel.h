@@ -20,6 +20,7 @@ class IconProvider;
 class MotionPreference;
 class PanelBody;
 class PreviewLoader;
+class PreviewThreads;
 class QuickLookPanelDataSource;
 class QuickLookPanelDelegate;
 struct Preview;
@@ -40,9 +41,11 @@ public:
     QuickLookPanel();
     ~QuickLookPanel() override;
 
-    /// Reads the files; without one, every item is shown by what the tree knows. Shared, because a
-    /// look at a file that never answers may outlive the panel.
-    void setFileReader(const std::shared_ptr<const FileReader>& files);
+    /// Reads the files on these threads; without a reader, every item is shown by what the tree
+    /// knows. Shared, because a look at a file that never answers may outlive the panel.
+    void setFileReader(
+        const std::shared_ptr<const FileReader>& files,
+        const std::shared_ptr<PreviewThreads>& threads);
 
     /// Not owned, may be null.
     void setIconProvider(IconProvider* icons) { m_icons = icons; }
@@ -105,6 +108,7 @@ private:
     void closeAtOnce();
     bool isHandledByDelegate(QEvent& event);
 
+    std::shared_ptr<PreviewThreads> m_threads;
     std::unique_ptr<PreviewLoader> m_loader;
     IconProvider* m_icons = nullptr;
     QuickLookPanelDelegate* m_delegate = nullptr;

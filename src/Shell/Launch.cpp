@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Shell/Launch.h"
 
+#include "QuickLook/PreviewThreads.h"
 #include "QuickLook/QuickLookPanel.h"
 #include "Resources/Images.h"
 #include "Scanning/ApplicationDockTile.h"
@@ -47,7 +48,7 @@ int writePicture(const CommandLine& commandLine, const LaunchServices& services)
 void setUpPreview(QWidget& mainWindow, const LaunchServices& services, IconProvider& icons)
 {
     QuickLookPanel& panel = QuickLookPanel::sharedInstance();
-    panel.setFileReader(services.fileReader);
+    panel.setFileReader(services.fileReader, PreviewThreads::make());
     panel.setIconProvider(&icons);
     panel.setMainWindow(&mainWindow);
     panel.setMotionPreference(&services.motion);

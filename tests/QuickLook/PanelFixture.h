@@ -4,6 +4,7 @@
 #include "Model/Url.h"
 #include "QuickLook/FakeFileReader.h"
 #include "QuickLook/PreviewItem.h"
+#include "QuickLook/PreviewThreads.h"
 #include "QuickLook/QuickLookPanel.h"
 #include "QuickLook/QuickLookPanelDataSource.h"
 #include "QuickLook/QuickLookPanelDelegate.h"
@@ -69,7 +70,7 @@ protected:
         files->addSpecial("/home/anna/docs", FileKind::Folder);
         window.setGeometry(100, 50, 600, 500);
         window.show();
-        panel.setFileReader(files);
+        panel.setFileReader(files, threads);
         panel.setIconProvider(&icons);
         panel.setMainWindow(&window);
         panel.setDelegate(&screen);
@@ -81,6 +82,8 @@ protected:
     {
         files->release("/home/anna/a.txt");
         panel.setDataSource(nullptr);
+        panel.setFileReader(nullptr, nullptr);
+        EXPECT_TRUE(threads->waitForEnd(std::chrono::minutes(1)));
     }
 
     void select(std::string_view path) { screen.selected = &at(*tree, path); }
@@ -112,6 +115,7 @@ protected:
     std::unique_ptr<TopFolder> tree
         = makeTree("/home/anna", "docs/ ( x:1000 y:2000 ) a.txt:4096 b.txt:5000");
     std::shared_ptr<FakeFileReader> files = std::make_shared<FakeFileReader>();
+    std::shared_ptr<PreviewThreads> threads = PreviewThreads::make();
     FakeIconProvider icons;
     FakeTreeScreen screen;
     double now = 0;

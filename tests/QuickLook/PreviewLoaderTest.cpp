@@ -2,6 +2,7 @@
 #include "QuickLook/PreviewLoader.h"
 
 #include "QuickLook/FakeFileReader.h"
+#include "QuickLook/PreviewThreads.h"
 
 #include <QTest>
 
@@ -35,6 +36,7 @@ protected:
         if (loader != nullptr) {
             EXPECT_TRUE(loader->cancelAndWait(60s));
         }
+        EXPECT_TRUE(threads->waitForEnd(60s));
     }
 
     static std::string path(int number) { return "/" + std::to_string(number); }
@@ -54,8 +56,9 @@ protected:
 
     std::vector<QString> shown;
     std::shared_ptr<test::FakeFileReader> files = std::make_shared<test::FakeFileReader>();
+    std::shared_ptr<PreviewThreads> threads = PreviewThreads::make();
     std::unique_ptr<PreviewLoader> loader
-        = std::make_unique<PreviewLoader>(files, [this](const Preview& preview) {
+        = std::make_unique<PreviewLoader>(files, threads, [this](const Preview& preview) {
               shown.push_back(std::get<PreviewText>(preview.content).text);
           });
 };

@@ -1,15 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "QuickLook/PreviewThreads.h"
-
 #include <QApplication>
 
 #include <gtest/gtest.h>
-
-namespace {
-
-constexpr std::chrono::seconds kEndOfProgramPatience{10};
-
-} // namespace
 
 int main(int argc, char** argv)
 {
@@ -19,7 +11,5 @@ int main(int argc, char** argv)
     }
     testing::InitGoogleTest(&argc, argv);
     const QApplication application(argc, argv);
-    const int status = RUN_ALL_TESTS();
-    (void)tessera::PreviewThreads::waitForEnd(kEndOfProgramPatience);
-    return status;
+    return RUN_ALL_TESTS();
 }
