@@ -185,6 +185,7 @@ bool measure(RootModel& model, const PlatformServices& services, QSize size, std
     map.show();
     MessageBoxAlert alert;
     DesktopIconProvider icons;
+    std::set<std::string> targetsInUse;
     TreeViewController controller(
         model,
         map,
@@ -196,7 +197,8 @@ bool measure(RootModel& model, const PlatformServices& services, QSize size, std
           services.makeTask,
           *services.workspace,
           *services.resourceValues,
-          icons},
+          icons,
+          targetsInUse},
          motion});
     QCoreApplication::processEvents();
     const std::vector<Folder*> folders = shownFolders(*map.branches().front());

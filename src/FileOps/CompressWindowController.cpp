@@ -18,7 +18,6 @@
 #include <QPushButton>
 
 #include <algorithm>
-#include <set>
 #include <utility>
 
 namespace tessera {
@@ -39,24 +38,18 @@ constexpr int kNothingMade = 3;
 constexpr double kFillStep = 0.1;
 constexpr double kFillEnd = 1.1;
 
-/// The archives that are being written, some of which are not on the disk yet.
-std::set<std::string>& targetsInUse()
-{
-    static std::set<std::string> targets;
-    return targets;
-}
-
-bool isTaken(const std::string& path, const ResourceValues& resourceValues)
+bool isTaken(const std::string& path, const CompressServices& services)
 {
     // Whatever has a size is there, a dangling link too.
-    return targetsInUse().contains(path) || resourceValues.allocatedSize(path).has_value();
+    return services.targetsInUse.contains(path)
+        || services.resourceValues.allocatedSize(path).has_value();
 }
 
 /// "X.zip", or the first of "X 2.zip", "X 3.zip" and so on that is free.
-std::string freeTarget(const std::string& sourcePath, const ResourceValues& resourceValues)
+std::string freeTarget(const std::string& sourcePath, const CompressServices& services)
 {
     std::string candidate = sourcePath + ".zip";
-    for (int number = kFirstNumber; isTaken(candidate, resourceValues); ++number) {
+    for (int number = kFirstNumber; isTaken(candidate, services); ++number) {
         candidate = sourcePath + ' ' + std::to_string(number) + ".zip";
     }
     return candidate;
@@ -122,8 +115,8 @@ void CompressWindowController::compressURL(const Url& url, std::uint64_t withSiz
     m_lastCompressedPercent = 0;
     m_sourceAllocation = withSize;
     m_sourcePath = url.path();
-    m_targetPath = freeTarget(m_sourcePath, m_services.resourceValues);
-    targetsInUse().insert(m_targetPath);
+    m_targetPath = freeTarget(m_sourcePath, m_services);
+    m_services.targetsInUse.insert(m_targetPath);
     setOutputText(tr("Creating '%1'").arg(displayText(archive().lastPathComponent())));
     m_updateTimer.start();
     startArchiver();
@@ -221,7 +214,7 @@ void CompressWindowController::finishLater(const std::optional<Url>& archive)
 
 void CompressWindowController::compressFinished(const std::optional<Url>& archive)
 {
-    targetsInUse().erase(m_targetPath);
+    m_services.targetsInUse.erase(m_targetPath);
     m_sourcePath.clear();
     m_targetPath.clear();
     m_progress->reset();
@@ -243,7 +236,7 @@ void CompressWindowController::breakOffAtExit()
     if (isUntouched) {
         m_services.workspace.recycleURLs({archive()}, [](const RecycleResult& /*result*/) {});
     }
-    targetsInUse().erase(m_targetPath);
+    m_services.targetsInUse.erase(m_targetPath);
     release();
 }
 

@@ -12,6 +12,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 
 class QDialog;
@@ -33,6 +34,9 @@ struct CompressServices {
     Workspace& workspace;
     const ResourceValues& resourceValues;
     IconProvider& icons;
+    /// The paths of the archives that are being written, some of which are not on the disk yet; one
+    /// set for all compressions.
+    std::set<std::string>& targetsInUse;
 };
 
 /// Calls back once after a time, from the event loop.

@@ -24,6 +24,8 @@
 #include <QMainWindow>
 
 #include <cstdio>
+#include <set>
+#include <string>
 
 namespace tessera {
 
@@ -83,6 +85,7 @@ struct Desktop {
     }
 
     DesktopIconProvider icons;
+    std::set<std::string> targetsInUse;
     ApplicationDockTile dockTile;
     MessageBoxAlert alert;
     FileDialogOpenPanel openPanel;
@@ -101,7 +104,8 @@ MainWindowServices mainWindowServices(
          services.makeTask,
          services.workspace,
          services.scanEnvironment.resourceValues,
-         desktop.icons},
+         desktop.icons,
+         desktop.targetsInUse},
         services.motion};
     const ScanningServices scanScreen{
         services.scanEnvironment,

@@ -18,6 +18,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <set>
 #include <string>
 #include <utility>
 #include <variant>
@@ -50,7 +51,8 @@ protected:
              [this] { return test::FakeTask::make(task); },
              workspace,
              files,
-             icons},
+             icons,
+             targetsInUse},
             [this](std::chrono::milliseconds delay, std::function<void()> work) {
                 delays.push_back(delay);
                 delayed.push_back(std::move(work));
@@ -111,6 +113,7 @@ protected:
     test::FakeWorkspace workspace;
     test::FakeResourceValues files;
     test::FakeIconProvider icons;
+    std::set<std::string> targetsInUse;
     std::vector<std::chrono::milliseconds> delays;
     std::vector<std::function<void()>> delayed;
     std::shared_ptr<CompressWindowController> controller = makeController();
@@ -169,7 +172,8 @@ TEST_F(CompressWindowControllerTest, TwoAtOnceDoNotWriteTheSameArchive)
          [this] { return test::FakeTask::make(otherTask); },
          workspace,
          files,
-         icons});
+         icons,
+         targetsInUse});
     other->compressURL(Url("/data/X", true), 1);
 
     EXPECT_EQ(otherTask.arguments.at(4), "/data/X 2.zip");

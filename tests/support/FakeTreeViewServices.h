@@ -14,6 +14,7 @@
 
 #include <atomic>
 #include <memory>
+#include <set>
 #include <string>
 
 namespace tessera::test {
@@ -42,6 +43,7 @@ struct FakeTreeViewServices {
     FakeAlert alert;
     FakeIconProvider icons;
     FakeTaskRecord archiver;
+    std::set<std::string> targetsInUse;
     FakeMotionPreference motion;
     double now = 100;
     std::atomic<double> scanClock = 100;
@@ -62,7 +64,8 @@ struct FakeTreeViewServices {
              [this] { return FakeTask::make(archiver); },
              workspace,
              resourceValues,
-             icons},
+             icons,
+             targetsInUse},
             motion,
             [this] { return now; }};
     }
