@@ -407,6 +407,31 @@ TEST_F(EncryptedHomeTest, TheHomeIsScannedInASecondPass)
     EXPECT_TRUE(controller->rootURL().empty());
 }
 
+TEST_F(EncryptedHomeTest, TheSecondPassesRateBeginsWithADashAgain)
+{
+    const std::size_t reports = 27; // a pass meets the home folder and its files
+    makeScanner("me/ ( " + filesText(26) + ")");
+    system->resourceValues.volumes.insert("/Users/me");
+    controller->startScanning(Url("/Users", true));
+    runToEnd();
+
+    ASSERT_EQ(rates.size(), 2 * reports);
+    EXPECT_EQ(rates.at(reports - 1), "2 files/sec");
+    EXPECT_THAT(
+        std::vector(rates.begin() + reports, rates.begin() + reports + 19), Each(std::string("-")));
+    EXPECT_EQ(rates.at(reports + 19), "2 files/sec");
+}
+
+TEST_F(EncryptedHomeTest, ASecondPassThatIsCancelledLeavesNoTree)
+{
+    scanHome();
+    runUntil([this] { return controller->fileVault() != nullptr; });
+    controller->stopScan();
+    runUntilIdle();
+    EXPECT_THAT(posted, ElementsAre("cancelled"));
+    EXPECT_EQ(model.topFolder(), nullptr);
+}
+
 TEST_F(EncryptedHomeTest, WhatTheSecondPassFoundStandsInTheHomesPlace)
 {
     scanHome();

@@ -303,6 +303,16 @@ TEST_F(HomeViewControllerTest, ClearingEmptiesTheList)
     QTest::mouseClick(&home->clearRecentsButton(), Qt::LeftButton);
     EXPECT_EQ(table().model()->rowCount(), 0);
     EXPECT_THAT(model->recents().recentsList(), IsEmpty());
+    EXPECT_THAT(modelServices.documents.urls, IsEmpty());
+}
+
+TEST_F(HomeViewControllerTest, AfterClearingNothingIsSelected)
+{
+    show();
+    home->clearList();
+    EXPECT_TRUE(table().selectionModel()->selectedIndexes().isEmpty());
+    home->scanSelected();
+    EXPECT_THAT(scanned, IsEmpty());
 }
 
 TEST_F(HomeViewControllerTest, TheOpenButtonAsksForAFolder)

@@ -3,6 +3,7 @@
 
 #include "MainWindowFixture.h"
 #include "Model/UserDefaults.h"
+#include "QuickLook/QuickLookPanel.h"
 #include "TreeView/CenteredPathComponentCell.h"
 #include "TreeView/PathComponentButton.h"
 #include "TreeView/ToolbarPathControl.h"
@@ -135,8 +136,10 @@ TEST_F(MainWindowControllerTest, CommandsOnItemsDoNothingWithoutASelection)
     showTree();
     controller->perform(MainCommand::ShowInFinder);
     controller->perform(MainCommand::MoveToTrash);
+    controller->perform(MainCommand::QuickLook);
     EXPECT_THAT(services.treeScreen.workspace.revealed, IsEmpty());
     EXPECT_THAT(services.treeScreen.workspace.recycled, IsEmpty());
+    EXPECT_FALSE(QuickLookPanel::sharedInstance().isOpen());
 }
 
 TEST_F(MainWindowControllerTest, CommandsReachTheTreeScreen)

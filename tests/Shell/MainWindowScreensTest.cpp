@@ -91,6 +91,18 @@ TEST_F(MainWindowScreensTest, AnotherRequestTakesTheRunningScansPlace)
     EXPECT_EQ(scanFrame(), QRect(0, area().height() - 230, area().width(), 230));
 }
 
+TEST_F(MainWindowScreensTest, AScanThatEndsWhileItsPanelSlidesAwayShowsItsTreeAndIsNotCleanedUp)
+{
+    requestScan();
+    slideFor(0.5);
+    post("ScanCancelled");
+    slideFor(0.25);
+    finishScan();
+    slideFor(1);
+    EXPECT_EQ(controller->state(), ScreenState::Tree);
+    EXPECT_EQ(services.screens.homeScreens, 0);
+}
+
 TEST_F(MainWindowScreensTest, AReplacedScanIsGoneAtOnceSoThatItsEndIsNotTakenForTheNewOnes)
 {
     requestScan();
@@ -133,8 +145,11 @@ TEST_F(MainWindowScreensTest, AScanRequestedFromTheTreeFirstBringsTheHomeScreenB
 
 TEST_F(MainWindowScreensTest, AfterTheTreeThePanelSlidesInFromBelowAgain)
 {
-    showTree();
+    requestScan();
+    slideFor(0.5);
+    finishScan();
     controller->homeSelected();
+    EXPECT_EQ(homeFrame(), QRect(QPoint(0, 0), area()));
     requestScan();
     EXPECT_EQ(scanFrame(), QRect(0, area().height(), area().width(), 230));
     slideFor(0.5);

@@ -5,7 +5,9 @@
 #include "Model/Folder.h"
 #include "Model/FreeSpace.h"
 #include "Model/TimeMachine.h"
+#include "Model/TopFolder.h"
 #include "Model/Unknown.h"
+#include "Model/Volume.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -51,6 +53,12 @@ TEST(MenuValidation, WithNothingSelectedOnlyTheWayHomeIsOpen)
     EXPECT_THAT(enabledTags(treeWith(nullptr)), ElementsAre(41));
 }
 
+TEST(MenuValidation, TheWayHomeIsOpenWheneverThereIsNoHomeScreen)
+{
+    EXPECT_TRUE(validateMenuItem(41, {false, false, true, nullptr}));
+    EXPECT_FALSE(validateMenuItem(41, {true, true, true, nullptr}));
+}
+
 TEST(MenuValidation, ZoomOutIsDisabledWhileTheRootIsInView)
 {
     EXPECT_FALSE(validateMenuItem(31, {false, true, true, nullptr}));
@@ -61,6 +69,14 @@ TEST(MenuValidation, ASelectedFolderEnablesEverything)
 {
     const auto folder = makeNode<Folder>("docs");
     EXPECT_THAT(enabledTags(treeWith(folder.get())), ElementsAre(32, 33, 34, 35, 36, 37, 38, 41));
+}
+
+TEST(MenuValidation, TheRootsOfScansAreFoldersToo)
+{
+    const auto top = makeNode<TopFolder>("top");
+    const auto volume = makeNode<Volume>("disk");
+    EXPECT_THAT(enabledTags(treeWith(top.get())), ElementsAre(32, 33, 34, 35, 36, 37, 38, 41));
+    EXPECT_THAT(enabledTags(treeWith(volume.get())), ElementsAre(32, 33, 34, 35, 36, 37, 38, 41));
 }
 
 TEST(MenuValidation, ASelectedDocumentEnablesWhatNeedsNoFolder)

@@ -9,6 +9,7 @@
 #include "support/FakeRootModelServices.h"
 
 #include <QDateTime>
+#include <QFontDatabase>
 #include <QIcon>
 #include <QImage>
 #include <QPainter>
@@ -42,11 +43,11 @@ protected:
     QString subtitle(const QDate& day) const { return cell.subtitle({"/", 0, noonOf(day)}); }
 
     /// The row of a scan of 1.2 GB.
-    QImage picture(QStyle::State state)
+    QImage picture(QStyle::State state, const std::string& path = "/data/one")
     {
-        const RecentRecord record{"/data/one", 1234567890, noonOf(kToday)};
+        const RecentRecord record{path, 1234567890, noonOf(kToday)};
         services.defaults.setRecentRecords(kRecentsKey, {record});
-        services.documents.urls = {Url("/data/one", true)};
+        services.documents.urls = {Url(path, true)};
         RootModel rootModel(services.get());
         const RecentsTableModel model(rootModel.recents());
         QStyleOptionViewItem option;
@@ -121,6 +122,29 @@ TEST_F(RecentsTableCellTest, TheIconHasAFixedPlace)
     EXPECT_TRUE(QRect(7, 4, 38, 39).contains(icon));
     EXPECT_GE(icon.width(), 37);
     EXPECT_EQ(image.pixelColor(26, 23), QColor(Qt::red));
+}
+
+TEST_F(RecentsTableCellTest, ALongTitleTakesItsWholeBoxAndNoMore)
+{
+    // The letters are so narrow that little room is left over.
+    const QImage image = picture(kUsual, "/" + std::string(300, 'i'));
+    const QRect title = inkIn(image, QRect(50, 0, 240, 28), Qt::white);
+    EXPECT_LT(title.right(), 54 + 219);
+    EXPECT_GT(title.right(), 54 + 219 - 12);
+}
+
+TEST_F(RecentsTableCellTest, TheTitleStandsInTheMiddleOfItsBox)
+{
+    const QImage image = picture(kUsual, "/one");
+    QImage expected(image.size(), image.format());
+    expected.fill(Qt::white);
+    QPainter painter(&expected);
+    QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+    font.setPixelSize(13);
+    painter.setFont(font);
+    painter.drawText(QRect(54, 10, 219, 17), Qt::AlignVCenter, QStringLiteral("/one"));
+    const QRect title(50, 0, 240, 28);
+    EXPECT_EQ(image.copy(title), expected.copy(title));
 }
 
 TEST_F(RecentsTableCellTest, TheTextsHaveFixedPlaces)

@@ -67,6 +67,8 @@ TEST_F(ScanPanelSlideTest, SlidesOutInHalfASecondAndAsksForTheCleanUpAfter55Hund
     advanceTo(0.5);
     EXPECT_EQ(slide.place(), ScanPanelPlace::before());
     EXPECT_EQ(cleanUpDue.size(), 0);
+    advanceTo(0.546875);
+    EXPECT_EQ(cleanUpDue.size(), 0);
     advanceTo(0.5625);
     EXPECT_EQ(cleanUpDue.size(), 1);
 }

@@ -183,9 +183,9 @@ TEST_F(SectionedCollectionViewTest, NarrowItemsGoOnInTheRowUntilTheNextWouldNotF
 
 TEST_F(SectionedCollectionViewTest, WidthsAreWholePoints)
 {
-    show({{3, 100, 0}}, 400);
-    EXPECT_EQ(frames().at(1).width(), 133);
-    EXPECT_EQ(frames().at(3), QRect(266, 30, 133, 72));
+    show({{3, 100, 0}}, 500);
+    EXPECT_EQ(frames().at(1).width(), 166);
+    EXPECT_EQ(frames().at(3), QRect(332, 30, 166, 72));
 }
 
 TEST_F(SectionedCollectionViewTest, EachSectionBeginsBelowTheLastRowOfTheOneBefore)
