@@ -232,8 +232,15 @@ void HomeViewController::loadRecents()
         &QItemSelectionModel::selectionChanged,
         this,
         &HomeViewController::recentSelected);
-    const bool hasRecents = m_recents->rowCount() > 0;
-    m_view->setFocusProxy(hasRecents ? static_cast<QWidget*>(&table) : &locationsCollection());
+}
+
+void HomeViewController::takeFocus()
+{
+    if (m_recents->rowCount() > 0) {
+        recentsTable().setFocus();
+    } else {
+        locationsCollection().setFocus();
+    }
 }
 
 void HomeViewController::setEnabled(bool enabled)

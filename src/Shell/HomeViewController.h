@@ -59,6 +59,9 @@ public:
     bool enabled() const { return m_enabled; }
     void setEnabled(bool enabled);
 
+    /// Gives the keyboard to the recent scans or, where there are none, to the grid.
+    void takeFocus();
+
     /// Scans what is selected, in the list of recent scans before the grid; else does nothing.
     void scanSelected();
 

@@ -159,7 +159,7 @@ void MainWindowController::showHome()
     home.setParent(m_view);
     placeScreens();
     home.show();
-    home.setFocus();
+    m_homeVC->takeFocus();
 }
 
 void MainWindowController::slideScanIn(const Url& url)
@@ -203,7 +203,7 @@ void MainWindowController::cleanUp()
 {
     m_homeVC->setEnabled(true);
     dropScan();
-    m_homeVC->view().setFocus();
+    m_homeVC->takeFocus();
 }
 
 void MainWindowController::displayTree()

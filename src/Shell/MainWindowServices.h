@@ -27,6 +27,8 @@ public:
 
     virtual QWidget& view() const = 0;
     virtual void setEnabled(bool enabled) = 0;
+    /// Gives the keyboard to what the user is most likely to need it for.
+    virtual void takeFocus() = 0;
 };
 
 /// The panel that shows how far a scan is. It posts "ScanComplete" when the model has the tree, or

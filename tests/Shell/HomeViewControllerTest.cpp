@@ -291,7 +291,7 @@ TEST_F(HomeViewControllerTest, ReturnScans)
 {
     show();
     QApplication::setActiveWindow(&home->view());
-    home->view().setFocus();
+    home->takeFocus();
     ASSERT_TRUE(test::becomesActive(home->view()));
     QTest::keyClick(&table(), Qt::Key_Return);
     EXPECT_THAT(scanned, ElementsAre("file:///home/eve/one/"));
@@ -442,7 +442,6 @@ TEST_F(HomeViewControllerTest, TabGoesFromTheGridToTheScanButton)
 {
     show();
     const QWidget& view = home->view();
-    EXPECT_EQ(view.focusProxy(), &table());
     grid().setFocus();
     QTest::keyClick(&grid(), Qt::Key_Tab);
     EXPECT_EQ(view.focusWidget(), &home->openButton());
@@ -452,6 +451,35 @@ TEST_F(HomeViewControllerTest, TabGoesFromTheGridToTheScanButton)
     EXPECT_EQ(view.focusWidget(), &table());
     QTest::keyClick(&table(), Qt::Key_Tab);
     EXPECT_EQ(view.focusWidget(), &home->scanButton());
+}
+
+TEST_F(HomeViewControllerTest, TabReachesTheGridFromOutside)
+{
+    show();
+    QWidget window;
+    QPushButton outside(&window);
+    home->view().setParent(&window);
+    home->view().show();
+    window.show();
+    outside.setFocus();
+    QTest::keyClick(&outside, Qt::Key_Tab);
+    EXPECT_EQ(window.focusWidget(), &grid());
+    home->view().setParent(nullptr);
+}
+
+TEST_F(HomeViewControllerTest, TheKeyboardBeginsAtTheRecentScans)
+{
+    show();
+    home->takeFocus();
+    EXPECT_EQ(home->view().focusWidget(), &table());
+}
+
+TEST_F(HomeViewControllerTest, WithoutRecentScansTheKeyboardBeginsAtTheGrid)
+{
+    modelServices.documents.urls.clear();
+    show();
+    home->takeFocus();
+    EXPECT_EQ(home->view().focusWidget(), &grid());
 }
 
 } // namespace

@@ -18,6 +18,20 @@ TEST_F(MainWindowScreensTest, OpensOnTheHomeScreenWhichFillsIt)
     EXPECT_EQ(homeFrame(), QRect(QPoint(0, 0), area()));
 }
 
+TEST_F(MainWindowScreensTest, TheHomeScreenGetsTheKeyboard)
+{
+    EXPECT_EQ(services.screens.homeFocused, 1);
+}
+
+TEST_F(MainWindowScreensTest, AfterACancelTheHomeScreenGetsTheKeyboardBack)
+{
+    requestScan();
+    slideFor(0.5);
+    post("ScanCancelled");
+    slideFor(0.5625);
+    EXPECT_EQ(services.screens.homeFocused, 2);
+}
+
 TEST_F(MainWindowScreensTest, AScanRequestDisablesTheHomeScreenAndStartsTheScan)
 {
     requestScan("/data/some\xFF");

@@ -27,6 +27,7 @@ struct ScreenRecord {
     QWidget* home = nullptr; ///< the view of the latest
     QWidget* scan = nullptr;
     bool homeEnabled = true;
+    int homeFocused = 0; ///< how often a home screen was given the keyboard
     std::function<void()> openFolder; ///< what the home screen's button does
 };
 
@@ -44,6 +45,7 @@ public:
 
     QWidget& view() const override { return *m_view; }
     void setEnabled(bool enabled) override { m_record.homeEnabled = enabled; }
+    void takeFocus() override { ++m_record.homeFocused; }
 
 private:
     ScreenRecord& m_record;
