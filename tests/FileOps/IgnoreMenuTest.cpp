@@ -209,6 +209,15 @@ TEST_F(IgnoreMenuTest, TickingAFolderAgainIgnoresItAgain)
     EXPECT_TRUE(entry(5).isChecked());
 }
 
+TEST_F(IgnoreMenuTest, ATickFlipsWhatTheFolderItselfSays)
+{
+    ignore("Projects");
+    node("Projects").setIgnored(false);
+    menu.toggleIgnore(entry(5));
+    EXPECT_FALSE(entry(5).isChecked());
+    EXPECT_TRUE(node("Projects").ignored());
+}
+
 TEST_F(IgnoreMenuTest, TogglingAloneDoesNotDraw)
 {
     ignore("Projects");

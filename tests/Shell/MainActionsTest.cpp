@@ -133,13 +133,24 @@ TEST_F(MainActionsTest, AShortcutTriggersItsCommand)
     showActiveWindow();
     const std::vector<std::pair<const char*, MainCommand>> expectations{
         {"Ctrl+O", MainCommand::OpenFolder},
+        {"Alt+Home", MainCommand::Home},
+        {"Ctrl+,", MainCommand::Preferences},
+        {"Ctrl+Q", MainCommand::Quit},
+        {"Ctrl+Y", MainCommand::QuickLook},
+        {"Ctrl+Shift+R", MainCommand::ShowInFinder},
         {"Ctrl+R", MainCommand::Rescan},
+        {"F5", MainCommand::Rescan},
+        {"Ctrl+I", MainCommand::Ignore},
+        {"Ctrl+Shift+C", MainCommand::Compress},
+        {"Ctrl+Del", MainCommand::MoveToTrash},
         {"Ctrl++", MainCommand::ZoomIn},
+        {"Ctrl+=", MainCommand::ZoomIn},
+        {"Alt+Down", MainCommand::ZoomIn},
         {"Ctrl+-", MainCommand::ZoomOut},
         {"Alt+Up", MainCommand::ZoomOut},
-        {"Ctrl+,", MainCommand::Preferences},
+        {"F11", MainCommand::FullScreen},
         {"F1", MainCommand::Features},
-        {"Ctrl+Q", MainCommand::Quit}};
+        {"Ctrl+F1", MainCommand::Questions}};
     for (const auto& [keys, command] : expectations) {
         pressKeys(keys);
         ASSERT_EQ(triggered.size(), 1) << keys;
