@@ -104,6 +104,7 @@ void IgnoreMenu::ignoreFolder()
     }
     m_tree->setSelectedFile(nullptr);
     folder->setIgnored(true);
+    QAction* const former = entryOf(*folder);
     if (actions().size() == kFixedEntries) {
         insertSeparator(actions().at(kFirstFolderIndex));
     }
@@ -114,7 +115,22 @@ void IgnoreMenu::ignoreFolder()
         ignoreItemSelected(*item);
     });
     insertAction(actions().at(actions().size() - kEntriesBelowFolders), item);
+    if (former != nullptr) {
+        remove(*former);
+    }
     m_tree->renderTree();
+}
+
+/// Null when there is none.
+QAction* IgnoreMenu::entryOf(const Folder& folder) const
+{
+    for (QAction* const action : actions()) {
+        const auto* const item = qobject_cast<IgnoreMenuItem*>(action);
+        if (item != nullptr && &item->file() == &folder) {
+            return action;
+        }
+    }
+    return nullptr;
 }
 
 void IgnoreMenu::ignoreItemSelected(QAction& sender)

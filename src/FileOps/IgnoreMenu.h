@@ -59,6 +59,7 @@ public:
 private:
     QAction& addFixedEntry(const QString& title, Tag tag);
     void addSetting(const QString& title, Tag tag, bool isOn);
+    QAction* entryOf(const Folder& folder) const;
     void turnAllOff();
     void remove(QAction& item);
     void removeFoldersIn(const File& leaving);

@@ -209,6 +209,17 @@ TEST_F(IgnoreMenuTest, TickingAFolderAgainIgnoresItAgain)
     EXPECT_TRUE(entry(5).isChecked());
 }
 
+TEST_F(IgnoreMenuTest, AFolderThatIsIgnoredOnceMoreHasOneEntryStill)
+{
+    ignore("Projects");
+    ignore("docs");
+    menu.actions().back()->trigger();
+    ignore("Projects");
+    EXPECT_EQ(shape(), QStringLiteral("-|Data/docs|*Data/Projects|-|&Show Everything"));
+    entry(6).trigger();
+    EXPECT_FALSE(node("Projects").ignored());
+}
+
 TEST_F(IgnoreMenuTest, ATickFlipsWhatTheFolderItselfSays)
 {
     ignore("Projects");
