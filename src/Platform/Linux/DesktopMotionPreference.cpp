@@ -4,10 +4,6 @@
 #include <QSettings>
 #include <QStandardPaths>
 
-// Qt's "signals" would replace a member's name in GIO's headers.
-#undef signals
-#include <gio/gio.h>
-
 #include <utility>
 
 namespace tessera {
@@ -18,29 +14,10 @@ constexpr const char* kEnableAnimations = "enable-animations";
 
 const QString kAnimationDuration = QStringLiteral("KDE/AnimationDurationFactor");
 
-/// Asking for a schema or a key that is not installed would end the process.
-bool hasKey(const char* schemaId, const char* key)
-{
-    GSettingsSchemaSource* const source = g_settings_schema_source_get_default();
-    GSettingsSchema* const schema
-        = source != nullptr ? g_settings_schema_source_lookup(source, schemaId, TRUE) : nullptr;
-    if (schema == nullptr) {
-        return false;
-    }
-    const bool result = g_settings_schema_has_key(schema, key) != FALSE;
-    g_settings_schema_unref(schema);
-    return result;
-}
-
 } // namespace
 
-void DesktopMotionPreference::Release::operator()(GSettings* settings) const
-{
-    g_object_unref(settings);
-}
-
 DesktopMotionPreference::DesktopMotionPreference(std::string schema, QString kdeFile)
-    : m_schema(std::move(schema))
+    : m_settings(std::move(schema))
     , m_kdeFile(std::move(kdeFile))
 {
 }
@@ -60,12 +37,7 @@ bool DesktopMotionPreference::reducesMotion() const
 
 bool DesktopMotionPreference::isStillInSettings() const
 {
-    if (!m_interface.has_value()) {
-        const char* const schema = m_schema.c_str();
-        m_interface.emplace(hasKey(schema, kEnableAnimations) ? g_settings_new(schema) : nullptr);
-    }
-    GSettings* const settings = m_interface->get();
-    return settings != nullptr && g_settings_get_boolean(settings, kEnableAnimations) == FALSE;
+    return !m_settings.boolean(kEnableAnimations).value_or(true);
 }
 
 bool DesktopMotionPreference::isStillInKde() const

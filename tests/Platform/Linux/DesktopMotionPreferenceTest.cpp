@@ -1,40 +1,25 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/DesktopMotionPreference.h"
 
+#include "ownDesktopSettings.h"
+
 #include <QFile>
-#include <QProcess>
 #include <QTemporaryDir>
 
-// Qt's "signals" would replace a member's name in GIO's headers.
-#undef signals
-#include <gio/gio.h>
 #include <gtest/gtest.h>
 
 namespace tessera {
 namespace {
 
-constexpr const char* kOwnSchema = "org.example.tessera.interface";
-constexpr const char* kSchemaWithoutKey = "org.example.tessera.other";
-constexpr const char* kNoSchema = "org.example.tessera.missing";
+using test::kNoSchema;
+using test::kOwnSchema;
+using test::kSchemaWithoutKeys;
 
-/// Settings of the test's own, kept in memory.
 class DesktopMotionPreferenceTest : public testing::Test {
 protected:
-    static void SetUpTestSuite()
-    {
-        static const QTemporaryDir folder;
-        write(folder.filePath(QStringLiteral("test.gschema.xml")), R"(<schemalist>
-            <schema id="org.example.tessera.interface" path="/org/example/tessera/interface/">
-              <key name="enable-animations" type="b"><default>true</default></key>
-            </schema>
-            <schema id="org.example.tessera.other" path="/org/example/tessera/other/">
-              <key name="something" type="b"><default>false</default></key>
-            </schema>
-            </schemalist>)");
-        ASSERT_EQ(QProcess::execute(QStringLiteral("glib-compile-schemas"), {folder.path()}), 0);
-        qputenv("GSETTINGS_SCHEMA_DIR", QFile::encodeName(folder.path()));
-        qputenv("GSETTINGS_BACKEND", "memory");
-    }
+    void SetUp() override { ASSERT_TRUE(test::installOwnSettings()); }
+
+    void TearDown() override { test::resetOwnSettings(); }
 
     static void write(const QString& path, const QByteArray& text)
     {
@@ -43,12 +28,7 @@ protected:
         file.write(text);
     }
 
-    static void setAnimations(bool on)
-    {
-        GSettings* const settings = g_settings_new(kOwnSchema);
-        g_settings_set_boolean(settings, "enable-animations", on ? TRUE : FALSE);
-        g_object_unref(settings);
-    }
+    static void setAnimations(bool on) { test::setOwnSetting("enable-animations", on); }
 
     bool reducesMotionInKde(const QByteArray& text) const
     {
@@ -63,7 +43,7 @@ protected:
 TEST_F(DesktopMotionPreferenceTest, WithoutAnySettingThereIsMotion)
 {
     EXPECT_FALSE(DesktopMotionPreference(kNoSchema, kdeFile).reducesMotion());
-    EXPECT_FALSE(DesktopMotionPreference(kSchemaWithoutKey, kdeFile).reducesMotion());
+    EXPECT_FALSE(DesktopMotionPreference(kSchemaWithoutKeys, kdeFile).reducesMotion());
     EXPECT_FALSE(QFile::exists(kdeFile));
 }
 
