@@ -31,6 +31,7 @@ tessera::LaunchServices launchServices(const tessera::PlatformServices& services
          services.fileSystemAttributes,
          services.resourceValues},
         *services.fileAccess,
+        *services.colorSchemePreference,
         *services.motionPreference,
         *services.workspace,
         services.fileReader,

@@ -12,6 +12,7 @@
 #include "Scanning/DirectoryEnumerator.h"
 #include "Scanning/LauncherProgress.h"
 #include "Scanning/ResourceValues.h"
+#include "Shell/ColorSchemePreference.h"
 #include "Shell/FileAccess.h"
 #include "Shell/RunningInstance.h"
 #include "Utils/MotionPreference.h"
@@ -37,6 +38,7 @@ struct PlatformServices {
     std::unique_ptr<UserAccount> userAccount;
     std::unique_ptr<UserDefaults> userDefaults;
     std::unique_ptr<RecentDocuments> recentDocuments;
+    std::unique_ptr<ColorSchemePreference> colorSchemePreference;
     std::unique_ptr<MotionPreference> motionPreference;
     std::unique_ptr<LauncherProgress> launcherProgress;
     std::unique_ptr<RunningInstance> runningInstance;

@@ -27,6 +27,11 @@ DockImage::DockImage()
 // NOLINTEND(cppcoreguidelines-owning-memory)
 {
     setAttribute(Qt::WA_TranslucentBackground);
+    // The launcher has it beside other programs' pictures, whatever this one's windows look like.
+    QPalette palette;
+    palette.setColor(QPalette::Window, Qt::white);
+    palette.setColor(QPalette::WindowText, Qt::black);
+    m_barView->setPalette(palette);
     m_barView->setLightColor(colorWithHex(kLightHex));
     m_barView->setDarkColor(colorWithHex(kDarkHex));
 }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Shell/FolderCollectionView.h"
 
-#include "Shell/HomeColors.h"
 #include "Shell/NonBlockingTextField.h"
 #include "Utils/DisplayText.h"
 
@@ -39,8 +38,7 @@ NonBlockingTextField& FolderCollectionView::nameLabel() const
 
 void FolderCollectionView::updateColors()
 {
-    const HomeColors colors(palette());
-    nameLabel().setTextColor(selected() ? colors.selectedName : colors.name);
+    nameLabel().setTextColor(textColors().name);
 }
 
 void FolderCollectionView::updateAlphaValue()

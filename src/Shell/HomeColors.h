@@ -17,6 +17,8 @@ struct HomeColors {
     QColor selectedDetail;
     QColor selection; ///< behind what is selected, in the window that the user works in
     QColor inactiveSelection; ///< and in others
+    QColor inactiveName; ///< on it
+    QColor inactiveDetail;
     QColor panelTop;
     QColor panelBottom;
     QColor buttonTop;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Shell/HomeItemView.h"
 
+#include "Shell/HomeColors.h"
 #include "Shell/SelectionBackground.h"
 
 #include <QEvent>
@@ -29,6 +30,18 @@ double HomeItemView::alphaValue() const
     return effect != nullptr ? effect->opacity() : 1.0;
 }
 
+HomeItemView::TextColors HomeItemView::textColors() const
+{
+    const HomeColors colors(palette());
+    if (!m_selected) {
+        return {colors.name, colors.detail};
+    }
+    // Where the user is not working, the background is too pale for white texts.
+    const bool isPale = isVisible() && !isActiveWindow();
+    return isPale ? TextColors{colors.inactiveName, colors.inactiveDetail}
+                  : TextColors{colors.selectedName, colors.selectedDetail};
+}
+
 void HomeItemView::setAlphaValue(double alpha)
 {
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the view owns it
@@ -50,6 +63,7 @@ void HomeItemView::changeEvent(QEvent* event)
     if (event->type() == QEvent::PaletteChange) {
         updateColors();
     } else if (event->type() == QEvent::ActivationChange) {
+        updateColors();
         update();
     }
     CollectionItemView::changeEvent(event);

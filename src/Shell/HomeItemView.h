@@ -4,6 +4,8 @@
 #include "Model/Url.h"
 #include "Shell/CollectionItemView.h"
 
+#include <QColor>
+
 namespace tessera {
 
 /// What the disks and the locations of the home screen have in common: where they lead, and a
@@ -27,13 +29,21 @@ public:
     double alphaValue() const;
 
 protected:
+    struct TextColors {
+        QColor name;
+        QColor detail;
+    };
+
+    /// Of the texts on the view, as the selection wants them.
+    TextColors textColors() const;
+
     void setUrl(const Url& url) { m_url = url; }
     void setAlphaValue(double alpha);
     void paintEvent(QPaintEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
-    /// After the selection or the desktop's theme has changed.
+    /// After textColors() may have changed.
     virtual void updateColors() = 0;
     virtual void updateAlphaValue() = 0;
 

@@ -7,6 +7,7 @@
 #include "Scanning/ApplicationDockTile.h"
 #include "Scanning/ScanningViewController.h"
 #include "Shell/AppDelegate.h"
+#include "Shell/ApplicationPalette.h"
 #include "Shell/FileAccess.h"
 #include "Shell/FileDialogOpenPanel.h"
 #include "Shell/KnownPlaces.h"
@@ -126,7 +127,9 @@ MainWindowServices mainWindowServices(
 
 int showWindow(const Url& folder, const LaunchServices& services)
 {
+    QGuiApplication::setDesktopFileName(QStringLiteral("tessera"));
     QGuiApplication::setWindowIcon(imageNamed("bullseye"));
+    const ApplicationPalette palette(services.colorScheme);
     RootModel::setServices(services.rootModelServices);
     Desktop desktop(services);
     AppDelegate delegate(

@@ -12,6 +12,7 @@
 
 namespace tessera {
 
+class ColorSchemePreference;
 class FileAccess;
 class FileReader;
 class LauncherProgress;
@@ -27,6 +28,7 @@ struct LaunchServices {
     RootModelServices rootModelServices;
     HomeViewServices homeScreen;
     const FileAccess& files;
+    ColorSchemePreference& colorScheme;
     const MotionPreference& motion;
     Workspace& workspace;
     std::shared_ptr<const FileReader> fileReader;

@@ -105,19 +105,23 @@ RecentsTableCell::Style RecentsTableCell::titleStyle(const QStyleOptionViewItem&
 {
     const HomeColors colors(option.palette);
     const bool isEnabled = option.state.testFlag(QStyle::State_Enabled);
+    const bool isSelected = option.state.testFlag(QStyle::State_Selected);
     const QColor usual = isEnabled ? colors.name : colors.faint;
+    const QColor onPale = isSelected ? colors.inactiveName : usual;
     return {
         systemFont(kSystemFontPixels),
-        isHighlighted(option) ? colors.selectedName : usual,
+        isHighlighted(option) ? colors.selectedName : onPale,
         Qt::AlignLeft};
 }
 
 RecentsTableCell::Style RecentsTableCell::subtitleStyle(const QStyleOptionViewItem& option)
 {
     const HomeColors colors(option.palette);
+    const bool isSelected = option.state.testFlag(QStyle::State_Selected);
+    const QColor onPale = isSelected ? colors.inactiveDetail : colors.faint;
     return {
         systemFont(kSmallFontPixels),
-        isHighlighted(option) ? colors.selectedDetail : colors.faint,
+        isHighlighted(option) ? colors.selectedDetail : onPale,
         Qt::AlignLeft};
 }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Shell/VolumeCollectionView.h"
 
-#include "Shell/HomeColors.h"
 #include "Shell/NonBlockingTextField.h"
 #include "Shell/PlaceNames.h"
 #include "TreeView/Bar.h"
@@ -70,9 +69,9 @@ Bar& VolumeCollectionView::spaceBar() const
 
 void VolumeCollectionView::updateColors()
 {
-    const HomeColors colors(palette());
-    nameLabel().setTextColor(selected() ? colors.selectedName : colors.name);
-    spaceLabel().setTextColor(selected() ? colors.selectedDetail : colors.detail);
+    const TextColors colors = textColors();
+    nameLabel().setTextColor(colors.name);
+    spaceLabel().setTextColor(colors.detail);
 }
 
 void VolumeCollectionView::updateAlphaValue()

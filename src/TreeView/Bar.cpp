@@ -14,6 +14,9 @@ namespace {
 constexpr std::uint32_t kGrooveTopHex = 0xB1B1B1;
 constexpr std::uint32_t kGrooveBottomHex = 0xE1E1E1;
 constexpr std::uint32_t kOutlineHex = 0x858C85;
+constexpr std::uint32_t kGrooveTopOnDarkHex = 0x29292D;
+constexpr std::uint32_t kGrooveBottomOnDarkHex = 0x48484E;
+constexpr std::uint32_t kOutlineOnDarkHex = 0x767D76;
 constexpr std::uint32_t kLightGreenHex = 0x84E16D;
 constexpr std::uint32_t kDarkGreenHex = 0x3F9834;
 
@@ -50,11 +53,17 @@ void Bar::paintGroove(QPainter& painter) const
     // The outline's middle runs half a point inside, so that the outline fills whole points.
     const Rect groove{0.5, 0.5, width() - kOutlineWidth, height() - kOutlineWidth};
     const QPainterPath path = roundedRect(groove, grooveRadius());
-    painter.fillPath(path, gradient(colorWithHex(kGrooveTopHex), colorWithHex(kGrooveBottomHex)));
+    const bool isOnDark = isDark(palette());
+    painter.fillPath(
+        path,
+        gradient(
+            colorWithHex(isOnDark ? kGrooveTopOnDarkHex : kGrooveTopHex),
+            colorWithHex(isOnDark ? kGrooveBottomOnDarkHex : kGrooveBottomHex)));
     // A pen of one point would be drawn as a hairline, which is too thin in the bends.
     QPainterPathStroker outliner;
     outliner.setWidth(kOutlineWidth);
-    painter.fillPath(outliner.createStroke(path), colorWithHex(kOutlineHex));
+    painter.fillPath(
+        outliner.createStroke(path), colorWithHex(isOnDark ? kOutlineOnDarkHex : kOutlineHex));
 }
 
 void Bar::paintFill(QPainter& painter) const

@@ -44,12 +44,6 @@ constexpr std::uint32_t kShadowOnDarkHexA = 0x0000007F;
 constexpr std::uint32_t kDarkGrayHex = 0x555555;
 constexpr std::uint32_t kLightGrayHex = 0xAAAAAA;
 
-bool isDark(const QPalette& palette)
-{
-    return palette.color(QPalette::Window).lightness()
-        < palette.color(QPalette::WindowText).lightness();
-}
-
 void drawChevron(const Rect& cellFrame, QPainter& painter, const QColor& color)
 {
     const double right = cellFrame.right();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "TreeView/ColorHelper.h"
 
+#include <QPalette>
+
 #include <algorithm>
 
 namespace tessera {
@@ -50,6 +52,13 @@ QColor withBrightnessAdded(const QColor& color, double amount)
     // With hue and saturation fixed, every component is proportional to the brightness.
     const double factor = changed / brightness;
     return fromComponents(red * factor, green * factor, blue * factor);
+}
+
+bool isDark(const QPalette& palette)
+{
+    const QColor window = palette.color(QPalette::Active, QPalette::Window);
+    const QColor text = palette.color(QPalette::Active, QPalette::WindowText);
+    return window.lightness() < text.lightness();
 }
 
 QColor highlightWithLevel(const QColor& color, double level)

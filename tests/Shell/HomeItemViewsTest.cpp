@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Shell/FolderCollectionView.h"
-#include "Shell/HomeColors.h"
 #include "Shell/NonBlockingTextField.h"
+#include "Shell/ProgramColors.h"
 #include "Shell/VolumeCollectionView.h"
 #include "TreeView/Bar.h"
 #include "TreeView/ColorHelper.h"
@@ -18,13 +18,6 @@
 namespace tessera {
 namespace {
 
-QPalette themePalette(const QColor& base)
-{
-    QPalette palette;
-    palette.setColor(QPalette::Base, base);
-    return palette;
-}
-
 QImage picture(QWidget& view)
 {
     QImage image(view.size(), QImage::Format_RGB32);
@@ -37,8 +30,8 @@ class HomeItemViewsTest : public testing::Test {
 protected:
     HomeItemViewsTest()
     {
-        volume->setPalette(themePalette(Qt::white));
-        folder->setPalette(themePalette(Qt::white));
+        volume->setPalette(lightProgramColors());
+        folder->setPalette(lightProgramColors());
         volume->setUrl(Url("/mnt/data", true), QIcon());
         folder->setUrl(Url("/home/eve/Music", true), QIcon(), QStringLiteral("Music"));
     }
@@ -93,8 +86,29 @@ TEST_F(HomeItemViewsTest, AFoldersNameTellsWhetherItIsSelected)
 
 TEST_F(HomeItemViewsTest, NamesAreLightInADarkTheme)
 {
-    folder->setPalette(themePalette(Qt::black));
+    folder->setPalette(darkProgramColors());
     EXPECT_GT(folder->nameLabel().textColor().lightnessF(), 0.9F);
+}
+
+TEST_F(HomeItemViewsTest, NamesFollowTheThemeWhileItChanges)
+{
+    folder->setPalette(darkProgramColors());
+    folder->setPalette(lightProgramColors());
+    EXPECT_EQ(folder->nameLabel().textColor(), QColor(Qt::black));
+}
+
+TEST_F(HomeItemViewsTest, TextsOnThePaleSelectionOfAnotherWindowAreDark)
+{
+    volume->show();
+    QApplication::setActiveWindow(volume.get());
+    ASSERT_TRUE(QTest::qWaitForWindowActive(volume.get()));
+    volume->setSelected(true);
+    EXPECT_EQ(volume->nameLabel().textColor(), QColor(Qt::white));
+    QApplication::setActiveWindow(nullptr);
+    EXPECT_EQ(volume->nameLabel().textColor(), QColor(Qt::black));
+    EXPECT_EQ(volume->spaceLabel().textColor(), colorWithHex(0x555555));
+    QApplication::setActiveWindow(volume.get());
+    EXPECT_EQ(volume->nameLabel().textColor(), QColor(Qt::white));
 }
 
 TEST_F(HomeItemViewsTest, AFolderWithoutANameKeepsItsLabel)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Shell/HiddenButtonCell.h"
+#include "Shell/ProgramColors.h"
 #include "Shell/RoundHeaderView.h"
 
 #include <QApplication>
@@ -16,9 +17,7 @@ namespace {
 
 QImage picture(QWidget& view, const QSize& size)
 {
-    QPalette palette;
-    palette.setColor(QPalette::Base, Qt::white);
-    view.setPalette(palette);
+    view.setPalette(lightProgramColors());
     view.resize(size);
     QImage image(size, QImage::Format_RGB32);
     image.fill(Qt::magenta);

@@ -2,6 +2,7 @@
 #include "Shell/RecentsTableCell.h"
 
 #include "Model/RootModel.h"
+#include "Shell/ProgramColors.h"
 #include "Shell/RecentsTableModel.h"
 #include "TreeView/ColorHelper.h"
 #include "TreeView/MediumDate.h"
@@ -52,7 +53,7 @@ protected:
         const RecentsTableModel model(rootModel.recents());
         QStyleOptionViewItem option;
         option.rect = QRect(0, 0, 290, 48);
-        option.palette.setColor(QPalette::Base, Qt::white);
+        option.palette = lightProgramColors();
         option.state = state;
         QImage image(option.rect.size(), QImage::Format_RGB32);
         image.fill(Qt::white);

@@ -4,6 +4,7 @@
 #include "Platform/Linux/ChildProcessTask.h"
 #include "Platform/Linux/DBusRunningInstance.h"
 #include "Platform/Linux/DBusWorkspace.h"
+#include "Platform/Linux/DesktopColorSchemePreference.h"
 #include "Platform/Linux/DesktopMotionPreference.h"
 #include "Platform/Linux/HeapMemory.h"
 #include "Platform/Linux/LinuxFileAccess.h"
@@ -69,6 +70,7 @@ PlatformServices makePlatformServices()
         = std::make_unique<SettingsUserDefaults>(SettingsUserDefaults::defaultFilePath());
     services.recentDocuments
         = std::make_unique<XbelRecentDocuments>(XbelRecentDocuments::defaultFilePath());
+    services.colorSchemePreference = std::make_unique<DesktopColorSchemePreference>();
     services.motionPreference = std::make_unique<DesktopMotionPreference>();
     services.launcherProgress = std::make_unique<UnityLauncherProgress>();
     services.runningInstance = std::make_unique<DBusRunningInstance>();

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QPalette>
+
+namespace tessera {
+
+/// The colours of windows and what is in them, made for the Fusion style. Texts that can be used
+/// have a contrast of at least 4.5 : 1 to what they stand on.
+QPalette lightProgramColors();
+QPalette darkProgramColors();
+
+} // namespace tessera
