@@ -169,6 +169,13 @@ TEST_F(HomeItemViewsTest, TheSelectionIsBlueInTheWindowThatIsWorkedIn)
     EXPECT_EQ(picture(*folder).pixelColor(50, 4), colorWithHex(0x3875D7));
 }
 
+TEST_F(HomeItemViewsTest, TheSelectionOfADarkThemeIsDark)
+{
+    folder->setPalette(darkProgramColors());
+    folder->setSelected(true);
+    EXPECT_LT(picture(*folder).pixelColor(50, 4).lightness(), 90);
+}
+
 TEST(NonBlockingTextField, NeverTakesTheMouse)
 {
     EXPECT_TRUE(NonBlockingTextField().testAttribute(Qt::WA_TransparentForMouseEvents));

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#include "Shell/RecentsTableView.h"
+
+#include "Shell/ProgramColors.h"
+
+#include <QImage>
+#include <QStringListModel>
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+namespace tessera {
+namespace {
+
+class RecentsTableViewTest : public testing::Test {
+protected:
+    RecentsTableViewTest()
+    {
+        view.setFrameShape(QFrame::NoFrame);
+        view.setPalette(lightProgramColors());
+        view.resize(290, 200);
+        view.setModel(&model);
+    }
+
+    /// Where something other than the background is drawn.
+    QRect ink()
+    {
+        QImage image(view.size(), QImage::Format_RGB32);
+        view.render(&image);
+        QRect found;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                if (image.pixelColor(x, y) != QColor(Qt::white)) {
+                    found |= QRect(x, y, 1, 1);
+                }
+            }
+        }
+        return found;
+    }
+
+    RecentsTableView view;
+    QStringListModel model;
+};
+
+TEST_F(RecentsTableViewTest, SaysInItsMiddleThatItIsEmpty)
+{
+    const QRect text = ink();
+    EXPECT_GT(text.width(), 40);
+    EXPECT_LE(std::abs(text.center().x() - 145), 2);
+    EXPECT_LE(std::abs(text.center().y() - 100), 4);
+}
+
+TEST_F(RecentsTableViewTest, SaysNothingOfTheKindWhenItIsNot)
+{
+    model.setStringList({QString()});
+    EXPECT_FALSE(ink().intersects(QRect(0, 60, 290, 80)));
+    model.setStringList({});
+    EXPECT_TRUE(ink().intersects(QRect(0, 60, 290, 80)));
+}
+
+} // namespace
+} // namespace tessera
