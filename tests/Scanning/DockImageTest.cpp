@@ -5,6 +5,7 @@
 #include "TreeView/ColorHelper.h"
 
 #include <QImage>
+#include <QPalette>
 #include <QLabel>
 
 #include <gtest/gtest.h>
@@ -44,6 +45,18 @@ TEST(DockImage, TheBarIsBlue)
     const DockImage view;
     EXPECT_EQ(view.barView().lightColor(), colorWithHex(0x6485F4));
     EXPECT_EQ(view.barView().darkColor(), colorWithHex(0x2B5CF1));
+}
+
+TEST(DockImage, IsTheSameForDarkWindows)
+{
+    DockImage view;
+    view.setFrame(kFrame);
+    const QImage usual = painted(view);
+    QPalette dark;
+    dark.setColor(QPalette::Window, Qt::black);
+    dark.setColor(QPalette::WindowText, Qt::white);
+    view.setPalette(dark);
+    EXPECT_EQ(painted(view), usual);
 }
 
 TEST(DockImage, HandsTheFractionToTheBarAsItIs)

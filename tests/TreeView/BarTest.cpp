@@ -4,6 +4,7 @@
 #include "TreeView/ColorHelper.h"
 
 #include <QImage>
+#include <QPalette>
 
 #include <gtest/gtest.h>
 
@@ -191,6 +192,22 @@ TEST(Bar, ItsFillHasARadiusOfFour)
 
     EXPECT_FALSE(isAbout(shown.at(crossing - 0.1, crossing - 0.1), greenFill(crossing - 0.1)));
     EXPECT_TRUE(isAbout(shown.at(crossing + 0.1, crossing + 0.1), greenFill(crossing + 0.1)));
+}
+
+TEST(Bar, OnADarkWindowItsGrooveIsDarkAndItsFillTheSame)
+{
+    Bar bar;
+    QPalette dark;
+    dark.setColor(QPalette::Window, QColor(40, 40, 40));
+    dark.setColor(QPalette::WindowText, Qt::white);
+    bar.setPalette(dark);
+    bar.setPercentFilled(0.5);
+    const Picture shown(bar);
+
+    EXPECT_LT(QColor(shown.at(30, 2)).lightness(), 80);
+    EXPECT_LT(QColor(shown.at(30, 10)).lightness(), 80);
+    EXPECT_GT(QColor(shown.at(30, 0)).lightness(), 100);
+    EXPECT_TRUE(isAbout(shown.at(10, kMiddle), greenFill(kMiddle + 0.5)));
 }
 
 TEST(Bar, ItsOwnColoursReplaceTheGreen)
