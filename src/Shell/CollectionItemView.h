@@ -14,6 +14,18 @@ public:
 
     /// Whether clicks on the item do nothing.
     virtual bool disabled() const = 0;
+
+    /// Whether a key would select this item first, which shows a user of the keyboard where it is
+    /// while nothing is selected.
+    bool isNextForKeys() const { return m_isNextForKeys; }
+    void setNextForKeys(bool isNext)
+    {
+        m_isNextForKeys = isNext;
+        update();
+    }
+
+private:
+    bool m_isNextForKeys = false;
 };
 
 } // namespace tessera

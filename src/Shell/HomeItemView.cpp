@@ -52,9 +52,11 @@ void HomeItemView::setAlphaValue(double alpha)
 
 void HomeItemView::paintEvent(QPaintEvent* /*event*/)
 {
+    QPainter painter(this);
     if (m_selected) {
-        QPainter painter(this);
         paintSelectionBackground(painter, rect(), palette(), isActiveWindow());
+    } else if (isNextForKeys()) {
+        paintSelectionOutline(painter, rect(), palette());
     }
 }
 

@@ -6,6 +6,7 @@
 #include "Shell/SectionedCollectionViewDelegate.h"
 
 #include <QCoreApplication>
+#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QResizeEvent>
@@ -155,6 +156,33 @@ void SectionedCollectionView::clearSelection()
     m_selectedIndex = -1;
 }
 
+void SectionedCollectionView::markNextForKeys(CollectionItemView* view)
+{
+    if (m_nextForKeys != nullptr) {
+        m_nextForKeys->setNextForKeys(false);
+    }
+    m_nextForKeys = view;
+    if (view != nullptr) {
+        view->setNextForKeys(true);
+    }
+}
+
+void SectionedCollectionView::focusInEvent(QFocusEvent* event)
+{
+    const bool isByKeys
+        = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    if (isByKeys && m_enabled && m_selectedView == nullptr) {
+        markNextForKeys(placeForKey(Qt::Key_Home).view);
+    }
+    QWidget::focusInEvent(event);
+}
+
+void SectionedCollectionView::focusOutEvent(QFocusEvent* event)
+{
+    markNextForKeys(nullptr);
+    QWidget::focusOutEvent(event);
+}
+
 void SectionedCollectionView::resizeEvent(QResizeEvent* event)
 {
     if (m_rightEdge != nullptr && event->oldSize().isValid()) {
@@ -227,6 +255,7 @@ void SectionedCollectionView::select(const Place& place, int clickCount)
     if (!m_delegate->didSelectView) {
         return;
     }
+    markNextForKeys(nullptr);
     m_selectedView = place.view;
     m_selectedSection = place.section;
     m_selectedIndex = place.index;

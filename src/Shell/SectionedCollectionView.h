@@ -75,6 +75,8 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     /// Where an item stands in the data source.
@@ -88,6 +90,7 @@ private:
     void addSection(int section);
     void addView(std::unique_ptr<QWidget> view, LayoutMetric metric);
     void clearSelection();
+    void markNextForKeys(CollectionItemView* view);
     void select(const Place& place, int clickCount);
     std::vector<Place> places() const;
     /// Those that can be clicked.
@@ -100,6 +103,7 @@ private:
     std::vector<LayoutMetric> m_layoutMetrics;
     std::unique_ptr<QWidget> m_rightEdge;
     CollectionItemView* m_selectedView = nullptr;
+    QPointer<CollectionItemView> m_nextForKeys;
     int m_selectedSection = -1;
     int m_selectedIndex = -1;
     QPointer<QScrollArea> m_scrollView;

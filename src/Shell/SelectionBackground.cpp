@@ -11,20 +11,35 @@ namespace tessera {
 
 namespace {
 
-constexpr int kInset = 2;
+constexpr double kInset = 2;
 constexpr double kRadius = 4;
+constexpr double kOutlineWidth = 2;
+
+QPainterPath roundedInside(const QRectF& frame, double inset)
+{
+    const QRectF inside = frame.adjusted(inset, inset, -inset, -inset);
+    QPainterPath path;
+    addRoundedRectToPath(path, {inside.x(), inside.y(), inside.width(), inside.height()}, kRadius);
+    return path;
+}
 
 } // namespace
 
 void paintSelectionBackground(
     QPainter& painter, const QRect& frame, const QPalette& palette, bool isInMainWindow)
 {
-    const QRectF inside = frame.adjusted(kInset, kInset, -kInset, -kInset);
     const HomeColors colors(palette);
-    QPainterPath path;
-    addRoundedRectToPath(path, {inside.x(), inside.y(), inside.width(), inside.height()}, kRadius);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(path, isInMainWindow ? colors.selection : colors.inactiveSelection);
+    painter.fillPath(
+        roundedInside(frame, kInset), isInMainWindow ? colors.selection : colors.inactiveSelection);
+}
+
+void paintSelectionOutline(QPainter& painter, const QRect& frame, const QPalette& palette)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.strokePath(
+        roundedInside(frame, kInset + kOutlineWidth / 2),
+        QPen(HomeColors(palette).selection, kOutlineWidth));
 }
 
 } // namespace tessera

@@ -11,4 +11,7 @@ namespace tessera {
 void paintSelectionBackground(
     QPainter& painter, const QRect& frame, const QPalette& palette, bool isInMainWindow);
 
+/// The outline of the same shape, around the item that a key would select.
+void paintSelectionOutline(QPainter& painter, const QRect& frame, const QPalette& palette);
+
 } // namespace tessera

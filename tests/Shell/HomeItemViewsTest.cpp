@@ -176,6 +176,14 @@ TEST_F(HomeItemViewsTest, TheSelectionOfADarkThemeIsDark)
     EXPECT_LT(picture(*folder).pixelColor(50, 4).lightness(), 90);
 }
 
+TEST_F(HomeItemViewsTest, WhatAKeyWouldSelectHasAnOutline)
+{
+    folder->setNextForKeys(true);
+    const QImage image = picture(*folder);
+    EXPECT_EQ(image.pixelColor(50, 2), colorWithHex(0x3875D7));
+    EXPECT_NE(image.pixelColor(50, 6), colorWithHex(0x3875D7));
+}
+
 TEST(NonBlockingTextField, NeverTakesTheMouse)
 {
     EXPECT_TRUE(NonBlockingTextField().testAttribute(Qt::WA_TransparentForMouseEvents));

@@ -1,20 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "Shell/SectionedCollectionView.h"
-
-#include "Shell/CollectionItemView.h"
-#include "Shell/SectionedCollectionViewDataSource.h"
-#include "Shell/SectionedCollectionViewDelegate.h"
+#include "SectionedCollectionViewFixture.h"
 
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QTest>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <string>
-#include <utility>
-#include <vector>
 
 namespace tessera {
 namespace {
@@ -22,114 +12,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr int kHeaderHeight = 30;
-constexpr int kItemHeight = 72;
-
-class PlainItem final : public CollectionItemView {
-public:
-    bool disabled() const override { return isDisabled; }
-
-    bool isDisabled = false;
-};
-
-struct Section {
-    int count = 0;
-    double minimumWidth = 0;
-    double maximumWidth = 0;
-};
-
-class FixedSections final : public SectionedCollectionViewDataSource {
-public:
-    explicit FixedSections(std::vector<Section> given)
-        : sections(std::move(given))
-    {
-    }
-
-    int numberOfSections() const override { return static_cast<int>(sections.size()); }
-    int numberOfViewsInSection(int section) const override { return at(section).count; }
-    double minimumWidthInSection(int section) const override { return at(section).minimumWidth; }
-    double maximumWidthInSection(int section) const override { return at(section).maximumWidth; }
-
-    std::unique_ptr<QWidget> headerForSection(int /*section*/) override
-    {
-        auto header = std::make_unique<QWidget>();
-        header->resize(1, kHeaderHeight);
-        return header;
-    }
-
-    std::unique_ptr<CollectionItemView> viewForSection(int /*section*/, int /*index*/) override
-    {
-        auto item = std::make_unique<PlainItem>();
-        item->resize(1, kItemHeight);
-        return item;
-    }
-
-    std::vector<Section> sections;
-
-private:
-    const Section& at(int section) const { return sections.at(static_cast<std::size_t>(section)); }
-};
-
-std::string toText(const std::string& what, int section, int index)
-{
-    return what + ' ' + std::to_string(section) + '.' + std::to_string(index);
-}
-
-class SectionedCollectionViewTest : public testing::Test {
-protected:
-    void show(std::vector<Section> sections, int width)
-    {
-        dataSource.sections = std::move(sections);
-        surroundings.resize(width, 1000);
-        view.setDataSource(&dataSource);
-        view.setDelegate(&delegate);
-        view.reloadData();
-        surroundings.show();
-        told.clear();
-    }
-
-    SectionedCollectionViewDelegate::Message tell(const std::string& what)
-    {
-        return [this, what](CollectionItemView&, int section, int index) {
-            told.push_back(toText(what, section, index));
-        };
-    }
-
-    PlainItem& item(std::size_t metric)
-    {
-        return dynamic_cast<PlainItem&>(*view.layoutMetrics().at(metric).view);
-    }
-
-    std::vector<QRect> frames() const
-    {
-        std::vector<QRect> result;
-        for (const auto& metric : view.layoutMetrics()) {
-            result.push_back(metric.view->geometry());
-        }
-        return result;
-    }
-
-    void click(std::size_t metric)
-    {
-        QTest::mouseClick(&view, Qt::LeftButton, {}, item(metric).geometry().center());
-    }
-
-    void doubleClick(std::size_t metric)
-    {
-        QTest::mouseDClick(&view, Qt::LeftButton, {}, item(metric).geometry().center());
-    }
-
-    std::string selection() const
-    {
-        return toText("selected", view.selectedSection(), view.selectedIndex());
-    }
-
-    QWidget surroundings;
-    SectionedCollectionView view{&surroundings};
-    FixedSections dataSource{{}};
-    std::vector<std::string> told;
-    SectionedCollectionViewDelegate delegate{tell("select"), tell("deselect"), tell("double")};
-};
+class SectionedCollectionViewTest : public test::SectionedCollectionViewFixture { };
 
 TEST_F(SectionedCollectionViewTest, ItemsShareTheWidthAmongAsManyColumnsAsFit)
 {
@@ -407,7 +290,7 @@ TEST_F(SectionedCollectionViewTest, LoadingAfreshReplacesTheViews)
     dataSource.sections = {{1, 200, 400}};
     view.reloadData();
     EXPECT_EQ(view.layoutMetrics().size(), 2U);
-    EXPECT_EQ(view.findChildren<PlainItem*>().size(), 1);
+    EXPECT_EQ(view.findChildren<test::PlainItem*>().size(), 1);
     EXPECT_EQ(view.height(), 30 + 72);
 }
 
@@ -438,68 +321,6 @@ TEST_F(SectionedCollectionViewTest, WithoutADataSourceItIsEmpty)
     view.reloadData();
     EXPECT_THAT(view.layoutMetrics(), IsEmpty());
     EXPECT_EQ(view.height(), 0);
-}
-
-TEST_F(SectionedCollectionViewTest, TheFirstArrowKeySelectsTheFirstItem)
-{
-    show({{2, 200, 400}}, 450);
-    QTest::keyClick(&view, Qt::Key_Down);
-    EXPECT_THAT(told, ElementsAre("select 0.0"));
-}
-
-TEST_F(SectionedCollectionViewTest, LeftAndRightGoThroughAllSections)
-{
-    show({{1, 200, 400}, {1, 100, 200}}, 450);
-    click(1);
-    QTest::keyClick(&view, Qt::Key_Right);
-    EXPECT_EQ(selection(), "selected 1.0");
-    QTest::keyClick(&view, Qt::Key_Right);
-    EXPECT_EQ(selection(), "selected 1.0");
-    QTest::keyClick(&view, Qt::Key_Left);
-    EXPECT_EQ(selection(), "selected 0.0");
-    QTest::keyClick(&view, Qt::Key_Left);
-    EXPECT_EQ(selection(), "selected 0.0");
-}
-
-TEST_F(SectionedCollectionViewTest, UpAndDownGoToTheNextRowsNearestItem)
-{
-    show({{5, 200, 200}, {4, 100, 100}}, 450);
-    click(2);
-    QTest::keyClick(&view, Qt::Key_Down);
-    EXPECT_EQ(selection(), "selected 0.3");
-    QTest::keyClick(&view, Qt::Key_Down);
-    EXPECT_EQ(selection(), "selected 0.4");
-    QTest::keyClick(&view, Qt::Key_Down);
-    EXPECT_EQ(selection(), "selected 1.0");
-    QTest::keyClick(&view, Qt::Key_Up);
-    EXPECT_EQ(selection(), "selected 0.4");
-}
-
-TEST_F(SectionedCollectionViewTest, HomeAndEndGoToTheFirstAndTheLast)
-{
-    show({{2, 200, 400}, {2, 100, 200}}, 450);
-    QTest::keyClick(&view, Qt::Key_End);
-    QTest::keyClick(&view, Qt::Key_End);
-    EXPECT_EQ(selection(), "selected 1.1");
-    QTest::keyClick(&view, Qt::Key_Home);
-    EXPECT_EQ(selection(), "selected 0.0");
-}
-
-TEST_F(SectionedCollectionViewTest, KeysPassOverDisabledItems)
-{
-    show({{3, 100, 100}}, 450);
-    click(1);
-    item(2).isDisabled = true;
-    QTest::keyClick(&view, Qt::Key_Right);
-    EXPECT_EQ(selection(), "selected 0.2");
-}
-
-TEST_F(SectionedCollectionViewTest, WhileDisabledKeysChangeNothing)
-{
-    show({{2, 200, 400}}, 450);
-    view.setEnabled(false);
-    QTest::keyClick(&view, Qt::Key_Down);
-    EXPECT_THAT(told, IsEmpty());
 }
 
 } // namespace
