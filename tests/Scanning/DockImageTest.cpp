@@ -5,8 +5,8 @@
 #include "TreeView/ColorHelper.h"
 
 #include <QImage>
-#include <QPalette>
 #include <QLabel>
+#include <QPalette>
 
 #include <gtest/gtest.h>
 
