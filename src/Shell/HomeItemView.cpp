@@ -64,11 +64,18 @@ void HomeItemView::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::PaletteChange) {
         updateColors();
-    } else if (event->type() == QEvent::ActivationChange) {
+    }
+    CollectionItemView::changeEvent(event);
+}
+
+bool HomeItemView::event(QEvent* event)
+{
+    const bool result = CollectionItemView::event(event);
+    if (event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate) {
         updateColors();
         update();
     }
-    CollectionItemView::changeEvent(event);
+    return result;
 }
 
 } // namespace tessera

@@ -41,6 +41,7 @@ protected:
     void setAlphaValue(double alpha);
     void paintEvent(QPaintEvent* event) override;
     void changeEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
 
 private:
     /// After textColors() may have changed.

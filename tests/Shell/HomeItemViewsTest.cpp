@@ -99,16 +99,19 @@ TEST_F(HomeItemViewsTest, NamesFollowTheThemeWhileItChanges)
 
 TEST_F(HomeItemViewsTest, TextsOnThePaleSelectionOfAnotherWindowAreDark)
 {
-    volume->show();
-    QApplication::setActiveWindow(volume.get());
-    ASSERT_TRUE(QTest::qWaitForWindowActive(volume.get()));
+    QWidget window;
+    volume->setParent(&window);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     volume->setSelected(true);
     EXPECT_EQ(volume->nameLabel().textColor(), QColor(Qt::white));
     QApplication::setActiveWindow(nullptr);
     EXPECT_EQ(volume->nameLabel().textColor(), QColor(Qt::black));
     EXPECT_EQ(volume->spaceLabel().textColor(), colorWithHex(0x555555));
-    QApplication::setActiveWindow(volume.get());
+    QApplication::setActiveWindow(&window);
     EXPECT_EQ(volume->nameLabel().textColor(), QColor(Qt::white));
+    volume->setParent(nullptr);
 }
 
 TEST_F(HomeItemViewsTest, AFolderWithoutANameKeepsItsLabel)
