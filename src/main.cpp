@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/PlatformServices.h"
-#include "Scanning/Scanner.h"
 #include "Shell/CommandLine.h"
 #include "Shell/Launch.h"
 
@@ -71,8 +70,9 @@ int main(int argc, char** argv)
     int qtArgumentCount = 1;
     const QApplication application(qtArgumentCount, argv);
     const PlatformServices services = makePlatformServices();
-    const int status = launch(commandLine, launchServices(services));
+    const LaunchServices launched = launchServices(services);
+    const int status = launch(commandLine, launched);
     services.mainThread->close();
-    Scanner::waitForWorkers();
+    launched.scanEnvironment.workers->waitForNone();
     return status;
 }

@@ -177,7 +177,12 @@ ScanEnvironment scanEnvironment(const PlatformServices& services)
 }
 
 /// Whether the figures it prints stand for anything.
-bool measure(RootModel& model, const PlatformServices& services, QSize size, std::size_t zooms)
+bool measure(
+    RootModel& model,
+    const PlatformServices& services,
+    const ScanEnvironment& environment,
+    QSize size,
+    std::size_t zooms)
 {
     const FullMotion motion;
     TreeMapView map(*services.userDefaults);
@@ -189,7 +194,7 @@ bool measure(RootModel& model, const PlatformServices& services, QSize size, std
     TreeViewController controller(
         model,
         map,
-        {scanEnvironment(services),
+        {environment,
          *services.userDefaults,
          *services.workspace,
          alert,
@@ -217,13 +222,14 @@ bool measure(RootModel& model, const PlatformServices& services, QSize size, std
 bool measureFolder(const char* folder, std::size_t zooms)
 {
     const PlatformServices services = makePlatformServices();
+    const ScanEnvironment environment = scanEnvironment(services);
     RootModel model({*services.userDefaults, *services.recentDocuments, *services.standardFolders});
-    model.setTopFolder(ScanWaiter().scan(
-        Url(services.fileAccess->absolutePath(folder), true), scanEnvironment(services)));
-    const bool isValid
-        = measure(model, services, kSmallMap, zooms) && measure(model, services, kLargeMap, zooms);
+    model.setTopFolder(
+        ScanWaiter().scan(Url(services.fileAccess->absolutePath(folder), true), environment));
+    const bool isValid = measure(model, services, environment, kSmallMap, zooms)
+        && measure(model, services, environment, kLargeMap, zooms);
     services.mainThread->close();
-    Scanner::waitForWorkers();
+    environment.workers->waitForNone();
     return isValid;
 }
 

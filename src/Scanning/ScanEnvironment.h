@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Scanning/ScanWorkers.h"
+
 #include <functional>
+#include <memory>
 #include <string>
 
 namespace tessera {
@@ -11,7 +14,8 @@ class FileSystemAttributes;
 class MainThread;
 class ResourceValues;
 
-/// What a scan needs from the system that it runs on.
+/// What a scan needs from the system that it runs on. What it refers to must live until its workers
+/// have ended.
 struct ScanEnvironment {
     const FileManager& fileManager;
     const ResourceValues& resourceValues;
@@ -19,6 +23,8 @@ struct ScanEnvironment {
     MainThread& mainThread;
     std::function<double()> clock; ///< seconds that never go back; asked once for every item
     std::string homeDirectory; ///< absolute path of the user's home, as bytes
+    /// Of all scans with this environment or a copy of it.
+    std::shared_ptr<ScanWorkers> workers = std::make_shared<ScanWorkers>();
 };
 
 } // namespace tessera

@@ -5,49 +5,10 @@
 #include "Scanning/ScannerDelegate.h"
 #include "Scanning/ScannerRun.h"
 
-#include <condition_variable>
 #include <thread>
 #include <utility>
 
 namespace tessera {
-
-namespace {
-
-/// How many workers are running in the process.
-class WorkerCount {
-public:
-    void add()
-    {
-        const std::lock_guard lock(m_mutex);
-        ++m_count;
-    }
-
-    void remove()
-    {
-        const std::lock_guard lock(m_mutex);
-        --m_count;
-        m_changed.notify_all();
-    }
-
-    void waitForNone()
-    {
-        std::unique_lock lock(m_mutex);
-        m_changed.wait(lock, [this] { return m_count == 0; });
-    }
-
-private:
-    std::mutex m_mutex;
-    std::condition_variable m_changed;
-    int m_count = 0;
-};
-
-WorkerCount& workerCount()
-{
-    static WorkerCount count;
-    return count;
-}
-
-} // namespace
 
 std::shared_ptr<Scanner> Scanner::create(const ScanEnvironment& environment)
 {
@@ -75,13 +36,13 @@ void Scanner::scan(const Url& url)
         m_fileVaults.clear();
     }
     m_percentComplete = 0.0;
-    workerCount().add();
-    std::thread([self = shared_from_this(), run]() mutable {
+    m_environment.workers->add();
+    std::thread([self = shared_from_this(), run, workers = m_environment.workers]() mutable {
         run->_performScan();
         // The scanner may die here, with a tree that nobody took.
         run.reset();
         self.reset();
-        workerCount().remove();
+        workers->remove();
     }).detach();
 }
 
@@ -120,11 +81,6 @@ std::vector<Url> Scanner::fileVaults() const
 {
     const std::lock_guard lock(m_mutex);
     return m_fileVaults;
-}
-
-void Scanner::waitForWorkers()
-{
-    workerCount().waitForNone();
 }
 
 /// To be called with the mutex held.

@@ -21,7 +21,7 @@ class ScannerDelegate;
 class Scanner : public std::enable_shared_from_this<Scanner> {
 public:
     /// Shared, because the worker keeps the scanner alive beyond an owner that drops it. All that
-    /// the environment refers to must live until waitForWorkers() has returned.
+    /// the environment refers to must live until its workers have ended.
     [[nodiscard]] static std::shared_ptr<Scanner> create(const ScanEnvironment& environment);
 
     Scanner(const Scanner&) = delete;
@@ -55,9 +55,6 @@ public:
 
     /// Home folders met that are volumes of their own.
     std::vector<Url> fileVaults() const;
-
-    /// Blocks until no scanner's worker is running any more, at the application's end.
-    static void waitForWorkers();
 
 private:
     class Run;

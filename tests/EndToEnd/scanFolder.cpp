@@ -15,10 +15,11 @@ std::unique_ptr<TopFolder> scanFolder(const std::string& path)
     const LinuxResourceValues resourceValues;
     const LinuxFileSystemAttributes fileSystem;
     FakeMainThread mainThread;
-    const auto scanner = Scanner::create(
-        {fileManager, resourceValues, fileSystem, mainThread, [] { return 0.0; }, "/nobody"});
+    const ScanEnvironment environment{
+        fileManager, resourceValues, fileSystem, mainThread, [] { return 0.0; }, "/nobody"};
+    const auto scanner = Scanner::create(environment);
     scanner->scan(Url(path, true));
-    Scanner::waitForWorkers();
+    environment.workers->waitForNone();
     return scanner->takeTopFolder();
 }
 

@@ -67,14 +67,20 @@ protected:
     ~ScannerTest() override
     {
         m_scanner.reset();
-        Scanner::waitForWorkers();
+        workers->waitForNone();
     }
 
     Scanner& scannerOf(std::string_view items)
     {
         files = std::make_unique<test::FakeFileManager>(items);
         m_scanner = Scanner::create(
-            {*files, resourceValues, fileSystem, mainThread, [this] { return now.load(); }, home});
+            {*files,
+             resourceValues,
+             fileSystem,
+             mainThread,
+             [this] { return now.load(); },
+             home,
+             workers});
         m_scanner->setDelegate(&delegate);
         return *m_scanner;
     }
@@ -116,6 +122,7 @@ protected:
     test::FakeResourceValues resourceValues;
     test::FixedFileSystem fileSystem{FileSystemSizes{1000, 300}};
     test::FakeMainThread mainThread;
+    std::shared_ptr<ScanWorkers> workers = std::make_shared<ScanWorkers>();
     RecordingDelegate delegate;
     std::atomic<double> now = 100.0;
     std::string home = "/home/me";
@@ -309,7 +316,7 @@ TEST_F(ScannerTest, WithoutADelegateNothingIsReported)
     passBeforeEachItem(1.0);
     scanner.setDelegate(nullptr);
     scanner.scan(Url("/data", true));
-    Scanner::waitForWorkers();
+    workers->waitForNone();
     EXPECT_EQ(scanner.objectsRead(), 0U);
     EXPECT_EQ(scanner.topFolder()->totalAllocation(), 400U);
 }
@@ -331,7 +338,7 @@ TEST_F(ScannerTest, ACancelledScanIsToldOnceAndDoesNotEnd)
     });
     scanner.scan(Url("/data", true));
     mainThread.runUntil([this] { return !delegate.calls.empty(); });
-    Scanner::waitForWorkers();
+    workers->waitForNone();
     EXPECT_THAT(delegate.calls, ElementsAre("cancelled"));
     EXPECT_EQ(scanner.topFolder()->totalAllocation(), 1U);
 }
@@ -358,7 +365,7 @@ TEST_F(ScannerTest, TheScannerMayBeDroppedRightAfterItWasCancelled)
     scanner.cancel();
     drop();
     dropped.set_value();
-    Scanner::waitForWorkers();
+    workers->waitForNone();
     EXPECT_THAT(delegate.calls, ElementsAre("cancelled"));
 }
 
@@ -383,7 +390,7 @@ TEST_F(ScannerTest, AfterACancelledRunANewOneEndsAloneWithItsOwnTree)
     });
     scanner.scan(Url("/data", true));
     mainThread.runUntil([this] { return !delegate.calls.empty(); });
-    Scanner::waitForWorkers();
+    workers->waitForNone();
     files->onItem({});
     scanner.scan(Url("/other", true));
     mainThread.runUntil([this] { return delegate.hasEnded(); });
@@ -395,7 +402,7 @@ TEST_F(ScannerTest, LogsTheEndWithItsFigures)
 {
     testing::internal::CaptureStderr();
     scanToEnd("a:350 f/ ( b:50 )");
-    Scanner::waitForWorkers();
+    workers->waitForNone();
     EXPECT_EQ(
         testing::internal::GetCapturedStderr(),
         "Scan Complete: /data {time: 0.0000, objects: 3, allocation size: 400}\n");

@@ -6,7 +6,6 @@
 #include "Model/Volume.h"
 #include "Model/nodeLookup.h"
 #include "Scanning/PathLabel.h"
-#include "Scanning/Scanner.h"
 #include "Utils/DisplayText.h"
 #include "support/FakeDockTile.h"
 #include "support/FakeRootModelServices.h"
@@ -58,7 +57,7 @@ protected:
     ~ScanningViewControllerTest() override
     {
         controller.reset();
-        Scanner::waitForWorkers();
+        system->workers->waitForNone();
     }
 
     /// Half a second passes before each item of a scan, and every report is shown before the next.
@@ -115,7 +114,7 @@ protected:
     {
         bool isIdle = false;
         std::thread waiter([this, &isIdle] {
-            Scanner::waitForWorkers();
+            system->workers->waitForNone();
             system->mainThread.perform([&isIdle] { isIdle = true; });
         });
         system->mainThread.runUntil([&isIdle] { return isIdle; });

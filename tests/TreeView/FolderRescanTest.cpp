@@ -2,7 +2,6 @@
 #include "TreeView/FolderRescan.h"
 
 #include "Model/RootModel.h"
-#include "Scanning/Scanner.h"
 #include "TreeView/TreeMapView.h"
 #include "TreeView/TreeViewController.h"
 #include "support/FakeRootModelServices.h"
@@ -40,7 +39,7 @@ protected:
     {
         std::atomic<bool> isDone = false;
         std::thread waiting([&] {
-            Scanner::waitForWorkers();
+            services.workers->waitForNone();
             isDone = true;
             services.mainThread.perform([] {});
         });

@@ -45,6 +45,7 @@ struct FakeTreeViewServices {
     FakeTaskRecord archiver;
     std::set<std::string> targetsInUse;
     FakeMotionPreference motion;
+    std::shared_ptr<ScanWorkers> workers = std::make_shared<ScanWorkers>();
     double now = 100;
     std::atomic<double> scanClock = 100;
 
@@ -56,7 +57,8 @@ struct FakeTreeViewServices {
              fileSystem,
              mainThread,
              [this] { return scanClock.load(); },
-             "/me"},
+             "/me",
+             workers},
             defaults,
             workspace,
             alert,
