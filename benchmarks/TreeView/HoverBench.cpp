@@ -165,7 +165,8 @@ int main(int argc, char** argv)
     const QTemporaryDir settingsFolder;
     SettingsUserDefaults defaults(settingsFolder.filePath(QStringLiteral("settings.ini")));
     registerDefaults(defaults);
-    const LinuxResourceValues resourceValues;
+    const LinuxResourceValues resourceValues(
+        std::make_shared<const FileSystemQuestions>(kMainThreadPatience));
     DesktopIconProvider icons;
     TooltipController& tooltip = TooltipController::sharedInstance();
     tooltip.setResourceValues(&resourceValues);

@@ -32,7 +32,7 @@ struct CompressServices {
     std::string archiver; ///< path of the archiving program, as bytes
     std::function<std::unique_ptr<Task>()> makeTask;
     Workspace& workspace;
-    const ResourceValues& resourceValues;
+    const ResourceValues& resourceValues; ///< asked by the main thread, so it must be prompt
     IconProvider& icons;
     /// The paths of the archives that are being written, some of which are not on the disk yet; one
     /// set for all compressions.

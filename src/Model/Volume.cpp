@@ -17,8 +17,11 @@ Volume::Volume()
 
 void Volume::refreshVolume(const FileSystemAttributes& fileSystem)
 {
-    const FileSystemSizes sizes
-        = fileSystem.attributesOfFileSystem(origin()).value_or(FileSystemSizes{});
+    refreshVolume(fileSystem.attributesOfFileSystem(origin()).value_or(FileSystemSizes{}));
+}
+
+void Volume::refreshVolume(const FileSystemSizes& sizes)
+{
     logLine(
         "Volume Report { Total Size: %" PRIu64 ", Free Size: %" PRIu64 " }",
         sizes.totalBytes,

@@ -10,6 +10,7 @@
 namespace tessera {
 
 class FileSystemAttributes;
+struct FileSystemSizes;
 
 /// The root of a scan of a whole mounted volume. Beside the real contents it holds a node for the
 /// free space and one for used space that the walk could not see, so that the picture adds up to
@@ -31,6 +32,8 @@ public:
     /// Reads the file system's sizes at origin(), sets both special nodes and the total from them
     /// and sorts. Sizes that cannot be read count as 0.
     void refreshVolume(const FileSystemAttributes& fileSystem);
+    /// The same with sizes that were read already.
+    void refreshVolume(const FileSystemSizes& sizes);
 
 private:
     template <typename Node>

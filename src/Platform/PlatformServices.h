@@ -25,14 +25,23 @@
 
 namespace tessera {
 
+/// File systems as the main thread may ask them: what does not answer before anybody notices counts
+/// as not readable.
+struct PromptFileSystems {
+    std::unique_ptr<ResourceValues> resourceValues;
+    std::unique_ptr<FileSystemAttributes> fileSystemAttributes;
+    std::unique_ptr<FileAccess> fileAccess;
+};
+
 /// Everything that the program takes from the system it runs on. Each system's folder defines
 /// makePlatformServices(); the rest of the program sees the interfaces alone.
 struct PlatformServices {
     std::unique_ptr<FileManager> fileManager;
     std::shared_ptr<const ResourceValues> resourceValues; ///< a question that is stuck keeps it
     std::shared_ptr<const FileSystemAttributes> fileSystemAttributes; ///< likewise
+    PromptFileSystems prompt;
     std::unique_ptr<MountedVolumes> mountedVolumes;
-    std::unique_ptr<FileAccess> fileAccess;
+    std::unique_ptr<FileAccess> fileAccess; ///< waits as long as it takes
     std::shared_ptr<const FileReader> fileReader; ///< a look that is stuck keeps it
     std::unique_ptr<StandardFolders> standardFolders;
     std::unique_ptr<UserAccount> userAccount;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Shell/BackupFolder.h"
 
-#include "Scanning/ResourceValues.h"
+#include "Model/MountedVolumes.h"
 
 namespace tessera {
 
@@ -10,10 +10,10 @@ bool isTimeMachineBackup(const Url& url)
     return url.path().find("Backups.backupdb") != std::string::npos;
 }
 
-Url volumeOf(const Url& url, const ResourceValues& resourceValues)
+Url volumeOf(const Url& url, const MountedVolumes& volumes)
 {
     std::string path = url.path();
-    while (path.size() > 1 && !resourceValues.isVolume(path)) {
+    while (path.size() > 1 && !volumes.volumeAt(path)) {
         path.erase(path.rfind('/'));
     }
     return {path.empty() ? "/" : path, true};

@@ -15,7 +15,8 @@ public:
     FileAccess& operator=(const FileAccess&) = delete;
     virtual ~FileAccess() = default;
 
-    /// Why the folder cannot be read; no error when it can.
+    /// Why the folder cannot be read; no error when it can. `timed_out` says nothing about it but
+    /// that its file system is slow or dead.
     [[nodiscard]] virtual std::error_code checkFolder(const std::string& path) const = 0;
 
     /// The path from the root, with symbolic links resolved as far as that works.

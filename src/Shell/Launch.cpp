@@ -74,7 +74,7 @@ struct Desktop {
                   services.homeScreen.standardFolders))
     {
         TooltipController& tooltip = TooltipController::sharedInstance();
-        tooltip.setResourceValues(&services.scanEnvironment.resourceValues);
+        tooltip.setResourceValues(&services.promptResourceValues);
         tooltip.setIconProvider(&icons);
     }
     Desktop(const Desktop&) = delete;
@@ -98,13 +98,15 @@ MainWindowServices mainWindowServices(
 {
     const TreeViewServices treeScreen{
         services.scanEnvironment,
+        services.promptResourceValues,
+        services.promptFileSystemAttributes,
         services.rootModelServices.defaults,
         services.workspace,
         desktop.alert,
         {services.archiver,
          services.makeTask,
          services.workspace,
-         services.scanEnvironment.resourceValues,
+         services.promptResourceValues,
          desktop.icons,
          desktop.targetsInUse},
         services.motion};
@@ -113,12 +115,15 @@ MainWindowServices mainWindowServices(
         desktop.dockTile,
         desktop.alert,
         [&desktop](const Url& folder) { return desktop.places.look(folder); },
-        [&files = services.files](const std::string& path) { return files.checkFolder(path); }};
+        [&files = services.promptFiles](const std::string& path) {
+            return files.checkFolder(path);
+        }};
     return {
         model,
         treeScreen,
         services.rootModelServices.defaults,
         desktop.openPanel,
+        services.homeScreen.volumes,
         [&model, homeScreen = services.homeScreen](const std::function<void()>& openFolder) {
             return makeHomeScreen(model, homeScreen, openFolder);
         },
@@ -154,8 +159,10 @@ int openWindow(const std::string& folder, const LaunchServices& services)
 {
     Url url;
     if (!folder.empty()) {
-        const std::string path = services.files.absolutePath(folder);
-        if (const std::error_code error = services.files.checkFolder(path)) {
+        const std::string path = services.promptFiles.absolutePath(folder);
+        const std::error_code error = services.promptFiles.checkFolder(path);
+        // A scan of what does not answer now can be watched, and broken off.
+        if (error && error != std::errc::timed_out) {
             return fail("cannot read the folder '" + folder + "': " + error.message());
         }
         url = Url(path, true);

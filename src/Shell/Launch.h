@@ -25,9 +25,13 @@ class Workspace;
 /// What the program's screens need from the system. Everything must outlive the program's run.
 struct LaunchServices {
     ScanEnvironment scanEnvironment;
+    /// Asked by the main thread: they give up before anybody notices.
+    const ResourceValues& promptResourceValues;
+    const FileSystemAttributes& promptFileSystemAttributes;
+    const FileAccess& promptFiles;
     RootModelServices rootModelServices;
     HomeViewServices homeScreen;
-    const FileAccess& files;
+    const FileAccess& files; ///< waits as long as it takes
     ColorSchemePreference& colorScheme;
     const MotionPreference& motion;
     Workspace& workspace;

@@ -367,7 +367,7 @@ void MainWindowController::folderChosen(const std::vector<Url>& urls)
 
 void MainWindowController::refuseTimeMachine(const Url& url)
 {
-    const Url volume = volumeOf(url, m_services.treeScreen.scanEnvironment.resourceValues);
+    const Url volume = volumeOf(url, m_services.volumes);
     m_services.treeScreen.alert.beginSheet(
         {tr("Time Machine Detected"),
          tr("Tessera is unable to scan inside a Time Machine backup. To estimate the overall size "

@@ -12,6 +12,7 @@ class QWidget;
 
 namespace tessera {
 
+class MountedVolumes;
 class OpenPanel;
 class RootModel;
 class Url;
@@ -50,6 +51,7 @@ struct MainWindowServices {
     TreeViewServices treeScreen;
     UserDefaults& defaults; ///< where the window's place on the screen is remembered
     OpenPanel& openPanel;
+    const MountedVolumes& volumes;
     /// Gets what the home screen calls when a folder is to be chosen.
     std::function<std::unique_ptr<HomeScreen>(const std::function<void()>& openFolder)>
         makeHomeScreen;

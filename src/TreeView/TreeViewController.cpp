@@ -3,6 +3,7 @@
 
 #include "Layout/LevelRenderer.h"
 #include "Model/Document.h"
+#include "Model/FileSystemAttributes.h"
 #include "Model/NotificationCenter.h"
 #include "Model/RootModel.h"
 #include "Model/Volume.h"
@@ -183,7 +184,7 @@ void TreeViewController::itemCompressed(const Url& archive)
 {
     auto document = makeNode<Document>(archive.lastPathComponent());
     document->setTotalAllocation(
-        m_services.scanEnvironment.resourceValues.allocatedSize(archive.path()).value_or(0));
+        m_services.resourceValues.allocatedSize(archive.path()).value_or(0));
     if (Folder* const parent = locateParent(archive)) {
         removeNodeAt(archive);
         parent->insertChild(std::move(document));
@@ -332,7 +333,11 @@ void TreeViewController::folderWasReplaced(Folder& folder, Folder& with)
 void TreeViewController::objectTreeRefreshed()
 {
     if (auto* const volume = nodeCast<Volume>(static_cast<File*>(m_model.topFolder()))) {
-        volume->refreshVolume(m_services.scanEnvironment.fileSystemAttributes);
+        // Without an answer the sizes last known are nearer to the truth than none.
+        if (const auto sizes
+            = m_services.fileSystemAttributes.attributesOfFileSystem(volume->origin())) {
+            volume->refreshVolume(*sizes);
+        }
     }
     emit treeChanged();
 }

@@ -84,7 +84,8 @@ public:
     /// A key was pressed on the tree screen; false when it does nothing now.
     bool keyDown(const QKeyEvent& event);
 
-    /// To be called when the disk has changed under the tree: a volume reads its sizes anew.
+    /// To be called when the disk has changed under the tree: a volume reads its sizes anew,
+    /// or keeps them when its file system does not answer at once.
     void objectTreeRefreshed() override;
 
     /// Rebuilds the whole picture from the tree; a running zoom ends.

@@ -14,7 +14,10 @@ class Workspace;
 
 /// What the tree screen needs from the system and the desktop; each must outlive it.
 struct TreeViewServices {
-    ScanEnvironment scanEnvironment;
+    ScanEnvironment scanEnvironment; ///< of rescans
+    /// Asked by the main thread: they give up before anybody notices.
+    const ResourceValues& resourceValues;
+    const FileSystemAttributes& fileSystemAttributes;
     const UserDefaults& defaults;
     Workspace& workspace;
     Alert& alert;

@@ -12,8 +12,9 @@ namespace tessera::test {
 std::unique_ptr<TopFolder> scanFolder(const std::string& path)
 {
     const LinuxFileManager fileManager;
-    const LinuxResourceValues resourceValues;
-    const LinuxFileSystemAttributes fileSystem;
+    const auto questions = std::make_shared<const FileSystemQuestions>(kWorkerPatience);
+    const LinuxResourceValues resourceValues(questions);
+    const LinuxFileSystemAttributes fileSystem(questions);
     FakeMainThread mainThread;
     const ScanEnvironment environment{
         fileManager, resourceValues, fileSystem, mainThread, [] { return 0.0; }, "/nobody"};

@@ -185,7 +185,7 @@ TEST_F(MainWindowControllerTest, APanelClosedWithoutAChoiceChangesNothing)
 
 TEST_F(MainWindowControllerTest, ATimeMachineBackupIsRefusedWithTheNameOfItsVolume)
 {
-    services.treeScreen.resourceValues.volumes = {"/", "/media/me/Big Disk"};
+    services.volumes.list = {{Url("/", true)}, {Url("/media/me/Big Disk", true)}};
     choose("/media/me/Big Disk/Backups.backupdb/host/2026");
     ASSERT_EQ(services.treeScreen.alert.told.size(), 1U);
     const AlertText& told = services.treeScreen.alert.told[0];
@@ -201,7 +201,7 @@ TEST_F(MainWindowControllerTest, ATimeMachineBackupIsRefusedWithTheNameOfItsVolu
 
 TEST_F(MainWindowControllerTest, TheDiskOfABackupIsNamedAsOnTheHomeScreen)
 {
-    services.treeScreen.resourceValues.volumes = {"/"};
+    services.volumes.list = {{Url("/", true)}};
     choose("/old/Backups.backupdb");
     ASSERT_EQ(services.treeScreen.alert.told.size(), 1U);
     EXPECT_TRUE(services.treeScreen.alert.told[0].informativeText.endsWith(

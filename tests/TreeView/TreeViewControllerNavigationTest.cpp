@@ -184,6 +184,16 @@ TEST_F(TreeViewControllerNavigationTest, AVolumeReadsItsSizesWhenTheScreenOpens)
     EXPECT_EQ(static_cast<Volume&>(*model.topFolder()).freeSize(), 300U);
 }
 
+TEST_F(TreeViewControllerNavigationTest, AVolumeThatDoesNotAnswerKeepsItsSizes)
+{
+    showVolume();
+    viewServices.fileSystem.setSizes(std::nullopt);
+    controller->objectTreeRefreshed();
+    const auto& volume = static_cast<Volume&>(*model.topFolder());
+    EXPECT_EQ(volume.volumeSize(), 1000U);
+    EXPECT_EQ(volume.totalAllocation(), 700U);
+}
+
 TEST_F(TreeViewControllerNavigationTest, AFolderAsksForNoSizes)
 {
     EXPECT_EQ(viewServices.fileSystem.askedFor, "");

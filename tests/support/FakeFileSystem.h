@@ -25,6 +25,8 @@ public:
         return m_sizes;
     }
 
+    void setSizes(std::optional<FileSystemSizes> sizes) { m_sizes = sizes; }
+
     mutable std::string askedFor;
 
 private:

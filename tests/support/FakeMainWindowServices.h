@@ -5,6 +5,7 @@
 #include "Model/RootModel.h"
 #include "Shell/MainWindowServices.h"
 #include "Shell/OpenPanel.h"
+#include "support/FakePlaces.h"
 #include "support/FakeRootModelServices.h"
 #include "support/FakeTreeViewServices.h"
 
@@ -93,6 +94,7 @@ struct FakeMainWindowServices {
     FakeRootModelServices rootModel;
     RootModel model{rootModel.get()};
     FakeOpenPanel openPanel;
+    FakeMountedVolumes volumes;
     ScreenRecord screens;
     double now = 100;
 
@@ -103,6 +105,7 @@ struct FakeMainWindowServices {
             treeScreen.get(),
             rootModel.defaults,
             openPanel,
+            volumes,
             [this](const std::function<void()>& openFolder) {
                 screens.openFolder = openFolder;
                 return std::make_unique<FakeHomeScreen>(screens);

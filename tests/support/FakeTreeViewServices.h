@@ -59,6 +59,8 @@ struct FakeTreeViewServices {
              [this] { return scanClock.load(); },
              "/me",
              workers},
+            resourceValues,
+            fileSystem,
             defaults,
             workspace,
             alert,

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/BackgroundTrash.h"
 
-#include "Platform/Linux/TimeLimitedCall.h"
+#include "Platform/Linux/FileSystemQuestions.h"
 #include "Scanning/MainThread.h"
 
 #include <algorithm>
@@ -53,7 +53,7 @@ BackgroundTrash::BackgroundTrash(MainThread& mainThread, Mover mover)
 BackgroundTrash::~BackgroundTrash()
 {
     m_delivery->close();
-    const auto deadline = std::chrono::steady_clock::now() + kFileSystemTimeLimit;
+    const auto deadline = std::chrono::steady_clock::now() + kWorkerPatience;
     for (const std::future<void>& move : m_moves) {
         (void)move.wait_until(deadline);
     }

@@ -11,6 +11,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <optional>
+#include <utility>
 
 namespace tessera {
 
@@ -40,20 +42,45 @@ mode_t currentUmask()
     return mask;
 }
 
-} // namespace
-
-std::error_code LinuxFileAccess::checkFolder(const std::string& path) const
+std::error_code tryToOpenFolder(const std::string& path)
 {
     const FileDescriptor folder(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     return folder.isOpen() ? std::error_code{} : lastError();
 }
 
-std::string LinuxFileAccess::absolutePath(const std::string& path) const
+std::optional<std::string> resolvedPath(const std::string& path)
 {
     const std::unique_ptr<char, decltype(&std::free)> resolved(
         ::realpath(path.c_str(), nullptr), &std::free);
-    if (resolved != nullptr) {
-        return resolved.get();
+    return resolved != nullptr ? std::optional<std::string>(resolved.get()) : std::nullopt;
+}
+
+} // namespace
+
+LinuxFileAccess::LinuxFileAccess(std::shared_ptr<const FileSystemQuestions> questions)
+    : m_questions(std::move(questions))
+{
+}
+
+std::error_code LinuxFileAccess::checkFolder(const std::string& path) const
+{
+    if (m_questions == nullptr) {
+        return tryToOpenFolder(path);
+    }
+    return m_questions
+        ->ask<std::error_code>(
+            path, LinkMode::Follow, [path] { return std::optional(tryToOpenFolder(path)); })
+        .value_or(std::make_error_code(std::errc::timed_out));
+}
+
+std::string LinuxFileAccess::absolutePath(const std::string& path) const
+{
+    const std::optional<std::string> resolved = m_questions == nullptr
+        ? resolvedPath(path)
+        : m_questions->ask<std::string>(
+            path, LinkMode::Follow, [path] { return resolvedPath(path); });
+    if (resolved) {
+        return *resolved;
     }
     if (!path.empty() && path.front() == '/') {
         return path;

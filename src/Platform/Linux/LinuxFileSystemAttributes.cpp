@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/LinuxFileSystemAttributes.h"
 
-#include "Platform/Linux/TimeLimitedCall.h"
-
 #include <sys/statvfs.h>
 
 #include <cerrno>
@@ -30,23 +28,24 @@ int queryStatvfs(const std::string& path, FileSystemSizes& sizes)
 
 } // namespace
 
-LinuxFileSystemAttributes::LinuxFileSystemAttributes()
-    : LinuxFileSystemAttributes(queryStatvfs, kFileSystemTimeLimit)
+LinuxFileSystemAttributes::LinuxFileSystemAttributes(
+    std::shared_ptr<const FileSystemQuestions> questions)
+    : LinuxFileSystemAttributes(std::move(questions), queryStatvfs)
 {
 }
 
 LinuxFileSystemAttributes::LinuxFileSystemAttributes(
-    Query query, std::chrono::milliseconds timeLimit)
-    : m_query(std::move(query))
-    , m_timeLimit(timeLimit)
+    std::shared_ptr<const FileSystemQuestions> questions, Query query)
+    : m_questions(std::move(questions))
+    , m_query(std::move(query))
 {
 }
 
 std::optional<FileSystemSizes> LinuxFileSystemAttributes::attributesOfFileSystem(
     const std::string& path) const
 {
-    return callWithin<FileSystemSizes>(
-        m_timeLimit, [query = m_query, path]() -> std::optional<FileSystemSizes> {
+    return m_questions->ask<FileSystemSizes>(
+        path, LinkMode::Follow, [query = m_query, path]() -> std::optional<FileSystemSizes> {
             FileSystemSizes sizes;
             if (query(path, sizes) != 0) {
                 return std::nullopt;

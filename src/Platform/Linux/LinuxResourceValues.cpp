@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/LinuxResourceValues.h"
 
-#include "Platform/Linux/TimeLimitedCall.h"
-
 #include <fcntl.h>
 
 #include <utility>
@@ -29,26 +27,27 @@ bool isMountRoot(const FileStatus& directory, const FileStatus& above)
 
 } // namespace
 
-LinuxResourceValues::LinuxResourceValues()
-    : LinuxResourceValues(queryStatus, kFileSystemTimeLimit)
+LinuxResourceValues::LinuxResourceValues(std::shared_ptr<const FileSystemQuestions> questions)
+    : LinuxResourceValues(std::move(questions), queryStatus)
 {
 }
 
-LinuxResourceValues::LinuxResourceValues(Query query, std::chrono::milliseconds timeLimit)
-    : m_query(std::move(query))
-    , m_timeLimit(timeLimit)
+LinuxResourceValues::LinuxResourceValues(
+    std::shared_ptr<const FileSystemQuestions> questions, Query query)
+    : m_questions(std::move(questions))
+    , m_query(std::move(query))
 {
 }
 
 bool LinuxResourceValues::isVolume(const std::string& path) const
 {
-    const auto answer
-        = callWithin<bool>(m_timeLimit, [query = m_query, path]() -> std::optional<bool> {
-              const StatusResult found = query(path, LinkMode::Follow);
-              const StatusResult above = query(path + "/..", LinkMode::Follow);
-              return found && above && found.status.isDirectory
-                  && isMountRoot(found.status, above.status);
-          });
+    const auto answer = m_questions->ask<bool>(
+        path, LinkMode::Follow, [query = m_query, path]() -> std::optional<bool> {
+            const StatusResult found = query(path, LinkMode::Follow);
+            const StatusResult above = query(path + "/..", LinkMode::Follow);
+            return found && above && found.status.isDirectory
+                && isMountRoot(found.status, above.status);
+        });
     return answer.value_or(false);
 }
 
@@ -74,8 +73,8 @@ std::optional<std::int64_t> LinuxResourceValues::contentModificationDate(
 std::optional<FileStatus> LinuxResourceValues::status(
     const std::string& path, LinkMode linkMode) const
 {
-    return callWithin<FileStatus>(
-        m_timeLimit, [query = m_query, path, linkMode]() -> std::optional<FileStatus> {
+    return m_questions->ask<FileStatus>(
+        path, linkMode, [query = m_query, path, linkMode]() -> std::optional<FileStatus> {
             const StatusResult found = query(path, linkMode);
             return found ? std::optional(found.status) : std::nullopt;
         });

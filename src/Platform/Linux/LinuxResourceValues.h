@@ -2,21 +2,22 @@
 #pragma once
 
 #include "Platform/Linux/FileStatus.h"
+#include "Platform/Linux/FileSystemQuestions.h"
 #include "Scanning/ResourceValues.h"
 
-#include <chrono>
 #include <functional>
+#include <memory>
 
 namespace tessera {
 
-/// statx(2) with a time limit. What does not answer in time counts as not readable.
+/// statx(2). What does not answer in time counts as not readable.
 class LinuxResourceValues final : public ResourceValues {
 public:
     /// What the system says of a path. Tests pass their own.
     using Query = std::function<StatusResult(const std::string& path, LinkMode linkMode)>;
 
-    LinuxResourceValues();
-    LinuxResourceValues(Query query, std::chrono::milliseconds timeLimit);
+    explicit LinuxResourceValues(std::shared_ptr<const FileSystemQuestions> questions);
+    LinuxResourceValues(std::shared_ptr<const FileSystemQuestions> questions, Query query);
 
     /// A symbolic link is followed, as by the walk that starts there.
     [[nodiscard]] bool isVolume(const std::string& path) const override;
@@ -33,8 +34,8 @@ public:
 private:
     std::optional<FileStatus> status(const std::string& path, LinkMode linkMode) const;
 
+    std::shared_ptr<const FileSystemQuestions> m_questions;
     Query m_query;
-    std::chrono::milliseconds m_timeLimit;
 };
 
 } // namespace tessera

@@ -59,8 +59,14 @@ PlatformServices makePlatformServices()
     returnLargeBlocksAtOnce();
     PlatformServices services;
     services.fileManager = std::make_unique<LinuxFileManager>();
-    services.resourceValues = std::make_shared<const LinuxResourceValues>();
-    services.fileSystemAttributes = std::make_shared<const LinuxFileSystemAttributes>();
+    const auto patient = std::make_shared<const FileSystemQuestions>(kWorkerPatience);
+    services.resourceValues = std::make_shared<const LinuxResourceValues>(patient);
+    services.fileSystemAttributes = std::make_shared<const LinuxFileSystemAttributes>(patient);
+    const auto prompt = std::make_shared<const FileSystemQuestions>(kMainThreadPatience);
+    services.prompt
+        = {std::make_unique<LinuxResourceValues>(prompt),
+           std::make_unique<LinuxFileSystemAttributes>(prompt),
+           std::make_unique<LinuxFileAccess>(prompt)};
     services.mountedVolumes = std::make_unique<LinuxMountedVolumes>();
     services.fileAccess = std::make_unique<LinuxFileAccess>();
     services.fileReader = std::make_shared<LinuxFileReader>();
@@ -69,7 +75,7 @@ PlatformServices makePlatformServices()
     services.userDefaults
         = std::make_unique<SettingsUserDefaults>(SettingsUserDefaults::defaultFilePath());
     services.recentDocuments
-        = std::make_unique<XbelRecentDocuments>(XbelRecentDocuments::defaultFilePath());
+        = std::make_unique<XbelRecentDocuments>(XbelRecentDocuments::defaultFilePath(), prompt);
     services.colorSchemePreference = std::make_unique<DesktopColorSchemePreference>();
     services.motionPreference = std::make_unique<DesktopMotionPreference>();
     services.launcherProgress = std::make_unique<UnityLauncherProgress>();

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/XbelRecentDocuments.h"
 
-#include "Platform/Linux/TimeLimitedCall.h"
 #include "Platform/keepAside.h"
 
 #include <glib.h>
@@ -191,19 +190,6 @@ bool isGone(const std::string& path)
     return ::lstat(path.c_str(), &status) != 0 && (errno == ENOENT || errno == ENOTDIR);
 }
 
-/// For each path, whether the system says that nothing is there. When it does not say in time,
-/// all count as still there: a server that is down for an hour has lost nothing.
-std::vector<bool> gonePaths(const std::vector<std::string>& paths)
-{
-    const auto answers = callWithin<std::vector<bool>>(
-        kFileSystemTimeLimit, [paths]() -> std::optional<std::vector<bool>> {
-            std::vector<bool> gone(paths.size());
-            std::transform(paths.begin(), paths.end(), gone.begin(), isGone);
-            return gone;
-        });
-    return answers.value_or(std::vector<bool>(paths.size()));
-}
-
 } // namespace
 
 std::string XbelRecentDocuments::defaultFilePath()
@@ -211,13 +197,17 @@ std::string XbelRecentDocuments::defaultFilePath()
     return std::string(g_get_user_data_dir()) + "/recently-used.xbel";
 }
 
-XbelRecentDocuments::XbelRecentDocuments(std::string filePath)
-    : XbelRecentDocuments(std::move(filePath), [] { return microseconds(g_get_real_time()); })
+XbelRecentDocuments::XbelRecentDocuments(
+    std::string filePath, std::shared_ptr<const FileSystemQuestions> questions)
+    : XbelRecentDocuments(
+        std::move(filePath), std::move(questions), [] { return microseconds(g_get_real_time()); })
 {
 }
 
-XbelRecentDocuments::XbelRecentDocuments(std::string filePath, Clock clock)
+XbelRecentDocuments::XbelRecentDocuments(
+    std::string filePath, std::shared_ptr<const FileSystemQuestions> questions, Clock clock)
     : m_filePath(std::move(filePath))
+    , m_questions(std::move(questions))
     , m_clock(std::move(clock))
 {
 }
@@ -230,16 +220,15 @@ std::vector<Url> XbelRecentDocuments::recentDocumentUrls() const
     }
     std::vector<Entry> entries = ownEntries(bookmarks.get());
     entries.resize(std::min(entries.size(), kMaxDocuments));
-    std::vector<std::string> paths;
-    paths.reserve(entries.size());
-    for (const Entry& entry : entries) {
-        paths.push_back(entry.url.path());
-    }
-    const std::vector<bool> gone = gonePaths(paths);
+    const auto deadline = m_questions->deadline();
     std::vector<Url> urls;
-    for (std::size_t i = 0; i < entries.size(); ++i) {
-        if (!gone[i]) {
-            urls.push_back(std::move(entries[i].url));
+    for (Entry& entry : entries) {
+        const std::string& path = entry.url.path();
+        const std::optional<bool> gone = m_questions->ask<bool>(
+            path, LinkMode::Keep, [path] { return std::optional(isGone(path)); }, deadline);
+        // A server that is down for an hour has lost nothing.
+        if (!gone.value_or(false)) {
+            urls.push_back(std::move(entry.url));
         }
     }
     return urls;

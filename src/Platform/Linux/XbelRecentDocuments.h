@@ -2,9 +2,11 @@
 #pragma once
 
 #include "Model/RecentDocuments.h"
+#include "Platform/Linux/FileSystemQuestions.h"
 
 #include <chrono>
 #include <functional>
+#include <memory>
 #include <string>
 
 namespace tessera {
@@ -25,10 +27,11 @@ public:
     /// recently-used.xbel in the folder that the desktop keeps for data.
     static std::string defaultFilePath();
 
-    explicit XbelRecentDocuments(std::string filePath);
+    XbelRecentDocuments(std::string filePath, std::shared_ptr<const FileSystemQuestions> questions);
 
     /// `clock` gives the time since 1970-01-01 00:00 UTC.
-    XbelRecentDocuments(std::string filePath, Clock clock);
+    XbelRecentDocuments(
+        std::string filePath, std::shared_ptr<const FileSystemQuestions> questions, Clock clock);
 
     [[nodiscard]] std::vector<Url> recentDocumentUrls() const override;
     void noteNewRecentDocumentUrl(const Url& url) override;
@@ -36,6 +39,7 @@ public:
 
 private:
     std::string m_filePath;
+    std::shared_ptr<const FileSystemQuestions> m_questions;
     Clock m_clock;
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/LinuxFileAccess.h"
 
+#include "support/DeadFileSystem.h"
 #include "support/TempTree.h"
 
 #include <gtest/gtest.h>
@@ -83,6 +84,27 @@ TEST(LinuxFileAccess, ReplacesWhatWasThere)
     EXPECT_FALSE(LinuxFileAccess().writeFile(tree.pathOf("file"), "new"));
     EXPECT_EQ(contentOf(tree.pathOf("file")), "new");
     EXPECT_EQ(entriesIn(tree.path()), 1U);
+}
+
+TEST(LinuxFileAccess, InAHurryItSaysTheSameOfWhatAnswers)
+{
+    const test::TempTree tree;
+    tree.makeSymbolicLink("link", ".");
+    const LinuxFileAccess files(
+        std::make_shared<const FileSystemQuestions>(std::chrono::minutes(1)));
+    EXPECT_FALSE(files.checkFolder(tree.path()));
+    EXPECT_EQ(files.checkFolder(tree.pathOf("none")), std::errc::no_such_file_or_directory);
+    EXPECT_EQ(files.absolutePath(tree.pathOf("link")), files.absolutePath(tree.path()));
+}
+
+TEST(LinuxFileAccess, InAHurryADeadFolderIsTimedOutAndKeepsItsPath)
+{
+    const auto questions = std::make_shared<const FileSystemQuestions>(std::chrono::minutes(1));
+    const test::DeadFileSystem dead;
+    dead.swallow(*questions, "/proc/self", LinkMode::Follow);
+    const LinuxFileAccess files(questions);
+    EXPECT_EQ(files.checkFolder("/proc/self"), std::errc::timed_out);
+    EXPECT_EQ(files.absolutePath("/proc/self"), "/proc/self");
 }
 
 TEST(LinuxFileAccess, AFileThatCannotBeWrittenLeavesNothingBehind)

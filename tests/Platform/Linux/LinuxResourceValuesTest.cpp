@@ -36,25 +36,30 @@ bool isListedMount(const std::string& path)
     return isFound;
 }
 
+std::shared_ptr<const FileSystemQuestions> questions()
+{
+    return std::make_shared<const FileSystemQuestions>(std::chrono::minutes(1));
+}
+
 TEST(LinuxResourceValues, TheRootIsAVolumeWhereItIsAMount)
 {
-    EXPECT_EQ(LinuxResourceValues().isVolume("/"), isListedMount("/"));
+    EXPECT_EQ(LinuxResourceValues(questions()).isVolume("/"), isListedMount("/"));
 }
 
 TEST(LinuxResourceValues, AMountIsAVolume)
 {
-    EXPECT_TRUE(LinuxResourceValues().isVolume("/proc"));
+    EXPECT_TRUE(LinuxResourceValues(questions()).isVolume("/proc"));
 }
 
 TEST(LinuxResourceValues, AFolderIsNone)
 {
     const TempTree tree;
-    EXPECT_FALSE(LinuxResourceValues().isVolume(tree.path()));
+    EXPECT_FALSE(LinuxResourceValues(questions()).isVolume(tree.path()));
 }
 
 TEST(LinuxResourceValues, WhatIsNotThereIsNone)
 {
-    EXPECT_FALSE(LinuxResourceValues().isVolume("/no/such/path"));
+    EXPECT_FALSE(LinuxResourceValues(questions()).isVolume("/no/such/path"));
 }
 
 TEST(LinuxResourceValues, AFolderAndALinkToOneAreDirectories)
@@ -62,22 +67,20 @@ TEST(LinuxResourceValues, AFolderAndALinkToOneAreDirectories)
     const TempTree tree;
     tree.makeFile("file");
     tree.makeSymbolicLink("link", ".");
-    EXPECT_TRUE(LinuxResourceValues().isDirectory(tree.path()));
-    EXPECT_TRUE(LinuxResourceValues().isDirectory(tree.pathOf("link")));
-    EXPECT_FALSE(LinuxResourceValues().isDirectory(tree.pathOf("file")));
-    EXPECT_FALSE(LinuxResourceValues().isDirectory(tree.pathOf("nothing")));
+    EXPECT_TRUE(LinuxResourceValues(questions()).isDirectory(tree.path()));
+    EXPECT_TRUE(LinuxResourceValues(questions()).isDirectory(tree.pathOf("link")));
+    EXPECT_FALSE(LinuxResourceValues(questions()).isDirectory(tree.pathOf("file")));
+    EXPECT_FALSE(LinuxResourceValues(questions()).isDirectory(tree.pathOf("nothing")));
 }
 
 TEST(LinuxResourceValues, OnOldKernelsADeviceOfItsOwnMakesAVolume)
 {
-    const LinuxResourceValues values(
-        [](const std::string& path, LinkMode) {
-            StatusResult result;
-            result.status.isDirectory = true;
-            result.status.identity = {path == "/mnt" ? 2U : 1U, 5};
-            return result;
-        },
-        std::chrono::minutes(1));
+    const LinuxResourceValues values(questions(), [](const std::string& path, LinkMode) {
+        StatusResult result;
+        result.status.isDirectory = true;
+        result.status.identity = {path == "/mnt" ? 2U : 1U, 5};
+        return result;
+    });
     EXPECT_TRUE(values.isVolume("/mnt"));
     EXPECT_TRUE(values.isVolume("/")) << "it is its own parent";
 }
@@ -87,7 +90,8 @@ TEST(LinuxResourceValues, GivesTheBlocksOfAFile)
     const TempTree tree;
     tree.makeFile("file", 5000);
     EXPECT_EQ(
-        LinuxResourceValues().allocatedSize(tree.pathOf("file")), tree.allocatedBytes("file"));
+        LinuxResourceValues(questions()).allocatedSize(tree.pathOf("file")),
+        tree.allocatedBytes("file"));
 }
 
 TEST(LinuxResourceValues, GivesTheBlocksOfALinkItself)
@@ -96,7 +100,8 @@ TEST(LinuxResourceValues, GivesTheBlocksOfALinkItself)
     tree.makeFile("file", 100000);
     tree.makeSymbolicLink("link", "file");
     EXPECT_EQ(
-        LinuxResourceValues().allocatedSize(tree.pathOf("link")), tree.allocatedBytes("link"));
+        LinuxResourceValues(questions()).allocatedSize(tree.pathOf("link")),
+        tree.allocatedBytes("link"));
 }
 
 TEST(LinuxResourceValues, GivesWhenTheContentChanged)
@@ -106,13 +111,15 @@ TEST(LinuxResourceValues, GivesWhenTheContentChanged)
     tree.makeFile("file");
     const std::array<timespec, 2> times{timespec{1, 0}, timespec{kModified, 0}};
     ASSERT_EQ(::utimensat(AT_FDCWD, tree.pathOf("file").c_str(), times.data(), 0), 0);
-    EXPECT_EQ(LinuxResourceValues().contentModificationDate(tree.pathOf("file")), kModified);
+    EXPECT_EQ(
+        LinuxResourceValues(questions()).contentModificationDate(tree.pathOf("file")), kModified);
 }
 
 TEST(LinuxResourceValues, WhatIsNotThereHasNoValues)
 {
-    EXPECT_FALSE(LinuxResourceValues().allocatedSize("/no/such/path").has_value());
-    EXPECT_FALSE(LinuxResourceValues().contentModificationDate("/no/such/path").has_value());
+    EXPECT_FALSE(LinuxResourceValues(questions()).allocatedSize("/no/such/path").has_value());
+    EXPECT_FALSE(
+        LinuxResourceValues(questions()).contentModificationDate("/no/such/path").has_value());
 }
 
 TEST(LinuxResourceValues, AFileSystemThatDoesNotAnswerHasNoValues)
@@ -120,11 +127,11 @@ TEST(LinuxResourceValues, AFileSystemThatDoesNotAnswerHasNoValues)
     const auto release = std::make_shared<std::promise<void>>();
     const std::shared_future<void> released = release->get_future().share();
     const LinuxResourceValues values(
+        std::make_shared<const FileSystemQuestions>(std::chrono::milliseconds(1)),
         [released](const std::string&, LinkMode) {
             released.wait();
             return StatusResult{};
-        },
-        std::chrono::milliseconds(1));
+        });
     EXPECT_FALSE(values.isVolume("/"));
     EXPECT_FALSE(values.allocatedSize("/").has_value());
     release->set_value();

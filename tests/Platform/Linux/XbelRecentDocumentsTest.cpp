@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/XbelRecentDocuments.h"
 
+#include "support/DeadFileSystem.h"
+
 #include <QProcess>
 #include <QStandardPaths>
 
@@ -69,7 +71,7 @@ protected:
     /// A clock that stands still unless a test moves it.
     XbelRecentDocuments documents()
     {
-        return {m_file.string(), [this] { return m_now; }};
+        return {m_file.string(), m_questions, [this] { return m_now; }};
     }
 
     Url makeFolder(const std::string& name) const
@@ -93,6 +95,8 @@ protected:
     fs::path m_folder;
     fs::path m_file;
     microseconds m_now{1700000000000000};
+    std::shared_ptr<const FileSystemQuestions> m_questions
+        = std::make_shared<const FileSystemQuestions>(std::chrono::minutes(1));
 };
 
 TEST_F(XbelRecentDocumentsOnDisk, IsEmptyWithoutAFile)
@@ -161,6 +165,16 @@ TEST_F(XbelRecentDocumentsOnDisk, DropsItemsThatNoLongerExist)
     documents().noteNewRecentDocumentUrl(b);
     fs::remove(b.path());
     EXPECT_THAT(documents().recentDocumentUrls(), ElementsAre(a));
+}
+
+TEST_F(XbelRecentDocumentsOnDisk, KeepsItemsOfADiskThatDoesNotAnswer)
+{
+    const Url gone = makeFolder("gone");
+    documents().noteNewRecentDocumentUrl(gone);
+    fs::remove(gone.path());
+    const test::DeadFileSystem dead;
+    dead.swallow(*m_questions, gone.path(), LinkMode::Keep);
+    EXPECT_THAT(documents().recentDocumentUrls(), ElementsAre(gone));
 }
 
 TEST_F(XbelRecentDocumentsOnDisk, ListsOnlyOwnEntries)
