@@ -3,7 +3,7 @@
 #include "Layout/LevelRenderer.h"
 #include "Model/TopFolder.h"
 #include "TreeView/TreeBranch.h"
-#include "TreeView/TreePicture.h"
+#include "TreeView/TreePainter.h"
 #include "support/generatedTree.h"
 
 #include <QApplication>
@@ -54,6 +54,7 @@ void report(const char* name, Folder& top, QSize size, double scale, int rounds)
     const LevelRenderer renderer(false);
     Timings timings;
     std::unique_ptr<TreeBranch> branch;
+    TreePainter painter;
     for (int round = 0; round < rounds; ++round) {
         // Each round is another window size, as in resizing, so that no line is cut as before.
         const double width = size.width() - round % 8;
@@ -61,7 +62,7 @@ void report(const char* name, Folder& top, QSize size, double scale, int rounds)
         branch = TreeBranch::make(
             renderer.renderTop(&top, {0, 0, width, static_cast<double>(size.height())}), nullptr);
         const auto laidOut = Clock::now();
-        const QImage image = paintTreePicture(*branch, QSizeF(width, size.height()), scale);
+        const QImage image = painter.paint(*branch, QSizeF(width, size.height()), scale);
         const auto end = Clock::now();
         timings.layouts.push_back(milliseconds(laidOut - begin));
         timings.paintings.push_back(milliseconds(end - laidOut));

@@ -4,7 +4,7 @@
 #include "Layout/LevelRenderer.h"
 #include "Shell/FileAccess.h"
 #include "TreeView/TreeBranch.h"
-#include "TreeView/TreePicture.h"
+#include "TreeView/TreePainter.h"
 
 #include <QBuffer>
 #include <QImage>
@@ -43,7 +43,7 @@ std::string PictureWriter::writePng(const CommandLine& commandLine) const
     const auto top
         = TreeBranch::make(LevelRenderer(false).renderTop(m_tree.get(), bounds), nullptr);
     const QImage picture
-        = paintTreePicture(*top, QSizeF(bounds.width, bounds.height), commandLine.scale);
+        = TreePainter().paint(*top, QSizeF(bounds.width, bounds.height), commandLine.scale);
     QByteArray png;
     QBuffer buffer(&png);
     const bool isEncoded = buffer.open(QIODevice::WriteOnly) && picture.save(&buffer, "PNG");

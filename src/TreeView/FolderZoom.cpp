@@ -4,7 +4,6 @@
 #include "Model/Folder.h"
 #include "TreeView/TreeBranch.h"
 #include "TreeView/TreeMapView.h"
-#include "TreeView/TreePicture.h"
 #include "TreeView/TreeViewController.h"
 #include "TreeView/TreeViewServices.h"
 #include "Utils/Log.h"
@@ -115,7 +114,7 @@ Rect FolderZoom::bounds() const
 
 QImage FolderZoom::paint(const TreeBranch& branch) const
 {
-    return paintTreePicture(branch, m_treeView.size(), m_treeView.devicePixelRatioF());
+    return m_treeView.paint(branch);
 }
 
 FolderZoom::ZoomMatrices FolderZoom::matricesFor(const Place& place) const

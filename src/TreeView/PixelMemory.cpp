@@ -2,7 +2,6 @@
 #include "TreeView/PixelMemory.h"
 
 #include <cstddef>
-#include <memory>
 #include <mutex>
 #include <utility>
 
@@ -17,8 +16,10 @@ struct Block {
     std::size_t size = 0;
 };
 
+} // namespace
+
 /// Keeps the last released block: a view holds one picture while the next is painted.
-class Pool {
+class PixelMemory::Pool {
 public:
     Block take(std::size_t size)
     {
@@ -43,27 +44,30 @@ private:
     Block m_spare;
 };
 
-/// An image's hold on its block. The pool lives on while an image does: those of static objects
-/// may well be the last.
-struct Lease {
+/// An image's hold on its block. The pool lives on while an image does.
+struct PixelMemory::Lease {
     std::shared_ptr<Pool> pool;
     Block block;
 };
 
-void endLease(void* address)
+PixelMemory::PixelMemory()
+    : m_pool(std::make_shared<Pool>())
+{
+}
+
+PixelMemory::~PixelMemory() = default;
+
+void PixelMemory::endLease(void* address)
 {
     const std::unique_ptr<Lease> lease(static_cast<Lease*>(address));
     lease->pool->giveBack(std::move(lease->block));
 }
 
-} // namespace
-
-QImage makePooledImage(int width, int height)
+QImage PixelMemory::makeImage(int width, int height)
 {
-    static const auto pool = std::make_shared<Pool>();
     const auto bytesPerRow = static_cast<std::size_t>(width) * sizeof(QRgb);
     auto lease = std::make_unique<Lease>(
-        Lease{pool, pool->take(bytesPerRow * static_cast<std::size_t>(height))});
+        Lease{m_pool, m_pool->take(bytesPerRow * static_cast<std::size_t>(height))});
     auto* bytes = reinterpret_cast<uchar*>(lease->block.bytes.get());
     return {
         bytes,

@@ -13,7 +13,7 @@
 #include "TreeView/SpaceBox.h"
 #include "TreeView/TreeMapView.h"
 #include "TreeView/TreeMenu.h"
-#include "TreeView/TreePicture.h"
+#include "TreeView/TreePainter.h"
 
 #include <QMenu>
 

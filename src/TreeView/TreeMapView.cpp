@@ -7,7 +7,7 @@
 #include "TreeView/TooltipPlacement.h"
 #include "TreeView/TreeBranch.h"
 #include "TreeView/TreeCommand.h"
-#include "TreeView/TreePicture.h"
+#include "TreeView/TreePainter.h"
 #include "TreeView/ZoomAnimation.h"
 
 #include <QContextMenuEvent>
@@ -95,6 +95,7 @@ private:
 TreeMapView::TreeMapView(const UserDefaults& defaults, QWidget* parent)
     : QWidget(parent)
     , m_defaults(defaults)
+    , m_painter(std::make_unique<TreePainter>())
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
@@ -178,12 +179,17 @@ void TreeMapView::hideTooltip()
     TooltipController::sharedInstance().window().hide();
 }
 
+QImage TreeMapView::paint(const TreeBranch& branch)
+{
+    return m_painter->paint(branch, size(), devicePixelRatioF());
+}
+
 const QImage& TreeMapView::picture()
 {
     const double scale = devicePixelRatioF();
     const bool isFresh = !m_picture.isNull() && m_picture.devicePixelRatio() == scale;
     if (!isFresh && !m_branches.empty()) {
-        m_picture = paintTreePicture(*m_branches.front(), size(), scale);
+        m_picture = paint(*m_branches.front());
         std::for_each(std::next(m_branches.begin()), m_branches.end(), [this](const auto& branch) {
             paintOver(m_picture, *branch);
         });

@@ -18,6 +18,7 @@ class File;
 class LayoutObject;
 class TreeBranch;
 class TreeCommandTarget;
+class TreePainter;
 class UserDefaults;
 class ZoomAnimation;
 
@@ -51,6 +52,9 @@ public:
     /// no tooltip.
     void startZoom(std::unique_ptr<ZoomAnimation> zoom);
     bool isZooming() const { return m_zoom != nullptr; }
+
+    /// The branch and everything below it on black, as large as the map is.
+    QImage paint(const TreeBranch& branch);
 
     /// The box of the node in the first branch that shows it; nothing when none does.
     std::optional<Rect> findRectForFile(const File& file) const;
@@ -116,6 +120,7 @@ private:
     int m_clickCount = 0;
     const LayoutObject* m_currentToolTip = nullptr;
     std::unique_ptr<QMenu> m_menu;
+    std::unique_ptr<TreePainter> m_painter;
     QImage m_picture;
     std::unique_ptr<ZoomAnimation> m_zoom;
 };

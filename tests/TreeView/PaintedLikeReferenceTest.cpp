@@ -2,7 +2,7 @@
 #include "Layout/LevelRenderer.h"
 #include "Model/Document.h"
 #include "Model/Folder.h"
-#include "TreeView/TreePicture.h"
+#include "TreeView/TreePainter.h"
 #include "support/LevelPicture.h"
 #include "support/makeTree.h"
 
@@ -119,16 +119,17 @@ void drawWithoutShortcuts(const TreeBranch& branch, QPainter& painter)
     painter.restore();
 }
 
-TEST(PaintTreePicture, LooksAsIfEveryLevelWasPaintedInFull)
+TEST(TreePainter, LooksAsIfEveryLevelWasPaintedInFull)
 {
     const auto top = test::makeTree(
         "/disk",
         "a/ ( b/ ( c/ ( d/ ( e:50 f:9 g/ ( h:40 ) ) i:8 j:1 k:1 ) l:30 ) m/ ( n:70 o:30 ) ) p:90 "
         "q/ ( r/ ( s/ ( t:80 ) u:1 ) v/ ( w:50 ) )");
+    TreePainter treePainter;
     for (const double scale : {1.0, 1.5, 2.0}) {
         const auto branch = TreeBranch::make(
             LevelRenderer(false).renderTop(top.get(), {0, 0, 800, 600}), nullptr);
-        const QImage picture = paintTreePicture(*branch, QSizeF(800, 600), scale);
+        const QImage picture = treePainter.paint(*branch, QSizeF(800, 600), scale);
         QImage plain(picture.size(), QImage::Format_RGB32);
         plain.setDevicePixelRatio(scale);
         plain.fill(Qt::black);

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "TreeView/TreePicture.h"
+#include "TreeView/TreePainter.h"
 
 #include "TreeView/BoxCanvas.h"
 #include "TreeView/LabelCache.h"
-#include "TreeView/PixelMemory.h"
 #include "TreeView/StretchMask.h"
 #include "TreeView/Styles.h"
 #include "TreeView/TreeBranch.h"
@@ -25,18 +24,6 @@ constexpr int kMinBandRows = 32;
 constexpr int kMaxBands = 16;
 constexpr std::size_t kThreads = 2;
 constexpr QRgb kBackground = 0xFF000000;
-
-/// What pictures have in common: the glyphs and corners of any of them serve the next.
-struct PictureCaches {
-    LabelCache labels;
-    std::array<StretchMaskCache, kThreads> masks; ///< one for each thread
-};
-
-PictureCaches& sharedCaches()
-{
-    static PictureCaches caches;
-    return caches;
-}
 
 int devicePixels(double points, double scale)
 {
@@ -64,8 +51,9 @@ void paintBranches(BoxCanvas canvas, const TreeBranch& branch)
 
 class BandedPainting {
 public:
-    BandedPainting(QImage& image, const TreeBranch& top, double scale)
+    BandedPainting(QImage& image, const TreeBranch& top, const LabelCache& labels, double scale)
         : m_pixels(image)
+        , m_labels(labels)
         , m_top(top)
         , m_scale(scale)
         , m_bandRows(std::max((image.height() + kMaxBands - 1) / kMaxBands, kMinBandRows))
@@ -81,9 +69,7 @@ public:
             band.setClip(whole.intersected({0, top, whole.right, top + m_bandRows}));
             band.fillClip(kBackground);
             paintBranches(
-                BoxCanvas(
-                    band, masks, sharedCaches().labels, m_scale, BoxCanvas::NestedLevels::Painted),
-                m_top);
+                BoxCanvas(band, masks, m_labels, m_scale, BoxCanvas::NestedLevels::Painted), m_top);
         }
     }
 
@@ -93,6 +79,7 @@ private:
     int nextBand() { return m_nextBand.fetch_add(1, std::memory_order_relaxed) * m_bandRows; }
 
     PixelCanvas m_pixels;
+    const LabelCache& m_labels;
     const TreeBranch& m_top;
     double m_scale;
     int m_bandRows;
@@ -101,24 +88,37 @@ private:
 
 } // namespace
 
-QImage paintTreePicture(const TreeBranch& top, QSizeF sizeInPoints, double scale)
+/// The glyphs and corners of any picture serve the next.
+struct TreePainter::Caches {
+    LabelCache labels;
+    std::array<StretchMaskCache, kThreads> masks; ///< one for each thread
+};
+
+TreePainter::TreePainter()
+    : m_caches(std::make_unique<Caches>())
+{
+}
+
+TreePainter::~TreePainter() = default;
+
+QImage TreePainter::paint(const TreeBranch& top, QSizeF sizeInPoints, double scale)
 {
     if (sizeInPoints.isEmpty() || scale <= 0) {
         return {};
     }
-    PictureCaches& caches = sharedCaches();
-    prepareFont(caches.labels, scale);
-    paintBranches(BoxCanvas(caches.labels, scale), top);
+    LabelCache& labels = m_caches->labels;
+    prepareFont(labels, scale);
+    paintBranches(BoxCanvas(labels, scale), top);
 
-    QImage image = makePooledImage(
+    QImage image = m_memory.makeImage(
         devicePixels(sizeInPoints.width(), scale), devicePixels(sizeInPoints.height(), scale));
     image.setDevicePixelRatio(scale);
-    BandedPainting painting(image, top, scale);
+    BandedPainting painting(image, top, labels, scale);
     std::jthread helper;
     if (!painting.hasOneBand()) {
-        helper = std::jthread([&] { painting.run(caches.masks[1]); });
+        helper = std::jthread([&] { painting.run(m_caches->masks[1]); });
     }
-    painting.run(caches.masks[0]);
+    painting.run(m_caches->masks[0]);
     if (helper.joinable()) {
         helper.join();
     }
@@ -144,17 +144,13 @@ void paintBranch(const TreeBranch& branch, QPainter& painter)
     }
     layer.fill(Qt::transparent);
     layer.setDevicePixelRatio(scale);
-    PictureCaches& caches = sharedCaches();
-    prepareFont(caches.labels, scale);
-    BoxCanvas collecting(caches.labels, scale);
+    LabelCache labels;
+    StretchMaskCache masks;
+    prepareFont(labels, scale);
+    BoxCanvas collecting(labels, scale);
     collecting.enter(frame);
     branch.draw(collecting);
-    BoxCanvas canvas(
-        PixelCanvas(layer),
-        caches.masks[0],
-        caches.labels,
-        scale,
-        BoxCanvas::NestedLevels::LeftOut);
+    BoxCanvas canvas(PixelCanvas(layer), masks, labels, scale, BoxCanvas::NestedLevels::LeftOut);
     canvas.enter(frame);
     branch.draw(canvas);
     painter.drawImage(QPointF(-frame.x, -frame.y), layer);
