@@ -9,29 +9,21 @@
 
 namespace tessera {
 
-namespace {
-
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("PlaceNames", text);
-}
-
-} // namespace
-
 QString localizedVolumeName(const Url& volume)
 {
-    return volume.path() == "/" ? tr("File System") : displayText(volume.lastPathComponent());
+    return volume.path() == "/" ? QCoreApplication::translate("PlaceNames", "File System")
+                                : displayText(volume.lastPathComponent());
 }
 
 QString localizedLocationName(const Location& location)
 {
     switch (location.kind) {
     case LocationKind::Applications:
-        return tr("Applications");
+        return QCoreApplication::translate("PlaceNames", "Applications");
     case LocationKind::Library:
-        return tr("App Data");
+        return QCoreApplication::translate("PlaceNames", "App Data");
     case LocationKind::Trash:
-        return tr("Trash");
+        return QCoreApplication::translate("PlaceNames", "Trash");
     default:
         return displayText(location.url.lastPathComponent());
     }
