@@ -144,7 +144,9 @@ int showWindow(const Url& folder, const LaunchServices& services)
              return helpAddress(helpFolder, page);
          }});
     delegate.applicationDidFinishLaunching();
-    setUpPreview(delegate.mainWindow()->window(), services, desktop.icons);
+    QMainWindow& window = delegate.mainWindow()->window();
+    desktop.alert.setMainWindow(&window);
+    setUpPreview(window, services, desktop.icons);
     services.runningInstance.setHandler(
         [&delegate](const Url& later) { delegate.openFromElsewhere(later); });
     if (!folder.empty()) {

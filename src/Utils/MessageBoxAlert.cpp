@@ -6,8 +6,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 
-#include <memory>
-
 namespace tessera {
 
 namespace {
@@ -32,9 +30,12 @@ void style(const QMessageBox& box)
     }
 }
 
-std::unique_ptr<QMessageBox> makeBox(const AlertText& text)
+} // namespace
+
+std::unique_ptr<QMessageBox> MessageBoxAlert::makeBox(const AlertText& text) const
 {
-    auto box = std::make_unique<QMessageBox>(QApplication::activeWindow());
+    QWidget* const active = QApplication::activeWindow();
+    auto box = std::make_unique<QMessageBox>(active != nullptr ? active : m_mainWindow.data());
     box->setIcon(QMessageBox::Warning);
     // Names of files stand in the texts, and must not be taken for markup.
     box->setTextFormat(Qt::PlainText);
@@ -52,8 +53,6 @@ std::unique_ptr<QMessageBox> makeBox(const AlertText& text)
     }
     return box;
 }
-
-} // namespace
 
 int MessageBoxAlert::runModal(const AlertText& text)
 {

@@ -99,6 +99,17 @@ TEST_F(MessageBoxAlertTest, ItsHeadlineIsBold)
     });
 }
 
+TEST_F(MessageBoxAlertTest, WhileTheUserWorksElsewhereASheetBelongsToTheMainWindow)
+{
+    alert().setMainWindow(&window());
+    QApplication::setActiveWindow(nullptr);
+    ASSERT_EQ(QApplication::activeWindow(), nullptr);
+    alert().beginSheet(question());
+    ASSERT_NE(box(), nullptr);
+    EXPECT_EQ(box()->parentWidget(), &window());
+    box()->close();
+}
+
 TEST_F(MessageBoxAlertTest, ASheetBelongsToTheActiveWindowAndBlocksItAlone)
 {
     alert().beginSheet(
