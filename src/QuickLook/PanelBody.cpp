@@ -2,15 +2,14 @@
 #include "QuickLook/PanelBody.h"
 
 #include "QuickLook/PreviewView.h"
+#include "Resources/Images.h"
 
 #include <QHBoxLayout>
-#include <QIcon>
 #include <QLabel>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
 #include <QRegion>
-#include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -78,8 +77,8 @@ QWidget* PanelBody::makeHeader()
     header->setFixedHeight(kHeaderHeight);
     auto* const close = new QToolButton(header);
     close->setObjectName(QStringLiteral("closeButton"));
-    close->setIcon(QIcon::fromTheme(
-        QStringLiteral("window-close"), style()->standardIcon(QStyle::SP_TitleBarCloseButton)));
+    // A theme's icon is made for the theme's own windows, which may be light where these are dark.
+    close->setIcon(imageNamed("close"));
     close->setAutoRaise(true);
     close->setFocusPolicy(Qt::NoFocus);
     close->setFixedSize(kButtonPoints, kButtonPoints);

@@ -53,8 +53,12 @@ void ApplicationPalette::apply() const
         ? isDark(QApplication::style()->standardPalette())
         : scheme == ColorScheme::Dark;
     const QPalette colors = isDarkWanted ? darkProgramColors() : lightProgramColors();
-    if (colors != QApplication::palette()) {
-        QApplication::setPalette(colors);
+    if (colors == QApplication::palette()) {
+        return;
+    }
+    QApplication::setPalette(colors);
+    for (const char* const widgetClass : {"QCheckBox", "QMenu"}) {
+        QApplication::setPalette(withVisibleLines(colors), widgetClass);
     }
 }
 

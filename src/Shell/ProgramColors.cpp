@@ -82,4 +82,16 @@ QPalette darkProgramColors()
     return paletteOf(kDark, kDarkDisabled);
 }
 
+QPalette withVisibleLines(const QPalette& colors)
+{
+    constexpr std::uint32_t kOutlineSource = 0xB8B8C0;
+    constexpr std::uint32_t kRaised = 0x3A3A40;
+    QPalette result = colors;
+    if (isDark(colors)) {
+        result.setColor(QPalette::Window, colorWithHex(kOutlineSource));
+        result.setColor(QPalette::Base, colorWithHex(kRaised));
+    }
+    return result;
+}
+
 } // namespace tessera

@@ -10,4 +10,8 @@ namespace tessera {
 QPalette lightProgramColors();
 QPalette darkProgramColors();
 
+/// The same for menus and boxes to tick. The style makes their outlines by darkening the window's
+/// colour, and could not be seen to have any on a dark ground.
+QPalette withVisibleLines(const QPalette& colors);
+
 } // namespace tessera

@@ -36,6 +36,7 @@ std::unique_ptr<QMessageBox> MessageBoxAlert::makeBox(const AlertText& text) con
 {
     QWidget* const active = QApplication::activeWindow();
     auto box = std::make_unique<QMessageBox>(active != nullptr ? active : m_mainWindow.data());
+    box->setWindowTitle(QStringLiteral("Tessera"));
     box->setIcon(QMessageBox::Warning);
     // Names of files stand in the texts, and must not be taken for markup.
     box->setTextFormat(Qt::PlainText);

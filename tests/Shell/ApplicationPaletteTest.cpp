@@ -4,11 +4,17 @@
 #include "Shell/ProgramColors.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QEvent>
+#include <QImage>
 #include <QStyle>
 #include <QWidget>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <utility>
 
 namespace tessera {
 namespace {
@@ -47,6 +53,19 @@ protected:
     }
 };
 
+/// Of any pixel from the one in the corner, in lightness of 0 to 255.
+int strongestDifference(const QImage& image)
+{
+    const int ground = image.pixelColor(0, 0).lightness();
+    int strongest = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            strongest = std::max(strongest, std::abs(image.pixelColor(x, y).lightness() - ground));
+        }
+    }
+    return strongest;
+}
+
 class ApplicationPaletteTest : public testing::Test {
 protected:
     void SetUp() override { useStyle("fusion"); }
@@ -55,6 +74,9 @@ protected:
     {
         useStyle("fusion");
         QApplication::setPalette(QPalette());
+        for (const char* const widgetClass : {"QCheckBox", "QMenu"}) {
+            QApplication::setPalette(QPalette(), widgetClass);
+        }
     }
 
     static void useStyle(const char* name)
@@ -96,6 +118,21 @@ TEST_F(ApplicationPaletteTest, FollowsTheDesktopWhileItChanges)
     desktop.change(ColorScheme::Dark);
     desktop.change(ColorScheme::Light);
     EXPECT_EQ(QApplication::palette(), lightProgramColors());
+}
+
+TEST_F(ApplicationPaletteTest, TheBoxToTickCanBeSeenInDarkMenusAndWindows)
+{
+    const ApplicationPalette palette(desktop);
+    QCheckBox box;
+    box.resize(box.sizeHint());
+    for (const ColorScheme scheme : {ColorScheme::Dark, ColorScheme::Light, ColorScheme::Dark}) {
+        desktop.change(scheme);
+        box.ensurePolished();
+        QImage image(box.size(), QImage::Format_RGB32);
+        image.fill(QApplication::palette().color(QPalette::Base));
+        box.render(&image, QPoint(), QRegion(), {});
+        EXPECT_GT(strongestDifference(image), 50) << static_cast<int>(scheme);
+    }
 }
 
 TEST_F(ApplicationPaletteTest, OpenWindowsAreToldOnceForEachChange)
