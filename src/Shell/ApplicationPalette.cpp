@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QStyle>
 #include <QStyleHints>
+#include <QToolTip>
 #include <QVariant>
 
 namespace tessera {
@@ -56,6 +57,8 @@ void ApplicationPalette::apply() const
     if (colors == QApplication::palette()) {
         return;
     }
+    // Tooltips keep a copy of what was first; windows are told of the change by the other call.
+    QToolTip::setPalette(colors);
     QApplication::setPalette(colors);
     for (const char* const widgetClass : {"QCheckBox", "QMenu"}) {
         QApplication::setPalette(withVisibleLines(colors), widgetClass);

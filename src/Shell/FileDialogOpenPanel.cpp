@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Shell/FileDialogOpenPanel.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
@@ -10,6 +11,9 @@
 namespace tessera {
 
 namespace {
+
+/// Of Qt's own chooser, so that dates need not be shortened.
+constexpr QSize kUsualSize{820, 480};
 
 std::vector<Url> chosenUrls(const QFileDialog& dialog)
 {
@@ -34,6 +38,8 @@ void FileDialogOpenPanel::begin(QWidget& window, Completion completion)
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): it deletes itself when it closes
     m_dialog = new QFileDialog(&window);
     m_dialog->setAttribute(Qt::WA_DeleteOnClose);
+    m_dialog->setWindowTitle(QCoreApplication::translate("FileDialogOpenPanel", "Open Folder"));
+    m_dialog->resize(kUsualSize);
     m_dialog->setFileMode(QFileDialog::Directory);
     m_dialog->setOption(QFileDialog::ShowDirsOnly);
     m_dialog->setFilter(QDir::Dirs | QDir::NoDotAndDotDot | QDir::Drives | QDir::Hidden);

@@ -8,6 +8,7 @@
 #include <QEvent>
 #include <QImage>
 #include <QStyle>
+#include <QToolTip>
 #include <QWidget>
 
 #include <gtest/gtest.h>
@@ -74,6 +75,7 @@ protected:
     {
         useStyle("fusion");
         QApplication::setPalette(QPalette());
+        QToolTip::setPalette(m_tooltips);
         for (const char* const widgetClass : {"QCheckBox", "QMenu"}) {
             QApplication::setPalette(QPalette(), widgetClass);
         }
@@ -85,6 +87,9 @@ protected:
     }
 
     FakeColorSchemePreference desktop;
+
+private:
+    const QPalette m_tooltips = QToolTip::palette();
 };
 
 TEST_F(ApplicationPaletteTest, WindowsAreDarkOnADarkDesktop)
@@ -133,6 +138,18 @@ TEST_F(ApplicationPaletteTest, TheBoxToTickCanBeSeenInDarkMenusAndWindows)
         box.render(&image, QPoint(), QRegion(), {});
         EXPECT_GT(strongestDifference(image), 50) << static_cast<int>(scheme);
     }
+}
+
+TEST_F(ApplicationPaletteTest, TooltipsFollowToo)
+{
+    const ApplicationPalette palette(desktop);
+    const QColor light = QToolTip::palette().color(QPalette::ToolTipBase);
+    desktop.change(ColorScheme::Dark);
+    EXPECT_EQ(
+        QToolTip::palette().color(QPalette::ToolTipBase),
+        darkProgramColors().color(QPalette::ToolTipBase));
+    desktop.change(ColorScheme::Light);
+    EXPECT_EQ(QToolTip::palette().color(QPalette::ToolTipBase), light);
 }
 
 TEST_F(ApplicationPaletteTest, OpenWindowsAreToldOnceForEachChange)
