@@ -2,6 +2,7 @@
 #include "Platform/PlatformServices.h"
 #include "Shell/CommandLine.h"
 #include "Shell/Launch.h"
+#include "launchServices.h"
 
 #include <QApplication>
 
@@ -13,37 +14,6 @@ namespace {
 
 constexpr int kFailed = 1;
 constexpr int kBadUsage = 2;
-
-tessera::LaunchServices launchServices(const tessera::PlatformServices& services)
-{
-    return {
-        {*services.fileManager,
-         *services.resourceValues,
-         *services.fileSystemAttributes,
-         *services.mainThread,
-         services.clock,
-         services.userAccount->homeDirectory()},
-        *services.prompt.resourceValues,
-        *services.prompt.fileSystemAttributes,
-        *services.prompt.fileAccess,
-        {*services.userDefaults, *services.recentDocuments, *services.standardFolders},
-        {*services.mountedVolumes,
-         *services.standardFolders,
-         *services.userAccount,
-         services.fileSystemAttributes,
-         services.resourceValues},
-        *services.fileAccess,
-        *services.colorSchemePreference,
-        *services.motionPreference,
-        *services.workspace,
-        services.fileReader,
-        services.makeTask,
-        services.archiver,
-        *services.userAccount,
-        *services.launcherProgress,
-        *services.runningInstance,
-        services.helpFolder};
-}
 
 } // namespace
 

@@ -14,6 +14,7 @@ from collections.abc import Callable
 import runs
 
 LARGEST_MAP = "3840x2400"  # that ZoomBench shows
+SCREEN = "1920x1200"
 
 @dataclasses.dataclass
 class Tool:
@@ -145,20 +146,39 @@ class OwnBenches:
         found = re.findall(pattern, self.output("TreeView/HoverBench", moves), re.M)
         return {kind: (float(median), float(high)) for kind, median, high in found}
 
+    def on_screen(self, program, *arguments, size):
+        """What a program prints that shows windows, on an X server and a session bus of its own:
+        the user's may know a Tessera that runs already."""
+        command = [str(self.programs / program), *map(str, arguments)]
+        if shutil.which("dbus-run-session"):
+            command = ["dbus-run-session", "--", *command]
+        result, _ = runs.undisturbed(lambda: runs.run_on_x_server(command, size), self.limit)
+        if result.disturbance > self.limit:
+            self.disturbed.append(program)
+        return result.output
+
+    def longest_hold(self, folder, files):
+        """For how many milliseconds the main thread was out of reach at the worst, and when."""
+        output = self.on_screen("Shell/WatchdogBench", folder, files, size=SCREEN)
+        found = re.search(r"^longest ([\d.]+) ms, .*: (.+)$", output, re.M)
+        return float(found[1]), found[2]
+
+    def starts(self, rounds):
+        """Median milliseconds until the screen stays as it is, by the name of the program."""
+        started = [self.programs.parent / "src" / "tessera", self.programs / "Shell" / "BareWindow"]
+        output = self.on_screen("Shell/StartBench", rounds, *started, size=SCREEN)
+        found = re.findall(r"^(\S+) median ([\d.]+) ms", output, re.M)
+        return {name: float(median) for name, median in found}
+
     def zooms(self, folder, count):
         """Pictures a second in the slowest of some zooms, median and 95th percentile of the time
         from one picture to the next in milliseconds; by the size of the map."""
-        command = [str(self.programs / "TreeView" / "ZoomBench"), folder, str(count)]
-        result, _ = runs.undisturbed(
-            lambda: runs.run_on_x_server(command, LARGEST_MAP), self.limit
-        )
-        if result.disturbance > self.limit:
-            self.disturbed.append("TreeView/ZoomBench")
+        output = self.on_screen("TreeView/ZoomBench", folder, count, size=LARGEST_MAP)
         pattern = (
             r"^zoom (\d+x\d+) .*least ([\d.]+) .*"
             r"median ([\d.]+) ms, 95th percentile ([\d.]+) ms, longest"
         )
-        found = re.findall(pattern, result.output, re.M)
+        found = re.findall(pattern, output, re.M)
         return {size: tuple(map(float, figures)) for size, *figures in found}
 
 

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Platform/PlatformServices.h"
+#include "Shell/Launch.h"
+
+namespace tessera {
+
+/// What the screens need of the platform; refers to `services`.
+inline LaunchServices launchServices(const PlatformServices& services)
+{
+    return {
+        {*services.fileManager,
+         *services.resourceValues,
+         *services.fileSystemAttributes,
+         *services.mainThread,
+         services.clock,
+         services.userAccount->homeDirectory()},
+        *services.prompt.resourceValues,
+        *services.prompt.fileSystemAttributes,
+        *services.prompt.fileAccess,
+        {*services.userDefaults, *services.recentDocuments, *services.standardFolders},
+        {*services.mountedVolumes,
+         *services.standardFolders,
+         *services.userAccount,
+         services.fileSystemAttributes,
+         services.resourceValues},
+        *services.fileAccess,
+        *services.colorSchemePreference,
+        *services.motionPreference,
+        *services.workspace,
+        services.fileReader,
+        services.makeTask,
+        services.archiver,
+        *services.userAccount,
+        *services.launcherProgress,
+        *services.runningInstance,
+        services.helpFolder};
+}
+
+} // namespace tessera
