@@ -5,6 +5,7 @@
 #include "XServer.h"
 #include "support/ChildProcess.h"
 #include "support/TempTree.h"
+#include "treeScreen.h"
 
 #include <QPoint>
 #include <QRect>
@@ -31,11 +32,8 @@ public:
     /// The topmost window of the kind; nothing when there is none.
     std::optional<XWindow> window(XWindow::Kind kind) const { return m_desk.window(kind); }
 
-    /// Where the tree's map lies on the screen; nothing while it is not shown.
-    std::optional<QRect> map() const;
-
-    /// Where on the screen the icons of the path bar's components are, from the left.
-    std::vector<QPoint> pathIcons() const;
+    std::optional<QRect> map() const { return mapOn(m_desk); }
+    std::vector<QPoint> pathIcons() const { return pathIconsOn(m_desk); }
 
 private:
     TempTree m_session;

@@ -67,29 +67,39 @@ std::string differenceAtEdges(const std::string& path, const QRectF& rect, const
 ExpectedPicture::ExpectedPicture(const std::string& scanned, const std::string& shown)
     : m_scanned(scanned)
     , m_tree(scanFolder(scanned))
+    , m_shown(&folderAt(shown))
 {
-    const std::string wanted = shown.empty() ? scanned : scanned + '/' + shown;
+}
+
+Folder& ExpectedPicture::folderAt(const std::string& path) const
+{
+    const std::string wanted = path.empty() ? m_scanned : m_scanned + '/' + path;
     std::vector<Folder*> left{m_tree.get()};
-    while (!left.empty() && m_shown == nullptr) {
+    while (!left.empty()) {
         Folder* const folder = left.back();
         left.pop_back();
-        m_shown = folder->absolutePath() == wanted ? folder : nullptr;
+        if (folder->absolutePath() == wanted) {
+            return *folder;
+        }
         for (File* child : folder->children()) {
             if (auto* inner = nodeCast<Folder>(child)) {
                 left.push_back(inner);
             }
         }
     }
-    if (m_shown == nullptr) {
-        throw std::runtime_error("there is no folder " + wanted);
-    }
+    throw std::runtime_error("there is no folder " + wanted);
+}
+
+void ExpectedPicture::leaveOut(const std::string& folder)
+{
+    folderAt(folder).setIgnored(true);
 }
 
 void ExpectedPicture::setMapSize(QSize size)
 {
     m_boxes.clear();
     const Rect bounds{0, 0, static_cast<double>(size.width()), static_cast<double>(size.height())};
-    addBoxes(LevelRenderer(false).renderTop(m_shown, bounds), {0, 0});
+    addBoxes(LevelRenderer(!m_isHiddenShown).renderTop(m_shown, bounds), {0, 0});
 }
 
 void ExpectedPicture::addBoxes(const RenderedLevel& level, QPointF around)

@@ -24,6 +24,9 @@ public:
 
     /// Lays everything out for a map of this size.
     void setMapSize(QSize size);
+    /// What the user has left out of the picture: a folder, or all that is hidden.
+    void leaveOut(const std::string& folder);
+    void leaveOutHidden() { m_isHiddenShown = false; }
     /// The box that should have the look of a selected one; empty for none.
     void setSelected(const std::string& path) { m_selected = path; }
 
@@ -42,11 +45,13 @@ private:
     };
 
     void addBoxes(const RenderedLevel& level, QPointF around);
+    Folder& folderAt(const std::string& path) const;
     std::string differenceInside(const std::string& path, const Box& box, const QImage& map) const;
 
     std::string m_scanned;
     std::unique_ptr<TopFolder> m_tree;
     Folder* m_shown = nullptr;
+    bool m_isHiddenShown = true;
     std::string m_selected;
     std::map<std::string, Box> m_boxes;
 };

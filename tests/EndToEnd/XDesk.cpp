@@ -17,6 +17,11 @@ namespace {
 constexpr std::chrono::milliseconds kBetweenClicks{700};
 constexpr int kNearPixels = 16;
 
+/// Who asks, as a window manager wants to know it: a pager, which is always obeyed.
+constexpr std::uint32_t kByPager = 2;
+
+constexpr std::uint32_t kIconicState = 3; ///< ICCCM 4.1.3.1
+
 constexpr std::uint32_t kLongestProperty = 1024; ///< in units of four bytes
 
 struct Freer {
@@ -78,18 +83,32 @@ QImage XDesk::picture(const QRect& part) const
 std::vector<XWindow> XDesk::windows() const
 {
     std::vector<XWindow> found;
-    const auto tree = answer<xcb_query_tree_reply>(
-        m_connection.get(), xcb_query_tree(m_connection.get(), m_screen->root));
-    if (tree == nullptr) {
-        return found;
-    }
-    const xcb_window_t* const first = xcb_query_tree_children(tree.get());
-    std::for_each(first, first + xcb_query_tree_children_length(tree.get()), [&](auto id) {
-        if (const std::optional<XWindow> window = describe(id)) {
+    for (const xcb_window_t id : childrenOf(m_screen->root)) {
+        if (const std::optional<XWindow> window = describe(clientIn(id))) {
             found.push_back(*window);
         }
-    });
+    }
     return found;
+}
+
+std::vector<xcb_window_t> XDesk::childrenOf(xcb_window_t window) const
+{
+    const auto tree = answer<xcb_query_tree_reply>(
+        m_connection.get(), xcb_query_tree(m_connection.get(), window));
+    if (tree == nullptr) {
+        return {};
+    }
+    const xcb_window_t* const first = xcb_query_tree_children(tree.get());
+    return {first, first + xcb_query_tree_children_length(tree.get())};
+}
+
+/// The program's window in a frame of the window manager's, which marks those it takes care of.
+xcb_window_t XDesk::clientIn(xcb_window_t window) const
+{
+    const std::vector<xcb_window_t> children = childrenOf(window);
+    const auto client = std::ranges::find_if(
+        children, [this](xcb_window_t child) { return !property(child, "WM_STATE").empty(); });
+    return client == children.end() ? window : *client;
 }
 
 std::optional<XWindow> XDesk::window(XWindow::Kind kind) const
@@ -107,14 +126,16 @@ std::optional<XWindow> XDesk::describe(xcb_window_t window) const
     const auto attributes = answer<xcb_get_window_attributes_reply>(
         server, xcb_get_window_attributes(server, window));
     const auto geometry = answer<xcb_get_geometry_reply>(server, xcb_get_geometry(server, window));
-    if (attributes == nullptr || geometry == nullptr
+    const auto place = answer<xcb_translate_coordinates_reply>(
+        server, xcb_translate_coordinates(server, window, m_screen->root, 0, 0));
+    if (attributes == nullptr || geometry == nullptr || place == nullptr
         || attributes->map_state != XCB_MAP_STATE_VIEWABLE) {
         return std::nullopt;
     }
     return XWindow{
         window,
         kindOf(window, attributes->override_redirect != 0),
-        {geometry->x, geometry->y, geometry->width, geometry->height},
+        {place->dst_x, place->dst_y, geometry->width, geometry->height},
         property(window, "_NET_WM_NAME")};
 }
 
@@ -130,7 +151,8 @@ XWindow::Kind XDesk::kindOf(xcb_window_t window, bool isUnmanaged) const
         return XWindow::Kind::Tooltip;
     }
     if (isUnmanaged) {
-        return XWindow::Kind::Menu;
+        // The window manager has such windows too, of no type.
+        return types.empty() ? XWindow::Kind::Other : XWindow::Kind::Menu;
     }
     const std::array kinds{
         std::pair{"_NET_WM_WINDOW_TYPE_NORMAL", XWindow::Kind::Main},
@@ -211,7 +233,7 @@ void XDesk::doubleClick(QPoint at)
     sync();
 }
 
-void XDesk::typeKey(std::uint32_t keysym)
+XDesk::Key XDesk::keyOf(std::uint32_t keysym) const
 {
     const xcb_setup_t* const setup = xcb_get_setup(m_connection.get());
     const auto count = static_cast<std::uint8_t>(setup->max_keycode - setup->min_keycode + 1);
@@ -227,17 +249,53 @@ void XDesk::typeKey(std::uint32_t keysym)
     if (found == last) {
         throw std::runtime_error("the keyboard has no such key");
     }
-    const auto code = static_cast<std::uint8_t>(
-        setup->min_keycode + (found - first) / mapping->keysyms_per_keycode);
-    send(XCB_KEY_PRESS, code, {});
-    send(XCB_KEY_RELEASE, code, {});
+    // Of a key's signs the second is the one with Shift.
+    const auto row = (found - first) / mapping->keysyms_per_keycode;
+    const auto column = (found - first) % mapping->keysyms_per_keycode;
+    return {static_cast<std::uint8_t>(setup->min_keycode + row), column == 1};
+}
+
+void XDesk::typeKey(std::uint32_t keysym)
+{
+    typeKeys({keysym});
+}
+
+void XDesk::typeKeys(const std::vector<std::uint32_t>& keysyms)
+{
+    std::vector<std::uint8_t> codes;
+    for (const std::uint32_t keysym : keysyms) {
+        codes.push_back(keyOf(keysym).code);
+        send(XCB_KEY_PRESS, codes.back(), {});
+    }
+    for (; !codes.empty(); codes.pop_back()) {
+        send(XCB_KEY_RELEASE, codes.back(), {});
+    }
     sync();
+}
+
+void XDesk::typeText(const std::string& latin1)
+{
+    for (const char letter : latin1) {
+        // The keysyms of Latin 1 are its codes.
+        const std::uint32_t keysym = static_cast<std::uint8_t>(letter);
+        typeKeys(keyOf(keysym).needsShift ? std::vector{key::kShift, keysym} : std::vector{keysym});
+    }
+}
+
+bool XDesk::isManaged() const
+{
+    return !property(m_screen->root, "_NET_SUPPORTING_WM_CHECK").empty();
 }
 
 void XDesk::activate(const XWindow& window)
 {
-    xcb_set_input_focus(
-        m_connection.get(), XCB_INPUT_FOCUS_PARENT, window.id, XCB_TIME_CURRENT_TIME);
+    if (isManaged()) {
+        sendMessage(
+            m_screen->root, window.id, "_NET_ACTIVE_WINDOW", {kByPager, XCB_TIME_CURRENT_TIME});
+    } else {
+        xcb_set_input_focus(
+            m_connection.get(), XCB_INPUT_FOCUS_PARENT, window.id, XCB_TIME_CURRENT_TIME);
+    }
     sync();
 }
 
@@ -266,20 +324,34 @@ void XDesk::setFrame(const XWindow& window, const QRect& frame)
 
 void XDesk::requestClose(const XWindow& window)
 {
+    sendMessage(
+        window.id, window.id, "WM_PROTOCOLS", {atom("WM_DELETE_WINDOW"), XCB_TIME_CURRENT_TIME});
+    sync();
+}
+
+void XDesk::minimise(const XWindow& window)
+{
+    sendMessage(m_screen->root, window.id, "WM_CHANGE_STATE", {kIconicState, 0});
+    sync();
+}
+
+/// To the root window's owner, the window manager, or to the window's.
+void XDesk::sendMessage(
+    xcb_window_t receiver,
+    xcb_window_t about,
+    const std::string& type,
+    const std::array<std::uint32_t, 2>& values) const
+{
     xcb_client_message_event_t event{};
     event.response_type = XCB_CLIENT_MESSAGE;
     event.format = 32;
-    event.window = window.id;
-    event.type = atom("WM_PROTOCOLS");
-    event.data.data32[0] = atom("WM_DELETE_WINDOW");
-    event.data.data32[1] = XCB_TIME_CURRENT_TIME;
-    xcb_send_event(
-        m_connection.get(),
-        0,
-        window.id,
-        XCB_EVENT_MASK_NO_EVENT,
-        reinterpret_cast<const char*>(&event));
-    sync();
+    event.window = about;
+    event.type = atom(type);
+    std::ranges::copy(values, std::begin(event.data.data32));
+    const std::uint32_t mask = receiver == m_screen->root
+        ? XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY
+        : XCB_EVENT_MASK_NO_EVENT;
+    xcb_send_event(m_connection.get(), 0, receiver, mask, reinterpret_cast<const char*>(&event));
 }
 
 } // namespace tessera::test

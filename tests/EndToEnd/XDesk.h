@@ -7,6 +7,7 @@
 
 #include <xcb/xcb.h>
 
+#include <array>
 #include <chrono>
 #include <cstdint>
 #include <memory>
@@ -37,12 +38,17 @@ inline constexpr std::uint32_t kUp = 0xFF52;
 inline constexpr std::uint32_t kDown = 0xFF54;
 inline constexpr std::uint32_t kRight = 0xFF53;
 inline constexpr std::uint32_t kMenu = 0xFF67;
+inline constexpr std::uint32_t kHome = 0xFF50;
+inline constexpr std::uint32_t kControl = 0xFFE3;
+inline constexpr std::uint32_t kAlt = 0xFFE9;
+inline constexpr std::uint32_t kShift = 0xFFE1;
 } // namespace key
 
 /// The user in front of an X server's screen: looks at it, moves the pointer and presses real
 /// buttons and keys, which reach the programs by the way of any other; and what a window manager
-/// does for the user, for there is none. All coordinates are the screen's. Each function returns
-/// when the server has done it.
+/// does for the user, for there may be none. All coordinates are the screen's; windows are meant
+/// without what a window manager puts around them. Each function returns when the server has done
+/// it.
 class XDesk {
 public:
     /// Throws std::runtime_error when there is no server or it cannot be driven.
@@ -60,11 +66,17 @@ public:
     void click(QPoint at, Button button = Button::Left);
     void doubleClick(QPoint at);
     void typeKey(std::uint32_t keysym);
+    /// Presses the keys one after the other and lets them go in reverse, such as Control and "o".
+    void typeKeys(const std::vector<std::uint32_t>& keysyms);
+    void typeText(const std::string& latin1);
 
     void activate(const XWindow& window);
     bool isActive(const XWindow& window) const; ///< whether it gets the keys
+    /// Whether a window manager is at work.
+    bool isManaged() const;
     void setFrame(const XWindow& window, const QRect& frame);
     void requestClose(const XWindow& window);
+    void minimise(const XWindow& window);
 
 private:
     struct Disconnecter {
@@ -74,9 +86,21 @@ private:
     void sync() const;
     xcb_atom_t atom(const std::string& name) const;
     std::string property(xcb_window_t window, const std::string& name) const;
+    std::vector<xcb_window_t> childrenOf(xcb_window_t window) const;
+    xcb_window_t clientIn(xcb_window_t window) const;
     XWindow::Kind kindOf(xcb_window_t window, bool isUnmanaged) const;
     std::optional<XWindow> describe(xcb_window_t window) const;
+    struct Key {
+        std::uint8_t code = 0;
+        bool needsShift = false;
+    };
+    Key keyOf(std::uint32_t keysym) const;
     void send(std::uint8_t eventType, std::uint8_t detail, std::chrono::milliseconds delay) const;
+    void sendMessage(
+        xcb_window_t receiver,
+        xcb_window_t about,
+        const std::string& type,
+        const std::array<std::uint32_t, 2>& values) const;
     void sendClick(Button button, std::chrono::milliseconds delay) const;
 
     std::unique_ptr<xcb_connection_t, Disconnecter> m_connection;

@@ -36,6 +36,9 @@ void redirect(int descriptor, const std::string& path, int flags)
     for (const std::string& variable : setup.environment) {
         ::putenv(const_cast<char*>(variable.c_str())); // NOLINT(concurrency-mt-unsafe)
     }
+    if (setup.beforeStart) {
+        setup.beforeStart();
+    }
     ::execvp(setup.program.c_str(), words);
     ::_exit(kCannotStart);
 }

@@ -3,6 +3,7 @@
 
 #include <sys/types.h>
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -16,6 +17,7 @@ struct ChildProcessSetup {
     std::vector<std::string> environment; ///< "NAME=value", besides what the test has
     std::string outputPath; ///< takes the standard output
     std::string errorPath; ///< takes the standard error
+    std::function<void()> beforeStart = nullptr; ///< done in the new process, before the program
 };
 
 /// A program that runs beside the test and does not outlive it: files instead of pipes take what

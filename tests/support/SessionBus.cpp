@@ -1,24 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "support/SessionBus.h"
 
-#include <QByteArray>
+#include "support/sessionBusConfiguration.h"
+
 #include <QStandardPaths>
 
 namespace tessera::test {
-
-namespace {
-
-const QByteArray kConfiguration = R"(<busconfig>
-  <type>session</type>
-  <listen>unix:tmpdir=/tmp</listen>
-  <policy context="default">
-    <allow send_destination="*" eavesdrop="true"/>
-    <allow eavesdrop="true"/>
-    <allow own="*"/>
-  </policy>
-</busconfig>)";
-
-} // namespace
 
 SessionBus::~SessionBus()
 {
@@ -34,7 +21,7 @@ bool SessionBus::start()
     if (!m_configuration.open()) {
         return false;
     }
-    m_configuration.write(kConfiguration);
+    m_configuration.write(kSessionBusConfiguration);
     m_configuration.close();
     m_daemon.start(
         QStandardPaths::findExecutable(QStringLiteral("dbus-daemon")),

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#include "WholeProgramFixture.h"
+#include "eventually.h"
+
+namespace tessera::test {
+namespace {
+
+/// The dialog that lets the user choose any folder, used by keys.
+class OpenFolder : public WholeProgram {
+protected:
+    void chooseByKeys(const std::string& path)
+    {
+        desk().typeKeys({key::kControl, 'o'});
+        ASSERT_TRUE(opens(XWindow::Kind::Dialog));
+        ASSERT_TRUE(
+            eventually([this] { return desk().isActive(*desk().window(XWindow::Kind::Dialog)); }));
+        desk().typeText(path);
+        desk().typeKey(key::kReturn);
+    }
+};
+
+TEST_F(OpenFolder, ATypedPathIsScanned)
+{
+    chooseByKeys(home("Downloads"));
+    EXPECT_TRUE(showsTree("Downloads"));
+}
+
+TEST_F(OpenFolder, EscapeLeavesTheHomeScreen)
+{
+    desk().typeKeys({key::kControl, 'o'});
+    ASSERT_TRUE(rejectDialog());
+    EXPECT_TRUE(isHome());
+}
+
+TEST_F(OpenFolder, TheButtonOfTheHomeScreenOpensIt)
+{
+    clickOn("Open Folder…", "push button");
+    ASSERT_TRUE(rejectDialog());
+    EXPECT_TRUE(isHome());
+}
+
+TEST_F(OpenFolder, WorksOnTheTreeScreenToo)
+{
+    ASSERT_TRUE(scan("Documents"));
+    chooseByKeys(home("Downloads"));
+    EXPECT_TRUE(showsTree("Downloads"));
+}
+
+TEST_F(OpenFolder, ABackupOfTimeMachineIsRefused)
+{
+    session->folders().makeFolder("home/Backups.backupdb");
+    session->folders().makeFolder("home/Backups.backupdb/Latest");
+    chooseByKeys(home("Backups.backupdb/Latest"));
+    EXPECT_TRUE(mainWindow().frame.contains(see("Time Machine Detected", "alert message").frame));
+    EXPECT_TRUE(acceptDialog());
+    EXPECT_TRUE(isHome());
+}
+
+} // namespace
+} // namespace tessera::test

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#include "WholeProgramFixture.h"
+#include "eventually.h"
+
+namespace tessera::test {
+namespace {
+
+constexpr QRect kSomewhere(150, 120, 900, 640);
+
+/// Ctrl+Q and a new start.
+class Restart : public WholeProgram {
+protected:
+    testing::AssertionResult endsByKeys()
+    {
+        desk().typeKeys({key::kControl, 'q'});
+        return eventually([this] { return program->exitStatus() == 0; })
+            ? testing::AssertionSuccess()
+            : failure("the program goes on");
+    }
+};
+
+TEST_F(Restart, ControlQEndsTheProgram)
+{
+    EXPECT_TRUE(endsByKeys());
+}
+
+TEST_F(Restart, ControlQEndsTheProgramOnTheTreeScreenToo)
+{
+    ASSERT_TRUE(scan("Documents"));
+    EXPECT_TRUE(endsByKeys());
+}
+
+TEST_F(Restart, KeepsTheRecentScans)
+{
+    ASSERT_TRUE(scan("Documents"));
+    ASSERT_TRUE(endsByKeys());
+    launch();
+    EXPECT_TRUE(eventually([this] { return reader().all("list item").size() == 1; }));
+}
+
+TEST_F(Restart, OffersTheLatestScanOnReturn)
+{
+    ASSERT_TRUE(scan("Documents"));
+    ASSERT_TRUE(endsByKeys());
+    launch();
+    ASSERT_TRUE(isHome());
+    desk().typeKey(key::kReturn);
+    EXPECT_TRUE(showsTree("Documents"));
+}
+
+TEST_F(Restart, KeepsTheWindowsPlaceAndSize)
+{
+    desk().setFrame(mainWindow(), kSomewhere);
+    ASSERT_TRUE(eventually([this] { return mainWindow().frame.size() == kSomewhere.size(); }));
+    const QRect kept = mainWindow().frame;
+    ASSERT_TRUE(endsByKeys());
+    launch();
+    EXPECT_TRUE(eventually([&] { return mainWindow().frame == kept; }))
+        << mainWindow().frame.x() << ',' << mainWindow().frame.y() << " instead of " << kept.x()
+        << ',' << kept.y();
+}
+
+} // namespace
+} // namespace tessera::test
