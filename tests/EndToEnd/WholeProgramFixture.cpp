@@ -46,6 +46,7 @@ void WholeProgram::SetUp()
     }
     session = std::make_unique<UserSession>();
     fillHome(session->folders());
+    prepareSession();
     desk().movePointer(beside());
     launch();
 }

@@ -25,6 +25,9 @@ protected:
     /// Closes the window: whatever the test did, the program ends by itself and has no complaints.
     void TearDown() override;
 
+    /// For what a test wants to be in the session before the program is started.
+    virtual void prepareSession() { }
+
     /// Starts the program and waits for its window. It must not be running.
     void launch(const std::vector<std::string>& arguments = {});
     /// Starts it anew, so that its scans wait wherever the test holds a folder.
