@@ -45,7 +45,8 @@ struct Release {
     template <typename Memory>
     void operator()(Memory* memory) const
     {
-        std::free(memory); // NOLINT(cppcoreguidelines-no-malloc): as XCB wants it
+        // NOLINTNEXTLINE(cppcoreguidelines-no-malloc,cppcoreguidelines-owning-memory): XCB's way
+        std::free(memory);
     }
 };
 

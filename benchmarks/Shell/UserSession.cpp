@@ -21,6 +21,7 @@
 #include <QToolButton>
 
 #include <algorithm>
+#include <cassert>
 #include <utility>
 
 namespace tessera::bench {
@@ -282,6 +283,7 @@ Folder& UserSession::largestFolder()
             largest = folder;
         }
     }
+    assert(largest != nullptr);
     return *largest;
 }
 
