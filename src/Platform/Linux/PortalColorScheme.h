@@ -29,10 +29,8 @@ public:
 signals:
     void changed();
 
-private slots:
-    void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
-
 private:
+    Q_SLOT void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
     void answered(const QDBusPendingCallWatcher& call);
     void take(const QVariant& value);
 
