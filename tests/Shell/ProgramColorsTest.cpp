@@ -30,7 +30,7 @@ double luminance(const QColor& color)
 double contrast(const QColor& one, const QColor& other)
 {
     constexpr double kGlare = 0.05;
-    const auto [darker, lighter] = std::minmax(luminance(one), luminance(other));
+    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
     return (lighter + kGlare) / (darker + kGlare);
 }
 

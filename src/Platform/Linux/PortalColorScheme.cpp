@@ -4,6 +4,7 @@
 #include <QDBusMessage>
 #include <QDBusPendingCall>
 #include <QDBusPendingCallWatcher>
+#include <QMetaType>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
@@ -54,6 +55,8 @@ void PortalColorScheme::ask()
     if (!m_bus.isConnected()) {
         return;
     }
+    // Qt finds a slot's types by their names, and this one may not have been used yet.
+    qRegisterMetaType<QDBusVariant>();
     m_bus.connect(
         kService,
         kPath,
