@@ -20,7 +20,7 @@ constexpr double kLegible = 4.5;
 double luminance(const QColor& color)
 {
     const auto linear = [](float channel) {
-        const double value = static_cast<double>(channel);
+        const auto value = static_cast<double>(channel);
         return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
     };
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF())
