@@ -34,8 +34,7 @@ protected:
     {
         desk().typeKeys({key::kControl, ','});
         ASSERT_TRUE(opens(XWindow::Kind::Dialog));
-        ASSERT_TRUE(
-            eventually([this] { return desk().isActive(*desk().window(XWindow::Kind::Dialog)); }));
+        ASSERT_TRUE(becomesActive(XWindow::Kind::Dialog));
     }
 };
 
@@ -76,7 +75,9 @@ TEST_F(PreferencesWindow, ShowsTheStoredChoiceWhenItIsOpenedAgain)
 TEST_F(PreferencesWindow, AnUntickedWarningIsNotGivenAtOnce)
 {
     openPreferences();
-    desk().typeKeys({key::kAlt, 'h'});
+    const Control box = see("Hidden items", "check box");
+    desk().click(box.frame.center());
+    ASSERT_TRUE(eventually([&] { return !reader().again(box)->isChecked(); }));
     ASSERT_TRUE(rejectDialog());
     desk().click(placeOf(".outline"));
     desk().typeKey(key::kDelete);

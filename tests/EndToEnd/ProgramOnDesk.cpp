@@ -107,11 +107,27 @@ testing::AssertionResult ProgramOnDesk::closeWithKey(XWindow::Kind kind, std::ui
     if (const auto opened = opens(kind); !opened) {
         return opened;
     }
-    desk().activate(*desk().window(kind));
+    if (const auto active = becomesActive(kind); !active) {
+        return active;
+    }
     desk().typeKey(keysym);
     const auto closed = closes(kind);
-    desk().activate(mainWindow());
+    if (const auto active = becomesActive(XWindow::Kind::Main); !active) {
+        return active;
+    }
     return closed;
+}
+
+/// A window manager takes its time over it, in which keys would be lost.
+testing::AssertionResult ProgramOnDesk::becomesActive(XWindow::Kind kind)
+{
+    const XWindow window = *desk().window(kind);
+    if (!desk().isActive(window)) {
+        desk().activate(window);
+    }
+    return eventually([&] { return desk().isActive(window); })
+        ? testing::AssertionSuccess()
+        : failure("the window does not get the keys");
 }
 
 QPoint ProgramOnDesk::placeOf(const std::string& path) const

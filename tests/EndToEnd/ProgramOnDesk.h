@@ -59,6 +59,9 @@ protected:
     XWindow mainWindow() const;
     testing::AssertionResult failure(const std::string& reason) const;
 
+    /// Waits until the topmost window of that kind gets the keys.
+    testing::AssertionResult becomesActive(XWindow::Kind kind);
+
 private:
     /// Waits for a window of the kind, types the key there and waits until it has closed.
     testing::AssertionResult closeWithKey(XWindow::Kind kind, std::uint32_t keysym);

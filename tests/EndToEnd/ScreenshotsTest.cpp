@@ -57,18 +57,16 @@ protected:
     /// Takes the picture, which has the look at that point of its ground.
     void take(const std::string& name, const QRect& part, QPoint ground)
     {
-        const QImage picture = desk().picture(part);
+        QImage picture;
+        // A window may be there a moment before what it shows.
+        EXPECT_TRUE(eventually([&] {
+            picture = desk().picture(part);
+            return hasLook(picture.pixel(ground - part.topLeft())) && hasDrawing(picture);
+        }));
+        EXPECT_EQ(picture.size(), part.size());
         const std::string folder = std::string(TESSERA_SCREENSHOTS "/") + GetParam().name;
         std::filesystem::create_directories(folder);
         ASSERT_TRUE(picture.save(QString::fromStdString(folder + '/' + name + ".png")));
-        EXPECT_EQ(picture.size(), part.size());
-        EXPECT_TRUE(hasDrawing(picture));
-        const int lightness = qGray(picture.pixel(ground - part.topLeft()));
-        if (GetParam().theme == kDark.theme) {
-            EXPECT_LT(lightness, kMostDark);
-        } else {
-            EXPECT_GT(lightness, kLeastLight);
-        }
     }
 
     /// A place in the toolbar where nothing is ever drawn.
@@ -84,6 +82,12 @@ protected:
     }
 
 private:
+    static bool hasLook(QRgb ground)
+    {
+        const bool isDark = GetParam().theme == kDark.theme;
+        return isDark ? qGray(ground) < kMostDark : qGray(ground) > kLeastLight;
+    }
+
     static bool hasDrawing(const QImage& picture)
     {
         std::set<QRgb> colors;

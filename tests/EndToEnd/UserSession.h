@@ -48,7 +48,8 @@ private:
     std::string startBus();
     ChildProcessSetup setup(const std::vector<std::string>& arguments);
 
-    TempTree m_folders;
+    /// In memory, where files have their final sizes at once.
+    TempTree m_folders{TempTree::fastParent()};
     OwnMounts m_mounts;
     XServer m_server;
     std::unique_ptr<XDesk> m_desk;

@@ -78,7 +78,7 @@ void WholeProgram::awaitWindow()
 {
     ASSERT_TRUE(eventually([this] { return reader().hasProgram(); })) << log();
     ASSERT_TRUE(opens(XWindow::Kind::Main));
-    ASSERT_TRUE(eventually([this] { return desk().isActive(mainWindow()); }));
+    ASSERT_TRUE(becomesActive(XWindow::Kind::Main));
 }
 
 testing::AssertionResult WholeProgram::quits()
