@@ -1,0 +1,187 @@
+// SPDX-License-Identifier: MIT
+#include "Sandbox.h"
+
+#include <algorithm>
+#include <chrono>
+#include <thread>
+#include <utility>
+
+namespace tessera::test {
+
+namespace {
+
+constexpr int kRefused = 3; // the archiver's own status when it has made nothing
+
+/// As from a disk that turns.
+class SlowEnumerator final : public DirectoryEnumerator {
+public:
+    explicit SlowEnumerator(std::unique_ptr<DirectoryEnumerator> items)
+        : m_items(std::move(items))
+    {
+    }
+
+    bool next(DirectoryItem& item) override
+    {
+        if (++m_count % kItemsPerMillisecond == 0) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        }
+        return m_items->next(item);
+    }
+    void skipDescendants() override { m_items->skipDescendants(); }
+
+private:
+    static constexpr int kItemsPerMillisecond = 10;
+
+    const std::unique_ptr<DirectoryEnumerator> m_items;
+    int m_count = 0;
+};
+
+class SlowFileManager final : public FileManager {
+public:
+    explicit SlowFileManager(std::unique_ptr<FileManager> files)
+        : m_files(std::move(files))
+    {
+    }
+
+    std::unique_ptr<DirectoryEnumerator> enumerator(
+        const std::string& path, ItemKeys keys) const override
+    {
+        return std::make_unique<SlowEnumerator>(m_files->enumerator(path, keys));
+    }
+
+private:
+    const std::unique_ptr<FileManager> m_files;
+};
+
+class ConfinedWorkspace final : public Workspace {
+public:
+    ConfinedWorkspace(std::unique_ptr<Workspace> workspace, Sandbox sandbox, OpenWork& work)
+        : m_workspace(std::move(workspace))
+        , m_sandbox(std::move(sandbox))
+        , m_work(work)
+    {
+    }
+
+    bool openUrl(const std::string& absoluteUrl) override
+    {
+        return m_workspace->openUrl(absoluteUrl);
+    }
+    bool reveal(const Url& item) override { return m_workspace->reveal(item); }
+
+    void recycleURLs(std::vector<Url> urls, RecycleCompletion completionHandler) override
+    {
+        ++m_work.moves;
+        ++m_work.movesBegun;
+        const auto finish
+            = [this, completion = std::move(completionHandler)](const RecycleResult& result) {
+                  --m_work.moves;
+                  completion(result);
+              };
+        if (std::ranges::all_of(
+                urls, [this](const Url& url) { return m_sandbox.holds(url.path()); })) {
+            m_workspace->recycleURLs(std::move(urls), finish);
+        } else {
+            // Nothing at all is an error that comes as late as any other.
+            m_workspace->recycleURLs({Url(m_sandbox.path() + "/nothing", false)}, finish);
+        }
+    }
+
+private:
+    const std::unique_ptr<Workspace> m_workspace;
+    const Sandbox m_sandbox;
+    OpenWork& m_work;
+};
+
+class ConfinedTask final : public Task {
+public:
+    ConfinedTask(std::unique_ptr<Task> task, Sandbox sandbox, OpenWork& work)
+        : m_task(std::move(task))
+        , m_sandbox(std::move(sandbox))
+        , m_work(work)
+    {
+        ++m_work.archives;
+        ++m_work.archivesBegun;
+    }
+    ConfinedTask(const ConfinedTask&) = delete;
+    ConfinedTask& operator=(const ConfinedTask&) = delete;
+    ~ConfinedTask() override { --m_work.archives; }
+
+    void start(
+        const std::string& program,
+        const std::vector<std::string>& arguments,
+        TerminationHandler onTerminated) override
+    {
+        if (m_sandbox.holds(arguments.back())) {
+            m_task->start(program, arguments, std::move(onTerminated));
+        } else {
+            m_task->start("/bin/false", {}, [onTerminated = std::move(onTerminated)](int /*one*/) {
+                onTerminated(kRefused);
+            });
+        }
+    }
+    void terminate() override { m_task->terminate(); }
+
+private:
+    const std::unique_ptr<Task> m_task;
+    const Sandbox m_sandbox;
+    OpenWork& m_work;
+};
+
+class ConfinedVolumes final : public MountedVolumes {
+public:
+    ConfinedVolumes(std::unique_ptr<MountedVolumes> volumes, Sandbox sandbox)
+        : m_volumes(std::move(volumes))
+        , m_sandbox(std::move(sandbox))
+    {
+    }
+
+    std::vector<MountedVolume> mountedVolumes() const override
+    {
+        return {{Url(m_sandbox.volume(), true)}, {Url(m_sandbox.disk(), true)}};
+    }
+    std::optional<MountedVolume> volumeAt(const std::string& path) const override
+    {
+        return m_volumes->volumeAt(path);
+    }
+
+private:
+    const std::unique_ptr<MountedVolumes> m_volumes;
+    const Sandbox m_sandbox;
+};
+
+class ConfinedUser final : public UserAccount {
+public:
+    explicit ConfinedUser(std::string home)
+        : m_home(std::move(home))
+    {
+    }
+
+    std::optional<PasswordEntry> realUser() const override { return PasswordEntry{"soak", m_home}; }
+    std::string homeDirectory() const override { return m_home; }
+
+private:
+    const std::string m_home;
+};
+
+} // namespace
+
+Sandbox::Sandbox(std::string path)
+    : m_path(std::move(path))
+{
+}
+
+void confine(PlatformServices& services, const Sandbox& sandbox, OpenWork& work)
+{
+    services.fileManager = std::make_unique<SlowFileManager>(std::move(services.fileManager));
+    services.workspace
+        = std::make_unique<ConfinedWorkspace>(std::move(services.workspace), sandbox, work);
+    services.makeTask = [makeTask = services.makeTask, sandbox, &work] {
+        return std::make_unique<ConfinedTask>(makeTask(), sandbox, work);
+    };
+    services.mountedVolumes
+        = std::make_unique<ConfinedVolumes>(std::move(services.mountedVolumes), sandbox);
+    services.userAccount = std::make_unique<ConfinedUser>(sandbox.home());
+    services.archiver = sandbox.archiver();
+}
+
+} // namespace tessera::test
