@@ -22,7 +22,7 @@ void FolderCollectionView::setUrl(const Url& url, const QIcon& icon, const QStri
         nameLabel().setText(name);
         setAccessibleName(name);
     }
-    setToolTip(displayText(url.path()));
+    setToolTip(plainTooltip(displayText(url.path())));
     updateColors();
 }
 

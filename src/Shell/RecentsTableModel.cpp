@@ -34,7 +34,8 @@ QVariant RecentsTableModel::data(const QModelIndex& index, int role) const
     if (!isText || !index.isValid() || index.row() >= rowCount()) {
         return {};
     }
-    return displayText(record(index.row()).path);
+    const QString path = displayText(record(index.row()).path);
+    return role == Qt::ToolTipRole ? plainTooltip(path) : path;
 }
 
 } // namespace tessera

@@ -4,6 +4,7 @@
 #include "Shell/NonBlockingTextField.h"
 #include "Shell/PlaceNames.h"
 #include "TreeView/Bar.h"
+#include "Utils/DisplayText.h"
 #include "Utils/Util.h"
 
 #include <QLabel>
@@ -32,7 +33,7 @@ void VolumeCollectionView::setUrl(const Url& url, const QIcon& icon)
     const QString name = localizedVolumeName(url);
     imageView().setPixmap(icon.pixmap(imageView().maximumSize(), devicePixelRatioF()));
     nameLabel().setText(name);
-    setToolTip(name);
+    setToolTip(plainTooltip(name));
     setAccessibleName(name);
     updateColors();
 }

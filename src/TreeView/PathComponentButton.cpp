@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "TreeView/PathComponentButton.h"
 
+#include "Utils/DisplayText.h"
+
 #include <QKeyEvent>
 #include <QPainter>
 
@@ -16,12 +18,6 @@ constexpr double kPressShare = 0.16;
 constexpr double kFeedbackRadius = 4.0;
 constexpr double kHalfLine = 0.5;
 constexpr int kChevronOverhang = 1;
-
-/// Names may look like the rich text that tooltips understand.
-QString plainTooltip(const QString& text)
-{
-    return QStringLiteral("<p style='white-space:pre'>%1</p>").arg(text.toHtmlEscaped());
-}
 
 } // namespace
 

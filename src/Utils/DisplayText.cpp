@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Utils/DisplayText.h"
 
+#include <QTextDocument>
+
 namespace tessera {
 
 namespace {
@@ -40,6 +42,13 @@ QString displayText(std::string_view bytes)
         character = shown(character);
     }
     return text;
+}
+
+QString plainTooltip(const QString& text)
+{
+    return Qt::mightBeRichText(text)
+        ? QStringLiteral("<p style='white-space:pre'>%1</p>").arg(text.toHtmlEscaped())
+        : text;
 }
 
 } // namespace tessera

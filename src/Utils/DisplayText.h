@@ -12,4 +12,7 @@ namespace tessera {
 /// turn the direction of the text around it becomes U+FFFD too.
 QString displayText(std::string_view bytes);
 
+/// The same text for where Qt takes what looks like markup for such: in tooltips.
+QString plainTooltip(const QString& text);
+
 } // namespace tessera

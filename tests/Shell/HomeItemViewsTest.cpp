@@ -50,6 +50,12 @@ TEST_F(HomeItemViewsTest, AVolumeIsCalledAsItsFolder)
     EXPECT_EQ(volume->nameLabel().text(), QStringLiteral("File System"));
 }
 
+TEST_F(HomeItemViewsTest, NamesThatLookLikeMarkupAreShownAsTheyAre)
+{
+    volume->setUrl(Url("/mnt/<b>disk", true), QIcon());
+    EXPECT_TRUE(volume->toolTip().contains(QStringLiteral("&lt;b&gt;disk")));
+}
+
 TEST_F(HomeItemViewsTest, TheBarIsFilledByWhatIsNotFree)
 {
     volume->setFileSystemSizes(FileSystemSizes{3000000000, 1000000000});

@@ -34,5 +34,17 @@ TEST(DisplayText, DoesNotObeyLineSeparatorsOrDirectionOverrides)
     EXPECT_EQ(displayText("a\xC2\x85z"), QStringLiteral(u"a\uFFFDz"));
 }
 
+TEST(PlainTooltip, KeepsMarkupFromBeingObeyed)
+{
+    EXPECT_EQ(
+        plainTooltip(QStringLiteral("<b>a")),
+        QStringLiteral("<p style='white-space:pre'>&lt;b&gt;a</p>"));
+}
+
+TEST(PlainTooltip, LeavesOtherTextAsItIs)
+{
+    EXPECT_EQ(plainTooltip(QStringLiteral("A&B 1 < 2")), QStringLiteral("A&B 1 < 2"));
+}
+
 } // namespace
 } // namespace tessera
