@@ -40,6 +40,7 @@ void FileDialogOpenPanel::begin(QWidget& window, Completion completion)
     m_dialog->setAttribute(Qt::WA_DeleteOnClose);
     m_dialog->setWindowTitle(QCoreApplication::translate("FileDialogOpenPanel", "Open Folder"));
     m_dialog->resize(kUsualSize);
+    m_dialog->setDirectory(QDir::homePath());
     m_dialog->setFileMode(QFileDialog::Directory);
     m_dialog->setOption(QFileDialog::ShowDirsOnly);
     m_dialog->setFilter(QDir::Dirs | QDir::NoDotAndDotDot | QDir::Drives | QDir::Hidden);

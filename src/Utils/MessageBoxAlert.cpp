@@ -41,6 +41,8 @@ std::unique_ptr<QMessageBox> MessageBoxAlert::makeBox(const AlertText& text) con
     // Names of files stand in the texts, and must not be taken for markup.
     box->setTextFormat(Qt::PlainText);
     box->setText(text.messageText);
+    // Screen readers would announce the title instead, which is the program's name.
+    box->setAccessibleName(text.messageText);
     box->setInformativeText(below(text.informativeText, text.reason));
     style(*box);
     for (int i = 0; i < text.buttons.size(); ++i) {

@@ -50,7 +50,7 @@ TEST_F(OpenFolder, ABackupOfTimeMachineIsRefused)
     session->folders().makeFolder("home/Backups.backupdb");
     session->folders().makeFolder("home/Backups.backupdb/Latest");
     chooseByKeys(home("Backups.backupdb/Latest"));
-    see("Tessera", "alert message");
+    see("Time Machine Detected", "alert message");
     EXPECT_TRUE(acceptDialog());
     EXPECT_TRUE(isHome());
 }

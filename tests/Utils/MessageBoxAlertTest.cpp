@@ -3,6 +3,7 @@
 
 #include "support/becomesActive.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QLabel>
 #include <QMessageBox>
@@ -64,6 +65,19 @@ TEST_F(MessageBoxAlertTest, EachButtonHasItsAnswer)
 {
     EXPECT_EQ(answerAfter([](QMessageBox& box) { box.buttons()[0]->click(); }), 1000);
     EXPECT_EQ(answerAfter([](QMessageBox& box) { box.buttons()[1]->click(); }), 1001);
+}
+
+TEST_F(MessageBoxAlertTest, ScreenReadersAnnounceTheMessage)
+{
+    QString announced;
+    QString message;
+    answerAfter([&](QMessageBox& box) {
+        announced = QAccessible::queryAccessibleInterface(&box)->text(QAccessible::Name);
+        message = box.text();
+        box.buttons()[0]->click();
+    });
+    EXPECT_FALSE(message.isEmpty());
+    EXPECT_EQ(announced, message);
 }
 
 TEST_F(MessageBoxAlertTest, ReturnPressesTheFirstButton)
