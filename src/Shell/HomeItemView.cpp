@@ -4,6 +4,7 @@
 #include "Shell/HomeColors.h"
 #include "Shell/SelectionBackground.h"
 
+#include <QAccessible>
 #include <QEvent>
 #include <QGraphicsOpacityEffect>
 #include <QPainter>
@@ -12,9 +13,21 @@ namespace tessera {
 
 void HomeItemView::setSelected(bool selected)
 {
+    const bool isChange = m_selected != selected;
     m_selected = selected;
     updateColors();
     update();
+    if (isChange) {
+        tellScreenReaders();
+    }
+}
+
+void HomeItemView::tellScreenReaders()
+{
+    QAccessible::State changed;
+    changed.selected = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
 }
 
 void HomeItemView::setDisabled(bool disabled)

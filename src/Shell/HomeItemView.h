@@ -44,6 +44,8 @@ protected:
     bool event(QEvent* event) override;
 
 private:
+    void tellScreenReaders();
+
     /// After textColors() may have changed.
     virtual void updateColors() = 0;
     virtual void updateAlphaValue() = 0;

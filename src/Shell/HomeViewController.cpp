@@ -6,6 +6,7 @@
 #include "Shell/CollectionHeaderView.h"
 #include "Shell/FolderCollectionView.h"
 #include "Shell/HiddenButtonCell.h"
+#include "Shell/HomeItemAccessible.h"
 #include "Shell/NonBlockingTextField.h"
 #include "Shell/PlaceIcons.h"
 #include "Shell/PlaceNames.h"
@@ -90,6 +91,7 @@ QPushButton& HomeViewController::clearRecentsButton() const
 
 void HomeViewController::loadView()
 {
+    installHomeItemAccessible();
     openButton().setShowsBorderOnlyWhileMouseInside(true);
     openButton().setIcon(plainFolderIcon());
     connectControls();

@@ -15,6 +15,7 @@
 #include "support/FakeRootModelServices.h"
 #include "support/becomesActive.h"
 
+#include <QAccessible>
 #include <QListView>
 #include <QScrollArea>
 #include <QSignalSpy>
@@ -451,6 +452,18 @@ TEST_F(HomeViewControllerTest, TabGoesFromTheGridToTheScanButton)
     EXPECT_EQ(view.focusWidget(), &table());
     QTest::keyClick(&table(), Qt::Key_Tab);
     EXPECT_EQ(view.focusWidget(), &home->scanButton());
+}
+
+TEST_F(HomeViewControllerTest, ScreenReadersLearnWhatIsSelected)
+{
+    show();
+    const auto isSelected = [this](std::size_t metric) {
+        return bool(QAccessible::queryAccessibleInterface(&item(metric))->state().selected);
+    };
+    EXPECT_FALSE(isSelected(1));
+    grid().selectItem(0, 0);
+    EXPECT_TRUE(isSelected(1));
+    EXPECT_FALSE(isSelected(2));
 }
 
 TEST_F(HomeViewControllerTest, TabReachesTheGridFromOutside)
