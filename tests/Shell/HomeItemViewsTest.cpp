@@ -108,8 +108,7 @@ TEST_F(HomeItemViewsTest, TextsOnThePaleSelectionOfAnotherWindowAreDark)
     QWidget window;
     volume->setParent(&window);
     window.show();
-    QApplication::setActiveWindow(&window);
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    EXPECT_TRUE(test::becomesActive(window));
     volume->setSelected(true);
     EXPECT_EQ(volume->nameLabel().textColor(), QColor(Qt::white));
     QApplication::setActiveWindow(nullptr);
@@ -173,7 +172,6 @@ TEST_F(HomeItemViewsTest, TheSelectionIsBlueInTheWindowThatIsWorkedIn)
 {
     folder->setSelected(true);
     folder->show();
-    QApplication::setActiveWindow(folder.get());
     ASSERT_TRUE(test::becomesActive(*folder));
     EXPECT_EQ(picture(*folder).pixelColor(50, 4), colorWithHex(0x3875D7));
 }

@@ -291,7 +291,6 @@ TEST_F(HomeViewControllerTest, ADoubleClickOnARecentScanScans)
 TEST_F(HomeViewControllerTest, ReturnScans)
 {
     show();
-    QApplication::setActiveWindow(&home->view());
     home->takeFocus();
     ASSERT_TRUE(test::becomesActive(home->view()));
     QTest::keyClick(&table(), Qt::Key_Return);
