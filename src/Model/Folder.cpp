@@ -83,9 +83,9 @@ std::unique_ptr<File> Folder::removeChild(File& child)
 std::vector<std::unique_ptr<File>> Folder::takeChildren()
 {
     std::vector<std::unique_ptr<File>> taken(m_children.size());
-    for (auto slot = taken.rbegin(); slot != taken.rend(); ++slot) {
-        slot->reset(m_children.takeLast());
-    }
+    std::for_each(taken.rbegin(), taken.rend(), [this](std::unique_ptr<File>& child) {
+        child.reset(m_children.takeLast());
+    });
     return taken;
 }
 

@@ -4,6 +4,7 @@
 #include "eventually.h"
 #include "pixelColors.h"
 
+#include <array>
 #include <stdexcept>
 #include <utility>
 
@@ -21,7 +22,7 @@ void fillHome(const TempTree& folders)
     }
     folders.makeFolder("home/Music");
     folders.makeFolder("home/Pictures");
-    const std::pair<const char*, std::size_t> files[] = {
+    const auto files = std::to_array<std::pair<const char*, std::size_t>>({
         {"Documents/report", 400'000},
         {"Documents/notes", 200'000},
         {"Documents/.outline", 250'000},
@@ -31,7 +32,7 @@ void fillHome(const TempTree& folders)
         {"Downloads/song", 300'000},
         {"Downloads/fonts/serif", 270'000},
         {"Downloads/fonts/sans", 130'000},
-    };
+    });
     for (const auto& [path, bytes] : files) {
         folders.makeFile(std::string("home/") + path, bytes);
     }
