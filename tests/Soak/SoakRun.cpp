@@ -155,11 +155,11 @@ bool SoakRun::calmDown()
 {
     m_diskMutator.stop();
     m_volumeMutator.stop();
-    if (m_actions.dismiss()) {
+    if (UserActions::dismiss()) {
         return false;
     }
     if (controller().state() == ScreenState::Scanning) {
-        m_actions.press(Qt::Key_Escape);
+        UserActions::press(Qt::Key_Escape);
         return false;
     }
     const TopFolder* const top = RootModel::sharedInstance().topFolder();
@@ -205,7 +205,7 @@ bool SoakRun::rescanFolder()
         connect(controller().treeVC(), &TreeViewController::folderReplaced, this, [this] {
             m_isFolderReplaced = true;
         });
-        m_actions.press(Qt::Key_F5);
+        UserActions::press(Qt::Key_F5);
     }
     return m_isFolderReplaced;
 }

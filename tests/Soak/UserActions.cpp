@@ -223,6 +223,7 @@ std::string UserActions::resize()
     return std::to_string(size.width()) + 'x' + std::to_string(size.height());
 }
 
+// NOLINTNEXTLINE(readability-convert-member-functions-to-static): a row of the table above
 std::string UserActions::toggleFullScreen()
 {
     press(Qt::Key_F11);
@@ -251,6 +252,7 @@ std::string UserActions::openFolder()
     return percentEncoded(folder);
 }
 
+// NOLINTNEXTLINE(readability-convert-member-functions-to-static): a row of the table above
 std::string UserActions::openPreferences()
 {
     press(Qt::Key_Comma, Qt::ControlModifier);

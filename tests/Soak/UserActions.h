@@ -35,7 +35,7 @@ public:
     std::string next();
 
     /// Closes what is open in front of the main window, one at a time; false when nothing is.
-    bool dismiss();
+    static bool dismiss();
 
     /// Closes the main window, or what does not let it be closed.
     void leave();

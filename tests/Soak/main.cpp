@@ -91,7 +91,7 @@ void furnish(const Sandbox& sandbox, std::uint64_t seed)
 /// On this bus nothing is started when it is asked for: what is installed here must not answer.
 std::string writeBusConfiguration(const std::string& sandbox)
 {
-    const std::string path = sandbox + "/run/bus.conf";
+    std::string path = sandbox + "/run/bus.conf";
     std::ofstream(path) << R"(<busconfig>
   <type>session</type>
   <listen>unix:tmpdir=/tmp</listen>

@@ -110,6 +110,7 @@ void setEnvironment(const Sandbox& sandbox)
 void become(std::vector<std::string>& arguments, const std::optional<User>& user, int program)
 {
     std::vector<char*> words;
+    words.reserve(arguments.size() + 1);
     for (std::string& argument : arguments) {
         words.push_back(argument.data());
     }
