@@ -17,7 +17,7 @@ QAccessibleInterface* makeHomeItemAccessible(const QString& /*className*/, QObje
 } // namespace
 
 HomeItemAccessible::HomeItemAccessible(HomeItemView& item)
-    : QAccessibleWidget(&item, QAccessible::ListItem)
+    : QAccessibleWidget(&item)
 {
 }
 
