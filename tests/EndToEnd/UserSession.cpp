@@ -35,7 +35,7 @@ void UserSession::nameUser()
 /// Returns the bus's address.
 std::string UserSession::startBus()
 {
-    m_folders.writeFile("bus.conf", kSessionBusConfiguration);
+    m_folders.writeFile("bus.conf", sessionBusConfiguration(m_folders.path()));
     const std::string output = m_folders.pathOf("bus-out");
     const std::string errors = m_folders.pathOf("bus-err");
     m_bus = std::make_unique<ChildProcess>(ChildProcessSetup{

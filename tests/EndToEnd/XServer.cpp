@@ -4,6 +4,7 @@
 #include "eventually.h"
 #include "support/fileContent.h"
 
+#include <csignal>
 #include <stdexcept>
 
 namespace tessera::test {
@@ -27,6 +28,12 @@ XServer::XServer()
     }
     number.pop_back();
     m_display = ':' + number;
+}
+
+XServer::~XServer()
+{
+    m_process.signal(SIGTERM);
+    m_process.waitForExit();
 }
 
 } // namespace tessera::test

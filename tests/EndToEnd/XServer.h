@@ -13,6 +13,10 @@ class XServer {
 public:
     /// Throws std::runtime_error when it does not start.
     XServer();
+    XServer(const XServer&) = delete;
+    XServer& operator=(const XServer&) = delete;
+    /// Has it take its socket and its lock away.
+    ~XServer();
 
     /// What DISPLAY should be for its clients.
     const std::string& display() const { return m_display; }

@@ -41,7 +41,10 @@ protected:
 };
 
 INSTANTIATE_TEST_SUITE_P(
-    BothSchemes, ProgramColorsTest, testing::Values(&lightProgramColors, &darkProgramColors));
+    BothSchemes,
+    ProgramColorsTest,
+    testing::Values(&lightProgramColors, &darkProgramColors),
+    [](const auto& scheme) { return scheme.index == 0 ? "light" : "dark"; });
 
 TEST_P(ProgramColorsTest, TextsAreLegible)
 {

@@ -8,6 +8,7 @@
 #include "launchServices.h"
 #include "runInSandbox.h"
 #include "support/ChildProcess.h"
+#include "support/sessionBusConfiguration.h"
 
 #include <QApplication>
 #include <QImage>
@@ -88,19 +89,10 @@ void furnish(const Sandbox& sandbox, std::uint64_t seed)
     }
 }
 
-/// On this bus nothing is started when it is asked for: what is installed here must not answer.
 std::string writeBusConfiguration(const std::string& sandbox)
 {
     std::string path = sandbox + "/run/bus.conf";
-    std::ofstream(path) << R"(<busconfig>
-  <type>session</type>
-  <listen>unix:tmpdir=/tmp</listen>
-  <policy context="default">
-    <allow send_destination="*" eavesdrop="true"/>
-    <allow eavesdrop="true"/>
-    <allow own="*"/>
-  </policy>
-</busconfig>)";
+    std::ofstream(path) << sessionBusConfiguration(sandbox + "/run");
     return path;
 }
 

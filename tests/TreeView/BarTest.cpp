@@ -2,6 +2,7 @@
 #include "TreeView/Bar.h"
 
 #include "TreeView/ColorHelper.h"
+#include "support/parameterNames.h"
 
 #include <QImage>
 #include <QPalette>
@@ -98,7 +99,7 @@ protected:
     double scale = GetParam();
 };
 
-INSTANTIATE_TEST_SUITE_P(Scales, BarAtScale, testing::Values(1.0, 2.0));
+INSTANTIATE_TEST_SUITE_P(Scales, BarAtScale, testing::Values(1.0, 2.0), test::kNameOfScale);
 
 } // namespace
 

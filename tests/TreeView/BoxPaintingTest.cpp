@@ -7,6 +7,7 @@
 #include "TreeView/BranchPalette.h"
 #include "TreeView/ColorHelper.h"
 #include "support/LevelPicture.h"
+#include "support/parameterNames.h"
 
 #include <gtest/gtest.h>
 
@@ -53,7 +54,7 @@ protected:
     std::unique_ptr<Document> m_document = makeNode<Document>("Document");
 };
 
-INSTANTIATE_TEST_SUITE_P(Scales, BoxPainting, testing::Values(1.0, 2.0));
+INSTANTIATE_TEST_SUITE_P(Scales, BoxPainting, testing::Values(1.0, 2.0), test::kNameOfScale);
 
 TEST_P(BoxPainting, AFolderOfTheTopLevelStandsTwoPointsInside)
 {

@@ -3,6 +3,7 @@
 
 #include "support/FakeIconProvider.h"
 #include "support/makeTree.h"
+#include "support/parameterNames.h"
 
 #include <QFontMetricsF>
 #include <QImage>
@@ -84,7 +85,8 @@ protected:
     CenteredPathComponentCellAtScale() { scale = GetParam(); }
 };
 
-INSTANTIATE_TEST_SUITE_P(Scales, CenteredPathComponentCellAtScale, testing::Values(1.0, 2.0));
+INSTANTIATE_TEST_SUITE_P(
+    Scales, CenteredPathComponentCellAtScale, testing::Values(1.0, 2.0), test::kNameOfScale);
 
 std::vector<QString> titles(const std::vector<CenteredPathComponentCell>& cells)
 {

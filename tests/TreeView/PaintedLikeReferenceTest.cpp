@@ -5,6 +5,7 @@
 #include "TreeView/TreePainter.h"
 #include "support/LevelPicture.h"
 #include "support/makeTree.h"
+#include "support/parameterNames.h"
 
 #include <QPainter>
 
@@ -106,7 +107,8 @@ TEST_P(PaintedLikeReference, EveryKindOfBoxAtAnySizeAndPlace)
 INSTANTIATE_TEST_SUITE_P(
     LevelsAndScales,
     PaintedLikeReference,
-    testing::Combine(testing::Values(0L, 1L, 3L), testing::Values(1.0, 1.25, 1.5, 2.0)));
+    testing::Combine(testing::Values(0L, 1L, 3L), testing::Values(1.0, 1.25, 1.5, 2.0)),
+    test::kNameOfLevelAndScale);
 
 void drawWithoutShortcuts(const TreeBranch& branch, QPainter& painter)
 {

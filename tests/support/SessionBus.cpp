@@ -3,6 +3,7 @@
 
 #include "support/sessionBusConfiguration.h"
 
+#include <QFile>
 #include <QStandardPaths>
 
 namespace tessera::test {
@@ -12,20 +13,23 @@ SessionBus::~SessionBus()
     for (const QString& name : m_connectionNames) {
         QDBusConnection::disconnectFromBus(name);
     }
-    m_daemon.kill();
+    // It takes its socket away when it is asked to end.
+    m_daemon.terminate();
     m_daemon.waitForFinished();
 }
 
 bool SessionBus::start()
 {
-    if (!m_configuration.open()) {
+    QFile configuration(m_folder.filePath(QStringLiteral("bus.conf")));
+    if (!m_folder.isValid() || !configuration.open(QIODevice::WriteOnly)) {
         return false;
     }
-    m_configuration.write(kSessionBusConfiguration);
-    m_configuration.close();
+    configuration.write(
+        QByteArray::fromStdString(sessionBusConfiguration(m_folder.path().toStdString())));
+    configuration.close();
     m_daemon.start(
         QStandardPaths::findExecutable(QStringLiteral("dbus-daemon")),
-        {QStringLiteral("--config-file=") + m_configuration.fileName(),
+        {QStringLiteral("--config-file=") + configuration.fileName(),
          QStringLiteral("--nofork"),
          QStringLiteral("--print-address")});
     if (!m_daemon.waitForReadyRead()) {

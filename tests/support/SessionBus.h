@@ -7,7 +7,7 @@
 #include <QProcess>
 #include <QString>
 #include <QStringList>
-#include <QTemporaryFile>
+#include <QTemporaryDir>
 
 namespace tessera::test {
 
@@ -18,11 +18,14 @@ public:
     SessionBus() = default;
     SessionBus(const SessionBus&) = delete;
     SessionBus& operator=(const SessionBus&) = delete;
-    /// Ends all connections.
+    /// Ends all connections and the bus, of which nothing is left on the disk.
     ~SessionBus();
 
     /// False when dbus-daemon cannot be started.
     [[nodiscard]] bool start();
+
+    /// Where it listens: "unix:path=…" and more.
+    const QString& address() const { return m_address; }
 
     /// A connection of its own for each name.
     QDBusConnection connection(const QString& name);
@@ -39,7 +42,7 @@ public:
     }
 
 private:
-    QTemporaryFile m_configuration;
+    QTemporaryDir m_folder;
     QProcess m_daemon;
     QString m_address;
     QStringList m_connectionNames;

@@ -28,7 +28,8 @@ INSTANTIATE_TEST_SUITE_P(
     Helpers,
     LinuxDirectoryEnumeratorWith,
     testing::Values(
-        kOnDemand, ReadAheadOptions{1, 65536}, ReadAheadOptions{3, 10}, ReadAheadOptions{}));
+        kOnDemand, ReadAheadOptions{1, 65536}, ReadAheadOptions{3, 10}, ReadAheadOptions{}),
+    [](const auto& options) { return std::to_string(options.param.helpers) + "helpers"; });
 
 /// Folders, files, hard and symbolic links in random places.
 void makeRandomTree(const TempTree& tree, unsigned seed)

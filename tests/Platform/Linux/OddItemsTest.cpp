@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 // What a walk makes of items that are no plain files and folders.
+#include "support/OwnMounts.h"
 #include "support/TempTree.h"
 #include "support/walkTree.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sched.h>
-#include <sys/mount.h>
 #include <unistd.h>
 
 #include <fstream>
@@ -28,18 +27,6 @@ bool isSuperUser()
 bool giveUpRights()
 {
     return !isSuperUser() || (::setgid(kNobody) == 0 && ::setuid(kNobody) == 0);
-}
-
-/// Mounts that the child makes from now on are its own.
-bool leaveMountNamespace()
-{
-    return ::unshare(CLONE_NEWNS) == 0
-        && ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
-}
-
-bool mountMemory(const std::string& path)
-{
-    return ::mount("tessera", path.c_str(), "tmpfs", 0, nullptr) == 0;
 }
 
 TEST(OddItems, ASymbolicLinkToAFolderIsNotFollowed)
@@ -183,14 +170,16 @@ TEST(OddItems, AMountedFileSystemComesAsAnEmptyFolder)
     tree.makeFolder("mount");
     tree.makeFile("mount/covered");
     const int result = inChildProcess([&] {
-        if (!leaveMountNamespace() || !mountMemory(tree.pathOf("mount"))) {
+        if (!OwnMounts::enter()) {
             return kCannotMount;
         }
+        OwnMounts mounts;
+        mounts.mountMemory(tree.pathOf("mount"));
         tree.makeFile("mount/file");
         return sortedPaths(tree.path()) == std::vector<std::string>{"mount"} ? 0 : 1;
     });
     if (result == kCannotMount) {
-        GTEST_SKIP() << "only the super-user can mount";
+        GTEST_SKIP() << "this process may not mount";
     }
     EXPECT_EQ(result, 0);
 }
@@ -202,17 +191,16 @@ TEST(OddItems, AFolderMountedASecondTimeComesEmptyThere)
     tree.makeFile("folder/file");
     tree.makeFolder("again");
     const int result = inChildProcess([&] {
-        const std::string folder = tree.pathOf("folder");
-        const std::string again = tree.pathOf("again");
-        if (!leaveMountNamespace()
-            || ::mount(folder.c_str(), again.c_str(), nullptr, MS_BIND, nullptr) != 0) {
+        if (!OwnMounts::enter()) {
             return kCannotMount;
         }
+        OwnMounts mounts;
+        mounts.bind(tree.pathOf("folder"), tree.pathOf("again"));
         const std::vector<std::string> expected{"again", "folder", "folder/file"};
         return sortedPaths(tree.path()) == expected ? 0 : 1;
     });
     if (result == kCannotMount) {
-        GTEST_SKIP() << "only the super-user can mount";
+        GTEST_SKIP() << "this process may not mount";
     }
     EXPECT_EQ(result, 0);
 }
@@ -222,16 +210,18 @@ TEST(OddItems, AWalkMayStartAtAMount)
     const TempTree tree;
     tree.makeFolder("mount");
     const int result = inChildProcess([&] {
-        if (!leaveMountNamespace() || !mountMemory(tree.pathOf("mount"))) {
+        if (!OwnMounts::enter()) {
             return kCannotMount;
         }
+        OwnMounts mounts;
+        mounts.mountMemory(tree.pathOf("mount"));
         tree.makeFolder("mount/folder");
         tree.makeFile("mount/folder/file");
         const std::vector<std::string> expected{"folder", "folder/file"};
         return sortedPaths(tree.pathOf("mount")) == expected ? 0 : 1;
     });
     if (result == kCannotMount) {
-        GTEST_SKIP() << "only the super-user can mount";
+        GTEST_SKIP() << "this process may not mount";
     }
     EXPECT_EQ(result, 0);
 }

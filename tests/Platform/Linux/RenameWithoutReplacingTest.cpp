@@ -113,7 +113,10 @@ TEST_P(RenameBy, AFolderDoesNotMoveIntoItself)
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Ways, RenameBy, testing::Values(renameWithoutReplacing, renameOntoPlaceholder));
+    Ways,
+    RenameBy,
+    testing::Values(renameWithoutReplacing, renameOntoPlaceholder),
+    [](const auto& way) { return way.index == 0 ? "inOneStep" : "ontoPlaceholder"; });
 
 } // namespace
 } // namespace tessera::test

@@ -1,0 +1,11 @@
+# Fails when a discovered test's name holds the value of its parameter instead of a name.
+file(GLOB lists "${folder}/*_tests.cmake")
+if(NOT lists)
+    message(FATAL_ERROR "no lists of tests in ${folder}")
+endif()
+foreach(list IN LISTS lists)
+    file(STRINGS "${list}" names REGEX "add_test.*GetParam")
+    foreach(name IN LISTS names)
+        message(SEND_ERROR "${name}")
+    endforeach()
+endforeach()
