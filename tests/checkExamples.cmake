@@ -1,5 +1,5 @@
 # Fails when an example of the guide, "-R NAME" or "-R 'NAME'", matches no test.
-file(GLOB lists "${folder}/*_tests.cmake")
+file(GLOB lists "${folder}/*_tests.cmake" "${folder}/*/CTestTestfile.cmake")
 set(names "")
 foreach(list IN LISTS lists)
     file(READ "${list}" text)
