@@ -8,6 +8,7 @@
 #include "Scanning/ScannerDelegate.h"
 #include "Utils/Log.h"
 
+#include <algorithm>
 #include <cinttypes>
 #include <utility>
 
@@ -32,12 +33,13 @@ Scanner::Run::Run(Scanner& scanner, Url url)
 {
 }
 
-std::uint32_t Scanner::Run::_getLevel2Items(const std::string& path, const FileManager& manager)
+std::uint32_t Scanner::Run::_getLevel2Items(
+    const std::string& path, const FileManager& manager) const
 {
     const auto enumerator = manager.enumerator(path, ItemKeys::None);
     std::uint32_t count = 0;
     DirectoryItem item;
-    while (enumerator->next(item)) {
+    while (!isStopped() && enumerator->next(item)) {
         ++count;
         if (item.level == kCountedLevels) {
             enumerator->skipDescendants();
@@ -87,6 +89,10 @@ std::unique_ptr<TopFolder> Scanner::Run::makeRoot() const
 TreeBuilder Scanner::Run::walk()
 {
     TreeBuilder tree(makeRoot());
+    if (isStopped()) {
+        // A folder that is slow to open would only hold up the end.
+        return tree;
+    }
     const auto enumerator
         = environment().fileManager.enumerator(m_url.path(), ItemKeys::SizeAndHidden);
     DirectoryItem item;
@@ -113,7 +119,7 @@ void Scanner::Run::visit(
 void Scanner::Run::visitUpperLevels(
     const DirectoryItem& item, DirectoryEnumerator& enumerator, const TreeBuilder& tree)
 {
-    if (item.level == 1 && item.name == kBackupStoreName) {
+    if (isBackupStore(item)) {
         enumerator.skipDescendants();
         m_sawBackupStore = true;
     }
@@ -127,6 +133,14 @@ void Scanner::Run::visitUpperLevels(
     if (item.isHidden && item.name == m_hiddenUserName) {
         enumerator.skipDescendants();
     }
+}
+
+/// What a volume holds beyond what was walked is known; of a folder nothing is, so there the store
+/// is walked like any other.
+bool Scanner::Run::isBackupStore(const DirectoryItem& item) const
+{
+    return m_mode == Mode::Volume && item.level == 1 && item.isDirectory
+        && item.name == kBackupStoreName;
 }
 
 void Scanner::Run::reportIfDue(const DirectoryItem& item, const TreeBuilder& tree)
@@ -154,15 +168,21 @@ double Scanner::Run::percentComplete() const
     return static_cast<double>(m_levelRead) / m_levelTotal;
 }
 
+void Scanner::Run::addBackups(Volume& volume) const
+{
+    auto backups = makeNode<TimeMachine>({});
+    // Hard links count at each of their places, so a walk may find more than is in use.
+    backups->setTotalAllocation(m_usedBytes - std::min(m_usedBytes, m_allocationRead));
+    volume.addChild(std::move(backups));
+}
+
 void Scanner::Run::finish(TreeBuilder& tree)
 {
     tree.closeAll();
-    if (m_sawBackupStore) {
-        auto backups = makeNode<TimeMachine>({});
-        backups->setTotalAllocation(m_usedBytes - m_allocationRead);
-        tree.root().addChild(std::move(backups));
-    }
     if (auto* volume = nodeCast<Volume>(&tree.root())) {
+        if (m_sawBackupStore) {
+            addBackups(*volume);
+        }
         volume->refreshVolume(environment().fileSystemAttributes);
     } else {
         tree.root().sort();

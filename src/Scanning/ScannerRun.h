@@ -12,6 +12,8 @@
 
 namespace tessera {
 
+class Volume;
+
 /// One scan of one directory: what the worker thread does. Only stop() and isStopped() may be
 /// called on another thread.
 class Scanner::Run : public std::enable_shared_from_this<Scanner::Run> {
@@ -27,8 +29,8 @@ public:
     /// The worker: walks the directory, hands the tree over and reports.
     void _performScan();
 
-    /// The number of items at depth 1 and 2 below the directory.
-    static std::uint32_t _getLevel2Items(const std::string& path, const FileManager& manager);
+    /// The number of items at depth 1 and 2 below the directory; fewer when the run was stopped.
+    std::uint32_t _getLevel2Items(const std::string& path, const FileManager& manager) const;
 
 private:
     enum class Mode : bool { Folder, Volume };
@@ -41,6 +43,8 @@ private:
     void reportIfDue(const DirectoryItem& item, const TreeBuilder& tree);
     double percentComplete() const;
     std::unique_ptr<TopFolder> makeRoot() const;
+    bool isBackupStore(const DirectoryItem& item) const;
+    void addBackups(Volume& volume) const;
     void finish(TreeBuilder& tree);
 
     const ScanEnvironment& environment() const { return m_scanner.m_environment; }

@@ -205,6 +205,30 @@ TEST_F(ScannerTest, ABackupStoreAtTheTopOfAVolumeIsNotWalked)
     EXPECT_EQ(test::at(root, "Time Machine").type(), NodeType::TimeMachine);
 }
 
+TEST_F(ScannerTest, OfAVolumeWhoseLinksAddUpToMoreThanIsInUseTheBackupsAreEmpty)
+{
+    resourceValues.volumes = {"/data"};
+    TopFolder& root = scanToEnd("Backups.backupdb/ ( ) b:400 link:400");
+    EXPECT_EQ(test::at(root, "Time Machine").totalAllocation(), 0U);
+    EXPECT_EQ(root.totalAllocation(), 700U);
+}
+
+TEST_F(ScannerTest, ABackupStoreInAFolderIsWalkedLikeAnyFolder)
+{
+    TopFolder& root = scanToEnd("Backups.backupdb/ ( old/ ( a:50 ) ) b:200");
+    EXPECT_EQ(test::at(root, "Backups.backupdb").totalAllocation(), 50U);
+    EXPECT_EQ(root.children().size(), 2U);
+    EXPECT_EQ(root.totalAllocation(), 250U);
+}
+
+TEST_F(ScannerTest, AFileWithTheNameOfABackupStoreIsNone)
+{
+    resourceValues.volumes = {"/data"};
+    TopFolder& root = scanToEnd("Backups.backupdb:50 b:200");
+    EXPECT_EQ(root.children().size(), 4U) << "two files, free space, restricted files";
+    EXPECT_EQ(test::at(root, "Restricted Files").totalAllocation(), 450U);
+}
+
 TEST_F(ScannerTest, ABackupStoreDeeperDownIsWalkedLikeAnyFolder)
 {
     TopFolder& root = scanToEnd("f/ ( Backups.backupdb/ ( a:50 ) )");
@@ -341,6 +365,22 @@ TEST_F(ScannerTest, ACancelledScanIsToldOnceAndDoesNotEnd)
     workers->waitForNone();
     EXPECT_THAT(delegate.calls, ElementsAre("cancelled"));
     EXPECT_EQ(scanner.topFolder()->totalAllocation(), 1U);
+}
+
+TEST_F(ScannerTest, AScanCancelledDuringTheCountReadsNothingMore)
+{
+    Scanner& scanner = scannerOf("a:1 b:2 c:3");
+    std::vector<std::string> counted;
+    files->onItem([&](const std::string& path) {
+        counted.push_back(path);
+        mainThread.performAndWait([&] { scanner.cancel(); });
+    });
+    scanner.scan(Url("/data", true));
+    mainThread.runUntil([this] { return !delegate.calls.empty(); });
+    workers->waitForNone();
+    EXPECT_THAT(counted, ElementsAre("a"));
+    EXPECT_EQ(files->enumeratedPaths().size(), 1U) << "the walk opens the folder no more";
+    EXPECT_NE(scanner.topFolder(), nullptr);
 }
 
 TEST_F(ScannerTest, AReportOnItsWayWhileTheScanIsCancelledIsDropped)
