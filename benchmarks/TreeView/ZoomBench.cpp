@@ -53,6 +53,10 @@ public:
     void scanUpdated(Scanner& /*scanner*/) override { }
     void scanEnded(Scanner& /*scanner*/) override { m_loop.quit(); }
     void scanCancelled(Scanner& /*scanner*/) override { m_loop.quit(); }
+    void scanFailed(Scanner& /*scanner*/, const std::error_code& /*problem*/) override
+    {
+        m_loop.quit();
+    }
 
 private:
     QEventLoop m_loop;

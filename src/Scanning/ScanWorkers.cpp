@@ -1,7 +1,46 @@
 // SPDX-License-Identifier: MIT
 #include "Scanning/ScanWorkers.h"
 
+#include <thread>
+#include <utility>
+
 namespace tessera {
+
+namespace {
+
+void startDetached(ScanWorkers::Work work)
+{
+    std::thread(std::move(work)).detach();
+}
+
+} // namespace
+
+ScanWorkers::ScanWorkers()
+    : ScanWorkers(startDetached)
+{
+}
+
+ScanWorkers::ScanWorkers(StartThread startThread)
+    : m_startThread(std::move(startThread))
+{
+}
+
+std::error_code ScanWorkers::start(Work work)
+{
+    add();
+    try {
+        m_startThread([self = shared_from_this(), work = std::move(work)]() mutable {
+            work();
+            // What the work held on to dies before the worker counts as ended.
+            work = nullptr;
+            self->remove();
+        });
+    } catch (const std::system_error& error) {
+        remove();
+        return error.code();
+    }
+    return {};
+}
 
 void ScanWorkers::add()
 {

@@ -5,7 +5,6 @@
 #include "Scanning/ScannerDelegate.h"
 #include "Scanning/ScannerRun.h"
 
-#include <thread>
 #include <utility>
 
 namespace tessera {
@@ -36,14 +35,16 @@ void Scanner::scan(const Url& url)
         m_fileVaults.clear();
     }
     m_percentComplete = 0.0;
-    m_environment.workers->add();
-    std::thread([self = shared_from_this(), run, workers = m_environment.workers]() mutable {
-        run->_performScan();
-        // The scanner may die here, with a tree that nobody took.
-        run.reset();
-        self.reset();
-        workers->remove();
-    }).detach();
+    const std::error_code problem
+        = m_environment.workers->start([self = shared_from_this(), run]() mutable {
+              run->_performScan();
+              // The scanner may die here, with a tree that nobody took.
+              run.reset();
+              self.reset();
+          });
+    if (problem) {
+        notifyFailed(run, problem);
+    }
 }
 
 void Scanner::cancel()
@@ -136,6 +137,16 @@ void Scanner::notifyEnded(const std::shared_ptr<Run>& run)
         ScannerDelegate* delegate = self->m_delegate;
         if (delegate != nullptr && !run->isStopped()) {
             delegate->scanEnded(*self);
+        }
+    });
+}
+
+void Scanner::notifyFailed(const std::shared_ptr<Run>& run, const std::error_code& problem)
+{
+    m_environment.mainThread.perform([self = shared_from_this(), run, problem] {
+        ScannerDelegate* delegate = self->m_delegate;
+        if (delegate != nullptr && !run->isStopped()) {
+            delegate->scanFailed(*self, problem);
         }
     });
 }

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <memory>
 #include <mutex>
+#include <system_error>
 #include <vector>
 
 namespace tessera {
@@ -68,6 +69,7 @@ private:
     void publishTopFolder(const Run& run, std::unique_ptr<TopFolder> root);
     void notifyUpdated(const std::shared_ptr<Run>& run);
     void notifyEnded(const std::shared_ptr<Run>& run);
+    void notifyFailed(const std::shared_ptr<Run>& run, const std::error_code& problem);
 
     const ScanEnvironment m_environment;
     std::atomic<ScannerDelegate*> m_delegate = nullptr;

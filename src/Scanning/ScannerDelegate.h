@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <system_error>
+
 namespace tessera {
 
 class Scanner;
@@ -21,6 +23,10 @@ public:
 
     /// cancel() was called; comes before it returns.
     virtual void scanCancelled(Scanner& scanner) = 0;
+
+    /// The scan could not begin, for want of a thread; nothing else is heard of it. Comes after
+    /// scan() has returned.
+    virtual void scanFailed(Scanner& scanner, const std::error_code& problem) = 0;
 };
 
 } // namespace tessera

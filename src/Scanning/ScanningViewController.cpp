@@ -5,6 +5,7 @@
 #include "Model/RootModel.h"
 #include "Scanning/DockTile.h"
 #include "Scanning/PathLabel.h"
+#include "Scanning/ScanProblem.h"
 #include "Scanning/Scanner.h"
 #include "Utils/Alert.h"
 #include "Utils/DisplayText.h"
@@ -41,19 +42,6 @@ std::unique_ptr<Folder> homeFolder(TopFolder& root)
         }
     }
     return folder;
-}
-
-QString explanation(const std::error_code& problem)
-{
-    if (problem == std::errc::no_such_file_or_directory) {
-        return ScanningViewController::tr(
-            "There is no folder '%1' any more. It may have been moved, renamed or deleted, or its "
-            "disk may not be connected.");
-    }
-    if (problem == std::errc::permission_denied) {
-        return ScanningViewController::tr("You do not have permission to look into '%1'.");
-    }
-    return ScanningViewController::tr("'%1' cannot be read.");
 }
 
 } // namespace
@@ -134,7 +122,7 @@ void ScanningViewController::scanEnded(Scanner& scanner)
     std::unique_ptr<TopFolder> tree = withEncryptedHome(scanner.takeTopFolder());
     if (tree->children().empty()) {
         if (const std::error_code problem = m_services.checkFolder(scanned.path())) {
-            tellProblem(scanned, problem);
+            m_services.alert.beginSheet(scanProblem(scanned, problem));
             endWithoutTree();
             return;
         }
@@ -154,13 +142,11 @@ void ScanningViewController::scanCancelled(Scanner& /*scanner*/)
     endWithoutTree();
 }
 
-void ScanningViewController::tellProblem(const Url& folder, const std::error_code& problem)
+void ScanningViewController::scanFailed(Scanner& /*scanner*/, const std::error_code& problem)
 {
-    m_services.alert.beginSheet(
-        {tr("The folder cannot be scanned"),
-         explanation(problem).arg(displayText(folder.path())),
-         {tr("OK")},
-         QString::fromLocal8Bit(problem.message().c_str())});
+    stopAnimation();
+    m_services.alert.beginSheet(scanProblem(std::exchange(m_rootURL, {}), problem));
+    endWithoutTree();
 }
 
 void ScanningViewController::endWithoutTree()

@@ -74,9 +74,9 @@ private:
     void scanUpdated(Scanner& scanner) override;
     void scanEnded(Scanner& scanner) override;
     void scanCancelled(Scanner& scanner) override;
+    void scanFailed(Scanner& scanner, const std::error_code& problem) override;
 
     void endWithoutTree();
-    void tellProblem(const Url& folder, const std::error_code& problem);
     void showPath(const Url& current);
     void startAnimation();
     void stopAnimation();

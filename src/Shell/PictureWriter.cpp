@@ -33,6 +33,9 @@ std::string PictureWriter::write(const CommandLine& commandLine)
     }
     m_scanner->scan(Url(folder, true));
     m_loop.exec();
+    if (m_problem) {
+        return "cannot scan the folder '" + commandLine.folder + "': " + m_problem.message();
+    }
     return writePng(commandLine);
 }
 
@@ -67,6 +70,12 @@ void PictureWriter::scanEnded(Scanner& scanner)
 
 void PictureWriter::scanCancelled(Scanner& /*scanner*/)
 {
+    m_loop.quit();
+}
+
+void PictureWriter::scanFailed(Scanner& /*scanner*/, const std::error_code& problem)
+{
+    m_problem = problem;
     m_loop.quit();
 }
 

@@ -9,6 +9,7 @@
 
 #include <memory>
 #include <string>
+#include <system_error>
 
 namespace tessera {
 
@@ -28,6 +29,7 @@ public:
     void scanUpdated(Scanner& scanner) override;
     void scanEnded(Scanner& scanner) override;
     void scanCancelled(Scanner& scanner) override;
+    void scanFailed(Scanner& scanner, const std::error_code& problem) override;
 
 private:
     std::string writePng(const CommandLine& commandLine) const;
@@ -36,6 +38,7 @@ private:
     const FileAccess& m_files;
     QEventLoop m_loop;
     std::unique_ptr<TopFolder> m_tree;
+    std::error_code m_problem; ///< why the scan could not begin
 };
 
 } // namespace tessera

@@ -3,6 +3,7 @@
 
 #include "Model/TopFolder.h"
 #include "Model/nodeLookup.h"
+#include "Scanning/ScanProblem.h"
 #include "Scanning/Scanner.h"
 #include "TreeView/TreeMapView.h"
 #include "TreeView/TreeScreen.h"
@@ -12,9 +13,11 @@
 
 namespace tessera {
 
-FolderRescan::FolderRescan(ScanEnvironment environment, TreeMapView& treeView, TreeScreen& screen)
+FolderRescan::FolderRescan(
+    ScanEnvironment environment, TreeMapView& treeView, Alert& alert, TreeScreen& screen)
     : m_environment(std::move(environment))
     , m_treeView(treeView)
+    , m_alert(alert)
     , m_screen(screen)
 {
 }
@@ -121,6 +124,16 @@ void FolderRescan::scanCancelled(Scanner& /*scanner*/)
     m_rescanFolder->setRescanning(false);
     m_rescanFolder = nullptr;
     m_rescanner.reset();
+}
+
+void FolderRescan::scanFailed(Scanner& /*scanner*/, const std::error_code& problem)
+{
+    removeIndicator();
+    Folder& folder = *std::exchange(m_rescanFolder, nullptr);
+    folder.setRescanning(false);
+    m_rescanner.reset();
+    m_screen.renderTree();
+    m_alert.beginSheet(scanProblem(folder.url(), problem));
 }
 
 } // namespace tessera

@@ -13,6 +13,7 @@
 
 namespace tessera {
 
+class Alert;
 class File;
 class Folder;
 class TreeMapView;
@@ -23,7 +24,8 @@ class TreeScreen;
 class FolderRescan final : private ScannerDelegate {
 public:
     /// All must outlive it. The indicator is put on the view.
-    FolderRescan(ScanEnvironment environment, TreeMapView& treeView, TreeScreen& screen);
+    FolderRescan(
+        ScanEnvironment environment, TreeMapView& treeView, Alert& alert, TreeScreen& screen);
     /// Cancels.
     ~FolderRescan() override;
 
@@ -48,6 +50,7 @@ private:
     void scanUpdated(Scanner& scanner) override;
     void scanEnded(Scanner& scanner) override;
     void scanCancelled(Scanner& scanner) override;
+    void scanFailed(Scanner& scanner, const std::error_code& problem) override;
 
     std::optional<Rect> indicatorFrame() const;
     void addIndicator();
@@ -55,6 +58,7 @@ private:
 
     const ScanEnvironment m_environment;
     TreeMapView& m_treeView;
+    Alert& m_alert;
     TreeScreen& m_screen;
     std::shared_ptr<Scanner> m_rescanner;
     Folder* m_rescanFolder = nullptr;

@@ -13,10 +13,12 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <cerrno>
 #include <cmath>
 #include <functional>
 #include <future>
 #include <string>
+#include <system_error>
 #include <thread>
 #include <vector>
 
@@ -24,6 +26,7 @@ namespace tessera {
 namespace {
 
 using testing::ElementsAre;
+using testing::IsEmpty;
 
 struct Update {
     std::string path;
@@ -53,12 +56,19 @@ public:
 
     void scanCancelled(Scanner& /*scanner*/) override { calls.emplace_back("cancelled"); }
 
+    void scanFailed(Scanner& /*scanner*/, const std::error_code& why) override
+    {
+        calls.emplace_back("failed");
+        problem = why;
+    }
+
     bool hasEnded() const { return !calls.empty() && calls.back() == "ended"; }
 
     std::vector<std::string> calls;
     std::vector<Update> updates;
     std::thread::id endedOn;
     std::unique_ptr<TopFolder> tree;
+    std::error_code problem;
 };
 
 /// A scanner in a system of fakes. The clock stands still unless a test turns it.
@@ -436,6 +446,34 @@ TEST_F(ScannerTest, AfterACancelledRunANewOneEndsAloneWithItsOwnTree)
     mainThread.runUntil([this] { return delegate.hasEnded(); });
     EXPECT_THAT(delegate.calls, ElementsAre("cancelled", "ended"));
     EXPECT_EQ(delegate.tree->origin(), "/other");
+}
+
+TEST_F(ScannerTest, WhereThereIsNoThreadForItTheScanFailsWithTheReason)
+{
+    workers = std::make_shared<ScanWorkers>([](const ScanWorkers::Work& /*work*/) {
+        throw std::system_error(EAGAIN, std::generic_category());
+    });
+    Scanner& scanner = scannerOf("a:5");
+    scanner.scan(Url("/data", true));
+    EXPECT_THAT(delegate.calls, IsEmpty()) << "not before scan() has returned";
+    mainThread.runUntil([this] { return !delegate.calls.empty(); });
+    EXPECT_THAT(delegate.calls, ElementsAre("failed"));
+    EXPECT_EQ(delegate.problem, std::errc::resource_unavailable_try_again);
+    workers->waitForNone();
+}
+
+TEST_F(ScannerTest, AFailureOnItsWayWhileTheScanIsCancelledIsDropped)
+{
+    workers = std::make_shared<ScanWorkers>([](const ScanWorkers::Work& /*work*/) {
+        throw std::system_error(EAGAIN, std::generic_category());
+    });
+    Scanner& scanner = scannerOf("a:5");
+    scanner.scan(Url("/data", true));
+    scanner.cancel();
+    bool drained = false;
+    mainThread.perform([&] { drained = true; });
+    mainThread.runUntil([&] { return drained; });
+    EXPECT_THAT(delegate.calls, ElementsAre("cancelled"));
 }
 
 TEST_F(ScannerTest, LogsTheEndWithItsFigures)

@@ -341,6 +341,25 @@ TEST_F(ScanningViewControllerTest, AnyOtherProblemIsToldInTheSystemsWords)
     EXPECT_EQ(told.reason, QString::fromStdString(problem.message()));
 }
 
+TEST_F(ScanningViewControllerTest, AScanThatGetsNoThreadIsSaidToAndCountsAsCancelled)
+{
+    makeScanner("a:1");
+    system->hasThreads = false;
+    controller->startScanning(Url("/Users/me", true));
+    EXPECT_THAT(posted, IsEmpty()) << "who started it is not done with that yet";
+    runUntil([this] { return !posted.empty(); });
+
+    EXPECT_THAT(posted, ElementsAre("cancelled"));
+    ASSERT_EQ(system->alert.told.size(), 1U);
+    EXPECT_EQ(system->alert.told[0].messageText, QStringLiteral("The folder cannot be scanned"));
+    EXPECT_TRUE(system->alert.told[0].informativeText.startsWith(
+        QStringLiteral("The system has no room for one more thread")));
+    EXPECT_TRUE(controller->rootURL().empty());
+    EXPECT_EQ(tile.contentView, nullptr);
+    const auto* indicator = outlet<QProgressBar>("indicator");
+    EXPECT_GT(indicator->maximum(), 0) << "it stands still";
+}
+
 TEST_F(ScanningViewControllerTest, AnEmptyFolderIsScannedAsAnyOther)
 {
     scanToEnd("");

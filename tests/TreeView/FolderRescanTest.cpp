@@ -241,6 +241,19 @@ TEST_F(FolderRescanTest, ASelectionOfWhatVanishedIsTakenAway)
     EXPECT_EQ(controller->selectedFile(), nullptr);
 }
 
+TEST_F(FolderRescanTest, WithoutAThreadForItTheTreeStaysAndTheUserIsTold)
+{
+    services.hasThreads = false;
+    rescan("docs");
+    services.mainThread.runUntil([this] { return !services.alert.told.empty(); });
+    EXPECT_EQ(services.alert.told[0].messageText, QStringLiteral("The folder cannot be scanned"));
+    EXPECT_EQ(indicator(), nullptr);
+    EXPECT_FALSE(folder("docs").rescanning());
+    EXPECT_TRUE(view.findRectForFile(node("docs/a")).has_value());
+    controller->setSelectedFile(&node("docs"));
+    EXPECT_TRUE(controller->validate(TreeCommand::Rescan)) << "it can be tried again";
+}
+
 TEST_F(FolderRescanTest, GoingAwayEndsIt)
 {
     rescan("docs");

@@ -13,9 +13,13 @@
 #include "support/FakeWorkspace.h"
 
 #include <atomic>
+#include <cerrno>
 #include <memory>
 #include <set>
 #include <string>
+#include <system_error>
+#include <thread>
+#include <utility>
 
 namespace tessera::test {
 
@@ -45,7 +49,14 @@ struct FakeTreeViewServices {
     FakeTaskRecord archiver;
     std::set<std::string> targetsInUse;
     FakeMotionPreference motion;
-    std::shared_ptr<ScanWorkers> workers = std::make_shared<ScanWorkers>();
+    std::atomic<bool> hasThreads = true; ///< whether a scan gets a worker
+    std::shared_ptr<ScanWorkers> workers
+        = std::make_shared<ScanWorkers>([this](ScanWorkers::Work work) {
+              if (!hasThreads) {
+                  throw std::system_error(EAGAIN, std::generic_category());
+              }
+              std::thread(std::move(work)).detach();
+          });
     double now = 100;
     std::atomic<double> scanClock = 100;
 
