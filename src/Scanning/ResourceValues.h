@@ -16,8 +16,14 @@ public:
     ResourceValues& operator=(const ResourceValues&) = delete;
     virtual ~ResourceValues() = default;
 
-    /// Whether `path` (bytes) is the root of a mounted file system; false when it cannot be read.
+    /// Whether `path` (bytes) is a directory where a whole file system is mounted. Where only a
+    /// part of one is, a folder or a subvolume, its free and used space are not that place's own.
+    /// False when it cannot be read.
     [[nodiscard]] virtual bool isVolume(const std::string& path) const = 0;
+
+    /// Whether `path` is a directory where something is mounted, be it whole or a part; false when
+    /// it cannot be read.
+    [[nodiscard]] virtual bool isMountPoint(const std::string& path) const = 0;
 
     /// Whether `path` is a directory, or a symbolic link to one; false when it cannot be read.
     [[nodiscard]] virtual bool isDirectory(const std::string& path) const = 0;

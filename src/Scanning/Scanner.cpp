@@ -21,9 +21,9 @@ Scanner::Scanner(ScanEnvironment environment)
 
 Scanner::~Scanner() = default;
 
-void Scanner::scan(const Url& url)
+void Scanner::scan(const Url& url, ScanPurpose purpose)
 {
-    auto run = std::make_shared<Run>(*this, url);
+    auto run = std::make_shared<Run>(*this, url, purpose);
     {
         const std::lock_guard lock(m_mutex);
         if (m_run != nullptr) {

@@ -16,6 +16,12 @@ namespace tessera {
 
 class ScannerDelegate;
 
+/// What is to be made of a scanned directory.
+enum class ScanPurpose : std::uint8_t {
+    NewTree, ///< a tree of its own, with all that a volume has
+    PartOfTree, ///< what takes a folder's place in a tree, made as if the walk had come by there
+};
+
 /// Walks a directory on a worker thread of its own and builds the tree of it. Made, started,
 /// cancelled and dropped on the main thread; it may be dropped right after cancel(), and started
 /// again at any time: what an earlier run still has to say is then dropped.
@@ -34,7 +40,7 @@ public:
     void setDelegate(ScannerDelegate* delegate) { m_delegate = delegate; }
 
     /// Starts a worker on the directory and returns at once.
-    void scan(const Url& url);
+    void scan(const Url& url, ScanPurpose purpose = ScanPurpose::NewTree);
 
     /// Asks the worker to stop, which it does at its next item, and tells the delegate.
     void cancel();

@@ -27,9 +27,10 @@ constexpr std::string_view kBackupStoreName = "Backups.backupdb";
 
 } // namespace
 
-Scanner::Run::Run(Scanner& scanner, Url url)
+Scanner::Run::Run(Scanner& scanner, Url url, ScanPurpose purpose)
     : m_scanner(scanner)
     , m_url(std::move(url))
+    , m_purpose(purpose)
 {
 }
 
@@ -65,16 +66,31 @@ void Scanner::Run::prepare()
     const std::string& home = environment().homeDirectory;
     m_userName = lastPathComponent(home);
     m_hiddenUserName = "." + m_userName;
-    m_isVolume = environment().resourceValues.isVolume(m_url.path());
+    m_isVolume
+        = m_purpose == ScanPurpose::NewTree && environment().resourceValues.isVolume(m_url.path());
     m_mode = m_url.path() == home || !m_isVolume ? Mode::Folder : Mode::Volume;
-    if (m_mode == Mode::Folder) {
+    m_staysEmpty = m_purpose == ScanPurpose::PartOfTree && isMountedInTree();
+    if (m_mode == Mode::Volume) {
+        measureVolume();
+    } else if (!m_staysEmpty) {
         m_levelTotal = _getLevel2Items(m_url.path(), environment().fileManager);
-        return;
     }
+}
+
+void Scanner::Run::measureVolume()
+{
     const FileSystemSizes sizes = environment()
                                       .fileSystemAttributes.attributesOfFileSystem(m_url.path())
                                       .value_or(FileSystemSizes{});
     m_usedBytes = sizes.totalBytes - sizes.freeBytes;
+}
+
+/// Inside a tree nothing that is mounted counts, but an encrypted home, which has a pass of its
+/// own.
+bool Scanner::Run::isMountedInTree() const
+{
+    return m_url.lastPathComponent() != m_userName
+        && environment().resourceValues.isMountPoint(m_url.path());
 }
 
 std::unique_ptr<TopFolder> Scanner::Run::makeRoot() const
@@ -89,8 +105,8 @@ std::unique_ptr<TopFolder> Scanner::Run::makeRoot() const
 TreeBuilder Scanner::Run::walk()
 {
     TreeBuilder tree(makeRoot());
-    if (isStopped()) {
-        // A folder that is slow to open would only hold up the end.
+    // When stopped, a folder that is slow to open would only hold up the end.
+    if (isStopped() || m_staysEmpty) {
         return tree;
     }
     const auto enumerator

@@ -18,7 +18,7 @@ class Volume;
 /// called on another thread.
 class Scanner::Run : public std::enable_shared_from_this<Scanner::Run> {
 public:
-    Run(Scanner& scanner, Url url);
+    Run(Scanner& scanner, Url url, ScanPurpose purpose);
 
     void stop() { _stop = true; }
     bool isStopped() const { return _stop; }
@@ -36,6 +36,8 @@ private:
     enum class Mode : bool { Folder, Volume };
 
     void prepare();
+    void measureVolume();
+    bool isMountedInTree() const;
     TreeBuilder walk();
     void visit(const DirectoryItem& item, DirectoryEnumerator& enumerator, TreeBuilder& tree);
     void visitUpperLevels(
@@ -51,12 +53,14 @@ private:
 
     Scanner& m_scanner; ///< the worker holds it alive
     const Url m_url;
+    const ScanPurpose m_purpose;
     std::atomic<bool> _stop = false;
 
     std::string m_userName; ///< last component of the home directory
     std::string m_hiddenUserName; ///< the same behind a dot
     Mode m_mode = Mode::Folder;
     bool m_isVolume = false;
+    bool m_staysEmpty = false; ///< there is nothing to count nor to walk
     bool m_sawBackupStore = false;
     std::uint64_t m_usedBytes = 0; ///< what a volume's progress is measured against
     double m_levelTotal = 0; ///< what a folder's progress is measured against

@@ -42,7 +42,7 @@ void FolderRescan::rescan(Folder& folder)
     addIndicator();
     m_rescanner = Scanner::create(m_environment);
     m_rescanner->setDelegate(this);
-    m_rescanner->scan(folder.url());
+    m_rescanner->scan(folder.url(), ScanPurpose::PartOfTree);
 }
 
 std::optional<Rect> FolderRescan::indicatorFrame() const

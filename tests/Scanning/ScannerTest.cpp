@@ -206,6 +206,46 @@ TEST_F(ScannerTest, TheHomeFolderGivesATopFolderEvenWhenItIsAVolume)
     EXPECT_EQ(scanToEnd("a:600", "/home/me").type(), NodeType::TopFolder);
 }
 
+TEST_F(ScannerTest, APartOfATreeIsAFolderWhateverIsMountedInThere)
+{
+    resourceValues.mountPoints = {"/data/disk"};
+    Scanner& scanner = scannerOf("disk/ ( a:600 ) b:50");
+    scanner.scan(Url("/data", true), ScanPurpose::PartOfTree);
+    mainThread.runUntil([this] { return delegate.hasEnded(); });
+    EXPECT_EQ(delegate.tree->type(), NodeType::TopFolder);
+    EXPECT_EQ(delegate.tree->totalAllocation(), 650U);
+}
+
+TEST_F(ScannerTest, AVolumeStaysEmptyAsPartOfATree)
+{
+    resourceValues.volumes = {"/data"};
+    Scanner& scanner = scannerOf("a:600");
+    scanner.scan(Url("/data", true), ScanPurpose::PartOfTree);
+    mainThread.runUntil([this] { return delegate.hasEnded(); });
+    EXPECT_EQ(delegate.tree->type(), NodeType::TopFolder);
+    EXPECT_THAT(delegate.tree->children().span(), IsEmpty());
+    EXPECT_THAT(files->enumeratedPaths(), IsEmpty()) << "nor is it looked into";
+}
+
+TEST_F(ScannerTest, AMountedPartOfADiskStaysEmptyAsPartOfATree)
+{
+    resourceValues.mountPoints = {"/data"};
+    Scanner& scanner = scannerOf("a:600");
+    scanner.scan(Url("/data", true), ScanPurpose::PartOfTree);
+    mainThread.runUntil([this] { return delegate.hasEnded(); });
+    EXPECT_EQ(delegate.tree->totalAllocation(), 0U);
+}
+
+TEST_F(ScannerTest, AnEncryptedHomeIsWalkedAsPartOfATreeToo)
+{
+    resourceValues.volumes = {"/data/home/me"};
+    Scanner& scanner = scannerOf("a:600");
+    scanner.scan(Url("/data/home/me", true), ScanPurpose::PartOfTree);
+    mainThread.runUntil([this] { return delegate.hasEnded(); });
+    EXPECT_EQ(delegate.tree->type(), NodeType::TopFolder);
+    EXPECT_EQ(delegate.tree->totalAllocation(), 600U);
+}
+
 TEST_F(ScannerTest, ABackupStoreAtTheTopOfAVolumeIsNotWalked)
 {
     resourceValues.volumes = {"/data"};

@@ -89,6 +89,16 @@ TEST_F(FolderRescanTest, PutsTheNewTreeInTheFoldersPlace)
     EXPECT_TRUE(view.findRectForFile(node("docs")).has_value());
 }
 
+TEST_F(FolderRescanTest, AFolderOnWhichADiskIsMountedNowHoldsNothingAndIsNoDisk)
+{
+    services.resourceValues.volumes = {"/data/docs"};
+    rescan("docs");
+    finish();
+    EXPECT_EQ(node("docs").type(), NodeType::TopFolder);
+    EXPECT_EQ(node("docs").totalAllocation(), 0U);
+    EXPECT_EQ(model.topFolder()->totalAllocation(), 601U);
+}
+
 TEST_F(FolderRescanTest, ShowsTheFolderWithoutItsContentMeanwhile)
 {
     rescan("docs");

@@ -37,6 +37,7 @@ private:
 class FakeResourceValues : public ResourceValues {
 public:
     std::set<std::string> volumes;
+    std::set<std::string> mountPoints; ///< beside the volumes
     std::set<std::string> directories;
     std::map<std::string, std::uint64_t> sizes; ///< of single paths
     std::optional<std::uint64_t> size; ///< of all others
@@ -45,6 +46,11 @@ public:
     [[nodiscard]] bool isVolume(const std::string& path) const override
     {
         return volumes.contains(path);
+    }
+
+    [[nodiscard]] bool isMountPoint(const std::string& path) const override
+    {
+        return mountPoints.contains(path) || isVolume(path);
     }
 
     [[nodiscard]] bool isDirectory(const std::string& path) const override

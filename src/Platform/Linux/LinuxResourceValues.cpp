@@ -14,8 +14,8 @@ StatusResult queryStatus(const std::string& path, LinkMode linkMode)
     return statusAt(AT_FDCWD, path.c_str(), linkMode);
 }
 
-/// Whether the directory is where its file system begins, told from the directory above it where
-/// the kernel does not say so. There a bind mount of the same file system goes unnoticed.
+/// Whether something is mounted at the directory, told from the directory above it where the kernel
+/// does not say so. There a bind mount of the same file system goes unnoticed.
 bool isMountRoot(const FileStatus& directory, const FileStatus& above)
 {
     if (directory.isMountRoot) {
@@ -23,6 +23,17 @@ bool isMountRoot(const FileStatus& directory, const FileStatus& above)
     }
     const bool isRootOfAll = directory.identity == above.identity;
     return isRootOfAll || directory.identity.device != above.identity.device;
+}
+
+/// The status of the directory where something is mounted; nothing of any other path.
+std::optional<FileStatus> mountedDirectory(
+    const LinuxResourceValues::Query& query, const std::string& path)
+{
+    const StatusResult found = query(path, LinkMode::Follow);
+    const StatusResult above = query(path + "/..", LinkMode::Follow);
+    const bool isMounted
+        = found && above && found.status.isDirectory && isMountRoot(found.status, above.status);
+    return isMounted ? std::optional(found.status) : std::nullopt;
 }
 
 } // namespace
@@ -41,14 +52,19 @@ LinuxResourceValues::LinuxResourceValues(
 
 bool LinuxResourceValues::isVolume(const std::string& path) const
 {
-    const auto answer = m_questions->ask<bool>(
-        path, LinkMode::Follow, [query = m_query, path]() -> std::optional<bool> {
-            const StatusResult found = query(path, LinkMode::Follow);
-            const StatusResult above = query(path + "/..", LinkMode::Follow);
-            return found && above && found.status.isDirectory
-                && isMountRoot(found.status, above.status);
-        });
-    return answer.value_or(false);
+    return isMountPoint(path);
+}
+
+bool LinuxResourceValues::isMountPoint(const std::string& path) const
+{
+    return m_questions
+        ->ask<bool>(
+            path,
+            LinkMode::Follow,
+            [query = m_query, path] {
+                return std::optional(mountedDirectory(query, path).has_value());
+            })
+        .value_or(false);
 }
 
 bool LinuxResourceValues::isDirectory(const std::string& path) const

@@ -22,6 +22,9 @@ public:
     /// A symbolic link is followed, as by the walk that starts there.
     [[nodiscard]] bool isVolume(const std::string& path) const override;
 
+    /// Likewise.
+    [[nodiscard]] bool isMountPoint(const std::string& path) const override;
+
     [[nodiscard]] bool isDirectory(const std::string& path) const override;
 
     [[nodiscard]] std::optional<std::uint64_t> allocatedSize(
