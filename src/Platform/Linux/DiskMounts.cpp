@@ -77,6 +77,27 @@ bool hasOption(std::string_view options, std::string_view wanted)
     return false;
 }
 
+/// Whether it shows a whole subvolume that lies in no folder of its file system: what installers
+/// make for the system and the home folders.
+bool isTopSubvolume(const Mount& mount)
+{
+    const bool isInNoFolder = mount.root.rfind('/') == 0;
+    return mount.fileSystemType == "btrfs" && isInNoFolder
+        && hasOption(mount.options, "subvol=" + mount.root);
+}
+
+/// Whether another of the mounts shows what it shows, and more.
+bool isPartOfOneOf(const Mount& mount, const std::vector<const Mount*>& others)
+{
+    if (mount.point == "/" || isTopSubvolume(mount)) {
+        return false;
+    }
+    return std::any_of(others.begin(), others.end(), [&mount](const Mount* other) {
+        return other->device == mount.device && other->root != mount.root
+            && isAtOrInside(mount.root, other->root);
+    });
+}
+
 } // namespace
 
 MountedVolume volumeOf(const Mount& mount)
@@ -91,18 +112,25 @@ MountedVolume volumeOf(const Mount& mount)
 }
 
 std::vector<MountedVolume> diskMounts(
-    const MountTable& mounts, const std::set<std::string>& hiddenPoints)
+    const MountTable& mounts,
+    const std::set<std::string>& hiddenPoints,
+    const std::function<bool(const std::string& point)>& isFile)
 {
-    std::vector<MountedVolume> disks;
-    std::set<std::pair<std::string, std::string>> seen;
+    std::vector<const Mount*> shown;
     for (const Mount& mount : mounts.mounts()) {
         // What is mounted at the same point later covers it.
         const bool isCovered = mounts.mountOf(mount.point, {})->id != mount.id;
-        if (isCovered || !isDisk(mount) || hiddenPoints.contains(mount.point)) {
-            continue;
+        if (!isCovered && isDisk(mount) && !hiddenPoints.contains(mount.point)) {
+            shown.push_back(&mount);
         }
-        if (seen.emplace(mount.device, mount.root).second) {
-            disks.push_back(volumeOf(mount));
+    }
+    std::vector<MountedVolume> disks;
+    std::set<std::pair<std::string, std::string>> seen;
+    for (const Mount* mount : shown) {
+        const bool isFileOrPart
+            = mount->isPart() && (isPartOfOneOf(*mount, shown) || isFile(mount->point));
+        if (!isFileOrPart && seen.emplace(mount->device, mount->root).second) {
+            disks.push_back(volumeOf(*mount));
         }
     }
     return disks;

@@ -4,6 +4,7 @@
 #include "Model/MountedVolumes.h"
 #include "Platform/Linux/MountTable.h"
 
+#include <functional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -12,9 +13,13 @@
 namespace tessera {
 
 /// Those mounts that a user calls a disk: the root, block devices and network shares, each only
-/// once, without what the system mounts for itself and without the hidden points.
+/// once, without what the system mounts for itself and without the hidden points. Of a disk that is
+/// listed no part is, but for subvolumes of the upmost level. `isFile` is asked of mounts that are
+/// a part of something, which may be a single file.
 [[nodiscard]] std::vector<MountedVolume> diskMounts(
-    const MountTable& mounts, const std::set<std::string>& hiddenPoints);
+    const MountTable& mounts,
+    const std::set<std::string>& hiddenPoints,
+    const std::function<bool(const std::string& point)>& isFile);
 
 /// What kind of volume a mount is.
 [[nodiscard]] MountedVolume volumeOf(const Mount& mount);

@@ -36,8 +36,12 @@ std::string contentOf(int file)
 
 } // namespace
 
-LinuxMountedVolumes::LinuxMountedVolumes(const std::string& mountInfo, std::string fstab)
-    : m_mountInfo(::open(mountInfo.c_str(), O_RDONLY | O_CLOEXEC))
+LinuxMountedVolumes::LinuxMountedVolumes(
+    std::shared_ptr<const FileSystemQuestions> questions,
+    const std::string& mountInfo,
+    std::string fstab)
+    : m_questions(std::move(questions))
+    , m_mountInfo(::open(mountInfo.c_str(), O_RDONLY | O_CLOEXEC))
     , m_fstab(std::move(fstab))
 {
 }
@@ -46,7 +50,23 @@ std::vector<MountedVolume> LinuxMountedVolumes::mountedVolumes() const
 {
     std::ifstream file(m_fstab, std::ios::binary);
     const std::string fstab{std::istreambuf_iterator<char>(file), {}};
-    return diskMounts(table(), pointsHiddenInFstab(fstab));
+    return diskMounts(table(), pointsHiddenInFstab(fstab), [this](const std::string& point) {
+        return isFile(point);
+    });
+}
+
+/// What does not answer stays listed.
+bool LinuxMountedVolumes::isFile(const std::string& point) const
+{
+    return m_questions
+        ->ask<bool>(
+            point,
+            LinkMode::Keep,
+            [point]() -> std::optional<bool> {
+                const StatusResult found = statusAt(AT_FDCWD, point.c_str());
+                return found && !found.status.isDirectory;
+            })
+        .value_or(false);
 }
 
 std::optional<MountedVolume> LinuxMountedVolumes::volumeAt(const std::string& path) const

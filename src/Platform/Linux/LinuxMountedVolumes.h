@@ -3,8 +3,10 @@
 
 #include "Model/MountedVolumes.h"
 #include "Platform/Linux/FileDescriptor.h"
+#include "Platform/Linux/FileSystemQuestions.h"
 #include "Platform/Linux/MountTable.h"
 
+#include <memory>
 #include <string>
 
 namespace tessera {
@@ -14,7 +16,9 @@ class LinuxMountedVolumes final : public MountedVolumes {
 public:
     /// Tests pass files of their own.
     explicit LinuxMountedVolumes(
-        const std::string& mountInfo = "/proc/self/mountinfo", std::string fstab = "/etc/fstab");
+        std::shared_ptr<const FileSystemQuestions> questions,
+        const std::string& mountInfo = "/proc/self/mountinfo",
+        std::string fstab = "/etc/fstab");
 
     [[nodiscard]] std::vector<MountedVolume> mountedVolumes() const override;
     [[nodiscard]] std::optional<MountedVolume> volumeAt(const std::string& path) const override;
@@ -23,6 +27,9 @@ private:
     const MountTable& table() const;
     bool hasChanged() const;
 
+    bool isFile(const std::string& point) const;
+
+    std::shared_ptr<const FileSystemQuestions> m_questions;
     FileDescriptor m_mountInfo;
     std::string m_fstab;
     mutable std::optional<MountTable> m_table;

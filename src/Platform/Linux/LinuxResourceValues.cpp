@@ -36,23 +36,41 @@ std::optional<FileStatus> mountedDirectory(
     return isMounted ? std::optional(found.status) : std::nullopt;
 }
 
+/// What is mounted there shows only a part of its file system. What the table does not tell of, as
+/// from inside another root directory, counts as whole.
+bool showsPart(const FileStatus& mounted, const std::string& path, const MountTable& mounts)
+{
+    const std::optional<Mount> mount
+        = mounted.mountId ? mounts.withId(*mounted.mountId) : mounts.mountOf(path, {});
+    return mount && mount->isPart();
+}
+
 } // namespace
 
 LinuxResourceValues::LinuxResourceValues(std::shared_ptr<const FileSystemQuestions> questions)
-    : LinuxResourceValues(std::move(questions), queryStatus)
+    : LinuxResourceValues(std::move(questions), queryStatus, MountTable::ofThisProcess)
 {
 }
 
 LinuxResourceValues::LinuxResourceValues(
-    std::shared_ptr<const FileSystemQuestions> questions, Query query)
+    std::shared_ptr<const FileSystemQuestions> questions, Query query, Mounts mounts)
     : m_questions(std::move(questions))
     , m_query(std::move(query))
+    , m_mounts(std::move(mounts))
 {
 }
 
 bool LinuxResourceValues::isVolume(const std::string& path) const
 {
-    return isMountPoint(path);
+    return m_questions
+        ->ask<bool>(
+            path,
+            LinkMode::Follow,
+            [query = m_query, mounts = m_mounts, path] {
+                const std::optional<FileStatus> mounted = mountedDirectory(query, path);
+                return std::optional(mounted && !showsPart(*mounted, path, mounts()));
+            })
+        .value_or(false);
 }
 
 bool LinuxResourceValues::isMountPoint(const std::string& path) const

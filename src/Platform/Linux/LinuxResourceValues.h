@@ -3,6 +3,7 @@
 
 #include "Platform/Linux/FileStatus.h"
 #include "Platform/Linux/FileSystemQuestions.h"
+#include "Platform/Linux/MountTable.h"
 #include "Scanning/ResourceValues.h"
 
 #include <functional>
@@ -16,8 +17,12 @@ public:
     /// What the system says of a path. Tests pass their own.
     using Query = std::function<StatusResult(const std::string& path, LinkMode linkMode)>;
 
+    /// What is mounted where, now.
+    using Mounts = std::function<MountTable()>;
+
     explicit LinuxResourceValues(std::shared_ptr<const FileSystemQuestions> questions);
-    LinuxResourceValues(std::shared_ptr<const FileSystemQuestions> questions, Query query);
+    LinuxResourceValues(
+        std::shared_ptr<const FileSystemQuestions> questions, Query query, Mounts mounts);
 
     /// A symbolic link is followed, as by the walk that starts there.
     [[nodiscard]] bool isVolume(const std::string& path) const override;
@@ -39,6 +44,7 @@ private:
 
     std::shared_ptr<const FileSystemQuestions> m_questions;
     Query m_query;
+    Mounts m_mounts;
 };
 
 } // namespace tessera

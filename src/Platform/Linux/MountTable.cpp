@@ -37,6 +37,7 @@ std::optional<Mount> mountFrom(std::string_view line)
     while (!line.empty() && takeUntil(line, ' ') != "-") { }
     mount.fileSystemType = takeUntil(line, ' ');
     mount.source = unescapedMountField(takeUntil(line, ' '));
+    mount.options = unescapedMountField(takeUntil(line, ' '));
     const bool isWhole = read.ec == std::errc() && read.ptr == id.data() + id.size();
     return isWhole && mount.point.starts_with('/') ? std::optional(std::move(mount)) : std::nullopt;
 }
@@ -70,6 +71,13 @@ std::optional<Mount> MountTable::mountOf(
         }
     }
     return longest != nullptr ? std::optional(*longest) : std::nullopt;
+}
+
+std::optional<Mount> MountTable::withId(std::uint64_t id) const
+{
+    const auto found = std::find_if(
+        m_mounts.begin(), m_mounts.end(), [id](const Mount& mount) { return mount.id == id; });
+    return found != m_mounts.end() ? std::optional(*found) : std::nullopt;
 }
 
 bool MountTable::hasMountInside(std::string_view folder) const

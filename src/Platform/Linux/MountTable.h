@@ -17,6 +17,10 @@ struct Mount {
     std::string point; ///< absolute path as bytes
     std::string fileSystemType;
     std::string source; ///< what the file system says that it is on: a device's path, a share
+    std::string options; ///< of the file system, for all its mounts alike but btrfs's "subvol"
+
+    /// Whether it shows a folder or subvolume of its file system only.
+    bool isPart() const { return root != "/"; }
 };
 
 /// What is mounted where, as the kernel tells it at one moment.
@@ -36,6 +40,9 @@ public:
     /// and of several at that point the last. With `id`, only the mount of that number: another
     /// may be covered by one mounted higher up later. Nothing when there is none.
     std::optional<Mount> mountOf(std::string_view path, std::optional<std::uint64_t> id) const;
+
+    /// The mount of that number; nothing when it is none that this process sees.
+    std::optional<Mount> withId(std::uint64_t id) const;
 
     /// Whether something is mounted at a place inside the folder.
     bool hasMountInside(std::string_view folder) const;

@@ -67,7 +67,7 @@ PlatformServices makePlatformServices()
         = {std::make_unique<LinuxResourceValues>(prompt),
            std::make_unique<LinuxFileSystemAttributes>(prompt),
            std::make_unique<LinuxFileAccess>(prompt)};
-    services.mountedVolumes = std::make_unique<LinuxMountedVolumes>();
+    services.mountedVolumes = std::make_unique<LinuxMountedVolumes>(prompt);
     services.fileAccess = std::make_unique<LinuxFileAccess>();
     services.fileReader = std::make_shared<LinuxFileReader>();
     services.standardFolders = std::make_unique<LinuxStandardFolders>();

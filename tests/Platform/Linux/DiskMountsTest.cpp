@@ -10,11 +10,15 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+/// All but `file` are directories.
 std::vector<std::string> points(
-    std::string_view mountInfo, const std::set<std::string>& hidden = {})
+    std::string_view mountInfo,
+    const std::set<std::string>& hidden = {},
+    const std::string& file = {})
 {
     std::vector<std::string> result;
-    for (const MountedVolume& volume : diskMounts(MountTable(mountInfo), hidden)) {
+    const auto isFile = [&file](const std::string& point) { return point == file; };
+    for (const MountedVolume& volume : diskMounts(MountTable(mountInfo), hidden, isFile)) {
         result.push_back(volume.url.path());
     }
     return result;
@@ -22,7 +26,9 @@ std::vector<std::string> points(
 
 MountedVolume::Kind kindOf(std::string_view mountInfo)
 {
-    return diskMounts(MountTable(mountInfo), {}).at(0).kind;
+    return diskMounts(MountTable(mountInfo), {}, [](const std::string&) { return false; })
+        .at(0)
+        .kind;
 }
 
 TEST(DiskMounts, AreTheRootDevicesAndShares)
@@ -78,6 +84,57 @@ TEST(DiskMounts, AFolderOfADeviceIsListedOnce)
                "2 1 0:40 /@home /home rw - btrfs /dev/sda1 rw\n"
                "3 1 0:40 /@home /mnt/again rw - btrfs /dev/sda1 rw\n"),
         ElementsAre("/", "/home"));
+}
+
+TEST(DiskMounts, FoldersOfAListedDiskThatAreMountedElsewhereAreNone)
+{
+    EXPECT_THAT(
+        points("1 0 8:1 / / rw - ext4 /dev/sda1 rw\n"
+               "2 1 8:1 /home/me/files /srv/files rw - ext4 /dev/sda1 rw\n"
+               "3 1 8:2 /pictures /srv/pictures rw - ext4 /dev/sda2 rw\n"
+               "4 1 8:2 /pictures/old /srv/old rw - ext4 /dev/sda2 rw\n"
+               "5 1 8:2 /pictures-new /srv/new rw - ext4 /dev/sda2 rw\n"),
+        ElementsAre("/", "/srv/pictures", "/srv/new"));
+}
+
+TEST(DiskMounts, AFolderOfADiskThatIsNotListedIsADisk)
+{
+    EXPECT_THAT(
+        points(
+            "1 0 8:1 / /backup rw - ext4 /dev/sda1 rw\n"
+            "2 0 8:1 /home /home rw - ext4 /dev/sda1 rw\n",
+            {"/backup"}),
+        ElementsAre("/home"));
+}
+
+TEST(DiskMounts, TheRootIsOneWhateverElseShowsIt)
+{
+    EXPECT_THAT(
+        points("1 0 8:1 /guest / rw - ext4 /dev/sda1 rw\n"
+               "2 1 8:1 / /mnt/host rw - ext4 /dev/sda1 rw\n"),
+        ElementsAre("/", "/mnt/host"));
+}
+
+TEST(DiskMounts, SubvolumesAreDisksWhereNoFolderHoldsThem)
+{
+    EXPECT_THAT(
+        points("1 0 0:40 /@ / rw - btrfs /dev/sda1 rw,subvolid=256,subvol=/@\n"
+               "2 1 0:40 /@home /home rw - btrfs /dev/sda1 rw,subvolid=257,subvol=/@home\n"
+               "3 1 0:40 / /mnt/all rw - btrfs /dev/sda1 rw,subvolid=5,subvol=/\n"
+               "4 1 0:40 /@home/me /mnt/me rw - btrfs /dev/sda1 rw,subvolid=9,subvol=/@home/me\n"
+               "5 1 0:40 /folder /mnt/f rw - btrfs /dev/sda1 rw,subvolid=5,subvol=/\n"),
+        ElementsAre("/", "/home", "/mnt/all"));
+}
+
+TEST(DiskMounts, AMountedFileIsNone)
+{
+    EXPECT_THAT(
+        points(
+            "1 0 8:1 /files/a /srv/a rw - ext4 /dev/sda1 rw\n"
+            "2 0 8:1 /files/b /srv/b rw - ext4 /dev/sda1 rw\n",
+            {},
+            "/srv/a"),
+        ElementsAre("/srv/b"));
 }
 
 TEST(DiskMounts, OfTwoAtOnePointTheLaterCounts)

@@ -8,13 +8,20 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <fstream>
+#include <memory>
 
 namespace tessera::test {
 namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+
+std::shared_ptr<const FileSystemQuestions> questions()
+{
+    return std::make_shared<const FileSystemQuestions>(std::chrono::minutes(1));
+}
 
 class LinuxMountedVolumesTest : public testing::Test {
 protected:
@@ -35,7 +42,7 @@ protected:
 TEST_F(LinuxMountedVolumesTest, AreThoseOfTheTableThatAreNotHidden)
 {
     const LinuxMountedVolumes volumes(
-        m_table, write("fstab", "/dev/sda2 /data ext4 x-gvfs-hide\n"));
+        questions(), m_table, write("fstab", "/dev/sda2 /data ext4 x-gvfs-hide\n"));
     EXPECT_THAT(
         volumes.mountedVolumes(),
         ElementsAre(MountedVolume{Url("/", true), MountedVolume::Kind::Disk}));
@@ -43,7 +50,7 @@ TEST_F(LinuxMountedVolumesTest, AreThoseOfTheTableThatAreNotHidden)
 
 TEST_F(LinuxMountedVolumesTest, AVolumeIsKnownByItsPoint)
 {
-    const LinuxMountedVolumes volumes(m_table, "/no/such/fstab");
+    const LinuxMountedVolumes volumes(questions(), m_table, "/no/such/fstab");
     EXPECT_TRUE(volumes.volumeAt("/data").has_value());
     EXPECT_TRUE(volumes.volumeAt("/proc").has_value()) << "though no disk";
     EXPECT_FALSE(volumes.volumeAt("/data/folder").has_value());
@@ -51,9 +58,27 @@ TEST_F(LinuxMountedVolumesTest, AVolumeIsKnownByItsPoint)
 
 TEST_F(LinuxMountedVolumesTest, WithoutATableThereAreNone)
 {
-    const LinuxMountedVolumes volumes("/no/such/table", "/no/such/fstab");
+    const LinuxMountedVolumes volumes(questions(), "/no/such/table", "/no/such/fstab");
     EXPECT_THAT(volumes.mountedVolumes(), IsEmpty());
     EXPECT_FALSE(volumes.volumeAt("/").has_value());
+}
+
+TEST_F(LinuxMountedVolumesTest, AFileOnWhichAnotherIsMountedIsNoDisk)
+{
+    m_tree.makeFile("file");
+    m_tree.makeFolder("folder");
+    const LinuxMountedVolumes volumes(
+        questions(),
+        write(
+            "parts",
+            "1 0 8:1 /a " + m_tree.pathOf("file")
+                + " rw - ext4 /dev/sda1 rw\n"
+                  "2 0 8:1 /b "
+                + m_tree.pathOf("folder") + " rw - ext4 /dev/sda1 rw\n"),
+        "/no/such/fstab");
+    EXPECT_THAT(
+        volumes.mountedVolumes(),
+        ElementsAre(MountedVolume{Url(m_tree.pathOf("folder"), true), MountedVolume::Kind::Disk}));
 }
 
 TEST_F(LinuxMountedVolumesTest, WhatIsMountedLaterIsSeen)
@@ -62,7 +87,7 @@ TEST_F(LinuxMountedVolumesTest, WhatIsMountedLaterIsSeen)
         GTEST_SKIP() << "this process may not mount";
     }
     m_tree.makeFolder("disk");
-    const LinuxMountedVolumes volumes("/proc/self/mountinfo", "/no/such/fstab");
+    const LinuxMountedVolumes volumes(questions(), "/proc/self/mountinfo", "/no/such/fstab");
     EXPECT_FALSE(volumes.volumeAt(m_tree.pathOf("disk")).has_value());
     OwnMounts mounts;
     mounts.mountMemory(m_tree.pathOf("disk"));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/LinuxResourceValues.h"
 
+#include "support/OwnMounts.h"
 #include "support/TempTree.h"
 
 #include <fcntl.h>
@@ -41,14 +42,71 @@ std::shared_ptr<const FileSystemQuestions> questions()
     return std::make_shared<const FileSystemQuestions>(std::chrono::minutes(1));
 }
 
-TEST(LinuxResourceValues, TheRootIsAVolumeWhereItIsAMount)
+MountTable noMounts()
 {
-    EXPECT_EQ(LinuxResourceValues(questions()).isVolume("/"), isListedMount("/"));
+    return MountTable("");
+}
+
+TEST(LinuxResourceValues, TheRootIsAMountPointWhereItIsAMount)
+{
+    EXPECT_EQ(LinuxResourceValues(questions()).isMountPoint("/"), isListedMount("/"));
 }
 
 TEST(LinuxResourceValues, AMountIsAVolume)
 {
     EXPECT_TRUE(LinuxResourceValues(questions()).isVolume("/proc"));
+}
+
+TEST(LinuxResourceValues, AFolderThatIsMountedElsewhereIsAMountPointAndNoVolume)
+{
+    if (!OwnMounts::enter()) {
+        GTEST_SKIP() << "this process may not mount";
+    }
+    const TempTree tree;
+    tree.makeFolder("disk");
+    tree.makeFolder("part");
+    tree.makeSymbolicLink("link", "part");
+    OwnMounts mounts;
+    mounts.mountMemory(tree.pathOf("disk"));
+    tree.makeFolder("disk/folder");
+    mounts.bind(tree.pathOf("disk/folder"), tree.pathOf("part"));
+    const LinuxResourceValues values(questions());
+    EXPECT_TRUE(values.isVolume(tree.pathOf("disk")));
+    EXPECT_TRUE(values.isMountPoint(tree.pathOf("disk")));
+    EXPECT_FALSE(values.isVolume(tree.pathOf("part")));
+    EXPECT_TRUE(values.isMountPoint(tree.pathOf("part")));
+    EXPECT_FALSE(values.isVolume(tree.pathOf("link"))) << "which leads there";
+    EXPECT_FALSE(values.isMountPoint(tree.pathOf("disk/folder")));
+}
+
+TEST(LinuxResourceValues, AWholeDiskThatIsMountedTwiceIsAVolumeInBothPlaces)
+{
+    if (!OwnMounts::enter()) {
+        GTEST_SKIP() << "this process may not mount";
+    }
+    const TempTree tree;
+    tree.makeFolder("disk");
+    tree.makeFolder("again");
+    OwnMounts mounts;
+    mounts.mountMemory(tree.pathOf("disk"));
+    mounts.bind(tree.pathOf("disk"), tree.pathOf("again"));
+    EXPECT_TRUE(LinuxResourceValues(questions()).isVolume(tree.pathOf("again")));
+}
+
+TEST(LinuxResourceValues, OnOldKernelsThePathTellsWhichMountItIs)
+{
+    const auto query = [](const std::string& path, LinkMode) {
+        StatusResult result;
+        result.status.isDirectory = true;
+        result.status.identity = {path.starts_with("/mnt/") && !path.ends_with("..") ? 2U : 1U, 5};
+        return result;
+    };
+    const LinuxResourceValues values(questions(), query, [] {
+        return MountTable("1 0 8:1 / /mnt/disk rw - ext4 /dev/sda1 rw\n"
+                          "2 0 8:1 /@home /mnt/part rw - ext4 /dev/sda1 rw\n");
+    });
+    EXPECT_TRUE(values.isVolume("/mnt/disk"));
+    EXPECT_FALSE(values.isVolume("/mnt/part"));
 }
 
 TEST(LinuxResourceValues, AFolderIsNone)
@@ -75,12 +133,15 @@ TEST(LinuxResourceValues, AFolderAndALinkToOneAreDirectories)
 
 TEST(LinuxResourceValues, OnOldKernelsADeviceOfItsOwnMakesAVolume)
 {
-    const LinuxResourceValues values(questions(), [](const std::string& path, LinkMode) {
-        StatusResult result;
-        result.status.isDirectory = true;
-        result.status.identity = {path == "/mnt" ? 2U : 1U, 5};
-        return result;
-    });
+    const LinuxResourceValues values(
+        questions(),
+        [](const std::string& path, LinkMode) {
+            StatusResult result;
+            result.status.isDirectory = true;
+            result.status.identity = {path == "/mnt" ? 2U : 1U, 5};
+            return result;
+        },
+        noMounts);
     EXPECT_TRUE(values.isVolume("/mnt"));
     EXPECT_TRUE(values.isVolume("/")) << "it is its own parent";
 }
@@ -131,7 +192,8 @@ TEST(LinuxResourceValues, AFileSystemThatDoesNotAnswerHasNoValues)
         [released](const std::string&, LinkMode) {
             released.wait();
             return StatusResult{};
-        });
+        },
+        noMounts);
     EXPECT_FALSE(values.isVolume("/"));
     EXPECT_FALSE(values.allocatedSize("/").has_value());
     release->set_value();
