@@ -8,6 +8,7 @@
 #include "Scanning/ScannerDelegate.h"
 #include "Utils/Log.h"
 
+#include "Utils/decimals.h"
 #include <algorithm>
 #include <cinttypes>
 #include <utility>
@@ -17,6 +18,8 @@ namespace tessera {
 namespace {
 
 constexpr double kReportIntervalSeconds = 0.1;
+
+constexpr int kTimeDecimals = 4;
 
 /// Progress in a folder is counted in the items of this many levels.
 constexpr unsigned kCountedLevels = 2;
@@ -206,9 +209,9 @@ void Scanner::Run::finish(TreeBuilder& tree)
     const std::string path = tree.root().absolutePath();
     m_scanner.publishTopFolder(*this, tree.takeRoot());
     logLine(
-        "Scan Complete: %s {time: %0.4f, objects: %" PRIu64 ", allocation size: %" PRIu64 "}",
+        "Scan Complete: %s {time: %s, objects: %" PRIu64 ", allocation size: %" PRIu64 "}",
         path.c_str(),
-        environment().clock() - m_startTime,
+        decimals(environment().clock() - m_startTime, kTimeDecimals).c_str(),
         m_objectsRead,
         m_allocationRead);
 }

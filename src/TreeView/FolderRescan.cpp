@@ -8,10 +8,17 @@
 #include "TreeView/TreeMapView.h"
 #include "TreeView/TreeScreen.h"
 #include "Utils/Log.h"
+#include "Utils/decimals.h"
 
 #include <utility>
 
 namespace tessera {
+
+namespace {
+
+constexpr int kPercentDecimals = 6;
+
+} // namespace
 
 FolderRescan::FolderRescan(
     ScanEnvironment environment, TreeMapView& treeView, Alert& alert, TreeScreen& screen)
@@ -94,7 +101,7 @@ void FolderRescan::scanUpdated(Scanner& scanner)
 {
     if (m_rescanIndicator != nullptr) {
         const double percent = scanner.percentComplete();
-        logLine("percent %f", percent);
+        logLine("percent %s", decimals(percent, kPercentDecimals).c_str());
         m_rescanIndicator->setValue(percent);
     }
 }

@@ -7,10 +7,10 @@
 #include "Model/Volume.h"
 #include "Utils/UserAccount.h"
 #include "Utils/Workspace.h"
+#include "Utils/decimals.h"
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cstdio>
 #include <cstdlib>
 #include <string_view>
@@ -22,16 +22,6 @@ namespace {
 constexpr double kUnitBase = 1000.0;
 constexpr std::array<std::string_view, 5> kUnits{"B", "KB", "MB", "GB", "TB"};
 constexpr std::size_t kFirstUnitWithDecimal = 2;
-
-std::string decimals(double value, int precision)
-{
-    // The largest count of bytes, in terabytes, has 8 digits and a decimal. Not printf, which
-    // would write the decimal sign of the user's locale.
-    std::array<char, 32> text{};
-    const auto result = std::to_chars(
-        text.data(), text.data() + text.size(), value, std::chars_format::fixed, precision);
-    return {text.data(), result.ptr};
-}
 
 /// A node that stands for space, not for a file, lies nowhere.
 bool hasPath(const File& file)
