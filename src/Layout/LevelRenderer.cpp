@@ -4,6 +4,7 @@
 #include "Layout/LayoutBuilder.h"
 #include "Layout/MultiLayoutObject.h"
 #include "Model/Folder.h"
+#include "Model/allocation.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -57,7 +58,7 @@ public:
 
     void add(File& file)
     {
-        m_total += file.totalAllocation();
+        m_total = saturatingSum(m_total, file.totalAllocation());
         m_candidates.push_back({file.totalAllocation(), &file});
     }
 

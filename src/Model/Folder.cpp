@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "Model/Folder.h"
 
+#include "Model/allocation.h"
+
 #include <algorithm>
 #include <array>
 #include <cassert>
+#include <numeric>
 #include <random>
 #include <vector>
 
@@ -34,6 +37,33 @@ void shuffle(HueTable& table)
     }
 }
 
+/// Of such a total nothing is known but that the true one is larger, so no difference helps. A
+/// volume's comes from the file system.
+bool isCutOff(const Folder& folder)
+{
+    return folder.totalAllocation() == kMaxAllocation && folder.type() != NodeType::Volume;
+}
+
+std::uint64_t sumOfChildren(const Folder& folder)
+{
+    const ChildArray& children = folder.children();
+    return std::accumulate(
+        children.begin(),
+        children.end(),
+        std::uint64_t{0},
+        [](std::uint64_t sum, const File* child) {
+            return saturatingSum(sum, child->totalAllocation());
+        });
+}
+
+/// `delta` is the difference of two sizes, modulo 2^64.
+std::uint64_t changedBy(std::uint64_t total, std::uint64_t delta)
+{
+    const bool isLess = delta > kMaxAllocation;
+    return isLess ? saturatingDifference(total, std::uint64_t{0} - delta)
+                  : saturatingSum(total, delta);
+}
+
 } // namespace
 
 File& Folder::addChild(std::unique_ptr<File> child)
@@ -42,7 +72,7 @@ File& Folder::addChild(std::unique_ptr<File> child)
     m_children.append(added);
     child.release(); // NOLINT(bugprone-unused-return-value): the array has it now
     added->setParent(this);
-    setTotalAllocation(totalAllocation() + added->totalAllocation());
+    setTotalAllocation(saturatingSum(totalAllocation(), added->totalAllocation()));
     if (auto* folder = nodeCast<Folder>(added)) {
         folder->sort();
         folder->m_children.settle();
@@ -92,7 +122,9 @@ std::vector<std::unique_ptr<File>> Folder::takeChildren()
 void Folder::spread(std::uint64_t delta)
 {
     for (Folder* folder = this; folder != nullptr; folder = folder->parent()) {
-        folder->setTotalAllocation(folder->totalAllocation() + delta);
+        folder->setTotalAllocation(
+            isCutOff(*folder) ? sumOfChildren(*folder)
+                              : changedBy(folder->totalAllocation(), delta));
         folder->sort();
     }
 }

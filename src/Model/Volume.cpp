@@ -2,8 +2,10 @@
 #include "Model/Volume.h"
 
 #include "Model/FileSystemAttributes.h"
+#include "Model/allocation.h"
 #include "Utils/Log.h"
 
+#include <algorithm>
 #include <cinttypes>
 
 namespace tessera {
@@ -26,8 +28,8 @@ void Volume::refreshVolume(const FileSystemSizes& sizes)
         "Volume Report { Total Size: %" PRIu64 ", Free Size: %" PRIu64 " }",
         sizes.totalBytes,
         sizes.freeBytes);
-    m_freeSize = sizes.freeBytes;
-    m_volumeSize = sizes.totalBytes;
+    m_volumeSize = std::min(sizes.totalBytes, kMaxAllocation);
+    m_freeSize = std::min(sizes.freeBytes, m_volumeSize);
 
     const std::uint64_t found = foundAllocation();
     logLine("Scan report { Found Size: %" PRIu64 " }", found);
@@ -48,7 +50,7 @@ std::uint64_t Volume::foundAllocation() const
     std::uint64_t found = 0;
     for (const File* child : children()) {
         if (child->type() != NodeType::Unknown && child->type() != NodeType::FreeSpace) {
-            found += child->totalAllocation();
+            found = saturatingSum(found, child->totalAllocation());
         }
     }
     return found;

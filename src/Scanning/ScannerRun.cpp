@@ -4,12 +4,13 @@
 #include "Model/FileSystemAttributes.h"
 #include "Model/TimeMachine.h"
 #include "Model/Volume.h"
+#include "Model/allocation.h"
 #include "Scanning/ResourceValues.h"
 #include "Scanning/ScannerDelegate.h"
 #include "Utils/Log.h"
 
 #include "Utils/decimals.h"
-#include <algorithm>
+
 #include <cinttypes>
 #include <utility>
 
@@ -85,7 +86,7 @@ void Scanner::Run::measureVolume()
     const FileSystemSizes sizes = environment()
                                       .fileSystemAttributes.attributesOfFileSystem(m_url.path())
                                       .value_or(FileSystemSizes{});
-    m_usedBytes = sizes.totalBytes - sizes.freeBytes;
+    m_usedBytes = saturatingDifference(sizes.totalBytes, sizes.freeBytes);
 }
 
 /// Inside a tree nothing that is mounted counts, but an encrypted home, which has a pass of its
@@ -129,7 +130,7 @@ void Scanner::Run::visit(
     }
     tree.add(item);
     if (!item.isDirectory) {
-        m_allocationRead += item.allocatedBytes;
+        m_allocationRead = saturatingSum(m_allocationRead, item.allocatedBytes);
     }
     ++m_objectsRead;
     reportIfDue(item, tree);
@@ -191,7 +192,7 @@ void Scanner::Run::addBackups(Volume& volume) const
 {
     auto backups = makeNode<TimeMachine>({});
     // Hard links count at each of their places, so a walk may find more than is in use.
-    backups->setTotalAllocation(m_usedBytes - std::min(m_usedBytes, m_allocationRead));
+    backups->setTotalAllocation(saturatingDifference(m_usedBytes, m_allocationRead));
     volume.addChild(std::move(backups));
 }
 

@@ -2,6 +2,7 @@
 #include "Scanning/TreeBuilder.h"
 
 #include "Model/Document.h"
+#include "Model/allocation.h"
 
 #include <algorithm>
 #include <utility>
@@ -23,7 +24,7 @@ void TreeBuilder::add(const DirectoryItem& item)
         return;
     }
     auto document = makeNode<Document>(item.name);
-    document->setTotalAllocation(item.allocatedBytes);
+    document->setTotalAllocation(std::min(item.allocatedBytes, kMaxAllocation));
     document->setHidden(item.isHidden);
     current().addChild(std::move(document));
 }

@@ -51,6 +51,41 @@ TEST(Folder, AddChildRaisesOnlyThisFoldersTotal)
     EXPECT_EQ(outer->totalAllocation(), 500U);
 }
 
+constexpr std::uint64_t kLargest = 0x7FFF'FFFF'FFFF'FFFF; // 2^63 - 1 bytes
+
+TEST(Folder, ATotalThatIsTooLargeStopsAtTheLargestSize)
+{
+    auto folder = makeNode<Folder>("f");
+    for (const char* name : {"a", "b", "c"}) {
+        folder->addChild(document(name, kLargest));
+    }
+    folder->addChild(document("d", 3));
+    EXPECT_EQ(folder->totalAllocation(), kLargest);
+}
+
+TEST(Folder, WhatIsLeftOfATotalThatWasTooLargeIsKnown)
+{
+    auto outer = makeNode<Folder>("outer");
+    auto folder = makeNode<Folder>("f");
+    File& large = folder->addChild(document("a", kLargest));
+    folder->addChild(document("b", 7));
+    auto& inner = static_cast<Folder&>(outer->addChild(std::move(folder)));
+    outer->addChild(document("c", 5));
+    inner.removeChild(large);
+    EXPECT_EQ(inner.totalAllocation(), 7U);
+    EXPECT_EQ(outer->totalAllocation(), 12U);
+}
+
+TEST(Folder, InsertingAndReplacingStopAtTheLargestSizeToo)
+{
+    auto folder = makeNode<Folder>("f");
+    File& small = folder->addChild(document("a", 10));
+    folder->insertChild(document("b", kLargest));
+    EXPECT_EQ(folder->totalAllocation(), kLargest);
+    folder->replaceChild(small, document("a", kLargest - 1));
+    EXPECT_EQ(folder->totalAllocation(), kLargest);
+}
+
 TEST(Folder, AddChildSetsTheParentAndAppends)
 {
     auto folder = makeNode<Folder>("f");

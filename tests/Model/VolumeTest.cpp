@@ -94,6 +94,18 @@ TEST(Volume, ARefreshAfterADeletionFollowsTheFileSystem)
     EXPECT_EQ(volume->unreadFile().totalAllocation(), 100U);
 }
 
+TEST(Volume, WhatWasUnaccountedForIsNotFoundByALaterRefresh)
+{
+    const auto volume = volumeHolding(550);
+    volume->refreshVolume(FixedFileSystem(FileSystemSizes{1000, 300}));
+    testing::internal::CaptureStderr();
+    volume->refreshVolume(FixedFileSystem(FileSystemSizes{1000, 350}));
+    EXPECT_EQ(
+        testing::internal::GetCapturedStderr(),
+        "Volume Report { Total Size: 1000, Free Size: 350 }\n"
+        "Scan report { Found Size: 550 }\n");
+}
+
 TEST(Volume, IgnoredChildrenAndABackupStoreCountAsFound)
 {
     const auto volume = volumeHolding(400);
@@ -103,6 +115,22 @@ TEST(Volume, IgnoredChildrenAndABackupStoreCountAsFound)
     volume->addChild(std::move(backups));
     volume->refreshVolume(FixedFileSystem(FileSystemSizes{1000, 300}));
     EXPECT_EQ(volume->unreadFile().totalAllocation(), 100U);
+}
+
+TEST(Volume, SizesThatNoDiskHasStopAtTheLargest)
+{
+    const auto volume = volumeHolding(600);
+    volume->refreshVolume(FixedFileSystem(FileSystemSizes{0xFFFF'FFFF'FFFF'FFFF, 1000}));
+    EXPECT_EQ(volume->volumeSize(), 0x7FFF'FFFF'FFFF'FFFFU);
+    EXPECT_EQ(volume->totalAllocation(), 0x7FFF'FFFF'FFFF'FFFFU - 1000U);
+}
+
+TEST(Volume, ADiskWithMoreFreeThanThereIsHasNothingInUse)
+{
+    const auto volume = volumeHolding(600);
+    volume->refreshVolume(FixedFileSystem(FileSystemSizes{1000, 1300}));
+    EXPECT_EQ(volume->totalAllocation(), 0U);
+    EXPECT_EQ(volume->freeFile().totalAllocation(), 1000U);
 }
 
 TEST(Volume, MissingSizesReadAsZeroAndKeepTheUnaccountedFigure)

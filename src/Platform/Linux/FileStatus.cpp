@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/FileStatus.h"
 
+#include "Model/allocation.h"
+
 #include <fcntl.h>
 #include <linux/openat2.h>
 #include <linux/stat.h>
@@ -32,7 +34,7 @@ FileStatus fromStatx(const struct statx& values)
     status.owner = values.stx_uid;
     status.group = values.stx_gid;
     status.length = values.stx_size;
-    status.allocatedBytes = values.stx_blocks * kBytesPerBlock;
+    status.allocatedBytes = saturatingProduct(values.stx_blocks, kBytesPerBlock);
     status.modified = values.stx_mtime.tv_sec;
     if ((values.stx_mask & STATX_MNT_ID) != 0) {
         status.mountId = values.stx_mnt_id;
@@ -54,7 +56,8 @@ FileStatus fromStat(const struct stat& values)
     status.owner = values.st_uid;
     status.group = values.st_gid;
     status.length = static_cast<std::uint64_t>(values.st_size);
-    status.allocatedBytes = static_cast<std::uint64_t>(values.st_blocks) * kBytesPerBlock;
+    status.allocatedBytes
+        = saturatingProduct(static_cast<std::uint64_t>(values.st_blocks), kBytesPerBlock);
     status.modified = values.st_mtim.tv_sec;
     return status;
 }

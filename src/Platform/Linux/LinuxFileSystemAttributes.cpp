@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/LinuxFileSystemAttributes.h"
 
+#include "Model/allocation.h"
+
 #include <sys/statvfs.h>
 
 #include <cerrno>
@@ -21,8 +23,8 @@ int queryStatvfs(const std::string& path, FileSystemSizes& sizes)
         return errno;
     }
     // f_bfree, not f_bavail: what is reserved for the super-user is not used space.
-    sizes.totalBytes = std::uint64_t{values.f_blocks} * values.f_frsize;
-    sizes.freeBytes = std::uint64_t{values.f_bfree} * values.f_frsize;
+    sizes.totalBytes = saturatingProduct(values.f_blocks, values.f_frsize);
+    sizes.freeBytes = saturatingProduct(values.f_bfree, values.f_frsize);
     return 0;
 }
 
