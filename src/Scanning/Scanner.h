@@ -60,7 +60,7 @@ public:
     TopFolder* topFolder() const;
     std::unique_ptr<TopFolder> takeTopFolder();
 
-    /// Home folders met that are volumes of their own.
+    /// Home folders met that are mounted there and therefore empty in the tree.
     std::vector<Url> fileVaults() const;
 
 private:

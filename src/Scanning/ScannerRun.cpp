@@ -8,7 +8,6 @@
 #include "Scanning/ResourceValues.h"
 #include "Scanning/ScannerDelegate.h"
 #include "Utils/Log.h"
-
 #include "Utils/decimals.h"
 
 #include <cinttypes>
@@ -145,7 +144,7 @@ void Scanner::Run::visitUpperLevels(
     }
     if (item.isDirectory && item.name == m_userName) {
         const std::string path = tree.pathOf(item.level, item.name);
-        if (environment().resourceValues.isVolume(path)) {
+        if (environment().resourceValues.isMountPoint(path)) {
             m_scanner.addFileVault(*this, Url(path, true));
         }
     }

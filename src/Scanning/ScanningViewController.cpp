@@ -16,6 +16,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 
+#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -29,19 +30,6 @@ template <typename View>
 View* outlet(const QWidget& view, const char* name)
 {
     return view.findChild<View*>(QString::fromLatin1(name));
-}
-
-/// A folder with what the scan found in the encrypted home. The space that is free there is free
-/// on the volume around it as well and must not count twice.
-std::unique_ptr<Folder> homeFolder(TopFolder& root)
-{
-    auto folder = makeNode<Folder>(root.fragment());
-    for (std::unique_ptr<File>& child : root.takeChildren()) {
-        if (child->type() != NodeType::FreeSpace) {
-            folder->addChild(std::move(child));
-        }
-    }
-    return folder;
 }
 
 } // namespace
@@ -113,13 +101,11 @@ void ScanningViewController::scanEnded(Scanner& scanner)
 {
     stopAnimation();
     const Url scanned = std::exchange(m_rootURL, {});
-    const std::vector<Url> encryptedHomes = scanner.fileVaults();
-    if (!encryptedHomes.empty()) {
-        m_fileVault = scanner.takeTopFolder();
-        startScanning(encryptedHomes.front());
+    if (const std::optional<Url> home = m_homePass.nextScan(scanner)) {
+        startScanning(*home);
         return;
     }
-    std::unique_ptr<TopFolder> tree = withEncryptedHome(scanner.takeTopFolder());
+    std::unique_ptr<TopFolder> tree = m_homePass.takeTree(scanner);
     if (tree->children().empty()) {
         if (const std::error_code problem = m_services.checkFolder(scanned.path())) {
             m_services.alert.beginSheet(scanProblem(scanned, problem));
@@ -175,19 +161,6 @@ void ScanningViewController::startAnimation()
 void ScanningViewController::stopAnimation()
 {
     m_indicator->setRange(0, kProgressSteps);
-}
-
-std::unique_ptr<TopFolder> ScanningViewController::withEncryptedHome(
-    std::unique_ptr<TopFolder> home)
-{
-    if (m_fileVault == nullptr) {
-        return home;
-    }
-    File* const place = Util::locateURL(home->url(), *m_fileVault);
-    if (place != nullptr && place->parent() != nullptr) {
-        place->parent()->replaceChild(*place, homeFolder(*home));
-    }
-    return std::move(m_fileVault);
 }
 
 } // namespace tessera

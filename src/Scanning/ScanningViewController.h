@@ -5,6 +5,7 @@
 #include "Model/Url.h"
 #include "Scanning/DockImage.h"
 #include "Scanning/FileRate.h"
+#include "Scanning/HomePass.h"
 #include "Scanning/PlaceLook.h"
 #include "Scanning/ScanEnvironment.h"
 #include "Scanning/ScannerDelegate.h"
@@ -67,7 +68,7 @@ public:
     /// What is being scanned; empty when nothing is.
     const Url& rootURL() const { return m_rootURL; }
     /// The home folder's surroundings, while an encrypted home folder is scanned in a second pass.
-    const TopFolder* fileVault() const { return m_fileVault.get(); }
+    const TopFolder* fileVault() const { return m_homePass.surroundings(); }
     const DockImage& dockImage() const { return m_dockImage; }
 
 private:
@@ -80,7 +81,6 @@ private:
     void showPath(const Url& current);
     void startAnimation();
     void stopAnimation();
-    std::unique_ptr<TopFolder> withEncryptedHome(std::unique_ptr<TopFolder> home);
 
     RootModel& m_model;
     const ScanningServices m_services;
@@ -96,7 +96,7 @@ private:
     FileRate m_rate;
     std::shared_ptr<Scanner> m_scanner;
     Url m_rootURL;
-    std::unique_ptr<TopFolder> m_fileVault;
+    HomePass m_homePass;
 };
 
 } // namespace tessera

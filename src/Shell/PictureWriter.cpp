@@ -9,6 +9,7 @@
 #include <QBuffer>
 #include <QImage>
 
+#include <optional>
 #include <string_view>
 
 namespace tessera {
@@ -64,7 +65,11 @@ void PictureWriter::scanUpdated(Scanner& /*scanner*/) { }
 
 void PictureWriter::scanEnded(Scanner& scanner)
 {
-    m_tree = scanner.takeTopFolder();
+    if (const std::optional<Url> home = m_homePass.nextScan(scanner)) {
+        scanner.scan(*home);
+        return;
+    }
+    m_tree = m_homePass.takeTree(scanner);
     m_loop.quit();
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Scanning/HomePass.h"
 #include "Scanning/Scanner.h"
 #include "Scanning/ScannerDelegate.h"
 #include "Shell/CommandLine.h"
@@ -37,6 +38,7 @@ private:
     std::shared_ptr<Scanner> m_scanner;
     const FileAccess& m_files;
     QEventLoop m_loop;
+    HomePass m_homePass;
     std::unique_ptr<TopFolder> m_tree;
     std::error_code m_problem; ///< why the scan could not begin
 };

@@ -49,6 +49,7 @@ void FolderRescan::rescan(Folder& folder)
     addIndicator();
     m_rescanner = Scanner::create(m_environment);
     m_rescanner->setDelegate(this);
+    m_homePass = {};
     m_rescanner->scan(folder.url(), ScanPurpose::PartOfTree);
 }
 
@@ -108,9 +109,13 @@ void FolderRescan::scanUpdated(Scanner& scanner)
 
 void FolderRescan::scanEnded(Scanner& scanner)
 {
+    if (const std::optional<Url> home = m_homePass.nextScan(scanner)) {
+        scanner.scan(*home, ScanPurpose::PartOfTree);
+        return;
+    }
     removeIndicator();
     Folder& folder = *m_rescanFolder;
-    std::unique_ptr<TopFolder> scanned = scanner.takeTopFolder();
+    std::unique_ptr<TopFolder> scanned = m_homePass.takeTree(scanner);
     TopFolder& with = *scanned;
     // What the folder looked like from outside was not read anew.
     with.setHidden(folder.hidden());

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Layout/Rect.h"
+#include "Scanning/HomePass.h"
 #include "Scanning/ScanEnvironment.h"
 #include "Scanning/ScannerDelegate.h"
 #include "TreeView/RescanIndicator.h"
@@ -61,6 +62,7 @@ private:
     Alert& m_alert;
     TreeScreen& m_screen;
     std::shared_ptr<Scanner> m_rescanner;
+    HomePass m_homePass;
     Folder* m_rescanFolder = nullptr;
     QPointer<RescanIndicator> m_rescanIndicator;
 };

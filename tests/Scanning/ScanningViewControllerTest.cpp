@@ -64,6 +64,7 @@ protected:
     void makeScanner(std::string_view items)
     {
         system = std::make_unique<test::FakeTreeViewServices>(items);
+        system->home = userHome;
         system->files.onItem([this](const std::string& path) {
             if (beforeItem) {
                 beforeItem(path);
@@ -146,6 +147,7 @@ protected:
     RootModel model{modelServices.get()};
     std::unique_ptr<test::FakeTreeViewServices> system;
     std::unique_ptr<ScanningViewController> controller;
+    std::string userHome = "/me";
     std::function<void(const std::string&)> beforeItem;
     std::error_code problem; ///< of every folder
     std::vector<std::string> checked; ///< the folders that were asked about
@@ -405,9 +407,12 @@ TEST_F(ScanningViewControllerTest, EveryOutletHasItsPlaceInThePanelsHeight)
 /// Scans of /Users where /Users/me is an encrypted home, a volume of its own.
 class EncryptedHomeTest : public ScanningViewControllerTest {
 protected:
-    void scanHome()
+    void scanHome(
+        std::string_view items = "me/ ( a:300 b:100 ) other/ ( c:200 )",
+        const std::string& home = "/me")
     {
-        makeScanner("me/ ( a:300 b:100 ) other/ ( c:200 )");
+        userHome = home;
+        makeScanner(items);
         system->resourceValues.volumes.insert("/Users/me");
         controller->startScanning(Url("/Users", true));
     }
@@ -461,6 +466,38 @@ TEST_F(EncryptedHomeTest, WhatTheSecondPassFoundStandsInTheHomesPlace)
     EXPECT_EQ(home.type(), NodeType::Folder);
     EXPECT_NE(nodeAtPath(top, "/Users/me/other/c"), nullptr);
     EXPECT_EQ(nodeAtPath(top, "/Users/other/c")->totalAllocation(), 200U);
+}
+
+TEST_F(EncryptedHomeTest, TheUsersOwnHomeIsAFolderOfWhatWasFoundInIt)
+{
+    scanHome("me/ ( a:300 b:100 ) other/ ( c:200 )", "/Users/me");
+    runToEnd();
+    const auto& home = static_cast<const Folder&>(test::at(*model.topFolder(), "me"));
+    // The second scan meets the same items once more: 300, 100 and 200 bytes.
+    EXPECT_EQ(home.totalAllocation(), 600U);
+    EXPECT_EQ(home.children().size(), 2U) << "no free space and no restricted files";
+    EXPECT_EQ(model.topFolder()->totalAllocation(), 800U);
+}
+
+TEST_F(EncryptedHomeTest, ASiblingWhoseNameTheHomesBeginsWithDoesNotHideIt)
+{
+    scanHome("m/ ( large:5000 ) me/ ( a:300 )", "/Users/me");
+    system->files.makeUnreadable("me");
+    runToEnd();
+    EXPECT_EQ(nodeAtPath(*model.topFolder(), "/Users/me/m/large")->totalAllocation(), 5000U);
+    EXPECT_EQ(model.topFolder()->totalAllocation(), 10000U);
+}
+
+TEST_F(EncryptedHomeTest, AMountedFolderOfTheUsersNameInTheHomeStartsNoThirdPass)
+{
+    makeScanner("me/ ( a:300 )");
+    system->resourceValues.volumes = {"/Users/me", "/Users/me/me"};
+    controller->startScanning(Url("/Users", true));
+    runToEnd();
+    EXPECT_EQ(model.topFolder()->origin(), "/Users");
+    EXPECT_THAT(
+        system->files.enumeratedPaths(),
+        testing::Not(testing::Contains(std::string("/Users/me/me"))));
 }
 
 TEST_F(EncryptedHomeTest, TheHomesFreeSpaceIsLeftOut)

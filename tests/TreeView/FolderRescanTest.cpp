@@ -13,7 +13,9 @@
 #include <atomic>
 #include <limits>
 #include <memory>
+#include <string>
 #include <thread>
+#include <utility>
 
 namespace tessera {
 namespace {
@@ -21,8 +23,9 @@ namespace {
 /// A tree whose folders hold "a:900 new/ ( b:100 )" when they are scanned anew.
 class FolderRescanTest : public testing::Test {
 protected:
-    FolderRescanTest()
+    explicit FolderRescanTest(std::string home = "/me")
     {
+        services.home = std::move(home);
         model.setTopFolder(test::makeTree(
             "/data", "docs/ ( a:500 gone/ ( deep/ ( x:200 ) ) ) other/ ( o:600 ) tiny/ ( t:1 )"));
         view.resize(400, 300);
@@ -97,6 +100,45 @@ TEST_F(FolderRescanTest, AFolderOnWhichADiskIsMountedNowHoldsNothingAndIsNoDisk)
     EXPECT_EQ(node("docs").type(), NodeType::TopFolder);
     EXPECT_EQ(node("docs").totalAllocation(), 0U);
     EXPECT_EQ(model.topFolder()->totalAllocation(), 601U);
+}
+
+/// Rescans of what lies around the user's home, a volume of its own that was scanned in a pass of
+/// its own.
+class HomeRescanTest : public FolderRescanTest {
+protected:
+    HomeRescanTest()
+        : FolderRescanTest("/data/docs/new")
+    {
+        services.resourceValues.volumes = {"/data/docs/new"};
+    }
+};
+
+TEST_F(HomeRescanTest, TheHomeIsScannedAgainToo)
+{
+    rescan("docs");
+    finish();
+    // Whatever is scanned holds "a:900 new/ ( b:100 )": first docs, then the home in there.
+    EXPECT_EQ(node("docs/new").totalAllocation(), 1000U);
+    EXPECT_EQ(node("docs/new").type(), NodeType::Folder);
+    EXPECT_EQ(node("docs").totalAllocation(), 1900U);
+    EXPECT_EQ(model.topFolder()->totalAllocation(), 2501U);
+}
+
+TEST_F(HomeRescanTest, TheBarStaysUntilTheEndOfTheSecondScan)
+{
+    bool isInHome = false;
+    services.files.onItem([&](const std::string& /*path*/) {
+        // Each scan counts before it walks.
+        if (services.files.enumeratedPaths().size() == 3) {
+            services.mainThread.performAndWait([&isInHome] { isInHome = true; });
+        }
+    });
+    rescan("docs");
+    services.mainThread.runUntil([&isInHome] { return isInHome; });
+    EXPECT_NE(indicator(), nullptr);
+    EXPECT_TRUE(isRescanning());
+    finish();
+    EXPECT_EQ(indicator(), nullptr);
 }
 
 TEST_F(FolderRescanTest, ShowsTheFolderWithoutItsContentMeanwhile)

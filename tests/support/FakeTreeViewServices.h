@@ -57,6 +57,7 @@ struct FakeTreeViewServices {
               }
               std::thread(std::move(work)).detach();
           });
+    std::string home = "/me";
     double now = 100;
     std::atomic<double> scanClock = 100;
 
@@ -68,7 +69,7 @@ struct FakeTreeViewServices {
              fileSystem,
              mainThread,
              [this] { return scanClock.load(); },
-             "/me",
+             home,
              workers},
             resourceValues,
             fileSystem,
