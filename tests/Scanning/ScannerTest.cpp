@@ -4,6 +4,7 @@
 #include "Model/TimeMachine.h"
 #include "Model/Volume.h"
 #include "Scanning/ScannerDelegate.h"
+#include "support/CommaLocale.h"
 #include "support/FakeDirectoryEnumerator.h"
 #include "support/FakeFileSystem.h"
 #include "support/FakeMainThread.h"
@@ -88,7 +89,12 @@ protected:
              resourceValues,
              fileSystem,
              mainThread,
-             [this] { return now.load(); },
+             [this] {
+                 if (onClock) {
+                     onClock();
+                 }
+                 return now.load();
+             },
              home,
              workers});
         m_scanner->setDelegate(&delegate);
@@ -128,6 +134,43 @@ protected:
 
     void drop() { m_scanner.reset(); }
 
+    /// Delivers all that is on its way.
+    void drain()
+    {
+        bool drained = false;
+        mainThread.perform([&] { drained = true; });
+        mainThread.runUntil([&] { return drained; });
+    }
+
+    /// Until no worker is left.
+    void runUntilIdle()
+    {
+        bool isIdle = false;
+        std::thread waiter([&] {
+            workers->waitForNone();
+            mainThread.perform([&isIdle] { isIdle = true; });
+        });
+        mainThread.runUntil([&isIdle] { return isIdle; });
+        waiter.join();
+    }
+
+    /// Has the first scan stop where its first report is due, until the gate opens. The future says
+    /// when it is there.
+    std::future<void> stopAtFirstReport(std::shared_future<void> gate)
+    {
+        auto reached = std::make_shared<std::promise<void>>();
+        std::future<void> stopped = reached->get_future();
+        auto asked = std::make_shared<std::atomic<int>>(0);
+        onClock = [this, reached, asked, gate = std::move(gate)] {
+            if (asked->fetch_add(1) == 1) { // the first time is the start's
+                now = now.load() + 1.0;
+                reached->set_value();
+                gate.wait();
+            }
+        };
+        return stopped;
+    }
+
     std::unique_ptr<test::FakeFileManager> files;
     test::FakeResourceValues resourceValues;
     test::FixedFileSystem fileSystem{FileSystemSizes{1000, 300}};
@@ -135,6 +178,7 @@ protected:
     std::shared_ptr<ScanWorkers> workers = std::make_shared<ScanWorkers>();
     RecordingDelegate delegate;
     std::atomic<double> now = 100.0;
+    std::function<void()> onClock; ///< on the worker's thread
     std::string home = "/home/me";
     std::size_t enumerationsBeforeWalk = 1;
 
@@ -303,6 +347,15 @@ TEST_F(ScannerTest, FileVaultsHoldsOnlyVolumesNamedAfterTheUserInTheUpperTwoLeve
     EXPECT_THAT(scanner.fileVaults(), ElementsAre(Url("/data/home/me", true)));
 }
 
+TEST_F(ScannerTest, AHomeIsInFileVaultsToWhereOnlyAPartOfADiskIsMountedThere)
+{
+    resourceValues.mountPoints = {"/data/me"};
+    Scanner& scanner = scannerOf("me/ ( )");
+    scanner.scan(Url("/data", true));
+    mainThread.runUntil([this] { return delegate.hasEnded(); });
+    EXPECT_THAT(scanner.fileVaults(), ElementsAre(Url("/data/me", true)));
+}
+
 TEST_F(ScannerTest, StartingSetsTheProgressToItsStart)
 {
     Scanner& scanner = scannerOf("a:1");
@@ -323,6 +376,19 @@ TEST_F(ScannerTest, ReportsOnlyWhenMoreThanATenthOfASecondHasPassed)
     EXPECT_EQ(delegate.updates[1].path, "/data/d");
 }
 
+TEST_F(ScannerTest, ATenthOfASecondExactlyIsTooEarlyForAReport)
+{
+    now = 0;
+    Scanner& scanner = scannerOf("a:1 b:1 c:1");
+    std::vector<double> times{0.1, std::nextafter(0.1, 1.0), 0.2};
+    std::size_t item = 0;
+    beforeEachItem([&] { now = times.at(item++); });
+    scanner.scan(Url("/data", true));
+    mainThread.runUntil([this] { return delegate.hasEnded(); });
+    EXPECT_THAT(delegate.calls, ElementsAre("updated", "ended"));
+    EXPECT_EQ(scanner.currentURL().path(), "/data/b");
+}
+
 TEST_F(ScannerTest, AFoldersProgressIsTheShareOfItsUpperTwoLevels)
 {
     Scanner& scanner = scannerOf("f/ ( g/ ( deep:8 ) ) c:2");
@@ -337,6 +403,18 @@ TEST_F(ScannerTest, AFoldersProgressIsTheShareOfItsUpperTwoLevels)
     EXPECT_EQ(delegate.updates[2].path, "/data/f/g/deep");
     EXPECT_EQ(delegate.updates[2].objects, 3U);
     EXPECT_EQ(delegate.updates[2].bytes, 8U);
+}
+
+TEST_F(ScannerTest, AFoldersProgressPassesOneWhenItemsAppearAfterTheCount)
+{
+    Scanner& scanner = scannerOf("a:1 b:1 late:1");
+    files->makeAppearLate("late");
+    passAndDeliverBeforeEachItem(1.0);
+    scanner.scan(Url("/data", true));
+    mainThread.runUntil([this] { return delegate.hasEnded(); });
+    ASSERT_EQ(delegate.updates.size(), 3U);
+    EXPECT_DOUBLE_EQ(delegate.updates[1].percent, 1.0);
+    EXPECT_DOUBLE_EQ(delegate.updates[2].percent, 1.5);
 }
 
 TEST_F(ScannerTest, AVolumesProgressIsTheShareOfItsUsedBytesAndNotClamped)
@@ -395,10 +473,20 @@ TEST_F(ScannerTest, WithoutADelegateNothingIsReported)
     EXPECT_EQ(scanner.topFolder()->totalAllocation(), 400U);
 }
 
-TEST_F(ScannerTest, TheWorkerWaitsForTheEndCallAndItComesOnTheMainThread)
+TEST_F(ScannerTest, TheEndCallComesOnTheMainThread)
 {
     scanToEnd("a:1");
     EXPECT_EQ(delegate.endedOn, std::this_thread::get_id());
+}
+
+TEST_F(ScannerTest, TheWorkerWaitsForTheEndCallAloneNotForReports)
+{
+    Scanner& scanner = scannerOf("a:1 b:1");
+    passBeforeEachItem(1.0);
+    scanner.scan(Url("/data", true));
+    mainThread.runUntil([this] { return delegate.hasEnded(); });
+    EXPECT_THAT(delegate.calls, ElementsAre("updated", "updated", "ended"));
+    EXPECT_THAT(mainThread.waits(), ElementsAre(false, false, true));
 }
 
 TEST_F(ScannerTest, ACancelledScanIsToldOnceAndDoesNotEnd)
@@ -431,6 +519,26 @@ TEST_F(ScannerTest, AScanCancelledDuringTheCountReadsNothingMore)
     EXPECT_THAT(counted, ElementsAre("a"));
     EXPECT_EQ(files->enumeratedPaths().size(), 1U) << "the walk opens the folder no more";
     EXPECT_NE(scanner.topFolder(), nullptr);
+}
+
+TEST_F(ScannerTest, AnEndOnItsWayWhileTheScanIsCancelledIsDropped)
+{
+    Scanner& scanner = scannerOf("a:1 b:2 c:3");
+    scanner.scan(Url("/data", true));
+    mainThread.awaitWork();
+    scanner.cancel();
+    drain();
+    EXPECT_THAT(delegate.calls, ElementsAre("cancelled"));
+}
+
+TEST_F(ScannerTest, ADelegateTakenAwayHearsNothingOfAnEndOnItsWay)
+{
+    Scanner& scanner = scannerOf("a:1 b:2 c:3");
+    scanner.scan(Url("/data", true));
+    mainThread.awaitWork();
+    scanner.setDelegate(nullptr);
+    drain();
+    EXPECT_THAT(delegate.calls, IsEmpty());
 }
 
 TEST_F(ScannerTest, AReportOnItsWayWhileTheScanIsCancelledIsDropped)
@@ -468,6 +576,64 @@ TEST_F(ScannerTest, AScannerCanBeStartedAgain)
     scanner.scan(Url("/other", true));
     mainThread.runUntil([this] { return delegate.hasEnded(); });
     EXPECT_EQ(delegate.tree->origin(), "/other");
+}
+
+TEST_F(ScannerTest, StartingAgainResetsTheProgressButNotTheFigures)
+{
+    Scanner& scanner = scannerOf("a:350 b:50");
+    passBeforeEachItem(1.0);
+    scanner.scan(Url("/data", true));
+    mainThread.runUntil([this] { return delegate.hasEnded(); });
+    workers->waitForNone();
+    ASSERT_EQ(scanner.percentComplete(), 1.0);
+
+    std::promise<void> gate;
+    files->onItem([open = gate.get_future().share()](const std::string&) { open.wait(); });
+    delegate.calls.clear();
+    scanner.scan(Url("/other", true));
+    EXPECT_EQ(scanner.percentComplete(), 0.0);
+    EXPECT_EQ(scanner.currentURL().path(), "/other");
+    EXPECT_EQ(scanner.objectsRead(), 2U);
+    EXPECT_EQ(scanner.allocationRead(), 400U);
+    gate.set_value();
+    mainThread.runUntil([this] { return delegate.hasEnded(); });
+}
+
+TEST_F(ScannerTest, StartingAgainForgetsTheTreeAndTheHomes)
+{
+    resourceValues.volumes = {"/data/me"};
+    Scanner& scanner = scannerOf("me/ ( )");
+    scanner.setDelegate(nullptr);
+    scanner.scan(Url("/data", true));
+    workers->waitForNone();
+    ASSERT_NE(scanner.topFolder(), nullptr);
+    ASSERT_EQ(scanner.fileVaults().size(), 1U);
+
+    std::promise<void> gate;
+    files->onItem([open = gate.get_future().share()](const std::string&) { open.wait(); });
+    scanner.scan(Url("/other", true));
+    EXPECT_EQ(scanner.topFolder(), nullptr);
+    EXPECT_THAT(scanner.fileVaults(), IsEmpty());
+    gate.set_value();
+}
+
+TEST_F(ScannerTest, ARunThatIsReplacedDeliversNothing)
+{
+    Scanner& scanner = scannerOf("a:5 b:6 c:7");
+    std::promise<void> gate;
+    const std::future<void> stopped = stopAtFirstReport(gate.get_future().share());
+    scanner.scan(Url("/data", true));
+    stopped.wait();
+    scanner.scan(Url("/other", true));
+    mainThread.runUntil([this] { return delegate.hasEnded(); });
+    EXPECT_EQ(delegate.tree->origin(), "/other");
+
+    gate.set_value();
+    runUntilIdle();
+    EXPECT_THAT(delegate.calls, ElementsAre("ended"));
+    EXPECT_EQ(scanner.topFolder(), nullptr) << "the new run's was taken";
+    EXPECT_EQ(scanner.currentURL().path(), "/other");
+    EXPECT_EQ(scanner.objectsRead(), 0U);
 }
 
 TEST_F(ScannerTest, AfterACancelledRunANewOneEndsAloneWithItsOwnTree)
@@ -524,6 +690,33 @@ TEST_F(ScannerTest, LogsTheEndWithItsFigures)
     EXPECT_EQ(
         testing::internal::GetCapturedStderr(),
         "Scan Complete: /data {time: 0.0000, objects: 3, allocation size: 400}\n");
+}
+
+TEST_F(ScannerTest, LogsTheTimeWithAPointInEveryLocale)
+{
+    const test::CommaLocale locale;
+    if (!locale.isThere()) {
+        GTEST_SKIP() << "there is no locale with a decimal comma";
+    }
+    testing::internal::CaptureStderr();
+    Scanner& scanner = scannerOf("a:350");
+    beforeEachItem([this] { now = 100.02; });
+    scanner.scan(Url("/data", true));
+    mainThread.runUntil([this] { return delegate.hasEnded(); });
+    workers->waitForNone();
+    EXPECT_EQ(
+        testing::internal::GetCapturedStderr(),
+        "Scan Complete: /data {time: 0.0200, objects: 1, allocation size: 350}\n");
+}
+
+TEST_F(ScannerTest, SizesThatNoDiskHasDoNotWrapRound)
+{
+    // Three times 2^63 bytes and three more would be 2^63 + 3 again.
+    TopFolder& root
+        = scanToEnd("f/ ( a:9223372036854775808 b:9223372036854775808 c:9223372036854775808 ) d:3");
+    EXPECT_EQ(test::at(root, "f").totalAllocation(), 9223372036854775807U);
+    EXPECT_EQ(root.totalAllocation(), 9223372036854775807U);
+    EXPECT_EQ(root.children()[0]->name(), "f");
 }
 
 TEST_F(ScannerTest, AChainOfAThousandFoldersIsBuilt)

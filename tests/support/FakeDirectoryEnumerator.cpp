@@ -30,6 +30,11 @@ void FakeFileManager::makeVanish(std::string_view path)
     m_vanishing.emplace(path);
 }
 
+void FakeFileManager::makeAppearLate(std::string_view path)
+{
+    m_late.emplace(path);
+}
+
 void FakeFileManager::onItem(std::function<void(const std::string& path)> action)
 {
     m_onItem = std::move(action);
@@ -45,6 +50,7 @@ std::unique_ptr<DirectoryEnumerator> FakeFileManager::enumerator(
 FakeDirectoryEnumerator::FakeDirectoryEnumerator(const FakeFileManager& fileManager, ItemKeys keys)
     : m_fileManager(fileManager)
     , m_keys(keys)
+    , m_isFirst(fileManager.m_enumeratedPaths.size() == 1)
 {
     if (fileManager.m_unreadable.contains("")) {
         passOver(0);
@@ -54,8 +60,7 @@ FakeDirectoryEnumerator::FakeDirectoryEnumerator(const FakeFileManager& fileMana
 bool FakeDirectoryEnumerator::next(DirectoryItem& item)
 {
     const auto& entries = m_fileManager.m_entries;
-    while (m_position < entries.size()
-           && m_fileManager.m_vanishing.contains(entries[m_position].path)) {
+    while (m_position < entries.size() && isMissing(entries[m_position].path)) {
         passOver(entries[m_position++].level);
     }
     if (m_position == entries.size()) {
@@ -77,6 +82,12 @@ bool FakeDirectoryEnumerator::next(DirectoryItem& item)
         passOver(entry.level);
     }
     return true;
+}
+
+bool FakeDirectoryEnumerator::isMissing(const std::string& path) const
+{
+    return m_fileManager.m_vanishing.contains(path)
+        || (m_isFirst && m_fileManager.m_late.contains(path));
 }
 
 void FakeDirectoryEnumerator::skipDescendants()

@@ -26,6 +26,9 @@ public:
     /// The item at `path`, with all below it, is gone by the time its turn comes.
     void makeVanish(std::string_view path);
 
+    /// The item at `path`, with all below it, appears only after the first walk.
+    void makeAppearLate(std::string_view path);
+
     /// Called with an item's path, on the enumerating thread, right before the item is delivered.
     void onItem(std::function<void(const std::string& path)> action);
 
@@ -50,6 +53,7 @@ private:
     std::vector<Entry> m_entries;
     std::set<std::string, std::less<>> m_unreadable;
     std::set<std::string, std::less<>> m_vanishing;
+    std::set<std::string, std::less<>> m_late;
     std::function<void(const std::string& path)> m_onItem;
     mutable std::vector<std::string> m_enumeratedPaths;
 };
@@ -63,10 +67,12 @@ public:
     void skipDescendants() override;
 
 private:
+    bool isMissing(const std::string& path) const;
     void passOver(unsigned level);
 
     const FakeFileManager& m_fileManager;
     ItemKeys m_keys;
+    bool m_isFirst; ///< of all walks
     std::size_t m_position = 0;
     unsigned m_lastLevel = 0;
 };

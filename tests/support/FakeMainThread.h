@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 #include <mutex>
+#include <vector>
 
 namespace tessera::test {
 
@@ -16,6 +17,12 @@ class FakeMainThread final : public MainThread {
 public:
     void perform(std::function<void()> work) override;
     void performAndWait(std::function<void()> work) override;
+
+    /// Blocks until there is work to be done.
+    void awaitWork();
+
+    /// Whether those who had work done waited for it, in the order in which they came.
+    std::vector<bool> waits();
 
     /// Runs work in its order, waiting for more, until `done` says so.
     void runUntil(const std::function<bool()>& done);
@@ -26,11 +33,12 @@ private:
         bool done = false;
     };
 
-    std::shared_ptr<Job> add(std::function<void()> work);
+    std::shared_ptr<Job> add(std::function<void()> work, bool waits);
 
     std::mutex m_mutex;
     std::condition_variable m_changed;
     std::deque<std::shared_ptr<Job>> m_jobs;
+    std::vector<bool> m_waits;
 };
 
 } // namespace tessera::test
