@@ -2,6 +2,7 @@
 #include "Platform/PlatformServices.h"
 #include "Shell/CommandLine.h"
 #include "Shell/Launch.h"
+#include "Utils/Log.h"
 #include "launchServices.h"
 
 #include <QApplication>
@@ -24,7 +25,7 @@ int main(int argc, char** argv)
     const std::span<const char* const> arguments(argv, static_cast<std::size_t>(argc));
     const auto parsed = parseCommandLine(arguments.subspan(argc > 0 ? 1 : 0));
     if (const auto* error = std::get_if<CommandLineError>(&parsed)) {
-        (void)std::fprintf(stderr, "tessera: %s; see tessera --help\n", error->message.c_str());
+        logLine("tessera: %s; see tessera --help", error->message.c_str());
         return kBadUsage;
     }
     const auto& commandLine = std::get<CommandLine>(parsed);

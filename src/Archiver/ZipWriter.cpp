@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Archiver/ZipWriter.h"
 
-#include "Archiver/Utf8.h"
+#include "Utils/Utf8.h"
 
 #include <archive.h>
 #include <archive_entry.h>

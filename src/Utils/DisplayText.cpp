@@ -1,47 +1,59 @@
 // SPDX-License-Identifier: MIT
 #include "Utils/DisplayText.h"
 
+#include "Utils/CharacterKinds.h"
+#include "Utils/ScriptNeeds.h"
+
 #include <QTextDocument>
+
+#include <algorithm>
+#include <string>
 
 namespace tessera {
 
 namespace {
 
-constexpr char16_t kFirstControlPicture = 0x2400;
-constexpr char16_t kDeletePicture = 0x2421;
-constexpr char16_t kDelete = 0x7F;
-constexpr char16_t kLastC1Control = 0x9F;
+constexpr char32_t kFirstControlPicture = 0x2400;
+constexpr char32_t kDeletePicture = 0x2421;
+constexpr char32_t kDelete = 0x7F;
 
-bool steersText(char16_t unit)
+char32_t shown(std::u32string_view text, std::size_t index)
 {
-    const bool isC1Control = unit > kDelete && unit <= kLastC1Control;
-    const bool isDirectionMark = unit == 0x200E || unit == 0x200F || unit == 0x061C;
-    const bool isSeparatorOrEmbedding = unit >= 0x2028 && unit <= 0x202E;
-    const bool isIsolate = unit >= 0x2066 && unit <= 0x2069;
-    return isC1Control || isDirectionMark || isSeparatorOrEmbedding || isIsolate;
+    const char32_t character = text[index];
+    if (character < U' ') {
+        return kFirstControlPicture + character;
+    }
+    if (character == kDelete) {
+        return kDeletePicture;
+    }
+    const bool isMisleading
+        = isControlCharacter(character) || steersText(character) || isInvisible(character);
+    const bool isSeenByEffect = isJoiner(character) || isVariationSelector(character);
+    return isMisleading || (isSeenByEffect && !isNeededByScript(text, index))
+        ? char32_t{QChar::ReplacementCharacter}
+        : character;
 }
 
-QChar shown(QChar character)
+bool isPrintableAscii(char byte)
 {
-    const char16_t unit = character.unicode();
-    if (unit < u' ') {
-        return {static_cast<char16_t>(kFirstControlPicture + unit)};
-    }
-    if (unit == kDelete) {
-        return {kDeletePicture};
-    }
-    return steersText(unit) ? QChar(QChar::ReplacementCharacter) : character;
+    return byte >= ' ' && byte < static_cast<char>(kDelete);
 }
 
 } // namespace
 
 QString displayText(std::string_view bytes)
 {
-    QString text = QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
-    for (QChar& character : text) {
-        character = shown(character);
+    const QString text = QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    // Most names are.
+    if (std::all_of(bytes.begin(), bytes.end(), isPrintableAscii)) {
+        return text;
     }
-    return text;
+    const std::u32string characters = text.toStdU32String();
+    std::u32string replaced = characters;
+    for (std::size_t i = 0; i < characters.size(); ++i) {
+        replaced[i] = shown(characters, i);
+    }
+    return QString::fromStdU32String(replaced);
 }
 
 QString plainTooltip(const QString& text)

@@ -1,36 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "Utils/Log.h"
 
+#include "Utils/TerminalText.h"
+
 #include <cstdarg>
 #include <cstdio>
 #include <string>
 
 namespace tessera {
-
-namespace {
-
-constexpr unsigned char kFirstPrintable = 0x20;
-constexpr unsigned char kDelete = 0x7F;
-
-std::string withoutControlCharacters(const std::string& text)
-{
-    constexpr const char* kHexDigits = "0123456789abcdef";
-    std::string shown;
-    shown.reserve(text.size() + 1);
-    for (const char c : text) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (byte >= kFirstPrintable && byte != kDelete) {
-            shown += c;
-            continue;
-        }
-        shown += "\\x";
-        shown += kHexDigits[byte >> 4U];
-        shown += kHexDigits[byte & 0x0FU];
-    }
-    return shown;
-}
-
-} // namespace
 
 void logLine(const char* format, ...)
 {
@@ -45,7 +22,7 @@ void logLine(const char* format, ...)
         std::string text(static_cast<std::size_t>(length) + 1, '\0');
         (void)std::vsnprintf(text.data(), text.size(), format, again);
         text.pop_back();
-        const std::string line = withoutControlCharacters(text) + '\n';
+        const std::string line = terminalText(text) + '\n';
         (void)std::fwrite(line.data(), 1, line.size(), stderr);
     }
     va_end(again);

@@ -143,6 +143,15 @@ TEST_F(PictureCommand, BadUsageIsSaidInOneLine)
         result.standardError, "tessera: option '--picture' needs a value; see tessera --help\n");
 }
 
+TEST(Program, AWrongArgumentCommandsNoTerminal)
+{
+    const auto result = tessera({"--opt\x1B[31m\x9B"
+                                 "31m"});
+    EXPECT_EQ(result.exitStatus, 2);
+    EXPECT_THAT(result.standardError, HasSubstr("--opt\\x1b[31m\\x9b31m"));
+    EXPECT_EQ(linesIn(result.standardError), 1);
+}
+
 TEST(Program, HelpGoesToStandardOutput)
 {
     const auto result = tessera({"--help"});

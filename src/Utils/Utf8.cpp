@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "Archiver/Utf8.h"
+#include "Utils/Utf8.h"
 
 #include <algorithm>
 #include <array>
-#include <cstddef>
 
 namespace tessera {
 
@@ -76,6 +75,23 @@ bool isUtf8(std::string_view bytes)
         bytes.remove_prefix(length);
     }
     return true;
+}
+
+Utf8Character firstUtf8Character(std::string_view bytes)
+{
+    const std::size_t length = bytes.empty() ? 0 : sequenceLength(bytes);
+    if (length == 0) {
+        return {};
+    }
+    constexpr std::array<unsigned, 4> kFirstByteMasks{0x7F, 0x1F, 0x0F, 0x07};
+    constexpr unsigned kContinuationMask = 0x3F;
+    constexpr unsigned kContinuationBits = 6;
+    char32_t codePoint = static_cast<unsigned char>(bytes.front()) & kFirstByteMasks.at(length - 1);
+    for (const char byte : bytes.substr(1, length - 1)) {
+        codePoint = (codePoint << kContinuationBits)
+            | (static_cast<unsigned char>(byte) & kContinuationMask);
+    }
+    return {codePoint, length};
 }
 
 } // namespace tessera

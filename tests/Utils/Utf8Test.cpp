@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "Archiver/Utf8.h"
+#include "Utils/Utf8.h"
 
 #include <gtest/gtest.h>
 
@@ -53,6 +53,25 @@ TEST(Utf8, TheLastCodePointIsTheLastValidOne)
 {
     EXPECT_TRUE(isUtf8("\xF4\x8F\xBF\xBF"));
     EXPECT_FALSE(isUtf8("\xF4\x90\x80\x80"));
+}
+
+TEST(Utf8, TheFirstCharacterIsReadWithItsLength)
+{
+    const auto isFirst = [](std::string_view bytes, char32_t codePoint, std::size_t length) {
+        const Utf8Character first = firstUtf8Character(bytes);
+        return first.codePoint == codePoint && first.length == length;
+    };
+    EXPECT_TRUE(isFirst("zoo", U'z', 1));
+    EXPECT_TRUE(isFirst("\xC3\xB6z", U'\u00F6', 2));
+    EXPECT_TRUE(isFirst("\xE2\x82\xAC\x80", U'\u20AC', 3));
+    EXPECT_TRUE(isFirst("\xF0\x9F\x98\x80", U'\U0001F600', 4));
+}
+
+TEST(Utf8, WhatBeginsWithNoCharacterHasAFirstOfNoLength)
+{
+    EXPECT_EQ(firstUtf8Character("").length, 0U);
+    EXPECT_EQ(firstUtf8Character("\x80zoo").length, 0U);
+    EXPECT_EQ(firstUtf8Character("\xE2\x82").length, 0U);
 }
 
 } // namespace
