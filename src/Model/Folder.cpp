@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <array>
 #include <cassert>
+#include <cstdint>
 #include <numeric>
-#include <random>
 #include <vector>
 
 namespace tessera {
@@ -22,18 +22,32 @@ bool isLarger(const File* a, const File* b)
     return a->totalAllocation() > b->totalAllocation();
 }
 
-/// Each thread that sorts has a source of its own, so that building needs no lock.
-std::minstd_rand& hueSource()
-{
-    thread_local std::minstd_rand source{std::random_device{}()};
-    return source;
-}
+/// SplitMix64: numbers that look random and are the same everywhere for the same seed, which those
+/// of the standard library's distributions are not.
+class HueSource {
+public:
+    explicit HueSource(PathHash seed)
+        : m_state(seed.value())
+    {
+    }
 
-void shuffle(HueTable& table)
+    std::size_t below(std::size_t bound)
+    {
+        m_state += 0x9e3779b97f4a7c15;
+        std::uint64_t bits = m_state;
+        bits = (bits ^ (bits >> 30)) * 0xbf58476d1ce4e5b9;
+        bits = (bits ^ (bits >> 27)) * 0x94d049bb133111eb;
+        return static_cast<std::size_t>((bits ^ (bits >> 31)) % bound);
+    }
+
+private:
+    std::uint64_t m_state;
+};
+
+void shuffle(HueTable& table, HueSource& source)
 {
     for (std::size_t k = table.size(); k >= 2; --k) {
-        std::uniform_int_distribution<std::size_t> pick(0, k - 1);
-        std::swap(table[pick(hueSource())], table[k - 1]);
+        std::swap(table[source.below(k)], table[k - 1]);
     }
 }
 
@@ -64,19 +78,40 @@ std::uint64_t changedBy(std::uint64_t total, std::uint64_t delta)
                   : saturatingSum(total, delta);
 }
 
+bool hasNoHue(const File* node)
+{
+    return node->hue() == 0;
+}
+
 } // namespace
 
 File& Folder::addChild(std::unique_ptr<File> child)
+{
+    File& added = attach(std::move(child));
+    if (auto* folder = nodeCast<Folder>(&added)) {
+        folder->sort();
+        folder->m_children.settle();
+    }
+    return added;
+}
+
+File& Folder::addChild(std::unique_ptr<Folder> child, PathHash path)
+{
+    Folder& folder = *child;
+    attach(std::move(child));
+    folder.orderChildren();
+    folder.assignHues(path);
+    folder.m_children.settle();
+    return folder;
+}
+
+File& Folder::attach(std::unique_ptr<File> child)
 {
     File* added = child.get();
     m_children.append(added);
     child.release(); // NOLINT(bugprone-unused-return-value): the array has it now
     added->setParent(this);
     setTotalAllocation(saturatingSum(totalAllocation(), added->totalAllocation()));
-    if (auto* folder = nodeCast<Folder>(added)) {
-        folder->sort();
-        folder->m_children.settle();
-    }
     return *added;
 }
 
@@ -132,7 +167,10 @@ void Folder::spread(std::uint64_t delta)
 void Folder::sort()
 {
     orderChildren();
-    assignHues();
+    // Asked only when it matters: in a deep tree the path is long.
+    if (std::any_of(m_children.begin(), m_children.end(), hasNoHue)) {
+        assignHues(PathHash(absolutePath()));
+    }
 }
 
 void Folder::orderChildren()
@@ -161,14 +199,15 @@ void Folder::orderChildren()
     });
 }
 
-void Folder::assignHues()
+void Folder::assignHues(PathHash seed)
 {
+    HueSource source(seed);
     HueTable table{1, 2, 3, 4, 5, 6};
     for (std::size_t i = 0; i < m_children.size(); ++i) {
         if (i % kHueSlots == 0) {
-            shuffle(table);
+            shuffle(table, source);
         }
-        if (m_children[i]->hue() == 0) {
+        if (hasNoHue(m_children[i])) {
             m_children[i]->setHue(table[i % kHueSlots]);
         }
     }

@@ -3,6 +3,7 @@
 
 #include "Model/ChildArray.h"
 #include "Model/File.h"
+#include "Model/PathHash.h"
 
 #include <memory>
 #include <vector>
@@ -23,6 +24,10 @@ public:
     /// that is a folder must be complete; it is sorted here, for the only time of the build.
     File& addChild(std::unique_ptr<File> child);
 
+    /// The same for a folder whose parents do not hang together yet, so that it cannot say where it
+    /// is: `path` is its own.
+    File& addChild(std::unique_ptr<Folder> child, PathHash path);
+
     /// Adds a node to a finished tree: every folder up to the root grows and is sorted again.
     File& insertChild(std::unique_ptr<File> child);
 
@@ -40,6 +45,7 @@ public:
     std::vector<std::unique_ptr<File>> takeChildren();
 
     /// Orders the children by size, largest first, and gives a colour slot to each that has none.
+    /// Slots depend on the folder's path and the children's order alone: every scan gives the same.
     void sort();
 
 protected:
@@ -58,8 +64,9 @@ private:
     {
     }
 
+    File& attach(std::unique_ptr<File> child);
     void orderChildren();
-    void assignHues();
+    void assignHues(PathHash seed);
     /// Adds `delta` bytes, modulo 2^64, to this folder and all above it, and sorts each.
     void spread(std::uint64_t delta);
 

@@ -11,6 +11,7 @@ namespace tessera {
 
 TreeBuilder::TreeBuilder(std::unique_ptr<TopFolder> root)
     : m_root(std::move(root))
+    , m_rootPath(m_root->origin())
 {
 }
 
@@ -20,7 +21,7 @@ void TreeBuilder::add(const DirectoryItem& item)
     if (item.isDirectory) {
         auto folder = makeNode<Folder>(item.name);
         folder->setHidden(item.isHidden);
-        m_open.push_back(std::move(folder));
+        m_open.push_back({std::move(folder), currentPath().of(item.name)});
         return;
     }
     auto document = makeNode<Document>(item.name);
@@ -40,7 +41,7 @@ std::string TreeBuilder::pathOf(unsigned level, std::string_view name) const
     };
     const std::size_t foldersAbove = std::min<std::size_t>(level - 1, m_open.size());
     for (std::size_t i = 0; i < foldersAbove; ++i) {
-        append(m_open[i]->fragment());
+        append(m_open[i].folder->fragment());
     }
     append(name);
     return path;
@@ -58,15 +59,20 @@ std::unique_ptr<TopFolder> TreeBuilder::takeRoot()
 
 Folder& TreeBuilder::current()
 {
-    return m_open.empty() ? *m_root : *m_open.back();
+    return m_open.empty() ? *m_root : *m_open.back().folder;
+}
+
+PathHash TreeBuilder::currentPath() const
+{
+    return m_open.empty() ? m_rootPath : m_open.back().path;
 }
 
 void TreeBuilder::closeDownTo(std::size_t depth)
 {
     while (m_open.size() > depth) {
-        std::unique_ptr<Folder> complete = std::move(m_open.back());
+        OpenFolder complete = std::move(m_open.back());
         m_open.pop_back();
-        current().addChild(std::move(complete));
+        current().addChild(std::move(complete.folder), complete.path);
     }
 }
 

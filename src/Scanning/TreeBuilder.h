@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Model/PathHash.h"
 #include "Model/TopFolder.h"
 #include "Scanning/DirectoryEnumerator.h"
 
@@ -30,11 +31,18 @@ public:
     std::unique_ptr<TopFolder> takeRoot();
 
 private:
+    struct OpenFolder {
+        std::unique_ptr<Folder> folder;
+        PathHash path;
+    };
+
     Folder& current();
+    PathHash currentPath() const;
     void closeDownTo(std::size_t depth);
 
     std::unique_ptr<TopFolder> m_root;
-    std::vector<std::unique_ptr<Folder>> m_open; ///< below the root, outermost first
+    PathHash m_rootPath;
+    std::vector<OpenFolder> m_open; ///< below the root, outermost first
 };
 
 } // namespace tessera

@@ -15,8 +15,7 @@ namespace tessera::test {
 
 /// What the map should show of a folder on the disk: where each box lies and how it looks. A scan
 /// of the test's own says what is there and the layout where it goes. Colours are known by kind
-/// only, for those of folders are shuffled anew by every program. Paths count from the scanned
-/// folder; that one is the empty path.
+/// only. Paths count from the scanned folder; that one is the empty path.
 class ExpectedPicture {
 public:
     /// `shown` is the folder that fills the map. Throws std::runtime_error when it is not there.

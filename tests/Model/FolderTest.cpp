@@ -7,6 +7,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 #include <string>
 #include <vector>
@@ -14,6 +15,7 @@
 namespace tessera {
 namespace {
 
+using testing::_;
 using testing::ElementsAre;
 
 std::unique_ptr<Document> document(std::string_view name, std::uint64_t bytes)
@@ -189,19 +191,62 @@ TEST(Folder, SortingAgainChangesNoSlot)
     EXPECT_EQ(huesOf(*top), before);
 }
 
-TEST(Folder, SlotsDifferFromRunToRun)
+std::string manyFiles(int count)
 {
     std::string items;
-    for (int i = 0; i < 600; ++i) {
+    for (int i = 0; i < count; ++i) {
         items += "f" + std::to_string(i) + ":" + std::to_string(1000 - i) + " ";
     }
-    const auto top = test::makeTree("/t", items);
+    return items;
+}
+
+TEST(Folder, SlotsDifferFromBlockToBlock)
+{
+    const auto top = test::makeTree("/t", manyFiles(600));
     const std::vector<int> hues = huesOf(*top);
     std::set<std::vector<int>> runs;
     for (std::size_t i = 0; i < hues.size(); i += 6) {
         runs.emplace(hues.begin() + static_cast<long>(i), hues.begin() + static_cast<long>(i) + 6);
     }
     EXPECT_GT(runs.size(), 50U);
+}
+
+TEST(Folder, SlotsFollowFromThePathAndTheOrderAlone)
+{
+    // Worked out by another program.
+    EXPECT_THAT(
+        huesOf(*test::makeTree("/t", manyFiles(14))),
+        ElementsAre(5, 1, 6, 2, 4, 3, 1, 4, 3, 6, 2, 5, 3, 2));
+    EXPECT_THAT(huesOf(*test::makeTree("/t/a/b", manyFiles(7))), ElementsAre(3, 2, 5, 6, 4, 1, 4));
+    EXPECT_THAT(huesOf(*test::makeTree("/", manyFiles(7))), ElementsAre(5, 3, 1, 2, 6, 4, 3));
+}
+
+TEST(Folder, SlotsDifferFromFolderToFolder)
+{
+    std::set<std::vector<int>> patterns;
+    for (int i = 0; i < 60; ++i) {
+        patterns.insert(huesOf(*test::makeTree("/home/u" + std::to_string(i), manyFiles(6))));
+    }
+    EXPECT_GT(patterns.size(), 50U);
+}
+
+TEST(Folder, EveryFirstSlotIsAboutAsFrequent)
+{
+    std::vector<int> counts(7);
+    for (int i = 0; i < 600; ++i) {
+        ++counts.at(static_cast<std::size_t>(
+            huesOf(*test::makeTree("/home/u" + std::to_string(i), "a:1")).front()));
+    }
+    EXPECT_THAT(counts, ElementsAre(0, _, _, _, _, _, _));
+    EXPECT_GT(*std::min_element(counts.begin() + 1, counts.end()), 60);
+}
+
+TEST(Folder, ANodeInsertedLaterGetsTheSlotThatAScanWouldHaveGivenIt)
+{
+    const auto scanned = test::makeTree("/t", "a:9 b:8 c:7");
+    const auto grown = test::makeTree("/t", "a:9 b:8");
+    grown->insertChild(document("c", 7));
+    EXPECT_EQ(huesOf(*grown), huesOf(*scanned));
 }
 
 TEST(Folder, ChildrenOfEqualSizeAreAllKept)

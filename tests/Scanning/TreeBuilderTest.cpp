@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 namespace tessera {
 namespace {
 
@@ -47,6 +50,38 @@ TEST(TreeBuilder, ClosesSeveralFoldersAtOnce)
     EXPECT_EQ(test::at(*root, "a/b/x").totalAllocation(), 5U);
     EXPECT_EQ(test::at(*root, "a").totalAllocation(), 5U);
     EXPECT_TRUE(test::at(*root, "c").isFolder());
+}
+
+std::vector<int> huesOf(const Folder& folder)
+{
+    std::vector<int> hues;
+    for (const File* child : folder.children()) {
+        hues.push_back(child->hue());
+    }
+    return hues;
+}
+
+TEST(TreeBuilder, AFoldersColoursDoNotDependOnWhereTheScanBegan)
+{
+    const auto scanOf = [](std::string_view root, const std::vector<std::string>& foldersAbove) {
+        TreeBuilder builder(rootAt(root));
+        unsigned level = 0;
+        for (const std::string& folder : foldersAbove) {
+            builder.add(directory(folder, ++level));
+        }
+        for (std::uint64_t bytes = 9; bytes > 0; --bytes) {
+            builder.add(document("f" + std::to_string(bytes), level + 1, bytes));
+        }
+        builder.closeAll();
+        auto tree = builder.takeRoot();
+        tree->sort();
+        return tree;
+    };
+    const auto whole = scanOf("/", {"t", "a", "b"});
+    const auto part = scanOf("/t", {"a", "b"});
+    const std::vector<int> expected = huesOf(*scanOf("/t/a/b", {}));
+    EXPECT_EQ(huesOf(static_cast<Folder&>(test::at(*whole, "t/a/b"))), expected);
+    EXPECT_EQ(huesOf(static_cast<Folder&>(test::at(*part, "a/b"))), expected);
 }
 
 TEST(TreeBuilder, KeepsTheHiddenFlagOfFoldersAndDocuments)
