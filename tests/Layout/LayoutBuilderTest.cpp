@@ -117,8 +117,8 @@ TEST(LayoutBuilder, AnItemThatLeavesTheFirstAsSquareAsBeforeIsRefused)
     EXPECT_EQ(level.rect(0), (Rect{0, 0, 40, 80}));
 }
 
-/// One column of two items, the first 1 point wide and `ratio + 1` times... built so that with the
-/// second item joined the first is square and the second `secondRatio` times as long as wide.
+/// Whether a second item joins the first of a column when, joined, the first is a square and the
+/// second `secondRatio` times as wide as high.
 bool joins(double secondRatio)
 {
     // Strip width s; the first is s x s, the second s x (s / secondRatio); the rest is huge.
@@ -142,6 +142,31 @@ TEST(LayoutBuilder, ARatioDifferenceOf599IsAccepted)
 TEST(LayoutBuilder, ARatioDifferenceOfSixIsRefused)
 {
     EXPECT_FALSE(joins(7.01));
+}
+
+TEST(LayoutBuilder, ARatioDifferenceOfExactlySixIsRefused)
+{
+    // Joined they would be 7 x 7 and 7 x 1; all shares are powers of two, and so exact.
+    const Level level({49, 7, 8136}, {0, 0, 1024, 8});
+    EXPECT_EQ(level.rect(0), (Rect{0, 0, 6, 8}));
+    EXPECT_EQ(level.rect(1), (Rect{6, 0, 1, 8}));
+}
+
+TEST(LayoutBuilder, AnItemThatWouldBeMuchSquarerThanTheFirstIsRefused)
+{
+    // Joined they would be 80 x 8 and 20 x 8: ratios of 10 and 2.5.
+    const Level level({640, 160, 99200}, {0, 0, 100, 1000});
+    EXPECT_EQ(level.rect(0), (Rect{0, 0, 100, 6}));
+    EXPECT_EQ(level.rect(1), (Rect{0, 6, 100, 2}));
+}
+
+TEST(LayoutBuilder, RatiosAreComparedInSinglePrecision)
+{
+    // Two of half the squared height each: 32 x 64 alone, 64 x 32 together. In double precision
+    // the second ratio comes out a trace smaller than the first.
+    const Level level({167936, 167936, 645504}, {0, 0, 187, 64}, 981376);
+    EXPECT_EQ(level.rect(0), (Rect{0, 0, 32, 64}));
+    EXPECT_EQ(level.rect(1), (Rect{32, 0, 32, 64}));
 }
 
 TEST(LayoutBuilder, ARatioDifferenceBeyond32BitsIsRefused)
@@ -168,6 +193,15 @@ TEST(LayoutBuilder, WhereLessThanTwoStripsAreLeftOneTakesHalfRoundedUp)
     const Level level({80, 20}, {0, 0, 15, 20});
     EXPECT_EQ(level.rect(0), (Rect{0, 0, 15, 10}));
     EXPECT_EQ(level.rect(1), (Rect{0, 10, 15, 10}));
+}
+
+TEST(LayoutBuilder, AStripThatLeavesExactlyTheLeastIsNotCutBackWhereLittleIsLeft)
+{
+    // Twelve of twenty points remain.
+    const Level row({2, 3}, {0, 0, 15, 20});
+    EXPECT_EQ(row.rect(0), (Rect{0, 0, 15, 8}));
+    EXPECT_EQ(row.rect(1), (Rect{0, 8, 15, 12}));
+    EXPECT_EQ(Level({2, 3}, {0, 0, 20, 15}).rect(0), (Rect{0, 0, 8, 15}));
 }
 
 TEST(LayoutBuilder, HalfRoundedUpHoldsForColumnsToo)

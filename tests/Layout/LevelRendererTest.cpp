@@ -94,10 +94,17 @@ TEST(LevelRenderer, TwoSmallChildrenMakeOneGroupAtTheEnd)
 
 TEST(LevelRenderer, ASmallFolderAloneGetsNoLevelInsideHoweverLargeItsBox)
 {
-    // The last strip takes what is left, so the small folder's box is far larger than its share.
-    const auto top = test::makeTree("/t", "big:1000000 f/ ( a:1 )");
-    const RenderedLevel level = render(*top, 106, 1006);
-    EXPECT_THAT(namesOf(level), ElementsAre("big", "f"));
+    // 630,000 square points stand for 629.24 million bytes. Two hundred strips of three files each
+    // are 31.5 points thick and round down to 31, so the folder, worth 140 square points, gets all
+    // that is left: a box that any other folder would have a level in.
+    std::string items;
+    for (int i = 0; i < 600; ++i) {
+        items += "d" + std::to_string(i) + ":1048500 ";
+    }
+    const auto top = test::makeTree("/t", items + "f/ ( a:140000 )");
+    const RenderedLevel level = render(*top, 6306, 106);
+    EXPECT_EQ(level.layoutItems.back()->ref, &test::at(*top, "f"));
+    EXPECT_EQ(level.layoutItems.back()->rect, (Rect{6203, 3, 100, 100}));
     EXPECT_TRUE(level.nested.empty());
 }
 
