@@ -97,8 +97,9 @@ void paintGroupBox(BoxCanvas& canvas, const TreeBranch& branch, const MultiLayou
     if (level > 0) {
         canvas.strokeRoundedRect(box, radius, dark);
     }
-    drawGrooves(canvas, box, dark, highlightWithLevel(color, kLighter));
-    drawColumns(canvas, box, highlightWithLevel(color, kLight));
+    // The offset of the rim puts a stroke on whole pixels; it would take the grid off them.
+    drawGrooves(canvas, outer, dark, highlightWithLevel(color, kLighter));
+    drawColumns(canvas, outer, highlightWithLevel(color, kLight));
 }
 
 } // namespace tessera

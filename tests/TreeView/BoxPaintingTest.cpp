@@ -86,6 +86,16 @@ TEST_P(BoxPainting, AFolderOf200SquarePointsHasWiderCorners)
     EXPECT_NE(wide.at(13, 12), kTeal);
 }
 
+TEST_P(BoxPainting, AFolderOf150SquarePointsHasTightCorners)
+{
+    // A radius of 1 covers some four fifths of the outermost point, and nothing of the next.
+    const auto picture = folderPicture(0, {10, 10, 15, 10});
+    EXPECT_NE(picture.at(12, 12), kTeal);
+    EXPECT_NE(picture.at(12, 12), kBackground);
+    EXPECT_EQ(picture.at(13, 12), kTeal);
+    EXPECT_EQ(picture.at(12, 13), kTeal);
+}
+
 TEST_P(BoxPainting, ASelectedFolderIsDarker)
 {
     m_folder->setSelected(true);
@@ -383,29 +393,38 @@ TEST_P(BoxPainting, AGroupBelowTheTopLevelHasADarkOutline)
 {
     const QColor color = boxColor(*m_folder, 1);
     const auto picture = groupPicture(1, {10, 10, 100, 30});
-    EXPECT_EQ(picture.at(50, 11), shadowWithLevel(color, 0.6).rgb());
+    EXPECT_EQ(picture.at(55, 11), shadowWithLevel(color, 0.6).rgb());
     EXPECT_EQ(picture.at(11, 16), shadowWithLevel(color, 0.6).rgb());
-    EXPECT_EQ(picture.at(50, 12.5), color.rgb());
-    EXPECT_EQ(picture.at(50, 10.5), kBackground);
+    EXPECT_EQ(picture.at(55, 12.5), color.rgb());
+    EXPECT_EQ(picture.at(55, 10.5), kBackground);
 }
 
 TEST_P(BoxPainting, ANarrowGroupHasOneColumnAndFiveRows)
 {
-    // Inside from (11, 11), 4 by 38; with the rim's offset from 11.5 on 3 points: lines from 13
-    // to 13 have no length.
+    // Inside from (11, 11), 4 by 38: lines go from 12.5 to 13.5.
     const auto narrow = groupPicture(1, {10, 10, 6, 40});
     const QColor color = boxColor(*m_folder, 1);
-    EXPECT_EQ(narrow.countOther({12, 13, 2, 34}, color.rgb()), 0);
-    const auto wider = groupPicture(1, {10, 10, 7, 40});
-    // At one pixel a point the grooves lie between rows, which share their darkness.
+    const auto isLight = [&](double y) { return qRed(narrow.at(12.5, y)) > color.red() + 10; };
     int grooves = 0;
     for (double y = 13; y < 47; y += 1 / GetParam()) {
-        const bool isDark = qRed(wider.at(13, y)) < color.red() - 10;
-        const bool wasDark = qRed(wider.at(13, y - 1 / GetParam())) < color.red() - 10;
-        grooves += isDark && !wasDark ? 1 : 0;
+        grooves += isLight(y) && !isLight(y - 1 / GetParam()) ? 1 : 0;
     }
     EXPECT_EQ(grooves, 4);
-    EXPECT_EQ(wider.runsAcross({12, 14, 3, 1}, highlightWithLevel(color, 0.15).rgb()), 0);
+    EXPECT_EQ(narrow.runsAcross({12, 14, 2, 1}, highlightWithLevel(color, 0.15).rgb()), 0);
+}
+
+TEST_P(BoxPainting, AGroupsGridIsCrispBelowTheTopLevelToo)
+{
+    // Inside from (11, 11), 98 by 28: 4 rows of 7 points, 10 columns of 9.8.
+    const auto picture = groupPicture(1, {10, 10, 100, 30});
+    const QColor color = boxColor(*m_folder, 1);
+    EXPECT_EQ(picture.at(15, 16.5), color.rgb());
+    EXPECT_EQ(picture.at(15, 17), shadowWithLevel(color, 0.6).rgb());
+    EXPECT_EQ(picture.at(15, 18), highlightWithLevel(color, 0.65).rgb());
+    EXPECT_EQ(picture.at(15, 19), color.rgb());
+    EXPECT_EQ(picture.at(19.5, 14), color.rgb());
+    EXPECT_EQ(picture.at(20, 14), highlightWithLevel(color, 0.15).rgb());
+    EXPECT_EQ(picture.at(21, 14), color.rgb());
 }
 
 TEST_P(BoxPainting, ASelectedNodeDoesNotDarkenItsGroup)

@@ -152,7 +152,7 @@ void paintGroup(QPainter& painter, const MultiLayoutObject& group, long level)
         addRoundedRectToPath(outline, r, radius);
         stroke(painter, outline, shadowWithLevel(color, 0.6));
     }
-    strokeGrid(painter, r, color);
+    strokeGrid(painter, group.rect.inset(i, i), color);
 }
 
 void paintPlain(QPainter& painter, const Rect& rect, double inset, const QColor& color)
