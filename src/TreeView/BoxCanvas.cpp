@@ -2,6 +2,7 @@
 #include "TreeView/BoxCanvas.h"
 
 #include "TreeView/LabelCache.h"
+#include "TreeView/LevelMetrics.h"
 #include "TreeView/RoundedRect.h"
 #include "TreeView/Styles.h"
 
@@ -11,10 +12,6 @@
 namespace tessera {
 
 namespace {
-
-/// No smaller rectangle carries a label; a collecting canvas passes over the rest quickly.
-constexpr double kMinLabelledWidth = 30;
-constexpr double kMinLabelledHeight = 20;
 
 QPainterPath roundedRectPath(const Rect& frame, double radius)
 {
@@ -94,7 +91,7 @@ BoxCanvas::BoxCanvas(
 bool BoxCanvas::misses(const Rect& rect) const
 {
     if (!m_pixels) {
-        return rect.width <= kMinLabelledWidth || rect.height <= kMinLabelledHeight;
+        return !hasRoomForLabel(rect);
     }
     // A stroke may reach a point beyond its box.
     const DeviceRect device = toDevice(rect.inset(-1, -1));

@@ -18,8 +18,6 @@ namespace {
 
 constexpr double kRimWidth = 1.0;
 
-constexpr double kMinLabelHeight = 20.0;
-constexpr double kMinLabelWidth = 30.0;
 constexpr double kLabelLeft = 8.0;
 constexpr double kLabelTop = 7.0;
 constexpr double kLabelMargins = 11.0;
@@ -72,7 +70,7 @@ void fillBox(
 
 void drawLabel(BoxCanvas& canvas, const Rect& box, const Folder& folder)
 {
-    if (box.height <= kMinLabelHeight || box.width <= kMinLabelWidth) {
+    if (!hasRoomForLabel(box)) {
         return;
     }
     const Rect text{box.x + kLabelLeft, box.y + kLabelTop, box.width - kLabelMargins, kLabelHeight};

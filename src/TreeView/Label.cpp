@@ -3,6 +3,7 @@
 
 #include "Model/File.h"
 #include "TreeView/BoxCanvas.h"
+#include "TreeView/LevelMetrics.h"
 #include "TreeView/Styles.h"
 #include "Utils/CoreUtil.h"
 
@@ -12,8 +13,6 @@ namespace tessera {
 
 namespace {
 
-constexpr double kMinHeight = 20.0;
-constexpr double kMinWidth = 30.0;
 constexpr double kMinHeightForSize = 80.0;
 constexpr double kMinWidthForSize = 60.0;
 
@@ -45,7 +44,7 @@ struct LabelLine {
 void drawCenteredLabel(
     BoxCanvas& canvas, const File& item, const Rect& box, const TextAttributes& attributes)
 {
-    if (box.height <= kMinHeight || box.width <= kMinWidth) {
+    if (!hasRoomForLabel(box)) {
         return;
     }
     const LabelLine line(box);

@@ -24,6 +24,14 @@ inline bool isTooSmall(const Rect& rect)
     return rect.width < kMinExtent || rect.height < kMinExtent;
 }
 
+/// Smaller boxes, insets taken off, carry no label.
+inline bool hasRoomForLabel(const Rect& rect)
+{
+    constexpr double kMinWidth = 30.0;
+    constexpr double kMinHeight = 20.0;
+    return rect.width > kMinWidth && rect.height > kMinHeight;
+}
+
 /// The corners of boxes: tighter on the smallest. `area` is that of the rectangle before insetting.
 inline double cornerRadius(double area)
 {

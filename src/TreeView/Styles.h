@@ -15,7 +15,8 @@ struct TextAttributes {
 };
 
 /// The text attribute sets of the labels inside boxes. Each is made on its first request, from the
-/// desktop's own font, and is the same object ever after. Main thread only.
+/// desktop's own font, on the main thread, and is the same object ever after. The threads that
+/// paint ask for sets too: what collects their labels before them has made those sets by then.
 class Styles {
 public:
     static const TextAttributes& textAttributes(); ///< documents

@@ -99,6 +99,13 @@ TEST(RoundedRect, HasPlainCornersBelowARadiusOfOne)
     EXPECT_EQ(roundedRect({5, 6, 10, 20}, 0.99), expected);
 }
 
+TEST(RoundedRect, HasRoundCornersFromARadiusOfOneOn)
+{
+    const QPainterPath path = roundedRect({5, 6, 10, 20}, 1);
+    EXPECT_FALSE(path.contains(QPointF(5.2, 6.2)));
+    EXPECT_TRUE(path.contains(QPointF(5.4, 6.4)));
+}
+
 TEST(RoundedRect, RoundsAllFourCorners)
 {
     const QPainterPath path = roundedRect({5, 5, 20, 10}, 3);
