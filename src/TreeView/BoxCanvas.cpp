@@ -174,7 +174,7 @@ void BoxCanvas::drawText(std::string_view name, const Rect& rect, const TextAttr
     const CutLine line = cutToWidth(*label, m_labels->ellipsis(), box.width());
     const int slack = std::max(box.width() - line.width, 0);
     const int left = box.left + (attributes.alignment == Qt::AlignHCenter ? slack / 2 : 0);
-    const int baseline = box.top + m_labels->ascent();
+    const int baseline = box.top + m_labels->baseline(*label, box.height());
     const auto penAt = [&](int x) {
         return Point{static_cast<double>(x), static_cast<double>(baseline)};
     };

@@ -29,6 +29,7 @@ struct ShapedLabel {
 
     std::vector<Glyph> glyphs;
     std::vector<int> ends; ///< where the line can be cut, ascending; the last is its width
+    int inkAscent = 0; ///< how far its ink reaches above the baseline
     bool runsLeftward = false; ///< holds right-to-left text, whose tail is not at the right
 
     int width() const { return ends.empty() ? 0 : ends.back(); }
@@ -53,8 +54,9 @@ public:
     /// The mark that stands for what was cut off.
     const ShapedLabel& ellipsis() const { return m_ellipsis; }
 
-    /// From the top of a line's box to its baseline.
-    int ascent() const { return m_ascent; }
+    /// From the top of a box of that height to the line's baseline. Letters that are higher than
+    /// the font says, such as those with two accents, move it down as far as there is room below.
+    int baseline(const ShapedLabel& label, int height) const;
 
 private:
     struct TextHash {
@@ -69,10 +71,10 @@ private:
     QFont font() const;
     ShapedLabel shape(const QString& text);
     void addGlyphs(const QGlyphRun& run, double ascent, ShapedLabel& label);
-    const GlyphMask& glyphMask(const QGlyphRun& run, std::uint32_t glyph);
 
     int m_pixelSize = 0;
     int m_ascent = 0;
+    int m_descent = 0;
     ShapedLabel m_ellipsis;
     std::unordered_map<std::string, ShapedLabel, TextHash, std::equal_to<>> m_labels;
     std::map<std::pair<std::string, std::uint32_t>, GlyphMask> m_glyphs; ///< by font and index

@@ -18,18 +18,31 @@ constexpr unsigned kFull = 255;
 /// Edges of rectangles are placed to a 256th of a pixel.
 constexpr int kSubpixels = 256;
 
-/// `over` at `coverage` of 255 and `under` at the rest, rounded, in all four channels.
-QRgb mixed(QRgb under, QRgb over, unsigned coverage)
+/// `over` at `coverage` of 255 and `under` at `rest`, rounded, in all four channels.
+QRgb weighted(QRgb under, unsigned rest, QRgb over, unsigned coverage)
 {
     constexpr std::uint32_t kOddBytes = 0x00FF00FF;
     constexpr std::uint32_t kHalves = 0x00800080;
-    const unsigned rest = kFull - coverage;
     const auto mix = [=](std::uint32_t below, std::uint32_t above) {
-        const std::uint32_t sum = below * rest + above * coverage + kHalves;
-        return ((sum + ((sum >> 8) & kOddBytes)) >> 8) & kOddBytes;
+        const std::uint32_t products = below * rest + above * coverage + kHalves;
+        return ((products + ((products >> 8) & kOddBytes)) >> 8) & kOddBytes;
     };
     return mix(under & kOddBytes, over & kOddBytes)
         | mix((under >> 8) & kOddBytes, (over >> 8) & kOddBytes) << 8;
+}
+
+/// The opaque `over` at `coverage` of 255.
+QRgb mixed(QRgb under, QRgb over, unsigned coverage)
+{
+    return weighted(under, kFull - coverage, over, coverage);
+}
+
+/// A premultiplied pixel at `opacity` of 255.
+QRgb laidOver(QRgb under, QRgb over, unsigned opacity)
+{
+    // Rounded up, so that no sum is beyond full.
+    const unsigned covered = (static_cast<unsigned>(qAlpha(over)) * opacity + kFull - 1) / kFull;
+    return weighted(under, kFull - covered, over, opacity);
 }
 
 void fillRun(QRgb* begin, QRgb* end, QRgb color, unsigned coverage)
@@ -201,13 +214,15 @@ void PixelCanvas::fillGlyph(
     for (int y = visible.top; y < visible.bottom; ++y) {
         const std::size_t rowStart
             = static_cast<std::size_t>(y - top) * static_cast<std::size_t>(glyph.width);
-        const std::uint8_t* coverage = glyph.coverage.data() + rowStart;
         QRgb* pixels = row(y);
         for (int x = visible.left; x < visible.right; ++x) {
-            const unsigned covered = coverage[x - left];
-            if (covered != 0) {
-                pixels[x] = mixed(pixels[x], color, covered * opacity / kFull);
+            const std::size_t place = rowStart + static_cast<std::size_t>(x - left);
+            const unsigned covered = glyph.coverage[place];
+            if (covered == 0) {
+                continue;
             }
+            pixels[x] = glyph.colors.empty() ? mixed(pixels[x], color, covered * opacity / kFull)
+                                             : laidOver(pixels[x], glyph.colors[place], opacity);
         }
     }
 }

@@ -38,13 +38,14 @@ struct DeviceRect {
     double height() const { return bottom - top; }
 };
 
-/// Coverage of one glyph by pixels, `left` and `top` counted from the pen's place on the baseline.
+/// One glyph in pixels, `left` and `top` counted from the pen's place on the baseline.
 struct GlyphMask {
     int left = 0;
     int top = 0;
     int width = 0;
     int height = 0;
     std::vector<std::uint8_t> coverage; ///< row by row
+    std::vector<QRgb> colors; ///< premultiplied, of a glyph that is a picture; else empty
 };
 
 /// The opaque colour of each pixel row: one for all, or a gradient along y.
@@ -93,7 +94,7 @@ public:
         const PixelRect& target,
         const RowColors& colors,
         std::span<const PixelRect> holes);
-    /// `opacity` is 0 to 255.
+    /// `opacity` is 0 to 255. A glyph with colours of its own has no use for `color`.
     void fillGlyph(const GlyphMask& glyph, int penX, int baseline, QRgb color, unsigned opacity);
 
 private:
