@@ -22,7 +22,9 @@ public:
     /// The path from the root, with symbolic links resolved as far as that works.
     [[nodiscard]] virtual std::string absolutePath(const std::string& path) const = 0;
 
-    /// Writes the file as a whole or, with an error, not at all: what was there before stays.
+    /// Makes the bytes the content of what the path leads to. A regular file keeps its rights, and
+    /// with an error its content as well where it can be replaced as a whole; a pipe or a device
+    /// gets the bytes written to it.
     [[nodiscard]] virtual std::error_code writeFile(
         const std::string& path, std::string_view bytes) const = 0;
 };

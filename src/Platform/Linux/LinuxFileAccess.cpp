@@ -2,13 +2,12 @@
 #include "Platform/Linux/LinuxFileAccess.h"
 
 #include "Platform/Linux/FileDescriptor.h"
-#include "Platform/Linux/writeAll.h"
+#include "Platform/Linux/writeWholeFile.h"
 
 #include <fcntl.h>
-#include <sys/stat.h>
+#include <unistd.h>
 
 #include <cerrno>
-#include <cstdio>
 #include <cstdlib>
 #include <memory>
 #include <optional>
@@ -18,28 +17,9 @@ namespace tessera {
 
 namespace {
 
-constexpr mode_t kNewFileMode = 0666; // what the user's umask leaves of it
-
 std::error_code lastError()
 {
     return {errno, std::generic_category()};
-}
-
-/// A file beside `path` that nobody else has, under a name that mkostemp chooses.
-FileDescriptor makeTemporary(const std::string& path, std::string& temporaryPath)
-{
-    const std::size_t slash = path.rfind('/');
-    const std::string folder = slash == std::string::npos ? "" : path.substr(0, slash + 1);
-    // The name is not derived from the file's own, which may be as long as names can be.
-    temporaryPath = folder + ".tessera-XXXXXX";
-    return FileDescriptor(::mkostemp(temporaryPath.data(), O_CLOEXEC));
-}
-
-mode_t currentUmask()
-{
-    const mode_t mask = ::umask(0);
-    ::umask(mask);
-    return mask;
 }
 
 std::error_code tryToOpenFolder(const std::string& path)
@@ -91,22 +71,7 @@ std::string LinuxFileAccess::absolutePath(const std::string& path) const
 
 std::error_code LinuxFileAccess::writeFile(const std::string& path, std::string_view bytes) const
 {
-    std::string temporaryPath;
-    const FileDescriptor file = makeTemporary(path, temporaryPath);
-    if (!file.isOpen()) {
-        return lastError();
-    }
-    std::error_code error = writeAll(file, bytes);
-    if (!error && ::fchmod(file.number(), kNewFileMode & ~currentUmask()) != 0) {
-        error = lastError();
-    }
-    if (!error && ::rename(temporaryPath.c_str(), path.c_str()) != 0) {
-        error = lastError();
-    }
-    if (error) {
-        ::unlink(temporaryPath.c_str());
-    }
-    return error;
+    return writeWholeFile(path, bytes);
 }
 
 } // namespace tessera

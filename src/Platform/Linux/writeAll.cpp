@@ -16,7 +16,7 @@ std::error_code lastError()
 
 } // namespace
 
-std::error_code writeAll(const FileDescriptor& file, std::string_view bytes)
+std::error_code writeBytes(const FileDescriptor& file, std::string_view bytes)
 {
     while (!bytes.empty()) {
         const ssize_t written = ::write(file.number(), bytes.data(), bytes.size());
@@ -28,6 +28,14 @@ std::error_code writeAll(const FileDescriptor& file, std::string_view bytes)
             return error;
         }
         bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return {};
+}
+
+std::error_code writeAll(const FileDescriptor& file, std::string_view bytes)
+{
+    if (const std::error_code error = writeBytes(file, bytes)) {
+        return error;
     }
     // A full disk or a lost mount may only show itself now.
     return ::fsync(file.number()) == 0 ? std::error_code{} : lastError();

@@ -8,6 +8,9 @@
 
 namespace tessera {
 
+/// Writes the bytes at the file's position.
+[[nodiscard]] std::error_code writeBytes(const FileDescriptor& file, std::string_view bytes);
+
 /// Writes the bytes at the file's position and has them brought to the disk.
 [[nodiscard]] std::error_code writeAll(const FileDescriptor& file, std::string_view bytes);
 
