@@ -8,7 +8,8 @@ namespace tessera {
 
 namespace {
 
-constexpr std::string_view kScheme = "file://";
+constexpr std::string_view kScheme = "file:";
+constexpr std::string_view kHostMark = "//";
 constexpr std::array<char, 16> kHexDigits{
     '0', '1', '2', '3', '4', '5', '6', '7', '8', '9', 'A', 'B', 'C', 'D', 'E', 'F'};
 
@@ -94,21 +95,38 @@ std::string_view lastPathComponent(std::string_view path)
     return trimmed.substr(slash + 1);
 }
 
+bool startsWithWord(std::string_view text, std::string_view lowerCaseWord)
+{
+    return text.size() >= lowerCaseWord.size()
+        && std::equal(
+               lowerCaseWord.begin(), lowerCaseWord.end(), text.begin(), [](char expected, char c) {
+                   return expected == c || (c >= 'A' && c <= 'Z' && expected == c - 'A' + 'a');
+               });
+}
+
 Url::Url(std::string_view path, bool isDirectory)
     : m_path(withoutTrailingSlashes(path))
     , m_isDirectory(isDirectory)
 {
 }
 
+bool Url::isWrittenIn(std::string_view text)
+{
+    return startsWithWord(text, kScheme);
+}
+
 std::optional<Url> Url::fromAbsoluteString(std::string_view text)
 {
     constexpr std::string_view kLocalHost = "localhost";
-    if (!text.starts_with(kScheme)) {
+    if (!isWrittenIn(text)) {
         return std::nullopt;
     }
     text.remove_prefix(kScheme.size());
-    if (text.starts_with(kLocalHost)) {
-        text.remove_prefix(kLocalHost.size());
+    if (text.starts_with(kHostMark)) {
+        text.remove_prefix(kHostMark.size());
+        if (startsWithWord(text, kLocalHost)) {
+            text.remove_prefix(kLocalHost.size());
+        }
     }
     const std::optional<std::string> path = percentDecoded(text);
     // No path has a zero byte in it: the system would read another, shorter one.
@@ -120,7 +138,7 @@ std::optional<Url> Url::fromAbsoluteString(std::string_view text)
 
 std::string Url::absoluteString() const
 {
-    std::string text = std::string(kScheme) + percentEncoded(m_path);
+    std::string text = std::string(kScheme).append(kHostMark) + percentEncoded(m_path);
     if (m_isDirectory && text.back() != '/') {
         text += '/';
     }

@@ -16,6 +16,9 @@ std::string percentEncoded(std::string_view bytes);
 /// The reverse; nothing when a percent sign is not followed by two hexadecimal digits.
 std::optional<std::string> percentDecoded(std::string_view text);
 
+/// Whether the text starts with a word of ASCII letters, given in lower case, in either case.
+bool startsWithWord(std::string_view text, std::string_view lowerCaseWord);
+
 /// A file URL: a path of bytes that may be no valid text, and whether it names a directory.
 class Url {
 public:
@@ -24,8 +27,12 @@ public:
     /// Trailing slashes of `path` are dropped, but the root stays "/".
     Url(std::string_view path, bool isDirectory);
 
-    /// Reads what absoluteString() gives, and what other programs write: also "localhost" as the
-    /// host. A slash at the end says that it is a directory. Nothing for other kinds of URL.
+    /// Whether the text names a file by a URL, right or wrong, and not by a path.
+    static bool isWrittenIn(std::string_view text);
+
+    /// Reads what absoluteString() gives, and what other programs write (RFC 8089): also
+    /// "localhost" as the host, or none at all, as in "file:/path". A slash at the end says that it
+    /// is a directory. Nothing for other kinds of URL.
     static std::optional<Url> fromAbsoluteString(std::string_view text);
 
     /// Absolute path as bytes, without a trailing slash.

@@ -4,6 +4,7 @@
 #include "Model/Url.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstddef>
@@ -28,6 +29,38 @@ std::optional<Number> parsePositive(std::string_view text)
         return std::nullopt;
     }
     return value;
+}
+
+/// Formats that a picture's name may ask for, and in which none is written.
+constexpr std::array<std::string_view, 19> kOtherFormats{
+    ".avif",
+    ".bmp",
+    ".eps",
+    ".gif",
+    ".heic",
+    ".ico",
+    ".jp2",
+    ".jpe",
+    ".jpeg",
+    ".jpg",
+    ".jxl",
+    ".pdf",
+    ".pgm",
+    ".ppm",
+    ".svg",
+    ".svgz",
+    ".tif",
+    ".tiff",
+    ".webp"};
+
+bool isOfOtherFormat(std::string_view file)
+{
+    const std::size_t dot = file.rfind('.');
+    const std::string_view suffix = dot == std::string_view::npos ? "" : file.substr(dot);
+    return std::any_of(
+        kOtherFormats.begin(), kOtherFormats.end(), [suffix](std::string_view format) {
+            return suffix.size() == format.size() && startsWithWord(suffix, format);
+        });
 }
 
 /// Reads the arguments one by one. Raw bytes instead of Qt's parser, which decodes: a folder's
@@ -63,10 +96,10 @@ private:
 
     void takeArgument(std::string_view argument)
     {
-        if (m_onlyFolders || argument.size() < 2 || argument.front() != '-') {
+        if (m_onlyPaths || argument.size() < 2 || argument.front() != '-') {
             takeFolder(argument);
         } else if (argument == "--") {
-            m_onlyFolders = true;
+            m_onlyPaths = true;
         } else if (argument == "--help" || argument == "-h") {
             m_result.action = Action::PrintHelp;
         } else if (argument == "--version") {
@@ -102,21 +135,19 @@ private:
         }
     }
 
+    /// Desktops name what they open by its path or its URL, and may name several: the last one
+    /// counts, as where several are chosen in a dialog.
     void takeFolder(std::string_view folder)
     {
+        m_hasSeveralFolders = !m_result.folder.empty();
+        m_result.folder = folder;
         if (folder.empty()) {
             m_error = "the folder's name is empty";
-        } else if (folder.starts_with("file:")) {
+        } else if (!m_onlyPaths && Url::isWrittenIn(folder)) {
             takeUrl(folder);
-            return;
-        } else if (!m_result.folder.empty()) {
-            m_error = "more than one folder";
         }
-        m_result.folder = folder;
     }
 
-    /// Desktops name what they open by its URL, and may name several: the last one counts, as where
-    /// several are chosen in a dialog.
     void takeUrl(std::string_view text)
     {
         const std::optional<Url> url = Url::fromAbsoluteString(text);
@@ -130,6 +161,10 @@ private:
     void takePicture(std::string_view file)
     {
         m_result.pictureFile = file;
+        if (isOfOtherFormat(file)) {
+            m_error = "pictures are written as PNG, and '" + m_result.pictureFile
+                + "' is the name of another format";
+        }
         if (!asksForText()) {
             m_result.action = Action::WritePicture;
         }
@@ -169,6 +204,8 @@ private:
         const double shortest = std::min(m_result.width, m_result.height) * m_result.scale;
         if (isPicture && m_result.folder.empty()) {
             m_error = "--picture needs the name of a folder";
+        } else if (isPicture && m_hasSeveralFolders) {
+            m_error = "--picture takes one folder";
         } else if (!isPicture && m_hasPictureOption) {
             m_error = "--size and --scale go with --picture";
         } else if (longest > kMaxPixels || shortest < 1) {
@@ -178,8 +215,9 @@ private:
 
     std::span<const char* const> m_arguments;
     std::size_t m_next = 0;
-    bool m_onlyFolders = false;
+    bool m_onlyPaths = false;
     bool m_hasPictureOption = false;
+    bool m_hasSeveralFolders = false;
     CommandLine m_result;
     std::string m_error;
 };
@@ -193,14 +231,16 @@ std::variant<CommandLine, CommandLineError> parseCommandLine(std::span<const cha
 
 std::string commandLineHelp()
 {
-    return "Usage: tessera [FOLDER]\n"
+    return "Usage: tessera [FOLDER...]\n"
            "       tessera --picture FILE.png [--size WxH] [--scale N] FOLDER\n"
            "\n"
-           "Shows where the space in FOLDER goes; lets you choose one if none is named.\n"
+           "Shows where the space in FOLDER goes; lets you choose one if none is named. FOLDER is\n"
+           "a path or a file URL; of several the last one is shown.\n"
            "\n"
            "  --picture FILE.png  write the picture to FILE.png instead of opening a window\n"
            "  --size WxH          width and height of the picture in points (1600x1000)\n"
            "  --scale N           pixels a point, for sharper pictures (1)\n"
+           "  --                  what follows are paths, whatever they look like\n"
            "  --help              print this text\n"
            "  --version           print the version\n"
            "\n"

@@ -128,6 +128,17 @@ TEST_F(PictureCommand, AFileThatCannotBeWrittenIsSaidInOneLineAndLeavesNothing)
     EXPECT_TRUE(std::filesystem::is_empty(out.path()));
 }
 
+TEST_F(PictureCommand, ALinkToTheStandardOutputGetsThePictureThere)
+{
+    out.makeSymbolicLink("output", "/proc/self/fd/1");
+    const auto result = tessera({"--picture", out.pathOf("output"), tree.path()});
+    EXPECT_EQ(result.exitStatus, 0) << result.standardError;
+    EXPECT_EQ(
+        QImage::fromData(QByteArray::fromStdString(result.standardOutput), "PNG").size(),
+        QSize(1600, 1000));
+    EXPECT_TRUE(std::filesystem::is_symlink(out.pathOf("output")));
+}
+
 TEST_F(PictureCommand, AnOlderFileStaysWhenTheFolderCannotBeRead)
 {
     out.writeFile("picture.png", "old");

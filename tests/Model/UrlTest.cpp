@@ -45,6 +45,26 @@ TEST(Url, ReadsLowerCaseEscapesAndTheLocalHost)
     EXPECT_EQ(Url::fromAbsoluteString("file://localhost/a%c3%a9"), Url("/a\xC3\xA9", false));
 }
 
+TEST(Url, ReadsUrlsWithoutAPlaceForTheHost)
+{
+    EXPECT_EQ(Url::fromAbsoluteString("file:/a%20b/"), Url("/a b", true));
+}
+
+TEST(Url, ReadsSchemeAndHostInEitherCase)
+{
+    EXPECT_EQ(Url::fromAbsoluteString("FILE:///a"), Url("/a", false));
+    EXPECT_EQ(Url::fromAbsoluteString("File://LocalHost/A"), Url("/A", false));
+}
+
+TEST(Url, KnowsUrlsFromPaths)
+{
+    EXPECT_TRUE(Url::isWrittenIn("file:/a"));
+    EXPECT_TRUE(Url::isWrittenIn("FILE:a"));
+    for (const char* path : {"", "file", "files:/a", "/file:/a", "./file:a", "fil\x05:/a"}) {
+        EXPECT_FALSE(Url::isWrittenIn(path)) << path;
+    }
+}
+
 TEST(Url, ReadsNothingElseThanAbsoluteFileUrls)
 {
     for (const char* text :
@@ -56,6 +76,10 @@ TEST(Url, ReadsNothingElseThanAbsoluteFileUrls)
           "file:///a%00b",
           "file://host/a",
           "file://",
+          "file:",
+          "file:a",
+          "file:localhost/a",
+          "file://localhosts/a",
           "/a"}) {
         EXPECT_EQ(Url::fromAbsoluteString(text), std::nullopt) << text;
     }

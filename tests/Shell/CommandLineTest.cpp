@@ -90,24 +90,58 @@ TEST(CommandLine, RefusesUnknownOptions)
     EXPECT_EQ(refusal({"-x"}), "unknown option '-x'");
 }
 
-TEST(CommandLine, RefusesTwoFolders)
-{
-    EXPECT_EQ(refusal({"/usr", "/home"}), "more than one folder");
-}
-
 TEST(CommandLine, TakesAFoldersUrlAsDesktopsGiveIt)
 {
     EXPECT_EQ(accepted({"file:///data/a%20b%FF/"}).folder, "/data/a b\xFF");
 }
 
-TEST(CommandLine, OfSeveralUrlsTheLastIsTaken)
+TEST(CommandLine, TakesUrlsWithoutAHostAndInCapitals)
+{
+    EXPECT_EQ(accepted({"file:/data/a%20b"}).folder, "/data/a b");
+    EXPECT_EQ(accepted({"FILE:///data"}).folder, "/data");
+}
+
+TEST(CommandLine, OfSeveralFoldersTheLastIsTakenHoweverTheyAreNamed)
 {
     EXPECT_EQ(accepted({"file:///a", "file:///b"}).folder, "/b");
+    EXPECT_EQ(accepted({"/a", "/b"}).folder, "/b");
+    EXPECT_EQ(accepted({"/a", "file:///b"}).folder, "/b");
+    EXPECT_EQ(accepted({"file:///a", "/b", "c"}).folder, "c");
+}
+
+TEST(CommandLine, APictureIsOfOneFolder)
+{
+    EXPECT_EQ(refusal({"--picture=o.png", "/a", "/b"}), "--picture takes one folder");
+    EXPECT_EQ(refusal({"/a", "file:///b", "--picture=o.png"}), "--picture takes one folder");
+}
+
+TEST(CommandLine, BehindTwoDashesAUrlIsAPath)
+{
+    EXPECT_EQ(accepted({"--", "file:x"}).folder, "file:x");
+    EXPECT_EQ(accepted({"--", "file:///a"}).folder, "file:///a");
+}
+
+TEST(CommandLine, RefusesPicturesWhoseNameAsksForAnotherFormat)
+{
+    EXPECT_EQ(
+        refusal({"--picture", "a/x.jpg", "/usr"}),
+        "pictures are written as PNG, and 'a/x.jpg' is the name of another format");
+    for (const char* name : {"x.JPEG", "x.webp", "x.png.tiff", ".gif"}) {
+        EXPECT_NE(refusal({"--picture", name, "/usr"}).find(name), std::string::npos);
+    }
+}
+
+TEST(CommandLine, PicturesMayHaveAnyOtherName)
+{
+    for (const char* name : {"x.PNG", "x", "tmp.aJpg", "a.jpg/x", "x.jpg.1", "jpg", "x.jpgs"}) {
+        EXPECT_EQ(accepted({"--picture", name, "/usr"}).pictureFile, name);
+    }
 }
 
 TEST(CommandLine, RefusesUrlsOfNoFolderHere)
 {
     EXPECT_EQ(refusal({"file://host/a"}), "'file://host/a' is no URL of a folder");
+    EXPECT_EQ(refusal({"FILE:x"}), "'FILE:x' is no URL of a folder");
     EXPECT_EQ(refusal({"file:///a%2"}), "'file:///a%2' is no URL of a folder");
 }
 
@@ -159,7 +193,8 @@ TEST(CommandLine, RefusesPictureOptionsWithoutAPicture)
 TEST(CommandLine, TheHelpNamesEveryOption)
 {
     const std::string help = commandLineHelp();
-    for (const char* option : {"--picture", "--size", "--scale", "--help", "--version", "FOLDER"}) {
+    for (const char* option :
+         {"--picture", "--size", "--scale", "  -- ", "--help", "--version", "FOLDER"}) {
         EXPECT_NE(help.find(option), std::string::npos);
     }
 }
