@@ -61,4 +61,10 @@ void ScanWorkers::waitForNone()
     m_changed.wait(lock, [this] { return m_count == 0; });
 }
 
+bool ScanWorkers::waitForNone(std::chrono::milliseconds limit)
+{
+    std::unique_lock lock(m_mutex);
+    return m_changed.wait_for(lock, limit, [this] { return m_count == 0; });
+}
+
 } // namespace tessera

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <condition_variable>
 #include <functional>
 #include <memory>
@@ -26,6 +27,8 @@ public:
 
     /// Blocks until no worker is running any more.
     void waitForNone();
+    /// Likewise, but no longer than that; false when one is still running then.
+    [[nodiscard]] bool waitForNone(std::chrono::milliseconds limit);
 
 private:
     void add();
