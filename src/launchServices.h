@@ -35,7 +35,9 @@ inline LaunchServices launchServices(const PlatformServices& services)
         *services.userAccount,
         *services.launcherProgress,
         *services.runningInstance,
-        services.helpFolder};
+        services.helpFolder,
+        services.availableMemory,
+        PlatformServices::hasTerminal()};
 }
 
 } // namespace tessera

@@ -7,14 +7,62 @@
 
 #include <QApplication>
 
-#include <cstdio>
+#include <chrono>
+#include <cstdlib>
+#include <optional>
 #include <span>
+#include <string>
 #include <variant>
 
 namespace {
 
 constexpr int kFailed = 1;
 constexpr int kBadUsage = 2;
+
+/// What other work has at the program's end, too.
+constexpr std::chrono::milliseconds kPatience{2000};
+
+/// Qt looks here, and nowhere else, when it activates a window on Wayland, and takes it away then.
+constexpr const char* kActivationToken = "XDG_ACTIVATION_TOKEN";
+
+/// Another thread may be reading the environment whenever a token comes, so it must not have to
+/// grow then: a variable that is gone again leaves its room behind. To be called before any thread
+/// runs.
+void makeRoomForActivationToken()
+{
+    if (!qEnvironmentVariableIsSet(kActivationToken)) {
+        qputenv(kActivationToken, "none");
+        qunsetenv(kActivationToken);
+    }
+}
+
+/// Elsewhere nobody would take it away, and all programs started from here would get it.
+void adoptActivationToken(const std::string& token)
+{
+    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {
+        qputenv(kActivationToken, QByteArray::fromStdString(token));
+    }
+}
+
+/// A scan of a file system that does not answer may never end, and holds on to the services.
+void endWorkers(
+    const tessera::PlatformServices& services, tessera::ScanWorkers& workers, int status)
+{
+    services.mainThread->close();
+    if (!workers.waitForNone(kPatience)) {
+        (void)services.userDefaults->synchronize();
+        std::_Exit(status);
+    }
+}
+
+int run(const tessera::CommandLine& commandLine, const tessera::PlatformServices& services)
+{
+    tessera::LaunchServices launched = tessera::launchServices(services);
+    launched.adoptActivationToken = adoptActivationToken;
+    const int status = tessera::launch(commandLine, launched);
+    endWorkers(services, *launched.scanEnvironment.workers, status);
+    return status;
+}
 
 } // namespace
 
@@ -29,24 +77,22 @@ int main(int argc, char** argv)
         return kBadUsage;
     }
     const auto& commandLine = std::get<CommandLine>(parsed);
-    if (printRequestedText(commandLine)) {
-        return 0;
+    if (const std::optional<int> status = printRequestedText(commandLine)) {
+        return *status;
     }
-    if (commandLine.action == CommandLine::Action::WritePicture) {
+    const bool isPicture = commandLine.action == CommandLine::Action::WritePicture;
+    if (isPicture) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     } else if (!PlatformServices::hasDisplay()) {
-        (void)std::fputs("tessera: there is no display; --picture draws to a file\n", stderr);
+        logLine("tessera: there is no display; --picture draws to a file");
         return kFailed;
     }
+    makeRoomForActivationToken();
 
-    logQtFailuresOnly();
+    endWhenQtFails();
     // Only the program's name: the other arguments are ours, and Qt would take some for its own.
     int qtArgumentCount = 1;
     const QApplication application(qtArgumentCount, argv);
-    const PlatformServices services = makePlatformServices();
-    const LaunchServices launched = launchServices(services);
-    const int status = launch(commandLine, launched);
-    services.mainThread->close();
-    launched.scanEnvironment.workers->waitForNone();
-    return status;
+    logQtFailuresOnly();
+    return run(commandLine, makePlatformServices(isPicture ? Session::StayOut : Session::TakePart));
 }

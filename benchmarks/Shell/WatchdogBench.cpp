@@ -37,6 +37,7 @@ class OnlyInstance final : public RunningInstance {
 public:
     [[nodiscard]] bool handOver(const Url& /*folder*/) override { return false; }
     void setHandler(Handler /*handler*/) override { }
+    void giveUp() override { }
 };
 
 bench::SessionFolders makeFolders(const std::filesystem::path& tree, const QTemporaryDir& home)

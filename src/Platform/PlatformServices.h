@@ -19,6 +19,7 @@
 #include "Utils/UserAccount.h"
 #include "Utils/Workspace.h"
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -57,12 +58,19 @@ struct PlatformServices {
     std::string archiver; ///< path of the archiving program, as bytes
     std::string helpFolder; ///< of features.html and faq.html, as bytes; empty when missing
     std::function<double()> clock;
+    std::uint64_t availableMemory = 0; ///< bytes that the program may take, at its start
 
     /// Whether windows can be shown; asked before there is an application object.
     static bool hasDisplay();
+    /// Whether somebody reads what the program writes to its standard error.
+    static bool hasTerminal();
 };
 
+/// Whether the program takes part in the user's session on the desktop. One that stays out has
+/// nothing to do with the session's bus, which might have to be started first.
+enum class Session : std::uint8_t { TakePart, StayOut };
+
 /// To be called once the application object exists, on the main thread.
-PlatformServices makePlatformServices();
+PlatformServices makePlatformServices(Session session = Session::TakePart);
 
 } // namespace tessera

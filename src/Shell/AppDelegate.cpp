@@ -21,7 +21,7 @@ namespace tessera {
 
 namespace {
 
-constexpr int kWaitMilliseconds = 100;
+constexpr int kWaitMilliseconds = 250;
 
 /// Whether somebody waits for the user's answer further down on the stack, in an event loop of its
 /// own. What waits may use the screen that another scan would take away.
@@ -93,7 +93,10 @@ bool AppDelegate::openFile(const std::string& path)
 {
     if (m_mainWindow != nullptr) {
         m_waiting = Url(path, true);
-        openWaiting();
+        if (!m_wait.isActive()) {
+            m_wait.start();
+            openWaiting();
+        }
     }
     return true;
 }
@@ -101,17 +104,22 @@ bool AppDelegate::openFile(const std::string& path)
 void AppDelegate::openWaiting()
 {
     if (isInNestedEventLoop()) {
-        m_wait.start();
         return;
     }
-    m_wait.stop();
-    MainWindowController::scanURL(std::exchange(m_waiting, {}));
+    if (m_waiting.empty()) {
+        m_wait.stop();
+    } else {
+        MainWindowController::scanURL(std::exchange(m_waiting, {}));
+    }
 }
 
-void AppDelegate::openFromElsewhere(const Url& folder)
+void AppDelegate::openFromElsewhere(const Url& folder, const std::string& activationToken)
 {
     if (m_mainWindow == nullptr) {
         return;
+    }
+    if (m_services.adoptActivationToken && !activationToken.empty()) {
+        m_services.adoptActivationToken(activationToken);
     }
     bringToFront(m_mainWindow->window());
     if (!folder.empty()) {

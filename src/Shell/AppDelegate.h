@@ -29,6 +29,8 @@ struct AppDelegateServices {
     const UserAccount& userAccount;
     /// The address of a help page; empty when it is not installed.
     std::function<std::string(HelpPage)> helpAddress;
+    /// Takes what the desktop lets a window come to the front by; may be empty.
+    std::function<void(const std::string&)> adoptActivationToken = nullptr;
 };
 
 /// The application as a whole: starts it, has one main window, opens preferences and help, and
@@ -47,12 +49,17 @@ public:
     void applicationDidFinishLaunching();
 
     /// Scans a folder that is to be opened with the program. While the user has to answer a
-    /// question or is in a menu, the scan waits for that. Always true; before there is a main
-    /// window the folder is dropped.
+    /// question the scan waits for that, and it waits a moment when another one was just started:
+    /// whatever calls how often, the window stays usable. Of what waits the last one is scanned.
+    /// Always true; before there is a main window the folder is dropped.
     bool openFile(const std::string& path);
 
-    /// Another start of the program asks for that folder, or with an empty URL for the window.
-    void openFromElsewhere(const Url& folder);
+    /// Whether a folder that is opened now has to wait.
+    bool isPausing() const { return m_wait.isActive(); }
+
+    /// Another start of the program asks for that folder, or with an empty URL for the window,
+    /// which may come to the front by that token of the desktop's.
+    void openFromElsewhere(const Url& folder, const std::string& activationToken = {});
 
     /// Opens a new preferences window in place of the previous one.
     void showPreferences();
@@ -67,8 +74,8 @@ private:
     std::unique_ptr<MainWindowController> m_mainWindow;
     std::unique_ptr<FolderDrop> m_folderDrop;
     std::unique_ptr<PreferencesWindowController> m_prefWindow;
-    Url m_waiting; ///< to be opened when the user is done
-    QTimer m_wait;
+    Url m_waiting; ///< to be opened as soon as may be; empty when nothing is
+    QTimer m_wait; ///< runs from one opening until the next may follow
 };
 
 } // namespace tessera

@@ -224,6 +224,14 @@ private:
 
 } // namespace
 
+std::uint64_t CommandLine::pictureMemory() const
+{
+    // Four for the pixel's colour, and the fifth for the file's content, which is much smaller.
+    constexpr double kBytesPerPixel = 5;
+    return static_cast<std::uint64_t>(
+        std::ceil(width * scale) * std::ceil(height * scale) * kBytesPerPixel);
+}
+
 std::variant<CommandLine, CommandLineError> parseCommandLine(std::span<const char* const> arguments)
 {
     return Parser(arguments).parse();
@@ -231,7 +239,7 @@ std::variant<CommandLine, CommandLineError> parseCommandLine(std::span<const cha
 
 std::string commandLineHelp()
 {
-    return "Usage: tessera [FOLDER...]\n"
+    return "Usage: tessera [FOLDER]\n"
            "       tessera --picture FILE.png [--size WxH] [--scale N] FOLDER\n"
            "\n"
            "Shows where the space in FOLDER goes; lets you choose one if none is named. FOLDER is\n"

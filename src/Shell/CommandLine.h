@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
 #include <span>
 #include <string>
 #include <variant>
@@ -20,6 +21,9 @@ struct CommandLine {
     int width = kDefaultWidth; ///< of the picture, in points
     int height = kDefaultHeight;
     double scale = 1; ///< pixels a point
+
+    /// How many bytes it takes to make the picture.
+    std::uint64_t pictureMemory() const;
 };
 
 /// A command line that makes no sense; the message says why in one line.

@@ -6,11 +6,15 @@
 #include "Shell/PictureWriter.h"
 #include "Shell/RunningInstance.h"
 #include "Shell/WindowedProgram.h"
+#include "Utils/CoreUtil.h"
 #include "Utils/Log.h"
 
 #include <QApplication>
 
+#include <cerrno>
 #include <cstdio>
+#include <cstdlib>
+#include <system_error>
 
 namespace tessera {
 
@@ -25,8 +29,54 @@ int fail(const std::string& reason)
     return kFailed;
 }
 
+int print(const char* text)
+{
+    if (std::fputs(text, stdout) >= 0 && std::fflush(stdout) == 0) {
+        return kDone;
+    }
+    const std::error_code error(errno, std::generic_category());
+    return fail("cannot write to the standard output: " + error.message());
+}
+
+/// What Qt was to show windows on, and could not.
+std::string displayFailure()
+{
+    std::string display;
+    for (const char* variable : {"WAYLAND_DISPLAY", "DISPLAY"}) {
+        const std::string value = qgetenv(variable).toStdString();
+        if (!value.empty()) {
+            display += (display.empty() ? "'" : " and '") + value + '\'';
+        }
+    }
+    const std::string platform = qgetenv("QT_QPA_PLATFORM").toStdString();
+    const std::string hint = "; --picture draws to a file";
+    if (platform.empty()) {
+        return "the display " + display + " does not answer" + hint;
+    }
+    return "Qt's platform '" + platform + "' does not start"
+        + (display.empty() ? "" : " on the display " + display) + hint;
+}
+
+[[noreturn]] void endInFailure(const QString& text)
+{
+    std::string reason = text.toStdString();
+    if (text.contains(QLatin1String("platform plugin"))) {
+        reason = displayFailure();
+    } else if (text.contains(QLatin1String("setuid"))) {
+        reason = "it does not run with the rights of another user than the one who started it";
+    }
+    // There is no object yet whose end would matter, and Qt would abort the process.
+    std::_Exit(fail(reason));
+}
+
 int writePicture(const CommandLine& commandLine, const LaunchServices& services)
 {
+    const std::uint64_t needed = commandLine.pictureMemory();
+    if (needed > services.availableMemory) {
+        return fail(
+            "the picture needs " + CoreUtil::formatSize(needed) + " of memory, and there are "
+            + CoreUtil::formatSize(services.availableMemory));
+    }
     const std::string problem
         = PictureWriter(services.scanEnvironment, services.files).write(commandLine);
     return problem.empty() ? kDone : fail(problem);
@@ -49,7 +99,11 @@ int openWindow(const std::string& folder, const LaunchServices& services)
         const std::error_code error = services.promptFiles.checkFolder(path);
         // A scan of what does not answer now can be watched, and broken off.
         if (error && error != std::errc::timed_out) {
-            return fail("cannot read the folder '" + folder + "': " + error.message());
+            const int status = fail("cannot read the folder '" + folder + "': " + error.message());
+            // Started from a file manager, only the window can say so.
+            if (services.hasTerminal) {
+                return status;
+            }
         }
         url = Url(path, true);
     }
@@ -58,17 +112,24 @@ int openWindow(const std::string& folder, const LaunchServices& services)
 
 } // namespace
 
-bool printRequestedText(const CommandLine& commandLine)
+std::optional<int> printRequestedText(const CommandLine& commandLine)
 {
     if (commandLine.action == CommandLine::Action::PrintHelp) {
-        (void)std::fputs(commandLineHelp().c_str(), stdout);
-        return true;
+        return print(commandLineHelp().c_str());
     }
     if (commandLine.action == CommandLine::Action::PrintVersion) {
-        (void)std::fputs("tessera " TESSERA_VERSION "\n", stdout);
-        return true;
+        return print("tessera " TESSERA_VERSION "\n");
     }
-    return false;
+    return std::nullopt;
+}
+
+void endWhenQtFails()
+{
+    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
+        if (type == QtFatalMsg) {
+            endInFailure(text);
+        }
+    });
 }
 
 void logQtFailuresOnly()

@@ -6,8 +6,10 @@
 #include "Shell/CommandLine.h"
 #include "Shell/HomeViewServices.h"
 
+#include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace tessera {
@@ -42,11 +44,19 @@ struct LaunchServices {
     LauncherProgress& launcherProgress;
     RunningInstance& runningInstance;
     std::string helpFolder; ///< path of the folder with the help pages; empty when missing
+    std::uint64_t availableMemory; ///< bytes
+    bool hasTerminal; ///< somebody reads the standard error
+    /// Takes what the desktop lets a window come to the front by.
+    std::function<void(const std::string&)> adoptActivationToken = nullptr;
 };
 
-/// Prints the text that --help or --version asks for; false when the command line asks for
-/// something else.
-bool printRequestedText(const CommandLine& commandLine);
+/// Prints the text that --help or --version asks for, and returns the exit status; nothing when the
+/// command line asks for something else.
+std::optional<int> printRequestedText(const CommandLine& commandLine);
+
+/// Until the application object is there: whatever keeps Qt from making one, such as a display that
+/// does not answer, ends the program with status 1 and one line that says so.
+void endWhenQtFails();
 
 /// Keeps Qt's advice to programmers out of what the user reads: only its failures are logged.
 void logQtFailuresOnly();

@@ -4,6 +4,7 @@
 #include "Model/Url.h"
 
 #include <functional>
+#include <string>
 
 namespace tessera {
 
@@ -12,8 +13,9 @@ namespace tessera {
 class RunningInstance {
 public:
     /// Gets the folder that a later start was to open; an empty URL when it named none, and only
-    /// the window is to come to the front.
-    using Handler = std::function<void(const Url& folder)>;
+    /// the window is to come to the front. By the token, which may be empty, the desktop lets it;
+    /// it is printable ASCII of at most 256 bytes.
+    using Handler = std::function<void(const Url& folder, const std::string& activationToken)>;
 
     RunningInstance() = default;
     RunningInstance(const RunningInstance&) = delete;
@@ -28,6 +30,9 @@ public:
     /// Called from the event loop for each later start. What comes before a handler is set is kept
     /// for it.
     virtual void setHandler(Handler handler) = 0;
+
+    /// From now on this process is not the one any more, and the next start is the first again.
+    virtual void giveUp() = 0;
 };
 
 } // namespace tessera

@@ -88,20 +88,21 @@ WindowedProgram::WindowedProgram(const LaunchServices& services)
     m_delegate = std::make_unique<AppDelegate>(AppDelegateServices{
         mainWindowServices(services, RootModel::sharedInstance()),
         services.userAccount,
-        [helpFolder = services.helpFolder](HelpPage page) {
-            return helpAddress(helpFolder, page);
-        }});
+        [helpFolder = services.helpFolder](HelpPage page) { return helpAddress(helpFolder, page); },
+        services.adoptActivationToken});
     m_delegate->applicationDidFinishLaunching();
     QMainWindow& window = m_delegate->mainWindow()->window();
     m_desktop->alert.setMainWindow(&window);
     setUpPreview(window, services, m_desktop->icons);
-    m_runningInstance.setHandler(
-        [this](const Url& later) { m_delegate->openFromElsewhere(later); });
+    m_runningInstance.setHandler([this](const Url& later, const std::string& activationToken) {
+        m_delegate->openFromElsewhere(later, activationToken);
+    });
 }
 
 WindowedProgram::~WindowedProgram()
 {
-    m_runningInstance.setHandler([](const Url&) {});
+    // First: what is left to do may take a while, and another start need not wait for it.
+    m_runningInstance.giveUp();
 }
 
 MainWindowServices WindowedProgram::mainWindowServices(

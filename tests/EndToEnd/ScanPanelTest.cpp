@@ -179,5 +179,12 @@ TEST_F(ScanPanel, ANewScanWorksWhileTheCancelledOneIsStillStuck)
     EXPECT_TRUE(scan("Downloads"));
 }
 
+TEST_F(ScanPanel, AScanThatIsStuckDoesNotKeepTheProgramFromEnding)
+{
+    scanUpTo("Documents", "/drafts");
+    EXPECT_TRUE(quits());
+    program.reset();
+}
+
 } // namespace
 } // namespace tessera::test

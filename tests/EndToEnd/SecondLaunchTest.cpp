@@ -52,6 +52,15 @@ TEST_F(SecondLaunch, WithoutAFolderLeavesTheTreeAlone)
     EXPECT_TRUE(showsTree("Documents"));
 }
 
+TEST_F(SecondLaunch, OpensAFolderThatCannotBeOpenedToSaySo)
+{
+    ASSERT_TRUE(isHome());
+    ASSERT_TRUE(handsOver({home("none")}));
+    see("The folder cannot be scanned", "alert message");
+    EXPECT_TRUE(acceptDialog());
+    EXPECT_TRUE(isHome());
+}
+
 TEST_F(SecondLaunch, OpensAFolderFromTheHomeScreen)
 {
     ASSERT_TRUE(isHome());

@@ -14,6 +14,7 @@
 #include <QMainWindow>
 #include <QMimeData>
 #include <QPointer>
+#include <QTest>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -39,9 +40,18 @@ class AppDelegateTest : public testing::Test {
 protected:
     AppDelegateServices appServices()
     {
-        return {services.get(), account, [](HelpPage page) -> std::string {
-                    return page == HelpPage::Features ? "file:///features" : "file:///faq";
-                }};
+        return {
+            services.get(),
+            account,
+            [](HelpPage page) -> std::string {
+                return page == HelpPage::Features ? "file:///features" : "file:///faq";
+            },
+            [this](const std::string& token) { tokens.push_back(token); }};
+    }
+
+    void processEventsUntilScanned(const std::string& path)
+    {
+        QTRY_VERIFY(!services.screens.scanned.empty() && services.screens.scanned.back() == path);
     }
 
     void showTree()
@@ -51,6 +61,7 @@ protected:
         NotificationCenter::defaultCenter().post("ScanComplete");
     }
 
+    std::vector<std::string> tokens;
     FakeUserAccount account;
     test::FakeMainWindowServices services;
     AppDelegate delegate{appServices()};
@@ -123,6 +134,7 @@ TEST_F(AppDelegateTest, AFolderOpenedWhileATreeIsDisplayedIsScannedFromTheHomeSc
     showTree();
     ASSERT_EQ(delegate.mainWindow()->state(), ScreenState::Tree);
     delegate.openFile("/other");
+    processEventsUntilScanned("/other");
     EXPECT_EQ(delegate.mainWindow()->state(), ScreenState::Scanning);
     EXPECT_THAT(services.screens.scanned, ElementsAre("/data", "/other"));
 }
@@ -149,6 +161,34 @@ TEST_F(AppDelegateTest, WhileTheUserHasToAnswerAQuestionAFolderWaits)
     poll.start(1);
     application.exec();
     EXPECT_THAT(services.screens.scanned, ElementsAre("/data"));
+}
+
+TEST_F(AppDelegateTest, OfManyFoldersOpenedAtOnceTheFirstAndTheLastAreScanned)
+{
+    delegate.applicationDidFinishLaunching();
+    for (int i = 0; i <= 1000; ++i) {
+        delegate.openFromElsewhere(Url('/' + std::to_string(i), true));
+    }
+    EXPECT_THAT(services.screens.scanned, ElementsAre("/0"));
+    processEventsUntilScanned("/1000");
+    EXPECT_THAT(services.screens.scanned, ElementsAre("/0", "/1000"));
+}
+
+TEST_F(AppDelegateTest, AFolderOpenedLongAfterAnotherIsScannedAtOnce)
+{
+    delegate.applicationDidFinishLaunching();
+    delegate.openFile("/data");
+    QTRY_VERIFY(!delegate.isPausing());
+    delegate.openFile("/other");
+    EXPECT_THAT(services.screens.scanned, ElementsAre("/data", "/other"));
+}
+
+TEST_F(AppDelegateTest, AnotherStartsTokenIsAdopted)
+{
+    delegate.applicationDidFinishLaunching();
+    delegate.openFromElsewhere(Url(), "token");
+    delegate.openFromElsewhere(Url());
+    EXPECT_THAT(tokens, ElementsAre("token"));
 }
 
 TEST_F(AppDelegateTest, AnotherStartBringsTheWindowBack)

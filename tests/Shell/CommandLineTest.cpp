@@ -185,6 +185,18 @@ TEST(CommandLine, RefusesPicturesTooLargeForTheFormat)
     refusal({"--picture=o.png", "/usr", "--size=20000x1", "--scale=0.5"});
 }
 
+TEST(CommandLine, APictureTakesFiveBytesAPixel)
+{
+    const auto memoryOf = [](const char* size, const char* scale) {
+        return accepted({"--picture=o.png", "/usr", "--size", size, "--scale", scale})
+            .pictureMemory();
+    };
+    EXPECT_EQ(memoryOf("1600x1000", "1"), 8'000'000U);
+    EXPECT_EQ(memoryOf("1600x1000", "2"), 32'000'000U);
+    EXPECT_EQ(memoryOf("3x1", "1.5"), 50U); // 5 x 2 pixels
+    EXPECT_EQ(memoryOf("32767x32767", "1"), 5'368'381'445U);
+}
+
 TEST(CommandLine, RefusesPictureOptionsWithoutAPicture)
 {
     EXPECT_EQ(refusal({"/usr", "--scale=2"}), "--size and --scale go with --picture");

@@ -8,6 +8,7 @@
 #include <QStringList>
 #include <QVariantMap>
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -18,7 +19,7 @@ namespace {
 const QString kInterface = QStringLiteral("org.freedesktop.Application");
 const QString kActivationToken = QStringLiteral("activation-token");
 constexpr const char* kTokenVariable = "XDG_ACTIVATION_TOKEN";
-constexpr int kTimeLimitMs = 2000;
+constexpr qsizetype kLongestToken = 256;
 
 const QString kIntrospection = QStringLiteral(R"(<interface name="org.freedesktop.Application">
   <method name="Activate">
@@ -26,11 +27,6 @@ const QString kIntrospection = QStringLiteral(R"(<interface name="org.freedeskto
   </method>
   <method name="Open">
     <arg type="as" name="uris" direction="in"/>
-    <arg type="a{sv}" name="platform_data" direction="in"/>
-  </method>
-  <method name="ActivateAction">
-    <arg type="s" name="action_name" direction="in"/>
-    <arg type="av" name="parameter" direction="in"/>
     <arg type="a{sv}" name="platform_data" direction="in"/>
   </method>
 </interface>)");
@@ -47,14 +43,19 @@ QVariantMap platformData()
     return data;
 }
 
-/// Qt looks for it in the environment when a window is activated.
-void adoptPlatformData(const QVariant& argument)
+bool isPrintable(QChar character)
+{
+    return character >= QLatin1Char(' ') && character <= QLatin1Char('~');
+}
+
+/// Empty when there is none, or what is none: anybody in the session may call.
+std::string activationToken(const QVariant& argument)
 {
     const auto data = qdbus_cast<QVariantMap>(argument);
     const QString token = data.value(kActivationToken).toString();
-    if (!token.isEmpty()) {
-        qputenv(kTokenVariable, token.toUtf8());
-    }
+    const bool isToken
+        = token.size() <= kLongestToken && std::all_of(token.begin(), token.end(), isPrintable);
+    return isToken ? token.toStdString() : std::string();
 }
 
 /// The last one counts, as where several folders are chosen in a dialog.
@@ -70,11 +71,6 @@ std::optional<Url> lastFolder(const QVariant& argument)
 
 } // namespace
 
-DBusRunningInstance::DBusRunningInstance()
-    : DBusRunningInstance(QDBusConnection::sessionBus(), kTimeLimitMs)
-{
-}
-
 DBusRunningInstance::DBusRunningInstance(QDBusConnection bus, int timeLimitMs)
     : m_bus(std::move(bus))
     , m_timeLimitMs(timeLimitMs)
@@ -83,10 +79,24 @@ DBusRunningInstance::DBusRunningInstance(QDBusConnection bus, int timeLimitMs)
 
 DBusRunningInstance::~DBusRunningInstance()
 {
-    m_bus.unregisterObject(QString::fromLatin1(kObjectPath));
-    if (m_bus.isConnected()) {
-        m_bus.unregisterService(QString::fromLatin1(kBusName));
+    DBusRunningInstance::giveUp();
+}
+
+void DBusRunningInstance::giveUp()
+{
+    if (!m_bus.isConnected()) {
+        return;
     }
+    m_bus.unregisterObject(QString::fromLatin1(kObjectPath));
+    QDBusMessage release = QDBusMessage::createMethodCall(
+        QStringLiteral("org.freedesktop.DBus"),
+        QStringLiteral("/org/freedesktop/DBus"),
+        QStringLiteral("org.freedesktop.DBus"),
+        QStringLiteral("ReleaseName"));
+    release << QString::fromLatin1(kBusName);
+    // Qt's own function would wait much longer for a bus that has stopped.
+    (void)m_bus.call(release, QDBus::Block, m_timeLimitMs);
+    m_bus = QDBusConnection(QString());
 }
 
 bool DBusRunningInstance::handOver(const Url& folder)
@@ -125,17 +135,17 @@ bool DBusRunningInstance::callOwner(const Url& folder)
 void DBusRunningInstance::setHandler(Handler handler)
 {
     m_handler = std::move(handler);
-    for (const Url& folder : std::exchange(m_early, {})) {
-        m_handler(folder);
+    for (const Request& request : std::exchange(m_early, {})) {
+        m_handler(request.folder, request.activationToken);
     }
 }
 
-void DBusRunningInstance::received(const Url& folder)
+void DBusRunningInstance::received(Request request)
 {
     if (m_handler) {
-        m_handler(folder);
+        m_handler(request.folder, request.activationToken);
     } else {
-        m_early.push_back(folder);
+        m_early.push_back(std::move(request));
     }
 }
 
@@ -147,27 +157,32 @@ QString DBusRunningInstance::introspect(const QString& /*path*/) const
 bool DBusRunningInstance::handleMessage(
     const QDBusMessage& message, const QDBusConnection& connection)
 {
-    const QVariantList arguments = message.arguments();
-    std::optional<Url> folder;
-    if (message.interface() != kInterface) {
+    // A call that was on its way when the name was given up is for the next start.
+    if (message.interface() != kInterface || !m_bus.isConnected()) {
         return false;
     }
+    const QVariantList arguments = message.arguments();
+    std::optional<Url> folder;
     if (message.member() == QStringLiteral("Open")
         && message.signature() == QStringLiteral("asa{sv}")) {
         folder = lastFolder(arguments.at(0));
-        adoptPlatformData(arguments.at(1));
     } else if (
         message.member() == QStringLiteral("Activate")
         && message.signature() == QStringLiteral("a{sv}")) {
         folder = Url();
-        adoptPlatformData(arguments.at(0));
-    }
-    if (!folder) {
+    } else {
         return false;
     }
     // The caller waits for no more than that its call has come.
-    connection.send(message.createReply());
-    received(*folder);
+    if (message.isReplyRequired()) {
+        connection.send(
+            folder ? message.createReply()
+                   : message.createErrorReply(
+                       QDBusError::InvalidArgs, QStringLiteral("Only local folders are opened")));
+    }
+    if (folder) {
+        received({*std::move(folder), activationToken(arguments.last())});
+    }
     return true;
 }
 

@@ -6,6 +6,7 @@
 #include <QDBusConnection>
 #include <QDBusVirtualObject>
 
+#include <string>
 #include <vector>
 
 namespace tessera {
@@ -17,27 +18,33 @@ class DBusRunningInstance final : public RunningInstance, private QDBusVirtualOb
 public:
     static constexpr const char* kBusName = "app.tessera.Tessera";
     static constexpr const char* kObjectPath = "/app/tessera/Tessera";
+    static constexpr int kTimeLimitMs = 2000; ///< for each answer
 
-    /// On the session bus, if there is one.
-    DBusRunningInstance();
-    DBusRunningInstance(QDBusConnection bus, int timeLimitMs);
+    /// Without a bus every process is on its own.
+    explicit DBusRunningInstance(QDBusConnection bus, int timeLimitMs = kTimeLimitMs);
     ~DBusRunningInstance() override;
 
     [[nodiscard]] bool handOver(const Url& folder) override;
     void setHandler(Handler handler) override;
+    void giveUp() override;
 
 private:
+    struct Request {
+        Url folder;
+        std::string activationToken;
+    };
+
     QString introspect(const QString& path) const override;
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;
 
     bool ownName();
     bool callOwner(const Url& folder);
-    void received(const Url& folder);
+    void received(Request request);
 
     QDBusConnection m_bus;
     int m_timeLimitMs;
     Handler m_handler;
-    std::vector<Url> m_early; ///< what came before there was a handler
+    std::vector<Request> m_early; ///< what came before there was a handler
 };
 
 } // namespace tessera

@@ -59,9 +59,9 @@ QDBusMessage showItems(const Url& item)
 
 } // namespace
 
-DBusWorkspace::DBusWorkspace(MainThread& mainThread)
+DBusWorkspace::DBusWorkspace(QDBusConnection bus, MainThread& mainThread)
     : DBusWorkspace(
-        QDBusConnection::sessionBus(),
+        std::move(bus),
         startXdgOpen,
         mainThread,
         [trash = FreedesktopTrash(TrashUser::current())](const std::vector<Url>& urls) {

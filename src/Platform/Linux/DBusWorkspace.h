@@ -20,8 +20,8 @@ public:
     /// Starts whatever opens an absolute URL; false when that could not be started.
     using Opener = std::function<bool(const std::string& absoluteUrl)>;
 
-    /// On the session bus, with xdg-open and the user's own trash. `mainThread` must outlive it.
-    explicit DBusWorkspace(MainThread& mainThread);
+    /// With xdg-open and the user's own trash. `mainThread` must outlive it.
+    DBusWorkspace(QDBusConnection bus, MainThread& mainThread);
     DBusWorkspace(
         QDBusConnection bus, Opener opener, MainThread& mainThread, BackgroundTrash::Mover mover);
     ~DBusWorkspace() override;

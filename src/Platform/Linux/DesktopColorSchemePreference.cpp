@@ -47,9 +47,9 @@ DesktopColorSchemePreference::DesktopColorSchemePreference(
 {
 }
 
-DesktopColorSchemePreference::DesktopColorSchemePreference()
+DesktopColorSchemePreference::DesktopColorSchemePreference(QDBusConnection bus)
     : DesktopColorSchemePreference(
-        QDBusConnection::sessionBus(),
+        std::move(bus),
         DesktopSettings::kSchema,
         qEnvironmentVariable(kGtkThemeVariable).toStdString())
 {

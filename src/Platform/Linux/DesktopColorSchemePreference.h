@@ -19,8 +19,8 @@ public:
     /// `gtkTheme`: of the programs that this process' environment chooses a theme for; may be
     /// empty.
     DesktopColorSchemePreference(QDBusConnection bus, std::string schema, std::string gtkTheme);
-    /// As the session says it.
-    DesktopColorSchemePreference();
+    /// As the session of that bus says it.
+    explicit DesktopColorSchemePreference(QDBusConnection bus);
     ~DesktopColorSchemePreference() override;
 
     [[nodiscard]] ColorScheme colorScheme() const override;

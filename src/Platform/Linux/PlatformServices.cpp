@@ -17,9 +17,14 @@
 #include "Platform/Linux/LinuxUserAccount.h"
 #include "Platform/Linux/UnityLauncherProgress.h"
 #include "Platform/Linux/XbelRecentDocuments.h"
+#include "Platform/Linux/availableMemory.h"
 #include "Platform/Linux/executableFolder.h"
 #include "Platform/Linux/helpFolder.h"
 #include "Platform/Qt/SettingsUserDefaults.h"
+
+#include <QDBusConnection>
+
+#include <unistd.h>
 
 #include <cstdlib>
 #include <ctime>
@@ -54,8 +59,15 @@ bool PlatformServices::hasDisplay()
     return isSet("DISPLAY") || isSet("WAYLAND_DISPLAY") || isSet("QT_QPA_PLATFORM");
 }
 
-PlatformServices makePlatformServices()
+bool PlatformServices::hasTerminal()
 {
+    return ::isatty(STDERR_FILENO) == 1;
+}
+
+PlatformServices makePlatformServices(Session session)
+{
+    const QDBusConnection bus
+        = session == Session::TakePart ? QDBusConnection::sessionBus() : QDBusConnection(QString());
     returnLargeBlocksAtOnce();
     PlatformServices services;
     services.fileManager = std::make_unique<LinuxFileManager>();
@@ -76,16 +88,17 @@ PlatformServices makePlatformServices()
         = std::make_unique<SettingsUserDefaults>(SettingsUserDefaults::defaultFilePath());
     services.recentDocuments
         = std::make_unique<XbelRecentDocuments>(XbelRecentDocuments::defaultFilePath(), prompt);
-    services.colorSchemePreference = std::make_unique<DesktopColorSchemePreference>();
+    services.colorSchemePreference = std::make_unique<DesktopColorSchemePreference>(bus);
     services.motionPreference = std::make_unique<DesktopMotionPreference>();
-    services.launcherProgress = std::make_unique<UnityLauncherProgress>();
-    services.runningInstance = std::make_unique<DBusRunningInstance>();
+    services.launcherProgress = std::make_unique<UnityLauncherProgress>(bus);
+    services.runningInstance = std::make_unique<DBusRunningInstance>(bus);
     services.mainThread = std::make_unique<QtMainThread>();
-    services.workspace = std::make_unique<DBusWorkspace>(*services.mainThread);
+    services.workspace = std::make_unique<DBusWorkspace>(bus, *services.mainThread);
     services.makeTask = [] { return std::make_unique<ChildProcessTask>(); };
     services.archiver = executableFolder() + "/tessera-ditto";
     services.helpFolder = findHelpFolder(executableFolder());
     services.clock = coarseSeconds;
+    services.availableMemory = availableMemory();
     return services;
 }
 

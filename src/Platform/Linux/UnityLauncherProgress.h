@@ -12,7 +12,7 @@ namespace tessera {
 class UnityLauncherProgress final : public LauncherProgress {
 public:
     /// Without a bus nothing is told.
-    explicit UnityLauncherProgress(QDBusConnection bus = QDBusConnection::sessionBus());
+    explicit UnityLauncherProgress(QDBusConnection bus);
 
     void show(double fraction) override;
     void hide() override;

@@ -5,6 +5,7 @@
 
 #include <QDBusMessage>
 #include <QDBusPendingCall>
+#include <QRegularExpression>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -34,8 +35,9 @@ protected:
 
     void listen()
     {
-        first->setHandler([this](const Url& folder) {
+        first->setHandler([this](const Url& folder, const std::string& token) {
             handled.push_back(folder.empty() ? "the window" : folder.path());
+            tokens.push_back(token);
         });
     }
 
@@ -51,12 +53,21 @@ protected:
         return isHandedOver.get();
     }
 
-    QDBusMessage callFirst(const QString& member, const QVariantList& arguments)
+    void activateWith(const QString& token)
+    {
+        const QVariantMap data{{QStringLiteral("activation-token"), token}};
+        EXPECT_EQ(callFirst(QStringLiteral("Activate"), {data}).type(), QDBusMessage::ReplyMessage);
+    }
+
+    QDBusMessage callFirst(
+        const QString& member,
+        const QVariantList& arguments,
+        const QString& interface = QStringLiteral("org.freedesktop.Application"))
     {
         QDBusMessage call = QDBusMessage::createMethodCall(
             QString::fromLatin1(DBusRunningInstance::kBusName),
             QString::fromLatin1(DBusRunningInstance::kObjectPath),
-            QStringLiteral("org.freedesktop.Application"),
+            interface,
             member);
         call.setArguments(arguments);
         QDBusConnection caller = bus.connection(QStringLiteral("tessera-test-caller"));
@@ -68,6 +79,7 @@ protected:
     test::SessionBus bus;
     std::unique_ptr<DBusRunningInstance> first;
     std::vector<std::string> handled;
+    std::vector<std::string> tokens;
 };
 
 TEST_F(DBusRunningInstanceOnABus, TheFirstStartHasNobodyToHandOverTo)
@@ -133,9 +145,72 @@ TEST_F(DBusRunningInstanceOnABus, CallsThatMakeNoSenseAreAnsweredWithAnError)
     listen();
     const QStringList web{QStringLiteral("https://example.org/")};
     EXPECT_EQ(
-        callFirst(QStringLiteral("Open"), {web, QVariantMap()}).type(), QDBusMessage::ErrorMessage);
+        callFirst(QStringLiteral("Open"), {web, QVariantMap()}).errorName(),
+        QStringLiteral("org.freedesktop.DBus.Error.InvalidArgs"));
     EXPECT_EQ(callFirst(QStringLiteral("Open"), {}).type(), QDBusMessage::ErrorMessage);
     EXPECT_EQ(callFirst(QStringLiteral("Activate"), {5}).type(), QDBusMessage::ErrorMessage);
+    EXPECT_THAT(handled, IsEmpty());
+}
+
+TEST_F(DBusRunningInstanceOnABus, AnnouncesWhatItAnswersAndNothingElse)
+{
+    (void)first->handOver(Url());
+    listen();
+    const QString all = callFirst(
+                            QStringLiteral("Introspect"),
+                            {},
+                            QStringLiteral("org.freedesktop.DBus.Introspectable"))
+                            .arguments()
+                            .value(0)
+                            .toString();
+    const QString ours
+        = all.section(QStringLiteral("<interface name=\"org.freedesktop.Application\">"), 1)
+              .section(QStringLiteral("</interface>"), 0, 0);
+    QRegularExpressionMatchIterator method
+        = QRegularExpression(QStringLiteral("<method name=\"(\\w+)\"")).globalMatch(ours);
+    QStringList names;
+    while (method.hasNext()) {
+        names << method.next().captured(1);
+    }
+    EXPECT_EQ(names, QStringList({QStringLiteral("Activate"), QStringLiteral("Open")}));
+}
+
+TEST_F(DBusRunningInstanceOnABus, ALaterStartsTokenOfTheDesktopComesWithIt)
+{
+    (void)first->handOver(Url());
+    listen();
+    const QString longest(256, QLatin1Char('~'));
+    activateWith(QStringLiteral("shell_1-2 TIME3"));
+    activateWith(longest);
+    EXPECT_THAT(tokens, ElementsAre("shell_1-2 TIME3", longest.toStdString()));
+}
+
+TEST_F(DBusRunningInstanceOnABus, WhatIsNoTokenIsNotTakenForOne)
+{
+    (void)first->handOver(Url());
+    listen();
+    activateWith(QString(257, QLatin1Char('x')));
+    activateWith(QStringLiteral("line\n"));
+    activateWith(QStringLiteral("delete\x7F"));
+    activateWith(QStringLiteral("caf\u00E9"));
+    EXPECT_THAT(tokens, ElementsAre("", "", "", ""));
+}
+
+TEST_F(DBusRunningInstanceOnABus, CallsLeaveTheEnvironmentAlone)
+{
+    const QByteArray before = qgetenv("XDG_ACTIVATION_TOKEN");
+    (void)first->handOver(Url());
+    listen();
+    activateWith(QStringLiteral("token"));
+    EXPECT_EQ(qgetenv("XDG_ACTIVATION_TOKEN"), before);
+}
+
+TEST_F(DBusRunningInstanceOnABus, WhenTheFirstHasGivenUpTheNextOneIsTheFirst)
+{
+    (void)first->handOver(Url());
+    listen();
+    first->giveUp();
+    EXPECT_FALSE(startSecond(Url("/data", true)));
     EXPECT_THAT(handled, IsEmpty());
 }
 
