@@ -7,10 +7,14 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstring>
 
 namespace tessera {
 
 namespace {
+
+/// Sorting the lines of the longest list costs about as much as searching it so many times.
+constexpr std::size_t kFewLookups = 32;
 
 FileDescriptor openRegularFile(int directory, const char* name)
 {
@@ -46,25 +50,44 @@ std::string readUpTo(int file, std::size_t maxBytes)
 
 } // namespace
 
-HiddenList::HiddenList(int directory)
+HiddenList::HiddenList(int directory, std::size_t lookups)
 {
     const FileDescriptor file = openRegularFile(directory, kFileName.data());
     if (!file.isOpen()) {
         return;
     }
-    m_text = readUpTo(file.number(), kMaxBytes);
+    m_text = '\n' + readUpTo(file.number(), kMaxBytes) + '\n';
+    if (lookups > kFewLookups) {
+        sortLines();
+    }
+}
+
+void HiddenList::sortLines()
+{
     std::string_view rest = m_text;
     while (!rest.empty()) {
-        const std::size_t end = std::min(rest.find('\n'), rest.size());
+        const std::size_t end = rest.find('\n');
         m_names.push_back(rest.substr(0, end));
-        rest.remove_prefix(std::min(end + 1, rest.size()));
+        rest.remove_prefix(end + 1);
     }
     std::sort(m_names.begin(), m_names.end());
 }
 
 bool HiddenList::contains(std::string_view name) const
 {
-    return std::binary_search(m_names.begin(), m_names.end(), name);
+    return m_names.empty() ? isLine(name)
+                           : std::binary_search(m_names.begin(), m_names.end(), name);
+}
+
+/// Searches the text as a whole, which memmem(3) does in a time that grows with its length alone,
+/// whatever stands in it.
+bool HiddenList::isLine(std::string_view name) const
+{
+    if (name.find('\n') != std::string_view::npos) {
+        return false; // though two lines may look like it
+    }
+    const std::string line = '\n' + std::string(name) + '\n';
+    return ::memmem(m_text.data(), m_text.size(), line.data(), line.size()) != nullptr;
 }
 
 } // namespace tessera

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -8,6 +9,9 @@
 namespace tessera {
 
 /// The names in a folder's `.hidden` file, one a line: file managers do not show these items.
+///
+/// Every folder may have a long list, and all of them the same one. Of a folder with few items the
+/// lines are therefore not looked at one by one.
 class HiddenList {
 public:
     static constexpr std::string_view kFileName = ".hidden";
@@ -18,9 +22,9 @@ public:
     /// Lists nothing.
     HiddenList() = default;
 
-    /// Reads the list of the open directory. Anything but a regular file lists nothing, and
-    /// neither does one that cannot be read.
-    explicit HiddenList(int directory);
+    /// Reads the list of the open directory, in which about so many names will be looked up.
+    /// Anything but a regular file lists nothing, and neither does one that cannot be read.
+    HiddenList(int directory, std::size_t lookups);
 
     HiddenList(const HiddenList&) = delete;
     HiddenList& operator=(const HiddenList&) = delete;
@@ -28,8 +32,11 @@ public:
     bool contains(std::string_view name) const;
 
 private:
-    std::string m_text;
-    std::vector<std::string_view> m_names; ///< sorted; into the text
+    bool isLine(std::string_view name) const;
+    void sortLines();
+
+    std::string m_text; ///< each line with its end before and behind it
+    std::vector<std::string_view> m_names; ///< sorted; into the text; none when names are few
 };
 
 } // namespace tessera

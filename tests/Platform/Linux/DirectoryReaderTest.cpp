@@ -9,6 +9,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <ctime>
+#include <string>
+#include <vector>
+
 namespace tessera::test {
 namespace {
 
@@ -125,6 +130,67 @@ TEST_F(DirectoryReaderTest, TheHiddenFileHidesWhatItLists)
     tree().makeFile("plain");
     tree().writeFile(".hidden", "listed\nfolder\n\nnot there");
     EXPECT_THAT(hidden(), ElementsAre(".hidden", "folder", "listed"));
+}
+
+TEST_F(DirectoryReaderTest, TheHiddenFileOfACrowdedFolderHidesWhatItLists)
+{
+    for (int i = 0; i < 200; ++i) {
+        tree().makeFile("file" + std::to_string(i));
+    }
+    tree().writeFile(".hidden", "file7\nfile\n19\nfile199");
+    EXPECT_THAT(hidden(), ElementsAre(".hidden", "file199", "file7"));
+}
+
+TEST_F(DirectoryReaderTest, OnlyAWholeLineIsAName)
+{
+    for (const char* name : {"first", "irs", "second", "seco", "last", "st"}) {
+        tree().makeFile(name);
+    }
+    tree().writeFile(".hidden", "first\nsecond\nlast");
+    EXPECT_THAT(hidden(), ElementsAre(".hidden", "first", "last", "second"));
+}
+
+TEST_F(DirectoryReaderTest, ANameOfTwoLinesIsNotListedByTwoLines)
+{
+    tree().makeFile("a\nb");
+    tree().writeFile(".hidden", "a\nb\n");
+    EXPECT_THAT(hidden(), ElementsAre(".hidden"));
+}
+
+/// Processor time of this thread in seconds, of what is done five times.
+template <typename Work>
+double processorTimeOf(Work work)
+{
+    constexpr double kNanosecondsPerSecond = 1e9;
+    const auto now = [] {
+        timespec time{};
+        ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+        return static_cast<double>(time.tv_sec)
+            + static_cast<double>(time.tv_nsec) / kNanosecondsPerSecond;
+    };
+    const double begin = now();
+    for (int i = 0; i < 5; ++i) {
+        work();
+    }
+    return now() - begin;
+}
+
+TEST_F(DirectoryReaderTest, ALongHiddenFileCostsASmallFolderLessThanSortingItsLines)
+{
+    std::vector<std::string> lines(32768, "x");
+    std::string text;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        lines[i][0] = static_cast<char>('a' + i % 26);
+        text += lines[i] + '\n';
+    }
+    tree().makeFile("file");
+    tree().writeFile(".hidden", text);
+    const double sorting = processorTimeOf([lines] {
+        std::vector<std::string> sorted = lines;
+        std::sort(sorted.begin(), sorted.end());
+        EXPECT_EQ(sorted.front(), "a");
+    });
+    EXPECT_LT(processorTimeOf([this] { EXPECT_EQ(hidden().size(), 1U); }), sorting / 4);
 }
 
 TEST_F(DirectoryReaderTest, TheHiddenFilesLastLineNeedsNoEnd)
