@@ -6,8 +6,8 @@
 
 namespace tessera {
 
-/// Makes enumerators of the real file system. Those that read sizes have helper threads, which
-/// end with the enumerator.
+/// Makes enumerators of the real file system. They have helper threads, which end with the
+/// enumerator; without keys, these read no more ahead than a count of the upper two levels needs.
 class LinuxFileManager final : public FileManager {
 public:
     LinuxFileManager() = default;

@@ -72,6 +72,7 @@ void destroy(std::vector<std::unique_ptr<WalkFolder>> folders)
 ReadAhead::ReadAhead(const std::string& start, ItemKeys keys, const ReadAheadOptions& options)
     : m_reader(keys, m_isEnding)
     , m_maxEntriesAhead(options.maxEntriesAhead)
+    , m_levelsAhead(options.levelsAhead)
     , m_handles(FolderHandles::defaultCapacity())
 {
     FileDescriptor opened = openStart(start);
@@ -232,12 +233,17 @@ void ReadAhead::passBy(WalkFolder& folder, std::size_t position)
     assert(position == folder.nextUntaken);
     folder.nextUntaken = position + 1;
     if (folder.nextUntaken == folder.subfolders.size()) {
-        m_untaken.erase(folder.place);
+        orderOf(folder).erase(folder.place);
         return;
     }
-    auto entry = m_untaken.extract(folder.place);
+    auto entry = orderOf(folder).extract(folder.place);
     entry.key() = folder.spanOf(folder.nextUntaken).begin;
-    folder.place = m_untaken.insert(std::move(entry));
+    folder.place = orderOf(folder).insert(std::move(entry));
+}
+
+WalkOrder& ReadAhead::orderOf(const WalkFolder& folder)
+{
+    return folder.level < m_levelsAhead ? m_untaken : m_untakenTooDeep;
 }
 
 void ReadAhead::abandon(std::unique_ptr<WalkFolder> folder)
@@ -252,7 +258,7 @@ void ReadAhead::abandon(std::unique_ptr<WalkFolder> folder)
             lowerEntriesAhead(unwanted.listing.size());
         }
         if (unwanted.nextUntaken < unwanted.subfolders.size()) {
-            m_untaken.erase(unwanted.place);
+            orderOf(unwanted).erase(unwanted.place);
             unwanted.nextUntaken = unwanted.subfolders.size();
         }
         m_handles.drop(unwanted);
@@ -364,7 +370,8 @@ void ReadAhead::finishReading(WalkFolder& folder)
         folder.subfolders.resize(folder.directories.size());
         // Among equals the last one put in comes first: where numbers have run out, it is deepest.
         const std::uint64_t begin = folder.span.begin;
-        folder.place = m_untaken.emplace_hint(m_untaken.lower_bound(begin), begin, &folder);
+        WalkOrder& order = orderOf(folder);
+        folder.place = order.emplace_hint(order.lower_bound(begin), begin, &folder);
         wakeHelpers(folder.directories.size());
     }
     if (m_awaited == &folder) {

@@ -9,7 +9,7 @@
 
 #include <atomic>
 #include <condition_variable>
-#include <map>
+#include <limits>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -23,6 +23,8 @@ namespace tessera {
 struct ReadAheadOptions {
     unsigned helpers = 7; ///< threads beside the taker's; with 0 folders are read on demand alone
     std::size_t maxEntriesAhead = 65536; ///< listed and not yet taken; one folder may exceed it
+    /// Folders at most so far below the start are read ahead, others only on demand.
+    std::size_t levelsAhead = std::numeric_limits<std::size_t>::max();
 };
 
 /// Reads the folders below a start in about the order in which a depth-first walk needs them. One
@@ -77,6 +79,7 @@ private:
 
     WalkFolder& take(WalkFolder& folder, std::size_t position);
     void passBy(WalkFolder& folder, std::size_t position);
+    WalkOrder& orderOf(const WalkFolder& folder);
     void abandon(std::unique_ptr<WalkFolder> folder);
 
     bool mayOpen(const FileDescriptor& parent, const std::string& name) const;
@@ -92,6 +95,7 @@ private:
 
     const DirectoryReader m_reader;
     const std::size_t m_maxEntriesAhead;
+    const std::size_t m_levelsAhead;
     FolderHandles m_handles;
     std::optional<MountBoundary> m_boundary;
     bool m_mayHoldAutomounts = true;
@@ -101,8 +105,9 @@ private:
     std::condition_variable m_work; ///< there may be something to do for a helper
     std::condition_variable m_progress; ///< there may be something to do for the waiting taker
     std::vector<Step> m_steps;
-    /// Folders with untaken subfolders, by where the next of these stands in the walk.
-    std::multimap<std::uint64_t, WalkFolder*> m_untaken;
+    /// Folders with untaken subfolders.
+    WalkOrder m_untaken;
+    WalkOrder m_untakenTooDeep; ///< those whose subfolders are not to be read ahead
     std::size_t m_entriesAhead = 0;
     std::size_t m_farEntriesAhead = 0; ///< of these, those that the taker comes to much later
     unsigned m_idleHelpers = 0;

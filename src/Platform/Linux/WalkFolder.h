@@ -32,6 +32,11 @@ struct WalkSpan {
     }
 };
 
+struct WalkFolder;
+
+/// Folders with subfolders that nobody has taken, by where the next of these stands in the walk.
+using WalkOrder = std::multimap<std::uint64_t, WalkFolder*>;
+
 /// A folder that a walk is reading, has read ahead, or is inside of. Folders are owned by the one
 /// above, so that what is above a folder lives while it does.
 struct WalkFolder {
@@ -40,6 +45,7 @@ struct WalkFolder {
     WalkFolder(WalkFolder* above, std::size_t positionThere, std::string ownName)
         : parent(above)
         , position(positionThere)
+        , level(above == nullptr ? 0 : above->level + 1)
         , name(std::move(ownName))
         , span(above == nullptr ? WalkSpan{} : above->spanOf(positionThere))
     {
@@ -50,6 +56,7 @@ struct WalkFolder {
 
     WalkFolder* const parent; ///< null for the folder where the walk starts
     const std::size_t position; ///< among the subfolders of `parent`
+    const std::size_t level; ///< how far below the start
     const std::string name; ///< its own path component
     const WalkSpan span;
 
@@ -66,7 +73,7 @@ struct WalkFolder {
     std::size_t stepsLeft = 0; ///< parts of its entries that are still being completed
     std::vector<std::unique_ptr<WalkFolder>> subfolders; ///< one place for each of `directories`
     std::size_t nextUntaken = 0; ///< the subfolders before this one were taken or passed by
-    std::multimap<std::uint64_t, WalkFolder*>::iterator place; ///< among those with untaken ones
+    WalkOrder::iterator place; ///< among those with untaken ones
 
     // Guarded by the FolderHandles that keep the folder's handle.
     FolderHandle handle;

@@ -6,9 +6,13 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <poll.h>
+#include <sys/inotify.h>
 #include <sys/resource.h>
+#include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <atomic>
 #include <filesystem>
 #include <random>
@@ -280,6 +284,85 @@ TEST(LinuxDirectoryEnumerator, WithoutKeysItOnlyListsAndWalks)
     ASSERT_TRUE(enumerator->next(item));
     EXPECT_EQ(item.name, "b");
     EXPECT_EQ(item.allocatedBytes, 0U);
+}
+
+/// Folders with a folder inside each, and who opens any of them.
+class CountAheadTest : public testing::Test {
+protected:
+    static constexpr int kFolders = 50;
+
+    CountAheadTest()
+        : m_opened(::inotify_init1(IN_CLOEXEC))
+    {
+        for (int i = 0; i < kFolders; ++i) {
+            const std::string folder = "f" + std::to_string(i);
+            m_tree.makeFolder(folder);
+            m_tree.makeFolder(folder + "/deep");
+            m_tree.makeFolder(folder + "/deep/deeper");
+            ::inotify_add_watch(m_opened.number(), m_tree.pathOf(folder).c_str(), IN_OPEN);
+        }
+        ::inotify_add_watch(m_opened.number(), m_tree.path().c_str(), IN_OPEN);
+    }
+
+    /// Notes the folders that were opened since; false when none is within a minute.
+    bool awaitOpening()
+    {
+        pollfd waiting{m_opened.number(), POLLIN, 0};
+        constexpr int kMilliseconds = 60000;
+        return ::poll(&waiting, 1, kMilliseconds) == 1 && noteOpened();
+    }
+
+    bool noteOpened()
+    {
+        alignas(inotify_event) std::array<char, 65536> events{};
+        const ssize_t bytes = ::read(m_opened.number(), events.data(), events.size());
+        for (ssize_t at = 0; at < bytes;) {
+            const auto* event = reinterpret_cast<const inotify_event*>(events.data() + at);
+            if (event->len > 0) {
+                opened.insert(static_cast<const char*>(event->name));
+            }
+            at += static_cast<ssize_t>(sizeof(inotify_event) + event->len);
+        }
+        return bytes > 0;
+    }
+
+    TempTree m_tree;
+    FileDescriptor m_opened;
+    std::set<std::string> opened;
+};
+
+TEST_F(CountAheadTest, ReadsTheFoldersInTheStartBeforeTheyAreAskedFor)
+{
+    const auto enumerator = LinuxFileManager().enumerator(m_tree.path(), ItemKeys::None);
+    while (opened.size() < kFolders && awaitOpening()) { }
+    EXPECT_EQ(opened.size(), static_cast<std::size_t>(kFolders));
+}
+
+TEST_F(CountAheadTest, ReadsNothingDeeperThatIsNotAskedFor)
+{
+    const auto enumerator = LinuxFileManager().enumerator(m_tree.path(), ItemKeys::None);
+    DirectoryItem item;
+    int count = 0;
+    while (enumerator->next(item)) {
+        ++count;
+        if (item.level == 2) {
+            enumerator->skipDescendants();
+        }
+    }
+    EXPECT_EQ(count, 2 * kFolders);
+    ASSERT_TRUE(noteOpened());
+    EXPECT_FALSE(opened.contains("deep"));
+}
+
+TEST_F(CountAheadTest, FindsWhatIsDeeperAllTheSame)
+{
+    const auto enumerator = LinuxFileManager().enumerator(m_tree.path(), ItemKeys::None);
+    DirectoryItem item;
+    int count = 0;
+    while (enumerator->next(item)) {
+        ++count;
+    }
+    EXPECT_EQ(count, 3 * kFolders);
 }
 
 TEST(LinuxDirectoryEnumerator, WalksAroundItsItemsWhileOthersChangeTheTree)
