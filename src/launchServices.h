@@ -15,7 +15,7 @@ inline LaunchServices launchServices(const PlatformServices& services)
          *services.fileSystemAttributes,
          *services.mainThread,
          services.clock,
-         services.userAccount->homeDirectory()},
+         services.prompt.fileAccess->absolutePath(services.userAccount->homeDirectory())},
         *services.prompt.resourceValues,
         *services.prompt.fileSystemAttributes,
         *services.prompt.fileAccess,

@@ -25,6 +25,11 @@ public:
     /// it cannot be read.
     [[nodiscard]] virtual bool isMountPoint(const std::string& path) const = 0;
 
+    /// Whether the two paths lead to one directory, over whatever links; false when either cannot
+    /// be read.
+    [[nodiscard]] virtual bool isSameDirectory(
+        const std::string& path, const std::string& other) const = 0;
+
     /// Whether `path` is a directory, or a symbolic link to one; false when it cannot be read.
     [[nodiscard]] virtual bool isDirectory(const std::string& path) const = 0;
 

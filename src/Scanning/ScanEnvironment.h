@@ -22,7 +22,9 @@ struct ScanEnvironment {
     const FileSystemAttributes& fileSystemAttributes;
     MainThread& mainThread;
     std::function<double()> clock; ///< seconds that never go back; asked once for every item
-    std::string homeDirectory; ///< absolute path of the user's home, as bytes
+    /// Absolute path of the user's home, as bytes, without links: its last component is looked for
+    /// among what is scanned.
+    std::string homeDirectory;
     /// Of all scans with this environment or a copy of it.
     std::shared_ptr<ScanWorkers> workers = std::make_shared<ScanWorkers>();
 };

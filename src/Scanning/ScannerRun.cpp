@@ -66,18 +66,24 @@ void Scanner::Run::_performScan()
 
 void Scanner::Run::prepare()
 {
-    const std::string& home = environment().homeDirectory;
-    m_userName = lastPathComponent(home);
+    m_userName = lastPathComponent(environment().homeDirectory);
     m_hiddenUserName = "." + m_userName;
     m_isVolume
         = m_purpose == ScanPurpose::NewTree && environment().resourceValues.isVolume(m_url.path());
-    m_mode = m_url.path() == home || !m_isVolume ? Mode::Folder : Mode::Volume;
+    m_mode = m_isVolume && !isHome() ? Mode::Volume : Mode::Folder;
     m_staysEmpty = m_purpose == ScanPurpose::PartOfTree && isMountedInTree();
     if (m_mode == Mode::Volume) {
         measureVolume();
     } else if (!m_staysEmpty) {
         m_levelTotal = _getLevel2Items(m_url.path(), environment().fileManager);
     }
+}
+
+/// Also where the user has chosen another way there than the system's own.
+bool Scanner::Run::isHome() const
+{
+    const std::string& home = environment().homeDirectory;
+    return m_url.path() == home || environment().resourceValues.isSameDirectory(m_url.path(), home);
 }
 
 void Scanner::Run::measureVolume()

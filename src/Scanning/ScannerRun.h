@@ -36,6 +36,7 @@ private:
     enum class Mode : bool { Folder, Volume };
 
     void prepare();
+    bool isHome() const;
     void measureVolume();
     bool isMountedInTree() const;
     TreeBuilder walk();

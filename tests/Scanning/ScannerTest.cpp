@@ -290,6 +290,13 @@ TEST_F(ScannerTest, AnEncryptedHomeIsWalkedAsPartOfATreeToo)
     EXPECT_EQ(delegate.tree->totalAllocation(), 600U);
 }
 
+TEST_F(ScannerTest, TheHomeIsOneByAnyPathThatLeadsThere)
+{
+    resourceValues.volumes = {"/home/link"};
+    resourceValues.links["/home/link"] = "/home/me";
+    EXPECT_EQ(scanToEnd("a:600", "/home/link").type(), NodeType::TopFolder);
+}
+
 TEST_F(ScannerTest, ABackupStoreAtTheTopOfAVolumeIsNotWalked)
 {
     resourceValues.volumes = {"/data"};

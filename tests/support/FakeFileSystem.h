@@ -39,6 +39,7 @@ public:
     std::set<std::string> volumes;
     std::set<std::string> mountPoints; ///< beside the volumes
     std::set<std::string> directories;
+    std::map<std::string, std::string> links; ///< where each leads
     std::map<std::string, std::uint64_t> sizes; ///< of single paths
     std::optional<std::uint64_t> size; ///< of all others
     std::optional<std::int64_t> modificationDate;
@@ -51,6 +52,12 @@ public:
     [[nodiscard]] bool isMountPoint(const std::string& path) const override
     {
         return mountPoints.contains(path) || isVolume(path);
+    }
+
+    [[nodiscard]] bool isSameDirectory(
+        const std::string& path, const std::string& other) const override
+    {
+        return targetOf(path) == targetOf(other);
     }
 
     [[nodiscard]] bool isDirectory(const std::string& path) const override
@@ -68,6 +75,13 @@ public:
         const std::string& /*path*/) const override
     {
         return modificationDate;
+    }
+
+private:
+    const std::string& targetOf(const std::string& path) const
+    {
+        const auto found = links.find(path);
+        return found != links.end() ? found->second : path;
     }
 };
 

@@ -85,6 +85,22 @@ bool LinuxResourceValues::isMountPoint(const std::string& path) const
         .value_or(false);
 }
 
+bool LinuxResourceValues::isSameDirectory(const std::string& path, const std::string& other) const
+{
+    return m_questions
+        ->ask<bool>(
+            path,
+            LinkMode::Follow,
+            [query = m_query, path, other] {
+                const StatusResult found = query(path, LinkMode::Follow);
+                const StatusResult foundOther = query(other, LinkMode::Follow);
+                return std::optional(
+                    found && foundOther && found.status.isDirectory
+                    && found.status.identity == foundOther.status.identity);
+            })
+        .value_or(false);
+}
+
 bool LinuxResourceValues::isDirectory(const std::string& path) const
 {
     const std::optional<FileStatus> found = status(path, LinkMode::Follow);

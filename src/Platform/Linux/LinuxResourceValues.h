@@ -30,6 +30,9 @@ public:
     /// Likewise.
     [[nodiscard]] bool isMountPoint(const std::string& path) const override;
 
+    [[nodiscard]] bool isSameDirectory(
+        const std::string& path, const std::string& other) const override;
+
     [[nodiscard]] bool isDirectory(const std::string& path) const override;
 
     [[nodiscard]] std::optional<std::uint64_t> allocatedSize(

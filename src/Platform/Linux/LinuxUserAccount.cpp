@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/LinuxUserAccount.h"
 
+#include "Model/Url.h"
+
 #include <pwd.h>
 #include <unistd.h>
 
@@ -45,7 +47,7 @@ std::string LinuxUserAccount::homeDirectory() const
     // NOLINTNEXTLINE(concurrency-mt-unsafe): the program never changes its environment
     const char* const home = std::getenv("HOME");
     if (home != nullptr && *home == '/') {
-        return home;
+        return Url(home, true).path();
     }
     const std::optional<PasswordEntry> entry = passwordEntryOf(::geteuid());
     return entry ? entry->directory : "/";

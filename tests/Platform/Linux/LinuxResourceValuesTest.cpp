@@ -120,6 +120,21 @@ TEST(LinuxResourceValues, WhatIsNotThereIsNone)
     EXPECT_FALSE(LinuxResourceValues(questions()).isVolume("/no/such/path"));
 }
 
+TEST(LinuxResourceValues, AFolderIsTheSameByEveryPathThatLeadsThere)
+{
+    const TempTree tree;
+    tree.makeFolder("folder");
+    tree.makeFolder("other");
+    tree.makeFile("file");
+    tree.makeSymbolicLink("link", "folder");
+    const LinuxResourceValues values(questions());
+    EXPECT_TRUE(values.isSameDirectory(tree.pathOf("folder"), tree.pathOf("link") + "/"));
+    EXPECT_FALSE(values.isSameDirectory(tree.pathOf("folder"), tree.pathOf("other")));
+    EXPECT_FALSE(values.isSameDirectory(tree.pathOf("folder"), tree.pathOf("nothing")));
+    EXPECT_FALSE(values.isSameDirectory(tree.pathOf("nothing"), tree.pathOf("nothing")));
+    EXPECT_FALSE(values.isSameDirectory(tree.pathOf("file"), tree.pathOf("file")));
+}
+
 TEST(LinuxResourceValues, AFolderAndALinkToOneAreDirectories)
 {
     const TempTree tree;

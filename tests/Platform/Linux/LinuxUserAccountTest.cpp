@@ -35,6 +35,14 @@ TEST_F(HomeDirectory, IsWhatTheEnvironmentSays)
     EXPECT_EQ(LinuxUserAccount().homeDirectory(), "/elsewhere\xFF");
 }
 
+TEST_F(HomeDirectory, HasNoSlashAtItsEnd)
+{
+    qputenv("HOME", "/elsewhere//");
+    EXPECT_EQ(LinuxUserAccount().homeDirectory(), "/elsewhere");
+    qputenv("HOME", "/");
+    EXPECT_EQ(LinuxUserAccount().homeDirectory(), "/");
+}
+
 TEST_F(HomeDirectory, IsThatOfThePasswordDatabaseWithoutAnEnvironment)
 {
     qunsetenv("HOME");
