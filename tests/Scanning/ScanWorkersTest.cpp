@@ -3,6 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
+#include <memory>
+#include <system_error>
+#include <utility>
+#include <vector>
+
 namespace tessera {
 namespace {
 
@@ -15,13 +21,24 @@ TEST(ScanWorkers, WithoutAnyNobodyWaits)
 
 TEST(ScanWorkers, OneThatIsStuckIsWaitedForNoLongerThanAllowed)
 {
-    ScanWorkers workers;
-    workers.add();
-    workers.add();
-    workers.remove();
-    EXPECT_FALSE(workers.waitForNone(kShort));
-    workers.remove();
-    EXPECT_TRUE(workers.waitForNone(kShort));
+    std::vector<ScanWorkers::Work> started;
+    const auto workers = std::make_shared<ScanWorkers>(
+        [&started](ScanWorkers::Work work) { started.push_back(std::move(work)); });
+    EXPECT_FALSE(workers->start([] {}));
+    EXPECT_FALSE(workers->start([] {}));
+    started[0]();
+    EXPECT_FALSE(workers->waitForNone(kShort));
+    started[1]();
+    EXPECT_TRUE(workers->waitForNone(kShort));
+}
+
+TEST(ScanWorkers, OneThatCouldNotBeStartedIsNotWaitedFor)
+{
+    const auto workers = std::make_shared<ScanWorkers>([](const ScanWorkers::Work& /*work*/) {
+        throw std::system_error(EAGAIN, std::generic_category());
+    });
+    EXPECT_EQ(workers->start([] {}), std::errc::resource_unavailable_try_again);
+    EXPECT_TRUE(workers->waitForNone(kShort));
 }
 
 } // namespace
