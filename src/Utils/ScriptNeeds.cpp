@@ -53,7 +53,8 @@ char32_t characterBefore(std::u32string_view text, std::size_t index)
     return index > 0 ? text[index - 1] : kNothing;
 }
 
-/// The letter before, over the marks that sit on it and belong to any script.
+/// The letter or picture before, over the marks that sit on it and belong to any script and the
+/// selector of its look.
 char32_t letterBefore(std::u32string_view text, std::size_t index)
 {
     char32_t before = characterBefore(text, index);
@@ -94,8 +95,7 @@ bool isJoinerNeeded(std::u32string_view text, std::size_t index)
     if (hasJoiningScript(letter) && canBeShapedAtItsEnd(letter)) {
         return !QChar::isLetter(next) && !isJoiner(next);
     }
-    const bool isChosen = characterBefore(text, index) == kEmojiLook;
-    return isPicture(isChosen ? characterBefore(text, index - 1) : letter) && isPicture(next);
+    return isPicture(letter) && isPicture(next);
 }
 
 bool hasSeveralLooks(char32_t character)

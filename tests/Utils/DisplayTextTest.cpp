@@ -76,6 +76,7 @@ TEST(DisplayText, KeepsAJoinerThatShapesTheEndOfAWord)
 {
     EXPECT_TRUE(isKept(U"\u0D28\u0D4D\u200D")); // Malayalam
     EXPECT_TRUE(isKept(U"\u0647\u200D.\u0634")); // Persian
+    EXPECT_FALSE(isKept(U"\u0647\u200Da"));
     EXPECT_FALSE(isKept(U"\u0627\u200D")); // alef joins nothing behind it
     EXPECT_FALSE(isKept(U"\u0647\u200C")); // nothing is there to be kept apart
 }
@@ -114,6 +115,7 @@ TEST(DisplayText, KeepsVariationSelectorsWhereThereIsAChoice)
     EXPECT_TRUE(isKept(U"\u1820\u180B"));
     EXPECT_FALSE(isKept(U"a\uFE0F"));
     EXPECT_FALSE(isKept(U"1\uFE0F"));
+    EXPECT_FALSE(isKept(U"+\uFE0F"));
     EXPECT_FALSE(isKept(U"\u2764\uFE0F\uFE0F"));
     EXPECT_FALSE(isKept(U"a\U000E0100"));
     EXPECT_FALSE(isKept(U"a\u180B"));
