@@ -22,6 +22,34 @@ target_compile_options(
     tessera_options INTERFACE $<$<AND:$<CXX_COMPILER_ID:GNU>,$<CONFIG:Release>>:-Wno-restrict>)
 target_compile_definitions(tessera_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_FOREACH)
 
+# What users run ends where a mistake would otherwise be made use of. Sanitizers look for the same
+# mistakes in ways of their own, and without optimisation there is nothing to fortify.
+set(TESSERA_HARDENED OFF)
+if(NOT TESSERA_SANITIZE AND CMAKE_BUILD_TYPE MATCHES "^(Release|RelWithDebInfo|MinSizeRel)$")
+    set(TESSERA_HARDENED ON)
+    include(CheckCXXCompilerFlag)
+    include(CheckPIESupported)
+    check_pie_supported(LANGUAGES CXX)
+    set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+    # Nobody takes the place of our functions, so they may still be inlined.
+    target_compile_options(tessera_options INTERFACE -fno-semantic-interposition)
+    # Returns and jumps are protected on the processors that can.
+    foreach(flag stack-protector-strong stack-clash-protection cf-protection)
+        check_cxx_compiler_flag(-f${flag} TESSERA_HAS_${flag})
+        if(TESSERA_HAS_${flag})
+            target_compile_options(tessera_options INTERFACE -f${flag})
+        endif()
+    endforeach()
+    check_cxx_compiler_flag(-mbranch-protection=standard TESSERA_HAS_branch-protection)
+    if(TESSERA_HAS_branch-protection)
+        target_compile_options(tessera_options INTERFACE -mbranch-protection=standard)
+    endif()
+    # Distributions that fortify by themselves may have chosen another level.
+    target_compile_options(tessera_options INTERFACE -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2)
+    target_compile_definitions(tessera_options INTERFACE _GLIBCXX_ASSERTIONS)
+    target_link_options(tessera_options INTERFACE -Wl,-z,relro,-z,now,-z,noexecstack)
+endif()
+
 if(TESSERA_SANITIZE)
     target_compile_options(
         tessera_options INTERFACE -fsanitize=${TESSERA_SANITIZE} -fno-omit-frame-pointer
