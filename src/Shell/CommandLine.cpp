@@ -152,7 +152,7 @@ private:
     {
         const std::optional<Url> url = Url::fromAbsoluteString(text);
         if (!url) {
-            m_error = "'" + std::string(text) + "' is no URL of a folder";
+            m_error = std::string("'").append(text).append("' is no URL of a folder");
             return;
         }
         m_result.folder = url->path();
