@@ -21,7 +21,7 @@ namespace tessera {
 
 namespace {
 
-constexpr int kCancelled = Alert::kFirstButton + 1;
+constexpr int kCancelButton = 1;
 
 QString kindOf(const File& item)
 {
@@ -137,8 +137,10 @@ bool ItemTrasher::confirmHidden(const File& item) const
 
 bool ItemTrasher::ask(const QString& question) const
 {
-    return m_alert.runModal({tr("Warning"), question, {tr("Move To Trash"), tr("Cancel")}})
-        != kCancelled;
+    // Delete and then Return is typed before the warning is read.
+    const AlertText warning{
+        tr("Warning"), question, {tr("Move To Trash"), tr("Cancel")}, {}, kCancelButton};
+    return m_alert.runModal(warning) != Alert::kFirstButton + kCancelButton;
 }
 
 void ItemTrasher::recycled(const Url& url, const RecycleResult& result)

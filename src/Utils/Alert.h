@@ -10,8 +10,9 @@ namespace tessera {
 struct AlertText {
     QString messageText; ///< the headline
     QString informativeText;
-    QStringList buttons; ///< the first is the one that Return presses
+    QStringList buttons; ///< from the one that does what was asked to the one that does nothing
     QString reason = {}; ///< what the system had to say, shown below the rest; may be empty
+    int defaultButton = 0; ///< of `buttons`, the one that Return presses
 };
 
 /// Tells the user something that must be answered. Main thread only.

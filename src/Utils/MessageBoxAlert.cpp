@@ -49,7 +49,7 @@ std::unique_ptr<QMessageBox> MessageBoxAlert::makeBox(const AlertText& text) con
         const auto role = i == 0 ? QMessageBox::AcceptRole : QMessageBox::RejectRole;
         QPushButton* const button = box->addButton(text.buttons[i], role);
         button->setProperty("answer", Alert::kFirstButton + i);
-        if (i == 0) {
+        if (i == text.defaultButton) {
             box->setDefaultButton(button);
         }
         box->setEscapeButton(button);

@@ -81,7 +81,7 @@ TEST_F(PreferencesWindow, AnUntickedWarningIsNotGivenAtOnce)
     ASSERT_TRUE(rejectDialog());
     desk().click(placeOf(".outline"));
     desk().typeKey(key::kDelete);
-    ASSERT_TRUE(acceptDialog());
+    ASSERT_TRUE(acceptWarning());
     EXPECT_TRUE(showsTree("Documents"));
 }
 

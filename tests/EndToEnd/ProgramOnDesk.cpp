@@ -97,6 +97,18 @@ testing::AssertionResult ProgramOnDesk::rejectDialog()
     return closeWithKey(XWindow::Kind::Dialog, key::kEscape);
 }
 
+testing::AssertionResult ProgramOnDesk::acceptWarning()
+{
+    if (const auto opened = opens(XWindow::Kind::Dialog); !opened) {
+        return opened;
+    }
+    if (const auto active = becomesActive(XWindow::Kind::Dialog); !active) {
+        return active;
+    }
+    desk().typeKey(key::kUp);
+    return closeWithKey(XWindow::Kind::Dialog, key::kSpace);
+}
+
 testing::AssertionResult ProgramOnDesk::closePreview()
 {
     return closeWithKey(XWindow::Kind::Panel, key::kEscape);

@@ -51,6 +51,9 @@ protected:
     testing::AssertionResult acceptDialog();
     testing::AssertionResult rejectDialog();
 
+    /// Has a warning's first button pressed, which stands before its default button.
+    testing::AssertionResult acceptWarning();
+
     /// Waits for the preview and closes it with Escape.
     testing::AssertionResult closePreview();
 

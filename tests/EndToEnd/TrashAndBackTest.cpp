@@ -15,7 +15,7 @@ TEST_F(WholeProgram, WhatItMovedToTheTrashComesBackFromThere)
     ASSERT_TRUE(scan("Downloads"));
     desk().click(placeOf("movie"));
     desk().typeKey(key::kDelete);
-    ASSERT_TRUE(acceptDialog());
+    ASSERT_TRUE(acceptWarning());
     ASSERT_TRUE(eventually([this] { return !exists(home("Downloads/movie")); }));
     const ProgramResult restored = runProgram(
         "env",

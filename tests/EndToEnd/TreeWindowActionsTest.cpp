@@ -44,7 +44,7 @@ TEST_F(TreeWindow, TheArchiveHoldsTheItem)
 TEST_F(TreeWindow, MovingToTheTrashTakesTheItemFromThePictureAndTheFolder)
 {
     ASSERT_TRUE(pick("song", MenuEntry::MoveToTrash));
-    ASSERT_TRUE(acceptDialog());
+    ASSERT_TRUE(acceptWarning());
     ASSERT_TRUE(eventually([&] { return !exists(tree.pathOf("song")); }));
     EXPECT_TRUE(shows());
 }
@@ -52,7 +52,7 @@ TEST_F(TreeWindow, MovingToTheTrashTakesTheItemFromThePictureAndTheFolder)
 TEST_F(TreeWindow, WhatWasMovedToTheTrashIsInTheTrash)
 {
     ASSERT_TRUE(pick("docs", MenuEntry::MoveToTrash));
-    ASSERT_TRUE(acceptDialog());
+    ASSERT_TRUE(acceptWarning());
     const std::string trash = program->dataFolder() + "/Trash";
     ASSERT_TRUE(eventually([&] { return exists(trash + "/files/docs/drafts/first"); }));
     EXPECT_THAT(
@@ -80,7 +80,7 @@ TEST_F(TreeWindow, OneActionFollowsTheOther)
     ASSERT_TRUE(shows("docs", "docs/drafts/third"));
 
     ASSERT_TRUE(pick("docs/notes", MenuEntry::MoveToTrash));
-    ASSERT_TRUE(acceptDialog());
+    ASSERT_TRUE(acceptWarning());
     ASSERT_TRUE(eventually([&] { return !exists(tree.pathOf("docs/notes")); }));
     ASSERT_TRUE(shows("docs"));
 

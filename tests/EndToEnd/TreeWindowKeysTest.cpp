@@ -39,9 +39,19 @@ TEST_F(TreeWindow, DeleteMovesTheSelectedItemToTheTrash)
     desk().click(placeOf("docs/notes"));
     ASSERT_TRUE(shows({}, "docs/notes"));
     desk().typeKey(key::kDelete);
-    ASSERT_TRUE(acceptDialog());
+    ASSERT_TRUE(acceptWarning());
     ASSERT_TRUE(eventually([&] { return !std::filesystem::exists(tree.pathOf("docs/notes")); }));
     EXPECT_TRUE(shows());
+}
+
+TEST_F(TreeWindow, ReturnInTheWarningKeepsTheItem)
+{
+    desk().click(placeOf("song"));
+    ASSERT_TRUE(shows({}, "song"));
+    desk().typeKey(key::kDelete);
+    ASSERT_TRUE(acceptDialog());
+    EXPECT_TRUE(std::filesystem::exists(tree.pathOf("song")));
+    EXPECT_TRUE(shows({}, "song"));
 }
 
 TEST_F(TreeWindow, EscapeInTheWarningKeepsTheItem)

@@ -115,6 +115,17 @@ TEST_F(ItemTrasherTest, WarnsOfAFolderInASystemFolder)
         "using this folder. Are you sure you want to move this folder to the trash?");
 }
 
+TEST_F(ItemTrasherTest, ReturnCancelsEitherWarning)
+{
+    hide(".cfg");
+    trash(".cfg");
+    model.setTopFolder(test::makeTree("/usr", "lib/ ( a.so:5 )"));
+    trash("lib");
+    ASSERT_EQ(alert.asked.size(), 2U);
+    EXPECT_EQ(alert.asked[0].buttons.at(alert.asked[0].defaultButton), QStringLiteral("Cancel"));
+    EXPECT_EQ(alert.asked[1].buttons.at(alert.asked[1].defaultButton), QStringLiteral("Cancel"));
+}
+
 TEST_F(ItemTrasherTest, CancellingTheSystemWarningLeavesAllAsItIs)
 {
     model.setTopFolder(test::makeTree("/usr", "lib/ ( a.so:5 )"));
