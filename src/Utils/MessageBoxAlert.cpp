@@ -17,17 +17,30 @@ QString below(const QString& text, const QString& reason)
     return reason.isEmpty() ? text : text + QStringLiteral("\n\n") + reason;
 }
 
-/// The headline stands out, and the text below gets lines of a readable length.
-void style(const QMessageBox& box)
+/// Names of files stand in the texts. Where a label takes one for markup, the name can hide what is
+/// asked, and have any file opened that it calls a picture.
+void setHeadline(QMessageBox& box, const QString& text)
 {
-    if (auto* headline = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
-        QFont font = headline->font();
+    box.setTextFormat(Qt::PlainText);
+    box.setText(text);
+    // Screen readers would announce the title instead, which is the program's name.
+    box.setAccessibleName(text);
+    if (auto* const label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
+        QFont font = label->font();
         font.setBold(true);
-        headline->setFont(font);
+        label->setFont(font);
     }
-    if (auto* text = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel"))) {
-        text->setMinimumWidth(kTextWidth);
+}
+
+/// Qt makes the label with the first text, and does not tell it the box's text format.
+void setText(QMessageBox& box, const QString& text)
+{
+    box.setInformativeText(QStringLiteral("-"));
+    if (auto* const label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel"))) {
+        label->setTextFormat(Qt::PlainText);
+        label->setMinimumWidth(kTextWidth);
     }
+    box.setInformativeText(text);
 }
 
 } // namespace
@@ -38,13 +51,8 @@ std::unique_ptr<QMessageBox> MessageBoxAlert::makeBox(const AlertText& text) con
     auto box = std::make_unique<QMessageBox>(active != nullptr ? active : m_mainWindow.data());
     box->setWindowTitle(QStringLiteral("Tessera"));
     box->setIcon(QMessageBox::Warning);
-    // Names of files stand in the texts, and must not be taken for markup.
-    box->setTextFormat(Qt::PlainText);
-    box->setText(text.messageText);
-    // Screen readers would announce the title instead, which is the program's name.
-    box->setAccessibleName(text.messageText);
-    box->setInformativeText(below(text.informativeText, text.reason));
-    style(*box);
+    setHeadline(*box, text.messageText);
+    setText(*box, below(text.informativeText, text.reason));
     for (int i = 0; i < text.buttons.size(); ++i) {
         const auto role = i == 0 ? QMessageBox::AcceptRole : QMessageBox::RejectRole;
         QPushButton* const button = box->addButton(text.buttons[i], role);

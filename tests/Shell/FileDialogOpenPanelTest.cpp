@@ -3,6 +3,12 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QImage>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTemporaryDir>
+#include <QTimer>
 #include <QWidget>
 
 #include <gtest/gtest.h>
@@ -50,6 +56,43 @@ TEST_F(FileDialogOpenPanelTest, CancellingChoosesNothing)
     dialogs().front()->reject();
     ASSERT_TRUE(chosen.has_value());
     EXPECT_TRUE(chosen->empty());
+}
+
+TEST_F(FileDialogOpenPanelTest, DeletesNothing)
+{
+    begin();
+    EXPECT_TRUE(dialogs().front()->testOption(QFileDialog::ReadOnly));
+}
+
+TEST_F(FileDialogOpenPanelTest, WhatItSaysOfAFolderIsNoMarkup)
+{
+    const QTemporaryDir folder;
+    QImage red(8, 8, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    ASSERT_TRUE(red.save(folder.filePath(QStringLiteral("red.png"))));
+    begin();
+    QFileDialog& dialog = *dialogs().front();
+    auto* const field = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    ASSERT_NE(field, nullptr);
+    field->setText(
+        QStringLiteral("<img src='%1'>").arg(folder.filePath(QStringLiteral("red.png"))));
+    bool isShown = false;
+    QTimer::singleShot(0, &dialog, [&dialog, &isShown] {
+        auto* const box = dialog.findChild<QMessageBox*>();
+        ASSERT_NE(box, nullptr);
+        isShown = true;
+        const auto* const label = box->findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+        EXPECT_EQ(label->textFormat(), Qt::PlainText);
+        const QImage picture = box->grab().toImage();
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                ASSERT_NE(picture.pixelColor(x, y), QColor(Qt::red));
+            }
+        }
+        box->close();
+    });
+    static_cast<QDialog&>(dialog).accept();
+    EXPECT_TRUE(isShown);
 }
 
 } // namespace

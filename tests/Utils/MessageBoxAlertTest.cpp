@@ -5,18 +5,52 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QImage>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
+#include <vector>
 
 namespace tessera {
 namespace {
+
+struct Shown {
+    Qt::TextFormat format = Qt::AutoText;
+    QImage picture;
+};
+
+bool holds(const QImage& picture, QColor color)
+{
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (picture.pixelColor(x, y) == color) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+/// How many pixels are dark.
+int inkOf(const QImage& picture)
+{
+    constexpr int kDark = 128;
+    int ink = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            ink += picture.pixelColor(x, y).lightness() < kDark ? 1 : 0;
+        }
+    }
+    return ink;
+}
 
 class MessageBoxAlertTest : public testing::Test {
 protected:
@@ -47,10 +81,44 @@ protected:
     }
 
     /// The answer when `act` is done to the box.
-    int answerAfter(const std::function<void(QMessageBox&)>& act)
+    int answerAfter(const AlertText& text, const std::function<void(QMessageBox&)>& act)
     {
         QTimer::singleShot(0, &m_window, [act] { act(*box()); });
-        return m_alert.runModal(question());
+        return m_alert.runModal(text);
+    }
+
+    int answerAfter(const std::function<void(QMessageBox&)>& act)
+    {
+        return answerAfter(question(), act);
+    }
+
+    QStringList buttonsFromTheLeft(const AlertText& text)
+    {
+        QStringList titles;
+        (void)answerAfter(text, [&titles](QMessageBox& box) {
+            QList<QPushButton*> buttons = box.findChildren<QPushButton*>();
+            std::ranges::sort(buttons, {}, [](const QPushButton* button) { return button->x(); });
+            for (const QPushButton* const button : buttons) {
+                titles << button->text();
+            }
+            box.close();
+        });
+        return titles;
+    }
+
+    /// What the labels of an alert with that headline and that text look like.
+    std::vector<Shown> shown(const QString& headline, const QString& text)
+    {
+        std::vector<Shown> result;
+        (void)answerAfter({headline, text, {QStringLiteral("OK")}}, [&result](QMessageBox& box) {
+            for (const char* const name : {"qt_msgbox_label", "qt_msgbox_informativelabel"}) {
+                auto* const label = box.findChild<QLabel*>(QString::fromLatin1(name));
+                ASSERT_NE(label, nullptr);
+                result.push_back({label->textFormat(), label->grab().toImage()});
+            }
+            box.close();
+        });
+        return result;
     }
 
     MessageBoxAlert& alert() { return m_alert; }
@@ -80,7 +148,24 @@ TEST_F(MessageBoxAlertTest, ScreenReadersAnnounceTheMessage)
     EXPECT_EQ(announced, message);
 }
 
-TEST_F(MessageBoxAlertTest, ReturnPressesTheFirstButton)
+TEST_F(MessageBoxAlertTest, ReturnPressesTheDefaultButton)
+{
+    AlertText text = question();
+    text.defaultButton = 1;
+    EXPECT_EQ(
+        answerAfter(text, [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); }), 1001);
+}
+
+TEST_F(MessageBoxAlertTest, TheDefaultButtonChangesNothingInTheButtonsOrder)
+{
+    AlertText text = question();
+    text.defaultButton = 1;
+    const QStringList usual = buttonsFromTheLeft(question());
+    EXPECT_EQ(usual.size(), 2);
+    EXPECT_EQ(buttonsFromTheLeft(text), usual);
+}
+
+TEST_F(MessageBoxAlertTest, ReturnPressesTheFirstButtonUnlessAnotherIsTheDefault)
 {
     EXPECT_EQ(answerAfter([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); }), 1000);
 }
@@ -100,9 +185,40 @@ TEST_F(MessageBoxAlertTest, ShowsItsTextsAsTheyAre)
     (void)answerAfter([](QMessageBox& box) {
         EXPECT_EQ(box.text(), QStringLiteral("Warning"));
         EXPECT_EQ(box.informativeText(), QStringLiteral("Really <b>remove</b> it?"));
-        EXPECT_EQ(box.textFormat(), Qt::PlainText);
         box.close();
     });
+}
+
+TEST_F(MessageBoxAlertTest, TakesNoPartOfATextForMarkup)
+{
+    const QString markup = QStringLiteral("<h1>a</h1>");
+    for (const Shown& label : shown(markup, markup)) {
+        EXPECT_EQ(label.format, Qt::PlainText);
+    }
+}
+
+TEST_F(MessageBoxAlertTest, ShowsNoPictureThatANameCalls)
+{
+    const QTemporaryDir folder;
+    QImage red(8, 8, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    const QString path = folder.filePath(QStringLiteral("red.png"));
+    ASSERT_TRUE(red.save(path));
+    const QString name = QStringLiteral("<img src=\"%1\">").arg(path);
+    const std::vector<Shown> labels = shown(name, name);
+    ASSERT_EQ(labels.size(), 2U);
+    EXPECT_FALSE(holds(labels[0].picture, Qt::red));
+    EXPECT_FALSE(holds(labels[1].picture, Qt::red));
+}
+
+TEST_F(MessageBoxAlertTest, TagsInANameHideNothingOfTheText)
+{
+    const QString question = QStringLiteral("Are you sure?");
+    const QString headline = QStringLiteral("Warning");
+    const int usual = inkOf(shown(headline, question).at(1).picture);
+    const QString tags = QStringLiteral("<font color='#efefef' size=1>");
+    EXPECT_GT(usual, 0);
+    EXPECT_GT(inkOf(shown(headline, tags + question).at(1).picture), usual);
 }
 
 TEST_F(MessageBoxAlertTest, ItsHeadlineIsBold)
