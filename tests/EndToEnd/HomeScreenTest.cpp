@@ -30,5 +30,17 @@ TEST_F(WholeProgram, ReturnScansTheChosenLocation)
     EXPECT_TRUE(showsTree("Downloads"));
 }
 
+/// On a screen whose pixels are half as large, which leaves 960 × 600 points.
+class ProgramOnScaledScreen : public WholeProgram {
+    void prepareSession() override { session->setVariable("QT_SCALE_FACTOR", "2"); }
+};
+
+TEST_F(ProgramOnScaledScreen, TheFirstWindowFits)
+{
+    ASSERT_TRUE(isHome());
+    EXPECT_TRUE(desk().screen().contains(mainWindow().frame));
+    EXPECT_GT(mainWindow().frame.width(), 1800) << "it is as large as it can be";
+}
+
 } // namespace
 } // namespace tessera::test

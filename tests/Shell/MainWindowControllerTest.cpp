@@ -9,6 +9,7 @@
 #include "TreeView/ToolbarPathControl.h"
 #include "support/becomesActive.h"
 
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -251,28 +252,43 @@ TEST_F(MainWindowControllerTest, FullScreenIsSwitchedOnAndOff)
     EXPECT_FALSE(controller->window().isFullScreen());
 }
 
-TEST_F(MainWindowControllerTest, TheFirstWindowHasTheSizeThatIsMeantForIt)
+TEST_F(MainWindowControllerTest, TheFirstWindowHasTheSizeThatIsMeantForItAsFarAsTheScreenGoes)
 {
-    EXPECT_EQ(controller->window().size(), QSize(1080, 720));
+    const QRect screen = controller->window().screen()->availableGeometry();
+    EXPECT_EQ(controller->window().width(), std::min(1080, screen.width() - 8));
+    EXPECT_EQ(controller->window().height(), std::min(720, screen.height() - 44));
     EXPECT_EQ(controller->window().minimumSize(), QSize(760, 520));
     EXPECT_EQ(controller->window().windowTitle(), QStringLiteral("Tessera"));
 }
 
 TEST_F(MainWindowControllerTest, TheNextWindowOpensWhereThisOneWas)
 {
-    controller->window().setGeometry(20, 30, 800, 600);
+    controller->window().setGeometry(20, 50, 770, 600);
     controller->window().close();
     controller = std::make_unique<MainWindowController>(services.get());
     controller->showWindow();
-    EXPECT_EQ(controller->window().geometry(), QRect(20, 30, 800, 600));
+    EXPECT_EQ(controller->window().geometry(), QRect(20, 50, 770, 600));
+}
+
+TEST_F(MainWindowControllerTest, AWindowThatWentPastTheScreenComesBackInsideIt)
+{
+    const QRect screen = controller->window().screen()->availableGeometry();
+    const QSize large(screen.width() - 20, screen.height() + 60);
+    controller->window().setGeometry(QRect(QPoint(30, 80), large));
+    controller->window().close();
+    controller = std::make_unique<MainWindowController>(services.get());
+    controller->showWindow();
+    EXPECT_TRUE(screen.contains(controller->window().geometry()));
+    EXPECT_EQ(controller->window().width(), large.width());
 }
 
 TEST_F(MainWindowControllerTest, ABrokenRecordOfTheWindowsPlaceIsLeftAside)
 {
+    const QSize first = controller->window().size();
     services.rootModel.defaults.setString("MainWindowFrame", "nonsense");
     controller = std::make_unique<MainWindowController>(services.get());
     controller->showWindow();
-    EXPECT_EQ(controller->window().size(), QSize(1080, 720));
+    EXPECT_EQ(controller->window().size(), first);
 }
 
 TEST_F(MainWindowControllerTest, TheRecentScansAreLoadedForTheHomeScreen)
