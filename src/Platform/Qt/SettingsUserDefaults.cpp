@@ -9,6 +9,7 @@
 #include <QStandardPaths>
 
 #include <filesystem>
+#include <fstream>
 #include <system_error>
 #include <utility>
 
@@ -44,6 +45,21 @@ void removeEmptyLock(const QString& filePath)
     if (std::filesystem::file_size(lock, error) == 0 && !error) {
         std::filesystem::remove(lock, error);
     }
+}
+
+/// Which folders somebody scanned is nobody else's business. Qt gives a new file the mode that the
+/// old one had, so there is one from the first setting on.
+void makePrivate(const QString& filePath)
+{
+    namespace fs = std::filesystem;
+    const fs::path path = QFile::encodeName(filePath).toStdString();
+    std::error_code error;
+    if (!fs::exists(path, error)) {
+        fs::create_directories(path.parent_path(), error);
+        (void)std::ofstream(path);
+    }
+    fs::permissions(
+        path, fs::perms::group_all | fs::perms::others_all, fs::perm_options::remove, error);
 }
 
 std::unique_ptr<QSettings> openSettings(const QString& filePath)
@@ -111,6 +127,7 @@ std::optional<std::string> SettingsUserDefaults::storedText(std::string_view key
 
 void SettingsUserDefaults::storeText(std::string_view key, const std::string& text)
 {
+    makePrivate(m_settings->fileName());
     m_settings->setValue(settingsKey(key), QString::fromStdString(text));
 }
 
@@ -137,6 +154,7 @@ std::vector<RecentRecord> SettingsUserDefaults::storedRecords(std::string_view k
 void SettingsUserDefaults::storeRecords(
     std::string_view key, const std::vector<RecentRecord>& records)
 {
+    makePrivate(m_settings->fileName());
     // An array that is written shorter would keep its old entries behind the new end.
     m_settings->remove(settingsKey(key));
     m_settings->beginWriteArray(settingsKey(key), static_cast<int>(records.size()));

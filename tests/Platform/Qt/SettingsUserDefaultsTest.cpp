@@ -51,6 +51,27 @@ TEST_F(SettingsUserDefaultsOnDisk, WithoutAFileEverythingIsAsRegistered)
     EXPECT_FALSE(QFile::exists(path()));
 }
 
+TEST_F(SettingsUserDefaultsOnDisk, OnlyTheUserMayReadAFileThatItMakes)
+{
+    SettingsUserDefaults defaults(path());
+    defaults.setInteger("number", 1);
+    ASSERT_TRUE(defaults.synchronize());
+    constexpr QFile::Permissions kOwners = QFile::ReadOwner | QFile::WriteOwner;
+    EXPECT_EQ(QFile::permissions(path()) & ~(QFile::ReadUser | QFile::WriteUser), kOwners);
+}
+
+TEST_F(SettingsUserDefaultsOnDisk, AFileOfOldBecomesTheUsersAloneWithTheNextChange)
+{
+    writeFile("number=1\n");
+    ASSERT_TRUE(QFile::setPermissions(
+        path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther));
+    SettingsUserDefaults defaults(path());
+    defaults.setRecentRecords("recents", {{"/data", 5, kDate}});
+    ASSERT_TRUE(defaults.synchronize());
+    EXPECT_FALSE(QFile::permissions(path()) & (QFile::ReadGroup | QFile::ReadOther));
+    EXPECT_THAT(readFile(path()), HasSubstr("number=1"));
+}
+
 TEST_F(SettingsUserDefaultsOnDisk, KeepsEveryKindOfValue)
 {
     {
