@@ -175,6 +175,7 @@ void addRecents(const QTemporaryDir& home)
     SettingsUserDefaults defaults(SettingsUserDefaults::defaultFilePath());
     XbelRecentDocuments documents(
         home.filePath(QStringLiteral("data/recently-used.xbel")).toStdString(),
+        defaults,
         std::make_shared<const FileSystemQuestions>(kWorkerPatience));
     Recents recents(defaults, documents);
     for (const char* const path : {"/var", "/etc", "/usr", "/"}) {

@@ -86,8 +86,8 @@ PlatformServices makePlatformServices(Session session)
     services.userAccount = std::make_unique<LinuxUserAccount>();
     services.userDefaults
         = std::make_unique<SettingsUserDefaults>(SettingsUserDefaults::defaultFilePath());
-    services.recentDocuments
-        = std::make_unique<XbelRecentDocuments>(XbelRecentDocuments::defaultFilePath(), prompt);
+    services.recentDocuments = std::make_unique<XbelRecentDocuments>(
+        XbelRecentDocuments::defaultFilePath(), *services.userDefaults, prompt);
     services.colorSchemePreference = std::make_unique<DesktopColorSchemePreference>(bus);
     services.motionPreference = std::make_unique<DesktopMotionPreference>();
     services.launcherProgress = std::make_unique<UnityLauncherProgress>(bus);

@@ -1,16 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/XbelRecentDocuments.h"
 
-#include "Platform/keepAside.h"
+#include "Model/UserDefaults.h"
+#include "Platform/Linux/XbelContent.h"
 
 #include <glib.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
+#include <condition_variable>
+#include <deque>
 #include <filesystem>
 #include <memory>
+#include <mutex>
 #include <optional>
+#include <string_view>
+#include <system_error>
+#include <thread>
 #include <utility>
 
 namespace tessera {
@@ -40,7 +48,6 @@ struct Releaser {
 
 using BookmarkFile = std::unique_ptr<GBookmarkFile, Releaser<g_bookmark_file_free>>;
 using DateTime = std::unique_ptr<GDateTime, Releaser<g_date_time_unref>>;
-using Error = std::unique_ptr<GError, Releaser<g_error_free>>;
 using Strings = std::unique_ptr<gchar*, Releaser<g_strfreev>>;
 using Text = std::unique_ptr<gchar, Releaser<g_free>>;
 
@@ -50,32 +57,35 @@ struct Entry {
     microseconds stamp{};
 };
 
-enum class FileState : std::uint8_t {
-    Usable, ///< read, or not there yet
-    Malformed,
-    Untouchable,
-};
-
-FileState load(GBookmarkFile* bookmarks, const std::string& path)
+/// What a list is before anybody has made one.
+bool isMissing(const std::string& path)
 {
     struct stat status { };
-    if (::stat(path.c_str(), &status) != 0) {
-        return errno == ENOENT ? FileState::Usable : FileState::Untouchable;
+    return ::stat(path.c_str(), &status) != 0 && errno == ENOENT;
+}
+
+/// Whether it is a list that the user may write, and not too large. Some replace it by a folder or
+/// by a link to /dev/null, or protect it, to be rid of it.
+bool isOpenToChanges(const std::string& path)
+{
+    struct stat status { };
+    return ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode)
+        && (status.st_mode & S_IWUSR) != 0 && ::access(path.c_str(), R_OK | W_OK) == 0
+        && static_cast<std::size_t>(status.st_size) <= XbelRecentDocuments::kMostBytes;
+}
+
+/// GLib skips an entry without applications when it writes, and complains.
+bool haveApplications(GBookmarkFile* bookmarks)
+{
+    const Strings uris(g_bookmark_file_get_uris(bookmarks, nullptr));
+    for (gchar** uri = uris.get(); *uri != nullptr; ++uri) {
+        gsize count = 0;
+        const Strings names(g_bookmark_file_get_applications(bookmarks, *uri, &count, nullptr));
+        if (count == 0) {
+            return false;
+        }
     }
-    // Some replace the list by a folder or a link to /dev/null to be rid of it.
-    if (!S_ISREG(status.st_mode)) {
-        return FileState::Untouchable;
-    }
-    if (status.st_size == 0) {
-        return FileState::Usable;
-    }
-    GError* raw = nullptr;
-    const bool isLoaded = g_bookmark_file_load_from_file(bookmarks, path.c_str(), &raw) != FALSE;
-    const Error error(raw);
-    if (isLoaded) {
-        return FileState::Usable;
-    }
-    return error->domain == G_FILE_ERROR ? FileState::Untouchable : FileState::Malformed;
+    return true;
 }
 
 DateTime dateTime(microseconds time)
@@ -168,101 +178,61 @@ void store(GBookmarkFile* bookmarks, const std::string& path)
         nullptr);
 }
 
-/// The list to change, read anew; none when it must be left alone.
-BookmarkFile loadForChange(const std::string& path)
+/// The list as it is now; null when it must be left alone.
+BookmarkFile load(const std::string& path)
 {
     BookmarkFile bookmarks(g_bookmark_file_new());
-    const FileState state = load(bookmarks.get(), path);
-    if (state == FileState::Untouchable
-        || (state == FileState::Malformed && !keepAside(linkTarget(path)))) {
+    if (isMissing(path)) {
+        return bookmarks;
+    }
+    gchar* raw = nullptr;
+    gsize length = 0;
+    if (!isOpenToChanges(path)
+        || g_file_get_contents(path.c_str(), &raw, &length, nullptr) == FALSE) {
         return nullptr;
     }
-    if (state == FileState::Malformed) {
-        // What was read up to the fault would come twice when the user mends the file.
-        bookmarks.reset(g_bookmark_file_new());
+    const Text original(raw);
+    if (length == 0) {
+        return bookmarks;
     }
-    return bookmarks;
-}
-
-bool isGone(const std::string& path)
-{
-    struct stat status { };
-    return ::lstat(path.c_str(), &status) != 0 && (errno == ENOENT || errno == ENOTDIR);
-}
-
-} // namespace
-
-std::string XbelRecentDocuments::defaultFilePath()
-{
-    return std::string(g_get_user_data_dir()) + "/recently-used.xbel";
-}
-
-XbelRecentDocuments::XbelRecentDocuments(
-    std::string filePath, std::shared_ptr<const FileSystemQuestions> questions)
-    : XbelRecentDocuments(
-        std::move(filePath), std::move(questions), [] { return microseconds(g_get_real_time()); })
-{
-}
-
-XbelRecentDocuments::XbelRecentDocuments(
-    std::string filePath, std::shared_ptr<const FileSystemQuestions> questions, Clock clock)
-    : m_filePath(std::move(filePath))
-    , m_questions(std::move(questions))
-    , m_clock(std::move(clock))
-{
-}
-
-std::vector<Url> XbelRecentDocuments::recentDocumentUrls() const
-{
-    const BookmarkFile bookmarks(g_bookmark_file_new());
-    if (load(bookmarks.get(), m_filePath) != FileState::Usable) {
-        return {};
+    if (g_bookmark_file_load_from_data(bookmarks.get(), original.get(), length, nullptr) == FALSE
+        || !haveApplications(bookmarks.get())) {
+        return nullptr;
     }
-    std::vector<Entry> entries = ownEntries(bookmarks.get());
-    entries.resize(std::min(entries.size(), kMaxDocuments));
-    const auto deadline = m_questions->deadline();
-    std::vector<Url> urls;
-    for (Entry& entry : entries) {
-        const std::string& path = entry.url.path();
-        const std::optional<bool> gone = m_questions->ask<bool>(
-            path, LinkMode::Keep, [path] { return std::optional(isGone(path)); }, deadline);
-        // A server that is down for an hour has lost nothing.
-        if (!gone.value_or(false)) {
-            urls.push_back(std::move(entry.url));
-        }
-    }
-    return urls;
+    gsize copied = 0;
+    const Text copy(g_bookmark_file_to_data(bookmarks.get(), &copied, nullptr));
+    const bool isSame = copy != nullptr && saysAll({copy.get(), copied}, {original.get(), length});
+    return isSame ? std::move(bookmarks) : nullptr;
 }
 
-void XbelRecentDocuments::noteNewRecentDocumentUrl(const Url& url)
+void note(const std::string& path, const Url& url, microseconds now)
 {
-    const BookmarkFile bookmarks = loadForChange(m_filePath);
+    const BookmarkFile bookmarks = load(path);
     if (bookmarks == nullptr) {
         return;
     }
     const std::vector<Entry> entries = ownEntries(bookmarks.get());
     // The newest has the largest stamp also after the clock was set back, or did not move on.
-    microseconds stamp = m_clock();
-    if (!entries.empty()) {
-        stamp = std::max(stamp, entries.front().stamp + microseconds(1));
-    }
+    const microseconds stamp
+        = entries.empty() ? now : std::max(now, entries.front().stamp + microseconds(1));
     std::size_t kept = 1;
     for (const Entry& entry : entries) {
         // An entry may spell the same file's URL in another way, so not the text is compared.
         const bool isSame = entry.url.path() == url.path();
-        if ((isSame && entry.uri != url.absoluteString()) || (!isSame && kept == kMaxDocuments)) {
+        if ((isSame && entry.uri != url.absoluteString())
+            || (!isSame && kept == XbelRecentDocuments::kMaxDocuments)) {
             forget(bookmarks.get(), entry.uri);
         } else if (!isSame) {
             ++kept;
         }
     }
     registerUse(bookmarks.get(), url, stamp);
-    store(bookmarks.get(), m_filePath);
+    store(bookmarks.get(), path);
 }
 
-void XbelRecentDocuments::clearRecentDocuments()
+void clear(const std::string& path)
 {
-    const BookmarkFile bookmarks = loadForChange(m_filePath);
+    const BookmarkFile bookmarks = load(path);
     if (bookmarks == nullptr) {
         return;
     }
@@ -273,7 +243,137 @@ void XbelRecentDocuments::clearRecentDocuments()
     for (const Entry& entry : entries) {
         forget(bookmarks.get(), entry.uri);
     }
-    store(bookmarks.get(), m_filePath);
+    store(bookmarks.get(), path);
+}
+
+bool isGone(const std::string& path)
+{
+    struct stat status { };
+    return ::lstat(path.c_str(), &status) != 0 && (errno == ENOENT || errno == ENOTDIR);
+}
+
+} // namespace
+
+/// One after the other, on a thread that lives as long as there are some: the user's home may be on
+/// a server, and others' lists are long.
+class XbelRecentDocuments::Changes {
+public:
+    static void add(const std::shared_ptr<Changes>& changes, std::function<void()> change)
+    {
+        const std::lock_guard lock(changes->m_mutex);
+        changes->m_waiting.push_back(std::move(change));
+        if (std::exchange(changes->m_isAtWork, true)) {
+            return;
+        }
+        try {
+            std::thread([changes] { changes->work(); }).detach();
+        } catch (const std::system_error&) {
+            // As little is lost as where the list cannot be written.
+            changes->m_waiting.clear();
+            changes->m_isAtWork = false;
+        }
+    }
+
+    void wait(std::chrono::milliseconds patience)
+    {
+        std::unique_lock lock(m_mutex);
+        m_isDone.wait_for(lock, patience, [this] { return !m_isAtWork; });
+    }
+
+private:
+    void work()
+    {
+        std::unique_lock lock(m_mutex);
+        while (!m_waiting.empty()) {
+            const std::function<void()> change = std::move(m_waiting.front());
+            m_waiting.pop_front();
+            lock.unlock();
+            change();
+            lock.lock();
+        }
+        m_isAtWork = false;
+        m_isDone.notify_all();
+    }
+
+    std::mutex m_mutex;
+    std::condition_variable m_isDone;
+    std::deque<std::function<void()>> m_waiting;
+    bool m_isAtWork = false;
+};
+
+std::string XbelRecentDocuments::defaultFilePath()
+{
+    return std::string(g_get_user_data_dir()) + "/recently-used.xbel";
+}
+
+XbelRecentDocuments::XbelRecentDocuments(
+    std::string filePath,
+    const UserDefaults& settings,
+    std::shared_ptr<const FileSystemQuestions> questions)
+    : XbelRecentDocuments(std::move(filePath), settings, std::move(questions), [] {
+        return microseconds(g_get_real_time());
+    })
+{
+}
+
+XbelRecentDocuments::XbelRecentDocuments(
+    std::string filePath,
+    const UserDefaults& settings,
+    std::shared_ptr<const FileSystemQuestions> questions,
+    Clock clock)
+    : m_filePath(std::move(filePath))
+    , m_settings(settings)
+    , m_questions(std::move(questions))
+    , m_clock(std::move(clock))
+    , m_changes(std::make_shared<Changes>())
+{
+}
+
+XbelRecentDocuments::~XbelRecentDocuments()
+{
+    m_changes->wait(kWorkerPatience);
+}
+
+std::vector<Url> XbelRecentDocuments::listedUrls() const
+{
+    std::vector<Url> urls;
+    if (const BookmarkFile bookmarks = load(m_filePath)) {
+        for (Entry& entry : ownEntries(bookmarks.get())) {
+            urls.push_back(std::move(entry.url));
+        }
+    } else {
+        for (const RecentRecord& record : m_settings.recentRecords(kRecentsKey)) {
+            urls.emplace_back(record.path, true);
+        }
+    }
+    urls.resize(std::min(urls.size(), kMaxDocuments));
+    return urls;
+}
+
+std::vector<Url> XbelRecentDocuments::recentDocumentUrls() const
+{
+    m_changes->wait(kWorkerPatience);
+    std::vector<Url> urls = listedUrls();
+    const auto deadline = m_questions->deadline();
+    std::erase_if(urls, [this, deadline](const Url& url) {
+        const std::string path = url.path();
+        const std::optional<bool> gone = m_questions->ask<bool>(
+            path, LinkMode::Keep, [path] { return std::optional(isGone(path)); }, deadline);
+        // A server that is down for an hour has lost nothing.
+        return gone.value_or(false);
+    });
+    return urls;
+}
+
+void XbelRecentDocuments::noteNewRecentDocumentUrl(const Url& url)
+{
+    Changes::add(
+        m_changes, [path = m_filePath, url, clock = m_clock] { note(path, url, clock()); });
+}
+
+void XbelRecentDocuments::clearRecentDocuments()
+{
+    Changes::add(m_changes, [path = m_filePath] { clear(path); });
 }
 
 } // namespace tessera

@@ -2,6 +2,7 @@
 #include "Platform/Linux/XbelRecentDocuments.h"
 
 #include "support/DeadFileSystem.h"
+#include "support/FakeUserDefaults.h"
 
 #include <QProcess>
 #include <QStandardPaths>
@@ -14,6 +15,7 @@
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace tessera {
@@ -71,7 +73,10 @@ protected:
     /// A clock that stands still unless a test moves it.
     XbelRecentDocuments documents()
     {
-        return {m_file.string(), m_questions, [this] { return m_now; }};
+        return {m_file.string(), m_settings, m_questions, [this] {
+                    m_thread = std::this_thread::get_id();
+                    return m_now;
+                }};
     }
 
     Url makeFolder(const std::string& name) const
@@ -95,6 +100,8 @@ protected:
     fs::path m_folder;
     fs::path m_file;
     microseconds m_now{1700000000000000};
+    std::thread::id m_thread; ///< that looked at the clock
+    test::FakeUserDefaults m_settings;
     std::shared_ptr<const FileSystemQuestions> m_questions
         = std::make_shared<const FileSystemQuestions>(std::chrono::minutes(1));
 };
@@ -235,12 +242,13 @@ TEST_F(XbelRecentDocumentsOnDisk, WhatOthersWroteMeanwhileIsKept)
 {
     XbelRecentDocuments list = documents();
     list.noteNewRecentDocumentUrl(makeFolder("a"));
+    EXPECT_EQ(list.recentDocumentUrls().size(), 1U);
     std::string text = readFile(m_file);
     text.insert(text.rfind("</xbel>"), foreignEntry("file:///meanwhile"));
     writeFile(text);
     list.noteNewRecentDocumentUrl(makeFolder("b"));
-    EXPECT_THAT(readFile(m_file), HasSubstr("file:///meanwhile"));
     EXPECT_EQ(list.recentDocumentUrls().size(), 2U);
+    EXPECT_THAT(readFile(m_file), HasSubstr("file:///meanwhile"));
 }
 
 TEST_F(XbelRecentDocumentsOnDisk, AMalformedFileReadsAsEmptyAndStays)
@@ -250,14 +258,113 @@ TEST_F(XbelRecentDocumentsOnDisk, AMalformedFileReadsAsEmptyAndStays)
     EXPECT_EQ(readFile(m_file), "<xbel><bookmark");
 }
 
-TEST_F(XbelRecentDocumentsOnDisk, AMalformedFileIsKeptAsideBeforeANewOneIsWritten)
+/// Lists that lose something when GLib writes them anew, or that it does not take at all.
+struct OthersList {
+    const char* name;
+    std::string content;
+};
+
+class XbelRecentDocumentsBeside : public XbelRecentDocumentsOnDisk,
+                                  public testing::WithParamInterface<OthersList> { };
+
+TEST_P(XbelRecentDocumentsBeside, LeavesTheListAsItIs)
 {
-    const std::string broken = kHead + foreignEntry("file:///other") + "<bookmark";
-    writeFile(broken);
+    writeFile(GetParam().content);
+    documents().noteNewRecentDocumentUrl(makeFolder("a"));
+    documents().clearRecentDocuments();
+    EXPECT_EQ(readFile(m_file), GetParam().content);
+    EXPECT_EQ(std::distance(fs::directory_iterator(m_file.parent_path()), {}), 1);
+}
+
+TEST_P(XbelRecentDocumentsBeside, ListsWhatTheSettingsRemember)
+{
+    writeFile(GetParam().content);
+    const Url a = makeFolder("a");
+    const Url b = makeFolder("b");
+    m_settings.records["recents"]
+        = {{b.path(), 5, {}}, {(m_folder / "gone").string(), 5, {}}, {a.path(), 5, {}}};
+    EXPECT_THAT(documents().recentDocumentUrls(), ElementsAre(b, a));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Lists,
+    XbelRecentDocumentsBeside,
+    testing::Values(
+        OthersList{"Truncated", kHead + foreignEntry("file:///other") + "<bookmark"},
+        OthersList{"NoXml", "nothing of the kind"},
+        OthersList{
+            "EntryWithoutPrograms",
+            kHead + foreignEntry("file:///other")
+                + "<bookmark href=\"file:///x\" added=\"2020-01-02T03:04:05Z\"/></xbel>"},
+        OthersList{
+            "Comment",
+            kHead + foreignEntry("file:///other") + "<!-- mine, do not touch --></xbel>"},
+        OthersList{
+            "Folder",
+            kHead + ("<folder><title>f</title>" + foreignEntry("file:///other"))
+                + "</folder></xbel>"},
+        OthersList{
+            "ForeignMetadata",
+            kHead + foreignEntry("file:///other")
+                + "<bookmark href=\"file:///x\"><info><metadata owner=\"http://me\">stars"
+                  "</metadata></info></bookmark></xbel>"},
+        OthersList{
+            "ForeignAttribute",
+            kHead
+                + foreignEntry(
+                    "file:///other",
+                    "<bookmark:application name=\"x\" exec=\"x\" count=\"1\" stars=\"5\" "
+                    "modified=\"2020-01-02T03:04:06Z\"/>")
+                + "</xbel>"}),
+    [](const auto& list) { return std::string(list.param.name); });
+
+TEST_F(XbelRecentDocumentsOnDisk, AListThatTheUserProtectedIsLeftAlone)
+{
+    const std::string list = kHead + foreignEntry("file:///other") + "</xbel>";
+    writeFile(list);
+    fs::permissions(m_file, fs::perms::owner_read);
     const Url a = makeFolder("a");
     documents().noteNewRecentDocumentUrl(a);
+    m_settings.records["recents"] = {{a.path(), 5, {}}};
     EXPECT_THAT(documents().recentDocumentUrls(), ElementsAre(a));
-    EXPECT_EQ(readFile(m_file.string() + ".corrupt-1"), broken);
+    EXPECT_EQ(readFile(m_file), list);
+    EXPECT_EQ(fs::status(m_file).permissions(), fs::perms::owner_read);
+}
+
+TEST_F(XbelRecentDocumentsOnDisk, AListOfMegabytesIsLeftAlone)
+{
+    std::string list = kHead + foreignEntry("file:///other") + "</xbel>";
+    list += std::string(XbelRecentDocuments::kMostBytes + 1 - list.size(), '\n');
+    writeFile(list);
+    documents().noteNewRecentDocumentUrl(makeFolder("a"));
+    EXPECT_EQ(readFile(m_file), list);
+    list.pop_back();
+    writeFile(list);
+    documents().noteNewRecentDocumentUrl(makeFolder("a"));
+    EXPECT_THAT(readFile(m_file), HasSubstr("tessera"));
+}
+
+TEST_F(XbelRecentDocumentsOnDisk, TheSettingsDoNotMatterWhereThereIsAList)
+{
+    m_settings.records["recents"] = {{makeFolder("a").path(), 5, {}}};
+    EXPECT_THAT(documents().recentDocumentUrls(), IsEmpty());
+}
+
+TEST_F(XbelRecentDocumentsOnDisk, WritesOnAThreadOfItsOwn)
+{
+    documents().noteNewRecentDocumentUrl(makeFolder("a"));
+    EXPECT_NE(m_thread, std::thread::id());
+    EXPECT_NE(m_thread, std::this_thread::get_id());
+}
+
+TEST_F(XbelRecentDocumentsOnDisk, ATimeInOtherWordsIsTheSameTime)
+{
+    std::string list = kHead + foreignEntry("file:///other") + "</xbel>";
+    list.replace(list.find("2020-01-02T03:04:06Z"), 20, "2020-01-02T04:04:06.000+01:00");
+    writeFile(list);
+    documents().noteNewRecentDocumentUrl(makeFolder("a"));
+    EXPECT_THAT(readFile(m_file), HasSubstr("tessera"));
+    EXPECT_THAT(readFile(m_file), HasSubstr("file:///other"));
 }
 
 TEST_F(XbelRecentDocumentsOnDisk, AnEmptyFileIsAnEmptyList)
