@@ -19,6 +19,8 @@
 #include "Utils/UserAccount.h"
 #include "Utils/Workspace.h"
 
+#include <QTranslator>
+
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -59,6 +61,7 @@ struct PlatformServices {
     std::string helpFolder; ///< of features.html and faq.html, as bytes; empty when missing
     std::function<double()> clock;
     std::uint64_t availableMemory = 0; ///< bytes that the program may take, at its start
+    std::unique_ptr<QTranslator> words; ///< what this system calls its parts; in use already
 
     /// Whether windows can be shown; asked before there is an application object.
     static bool hasDisplay();

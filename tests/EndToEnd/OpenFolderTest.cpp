@@ -45,12 +45,12 @@ TEST_F(OpenFolder, WorksOnTheTreeScreenToo)
     EXPECT_TRUE(showsTree("Downloads/fonts"));
 }
 
-TEST_F(OpenFolder, ABackupOfTimeMachineIsRefused)
+TEST_F(OpenFolder, ABackupIsRefusedInTheWordsOfThisSystem)
 {
     session->folders().makeFolder("home/Backups.backupdb");
     session->folders().makeFolder("home/Backups.backupdb/Latest");
     chooseByKeys(home("Backups.backupdb/Latest"));
-    see("Time Machine Detected", "alert message");
+    see("Backup Detected", "alert message");
     EXPECT_TRUE(acceptDialog());
     EXPECT_TRUE(isHome());
 }

@@ -15,6 +15,7 @@
 #include "Platform/Linux/LinuxResourceValues.h"
 #include "Platform/Linux/LinuxStandardFolders.h"
 #include "Platform/Linux/LinuxUserAccount.h"
+#include "Platform/Linux/LinuxWords.h"
 #include "Platform/Linux/UnityLauncherProgress.h"
 #include "Platform/Linux/XbelRecentDocuments.h"
 #include "Platform/Linux/availableMemory.h"
@@ -22,6 +23,7 @@
 #include "Platform/Linux/helpFolder.h"
 #include "Platform/Qt/SettingsUserDefaults.h"
 
+#include <QCoreApplication>
 #include <QDBusConnection>
 
 #include <unistd.h>
@@ -99,6 +101,8 @@ PlatformServices makePlatformServices(Session session)
     services.helpFolder = findHelpFolder(executableFolder());
     services.clock = coarseSeconds;
     services.availableMemory = availableMemory();
+    services.words = std::make_unique<LinuxWords>();
+    QCoreApplication::installTranslator(services.words.get());
     return services;
 }
 
