@@ -13,9 +13,11 @@
 #include "Utils/Util.h"
 
 #include <QLabel>
+#include <QLocale>
 #include <QProgressBar>
 #include <QPushButton>
 
+#include <algorithm>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -25,11 +27,29 @@ namespace tessera {
 namespace {
 
 constexpr QSize kIconSize{64, 64};
+constexpr double kLeastHeadingPoints = 13;
+constexpr double kHeadingFactor = 1.2;
 
 template <typename View>
 View* outlet(const QWidget& view, const char* name)
 {
     return view.findChild<View*>(QString::fromLatin1(name));
+}
+
+/// As the user's language groups digits; the language of none groups them too.
+QString grouped(long number)
+{
+    QLocale locale;
+    locale.setNumberOptions(locale.numberOptions() & ~QLocale::OmitGroupSeparator);
+    return locale.toString(number);
+}
+
+/// Stands out from the other texts, however large those are.
+QFont headingFont(QFont font)
+{
+    font.setBold(true);
+    font.setPointSizeF(std::max(kLeastHeadingPoints, font.pointSizeF() * kHeadingFactor));
+    return font;
 }
 
 } // namespace
@@ -46,6 +66,7 @@ ScanningViewController::ScanningViewController(RootModel& model, ScanningService
     , m_readRate(outlet<QLabel>(*m_view, "readRate"))
     , m_cancelButton(outlet<QPushButton>(*m_view, "cancelButton"))
 {
+    m_folderName->setFont(headingFont(m_folderName->font()));
     connect(m_cancelButton, &QPushButton::clicked, this, &ScanningViewController::stopScan);
     stopAnimation();
 }
@@ -67,7 +88,7 @@ void ScanningViewController::startScanning(const Url& url)
     m_iconView->setPixmap(look.icon.pixmap(kIconSize, m_view->devicePixelRatioF()));
     m_folderName->setText(look.name);
     m_totalRead->setText(QStringLiteral("-"));
-    m_readRate->setText(QStringLiteral("-"));
+    m_readRate->clear();
     m_scanner = Scanner::create(m_services.scanEnvironment);
     m_scanner->setDelegate(this);
     m_scanner->scan(url);
@@ -93,7 +114,7 @@ void ScanningViewController::scanUpdated(Scanner& scanner)
     m_dockImage.setPercent(percent);
     m_services.dockTile.display();
     if (const auto rate = m_rate.add(m_services.scanEnvironment.clock(), scanner.objectsRead())) {
-        m_readRate->setText(tr("%1 files/sec").arg(*rate));
+        m_readRate->setText(tr("%1 files/sec").arg(grouped(*rate)));
     }
 }
 

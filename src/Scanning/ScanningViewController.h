@@ -49,7 +49,8 @@ class ScanningViewController final : public QObject, private ScannerDelegate {
     Q_OBJECT
 
 public:
-    /// Height that the view is made for, in points; its width is free.
+    /// Height that the view is made for, in points; its width is free. With a large font it needs
+    /// more.
     static constexpr int kViewHeight = 230;
 
     /// The model must outlive the controller.

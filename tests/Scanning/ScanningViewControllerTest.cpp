@@ -12,7 +12,10 @@
 #include "support/FakeTreeViewServices.h"
 #include "support/makeTree.h"
 
+#include <QApplication>
+#include <QFontInfo>
 #include <QLabel>
+#include <QLocale>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTest>
@@ -60,7 +63,7 @@ protected:
         system->workers->waitForNone();
     }
 
-    /// Half a second passes before each item of a scan, and every report is shown before the next.
+    /// Time passes before each item of a scan, and every report is shown before the next.
     void makeScanner(std::string_view items)
     {
         system = std::make_unique<test::FakeTreeViewServices>(items);
@@ -70,7 +73,7 @@ protected:
                 beforeItem(path);
             }
             system->mainThread.performAndWait([] {});
-            system->scanClock = system->scanClock.load() + 0.5;
+            system->scanClock = system->scanClock.load() + secondsPerItem;
         });
         controller = std::make_unique<ScanningViewController>(
             model,
@@ -149,6 +152,7 @@ protected:
     std::unique_ptr<ScanningViewController> controller;
     std::string userHome = "/me";
     std::function<void(const std::string&)> beforeItem;
+    double secondsPerItem = 0.5;
     std::error_code problem; ///< of every folder
     std::vector<std::string> checked; ///< the folders that were asked about
     std::vector<std::string> posted;
@@ -170,7 +174,7 @@ TEST_F(ScanningViewControllerTest, ShowsWhatItStartsOn)
     EXPECT_EQ(icon.deviceIndependentSize(), QSizeF(64, 64));
     EXPECT_EQ(icon.toImage().pixelColor(32, 32), QColor(Qt::red));
     EXPECT_EQ(text("totalRead"), "-");
-    EXPECT_EQ(text("readRate"), "-");
+    EXPECT_EQ(text("readRate"), "");
     EXPECT_EQ(controller->rootURL(), Url("/Users/me/some\xFF", true));
     EXPECT_EQ(tile.contentView, &controller->dockImage());
     runToEnd();
@@ -228,13 +232,34 @@ TEST_F(ScanningViewControllerTest, AFractionAboveOneGoesToTheBarAsItIs)
     runToEnd();
 }
 
-TEST_F(ScanningViewControllerTest, TheRateIsADashUntilTheTwentiethReport)
+TEST_F(ScanningViewControllerTest, ThereIsNoRateUntilTheTwentiethReport)
 {
     scanToEnd(filesText(26));
 
     ASSERT_EQ(rates.size(), 26U);
-    EXPECT_THAT(std::vector(rates.begin(), rates.begin() + 19), Each(std::string("-")));
+    EXPECT_THAT(std::vector(rates.begin(), rates.begin() + 19), Each(std::string()));
     EXPECT_EQ(rates.at(19), "2 files/sec");
+}
+
+TEST_F(ScanningViewControllerTest, ARateOfThousandsHasItsDigitsGrouped)
+{
+    // 200 files from one report to the next.
+    secondsPerItem = 0.0005;
+    const QLocale usual;
+    QLocale::setDefault(QLocale(QLocale::German));
+    scanToEnd(filesText(5000));
+    QLocale::setDefault(usual);
+    EXPECT_THAT(rates.back(), testing::ContainsRegex("^[12][.][0-9][0-9][0-9] files/sec$"));
+}
+
+TEST_F(ScanningViewControllerTest, DigitsAreGroupedInTheLanguageOfNoneToo)
+{
+    secondsPerItem = 0.0005;
+    const QLocale usual;
+    QLocale::setDefault(QLocale::c());
+    scanToEnd(filesText(5000));
+    QLocale::setDefault(usual);
+    EXPECT_THAT(rates.back(), testing::ContainsRegex("^[12],[0-9][0-9][0-9] files/sec$"));
 }
 
 TEST_F(ScanningViewControllerTest, TheRateChangesAtEveryFifthReport)
@@ -404,6 +429,26 @@ TEST_F(ScanningViewControllerTest, EveryOutletHasItsPlaceInThePanelsHeight)
     EXPECT_FALSE(text("tipsField").empty());
 }
 
+TEST_F(ScanningViewControllerTest, InALargeFontThePanelAsksForTheHeightThatAllOfItNeeds)
+{
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPointSizeF(24);
+    QApplication::setFont(large);
+    makeScanner("");
+    QWidget& view = controller->view();
+    const int height = view.heightForWidth(760);
+    view.resize(760, height);
+    view.show();
+    const auto* const tips = outlet<QLabel>("tipsField");
+    EXPECT_GT(height, ScanningViewController::kViewHeight);
+    EXPECT_GE(tips->height(), tips->heightForWidth(tips->width()));
+    EXPECT_GT(
+        QFontInfo(outlet<PathLabel>("folderName")->font()).pixelSize(),
+        QFontInfo(outlet<PathLabel>("scanLabel")->font()).pixelSize());
+    QApplication::setFont(usual);
+}
+
 /// Scans of /Users where /Users/me is an encrypted home, a volume of its own.
 class EncryptedHomeTest : public ScanningViewControllerTest {
 protected:
@@ -424,13 +469,13 @@ TEST_F(EncryptedHomeTest, TheHomeIsScannedInASecondPass)
     runUntil([this] { return controller->fileVault() != nullptr; });
     EXPECT_THAT(posted, IsEmpty());
     EXPECT_EQ(controller->rootURL(), Url("/Users/me", true));
-    EXPECT_EQ(text("readRate"), "-");
+    EXPECT_EQ(text("readRate"), "");
     runToEnd();
     EXPECT_THAT(posted, ElementsAre("complete"));
     EXPECT_TRUE(controller->rootURL().empty());
 }
 
-TEST_F(EncryptedHomeTest, TheSecondPassesRateBeginsWithADashAgain)
+TEST_F(EncryptedHomeTest, TheSecondPassBeginsWithoutARateAgain)
 {
     const std::size_t reports = 27; // a pass meets the home folder and its files
     makeScanner("me/ ( " + filesText(26) + ")");
@@ -441,7 +486,7 @@ TEST_F(EncryptedHomeTest, TheSecondPassesRateBeginsWithADashAgain)
     ASSERT_EQ(rates.size(), 2 * reports);
     EXPECT_EQ(rates.at(reports - 1), "2 files/sec");
     EXPECT_THAT(
-        std::vector(rates.begin() + reports, rates.begin() + reports + 19), Each(std::string("-")));
+        std::vector(rates.begin() + reports, rates.begin() + reports + 19), Each(std::string()));
     EXPECT_EQ(rates.at(reports + 19), "2 files/sec");
 }
 
