@@ -22,6 +22,7 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include <algorithm>
 #include <utility>
 #include <variant>
 
@@ -29,9 +30,17 @@ namespace tessera {
 
 namespace {
 
+constexpr int kLeastWidth = 760; ///< of the window
+
 QRect wholePoints(const Rect& rect)
 {
     return QRectF(rect.x, rect.y, rect.width, rect.height).toRect();
+}
+
+/// Lines break where the window is narrow, so that is where the panel is highest.
+double panelHeight(const QWidget& panel)
+{
+    return std::max(ScanPanelPlace::kPanelHeight, 1.0 * panel.heightForWidth(kLeastWidth));
 }
 
 Url urlOf(const NotificationObject& object)
@@ -166,7 +175,7 @@ void MainWindowController::slideScanIn(const Url& url)
 {
     startScan(url);
     m_homeVC->setEnabled(false);
-    m_slide.slideIn();
+    m_slide.slideIn(panelHeight(m_scanVC->view()));
 }
 
 /// A scan that still runs ends here and now: an end of it that is on its way already must not be

@@ -8,7 +8,9 @@ namespace tessera {
 ScanPanelPlace ScanPanelPlace::toward(const ScanPanelPlace& other, double share) const
 {
     return {
-        std::lerp(homeBottom, other.homeBottom, share), std::lerp(panelTop, other.panelTop, share)};
+        std::lerp(homeBottom, other.homeBottom, share),
+        std::lerp(panelTop, other.panelTop, share),
+        other.panelHeight};
 }
 
 Rect ScanPanelPlace::homeFrame(double areaWidth, double areaHeight) const
@@ -18,7 +20,7 @@ Rect ScanPanelPlace::homeFrame(double areaWidth, double areaHeight) const
 
 Rect ScanPanelPlace::panelFrame(double areaWidth, double areaHeight) const
 {
-    return {0, areaHeight - panelTop, areaWidth, kPanelHeight};
+    return {0, areaHeight - panelTop, areaWidth, panelHeight};
 }
 
 } // namespace tessera

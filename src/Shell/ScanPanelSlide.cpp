@@ -32,10 +32,10 @@ ScanPanelSlide::ScanPanelSlide(const MotionPreference& motion, Clock clock)
 
 ScanPanelSlide::~ScanPanelSlide() = default;
 
-void ScanPanelSlide::slideIn()
+void ScanPanelSlide::slideIn(double panelHeight)
 {
     m_isSlidingOut = false;
-    start(ScanPanelPlace::slidIn());
+    start(ScanPanelPlace::slidIn(panelHeight));
 }
 
 void ScanPanelSlide::slideOut()

@@ -32,7 +32,7 @@ public:
     const ScanPanelPlace& place() const { return m_place; }
 
     /// From just below the area when there is no panel yet, else from where it is.
-    void slideIn();
+    void slideIn(double panelHeight = ScanPanelPlace::kPanelHeight);
     void slideOut();
     /// Stops, without a word, and forgets the panel.
     void reset();

@@ -55,6 +55,15 @@ TEST_F(MainWindowScreensTest, WithinHalfASecondThePanelSlidesInAndTheHomeScreenG
     EXPECT_EQ(homeFrame(), QRect(0, 0, area().width(), area().height() - 174));
 }
 
+TEST_F(MainWindowScreensTest, APanelThatNeedsMoreHeightGetsIt)
+{
+    services.screens.leastScanHeight = 310;
+    requestScan();
+    slideFor(0.5);
+    EXPECT_EQ(scanFrame(), QRect(0, area().height() - 310, area().width(), 310));
+    EXPECT_EQ(homeFrame(), QRect(0, 0, area().width(), area().height() - 254));
+}
+
 TEST_F(MainWindowScreensTest, ThePanelStaysAtTheBottomOfALargerWindow)
 {
     requestScan();

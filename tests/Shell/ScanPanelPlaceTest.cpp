@@ -23,6 +23,14 @@ TEST(ScanPanelPlace, SlidInThePanelCoversTheLowest56PointsOfTheHomeScreen)
     EXPECT_EQ(place.panelFrame(kWidth, kHeight), (Rect{0, 370, 1000, 230}));
 }
 
+TEST(ScanPanelPlace, AHigherPanelCoversNoMoreOfTheHomeScreen)
+{
+    const ScanPanelPlace place = ScanPanelPlace::slidIn(300);
+    EXPECT_EQ(place.homeFrame(kWidth, kHeight), (Rect{0, 0, 1000, 356}));
+    EXPECT_EQ(place.panelFrame(kWidth, kHeight), (Rect{0, 300, 1000, 300}));
+    EXPECT_EQ(place.slidOut().panelFrame(kWidth, kHeight), (Rect{0, 600, 1000, 300}));
+}
+
 TEST(ScanPanelPlace, SlidOutEverythingIsAsBefore)
 {
     EXPECT_EQ(ScanPanelPlace::slidIn().slidOut(), ScanPanelPlace::before());

@@ -9,6 +9,8 @@
 #include "support/FakeRootModelServices.h"
 #include "support/FakeTreeViewServices.h"
 
+#include <QLabel>
+#include <QVBoxLayout>
 #include <QWidget>
 
 #include <functional>
@@ -27,6 +29,7 @@ struct ScreenRecord {
     std::vector<std::string> scanned; ///< paths
     QWidget* home = nullptr; ///< the view of the latest
     QWidget* scan = nullptr;
+    int leastScanHeight = 0; ///< what the scan panels to come need
     bool homeEnabled = true;
     int homeFocused = 0; ///< how often a home screen was given the keyboard
     std::function<void()> openFolder; ///< what the home screen's button does
@@ -60,6 +63,15 @@ public:
     {
         ++record.scanScreens;
         record.scan = m_view.get();
+        // Only a text that is wrapped depends on the width, as the panel's tip does.
+        // NOLINTBEGIN(cppcoreguidelines-owning-memory): the view owns them
+        auto* const layout = new QVBoxLayout(m_view.get());
+        auto* const text = new QLabel(QStringLiteral("tip"));
+        // NOLINTEND(cppcoreguidelines-owning-memory)
+        layout->setContentsMargins({});
+        text->setWordWrap(true);
+        text->setMinimumHeight(record.leastScanHeight);
+        layout->addWidget(text);
     }
     ~FakeScanScreen() override { --m_record.scanScreens; }
 
