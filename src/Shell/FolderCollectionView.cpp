@@ -2,6 +2,7 @@
 #include "Shell/FolderCollectionView.h"
 
 #include "Shell/NonBlockingTextField.h"
+#include "Shell/PlaceIcons.h"
 #include "Utils/DisplayText.h"
 
 #include <QLabel>
@@ -17,7 +18,7 @@ constexpr double kDisabledAlpha = 0.6;
 void FolderCollectionView::setUrl(const Url& url, const QIcon& icon, const QString& name)
 {
     HomeItemView::setUrl(url);
-    imageView().setPixmap(icon.pixmap(imageView().maximumSize(), devicePixelRatioF()));
+    imageView().setPixmap(pixmapIn(imageView().maximumSize(), icon, devicePixelRatioF()));
     if (!name.isEmpty()) {
         nameLabel().setText(name);
         setAccessibleName(name);

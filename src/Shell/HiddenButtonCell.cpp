@@ -4,6 +4,7 @@
 #include "Resources/Images.h"
 #include "Shell/GradientPanel.h"
 #include "Shell/HomeColors.h"
+#include "Shell/PlaceIcons.h"
 
 #include <QPainter>
 #include <QStyle>
@@ -71,7 +72,8 @@ void HiddenButtonCell::drawInterior(QPainter& painter) const
     const QSize size = iconSize();
     const QRect iconFrame(QPoint(kIconLeft, (height() - size.height()) / 2), size);
     const QIcon::Mode mode = isEnabled() ? QIcon::Normal : QIcon::Disabled;
-    icon().paint(&painter, iconFrame, Qt::AlignCenter, mode);
+    const QPixmap picture = pixmapIn(size, icon(), devicePixelRatioF(), mode);
+    style()->drawItemPixmap(&painter, iconFrame, Qt::AlignCenter, picture);
     const int left = iconFrame.right() + kTextGap;
     const QRect textFrame(left, 0, kTextRight - left, height());
     const int flags = Qt::AlignVCenter | Qt::AlignLeft | Qt::TextShowMnemonic;

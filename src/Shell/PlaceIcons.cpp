@@ -5,9 +5,15 @@
 
 #include <QString>
 
+#include <algorithm>
+#include <array>
+
 namespace tessera {
 
 namespace {
+
+/// In pixels. What themes have pictures for.
+constexpr std::array kThemeSizes{16, 22, 24, 32, 48, 64, 96, 128, 256, 512};
 
 struct IconNames {
     const char* inTheme;
@@ -75,6 +81,21 @@ QIcon locationIcon(LocationKind kind)
 QIcon plainFolderIcon()
 {
     return icon({"folder", "folder"});
+}
+
+QPixmap pixmapIn(const QSize& box, const QIcon& icon, qreal pixelRatio, QIcon::Mode mode)
+{
+    const QSize pixels = box * pixelRatio;
+    const int least = std::max(pixels.width(), pixels.height());
+    const auto* const size = std::ranges::lower_bound(kThemeSizes, least);
+    const int asked = size == kThemeSizes.end() ? least : *size;
+    const QPixmap drawn = icon.pixmap(QSize(asked, asked), 1, mode);
+    if (drawn.isNull()) {
+        return drawn;
+    }
+    QPixmap result = drawn.scaled(pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    result.setDevicePixelRatio(pixelRatio);
+    return result;
 }
 
 } // namespace tessera
