@@ -6,7 +6,8 @@
 
 namespace tessera {
 
-/// The colours of the home screen, for the desktop's light or dark theme as the palette tells.
+/// The colours of the home screen, for the desktop's light or dark theme as the palette tells. All
+/// texts have a contrast of at least 4.5 : 1 to what they stand on.
 struct HomeColors {
     explicit HomeColors(const QPalette& palette);
 

@@ -7,6 +7,7 @@
 #include <QAccessible>
 #include <QEvent>
 #include <QGraphicsOpacityEffect>
+#include <QLabel>
 #include <QPainter>
 
 namespace tessera {
@@ -68,6 +69,9 @@ void HomeItemView::paintEvent(QPaintEvent* /*event*/)
     QPainter painter(this);
     if (m_selected) {
         paintSelectionBackground(painter, rect(), palette(), isActiveWindow());
+        if (const auto* const icon = findChild<QLabel*>(QStringLiteral("imageView"))) {
+            paintIconBackground(painter, icon->geometry(), palette());
+        }
     } else if (isNextForKeys()) {
         paintSelectionOutline(painter, rect(), palette());
     }

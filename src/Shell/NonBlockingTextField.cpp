@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Shell/NonBlockingTextField.h"
 
+#include "Shell/DesktopFont.h"
 #include "Utils/Util.h"
 
 #include <QPainter>
@@ -17,7 +18,7 @@ NonBlockingTextField::NonBlockingTextField(QWidget* parent)
 void NonBlockingTextField::setTextPixels(int pixels)
 {
     QFont changed = font();
-    changed.setPixelSize(pixels);
+    changed.setPixelSize(withDesktopFont(pixels));
     setFont(changed);
 }
 

@@ -14,7 +14,8 @@ class NonBlockingTextField final : public QLabel {
 public:
     explicit NonBlockingTextField(QWidget* parent = nullptr);
 
-    /// The height of the letters, set in the interface file.
+    /// The height of the letters; set in the interface file for the usual font of a desktop, and
+    /// larger where that font is.
     int textPixels() const { return font().pixelSize(); }
     void setTextPixels(int pixels);
 

@@ -3,15 +3,18 @@
 
 #include "Model/MountedVolumes.h"
 #include "Model/UserDefaults.h"
+#include "Shell/DesktopFont.h"
+#include "Shell/PlaceIcons.h"
 #include "Shell/PlaceNames.h"
 #include "Shell/RecentsTableModel.h"
 #include "Shell/RelativeDate.h"
 #include "Shell/SelectionBackground.h"
 #include "Utils/Util.h"
 
-#include <QFontDatabase>
+#include <QApplication>
 #include <QIcon>
 #include <QPainter>
+#include <QStyle>
 
 #include <utility>
 
@@ -19,17 +22,19 @@ namespace tessera {
 
 namespace {
 
-constexpr int kRowHeight = 48;
 constexpr int kSystemFontPixels = 13;
 constexpr int kSmallFontPixels = 11;
 
-// From the upper left corner of the cell.
+// At the desktop's usual font, from the upper left corner of the cell.
+constexpr int kRowHeight = 48;
 constexpr QRect kIconFrame{7, 4, 38, 39};
 constexpr QRect kTitleBox{54, 10, 219, 17};
 constexpr QRect kSubtitleBox{54, 28, 154, 17};
 /// From the right edge of the cell to the left one of the box. It stands beside the subtitle.
 constexpr int kSizeFromRight = 70;
 constexpr QSize kSizeBox{68, 17};
+/// Between the cell and the right edge of the row, so that sizes do not touch the selection's edge.
+constexpr int kRightMargin = 8;
 
 /// What is selected where the user is not working has a pale background, on which the texts must
 /// stay as dark as the others.
@@ -42,9 +47,27 @@ bool isHighlighted(const QStyleOptionViewItem& option)
 
 QFont systemFont(int pixels)
 {
-    QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
-    font.setPixelSize(pixels);
+    QFont font = QApplication::font();
+    font.setPixelSize(withDesktopFont(pixels));
     return font;
+}
+
+QRect textBox(const QRect& usual)
+{
+    return {
+        widthWithDesktopFont(usual.x()),
+        withDesktopFont(usual.y()),
+        widthWithDesktopFont(usual.width()),
+        withDesktopFont(usual.height())};
+}
+
+QRect iconFrame()
+{
+    const QSize size(
+        widthWithDesktopFont(kIconFrame.width()), widthWithDesktopFont(kIconFrame.height()));
+    const int top = kIconFrame.y() + (withDesktopFont(kRowHeight) - kRowHeight) / 2
+        - (size.height() - kIconFrame.height()) / 2;
+    return {QPoint(widthWithDesktopFont(kIconFrame.x()), top), size};
 }
 
 } // namespace
@@ -74,31 +97,50 @@ void RecentsTableCell::paint(
 {
     const auto& model = dynamic_cast<const RecentsTableModel&>(*index.model());
     const RecentRecord& record = model.record(index.row());
-    const QPoint corner = option.rect.topLeft();
+    const QRect cell = option.rect.adjusted(0, 0, -kRightMargin, 0);
     painter->save();
-    if (option.state.testFlag(QStyle::State_Selected)) {
-        paintSelectionBackground(*painter, option.rect, option.palette, isHighlighted(option));
-    }
-    const QIcon::Mode mode
-        = option.state.testFlag(QStyle::State_Enabled) ? QIcon::Normal : QIcon::Disabled;
-    m_services.icon(Url(record.path, true))
-        .paint(painter, kIconFrame.translated(corner), Qt::AlignCenter, mode);
-    drawText(*painter, kTitleBox.translated(corner), title(record), titleStyle(option));
-    drawText(*painter, kSubtitleBox.translated(corner), subtitle(record), subtitleStyle(option));
+    drawBackground(*painter, option);
+    drawIcon(*painter, option, m_services.icon(Url(record.path, true)));
+    const QRect title = textBox(kTitleBox).translated(cell.topLeft());
+    drawText(*painter, title & cell, this->title(record), titleStyle(option));
+    const QRect subtitle = textBox(kSubtitleBox).translated(cell.topLeft());
+    drawText(*painter, subtitle, this->subtitle(record), subtitleStyle(option));
     const QPoint sizeCorner(
-        option.rect.x() + option.rect.width() - kSizeFromRight, corner.y() + kSubtitleBox.y());
+        cell.x() + cell.width() - widthWithDesktopFont(kSizeFromRight), subtitle.y());
     drawText(
         *painter,
-        QRect(sizeCorner, kSizeBox),
+        {sizeCorner, QSize(widthWithDesktopFont(kSizeBox.width()), subtitle.height())},
         QString::fromStdString(Util::formatSize(record.size)),
         fileSizeStyle(option));
     painter->restore();
 }
 
+void RecentsTableCell::drawBackground(QPainter& painter, const QStyleOptionViewItem& option)
+{
+    if (option.state.testFlag(QStyle::State_Selected)) {
+        paintSelectionBackground(painter, option.rect, option.palette, isHighlighted(option));
+        paintIconBackground(painter, iconFrame().translated(option.rect.topLeft()), option.palette);
+    } else if (option.state.testFlag(QStyle::State_HasFocus)) {
+        paintSelectionOutline(painter, option.rect, option.palette);
+    }
+}
+
+void RecentsTableCell::drawIcon(
+    QPainter& painter, const QStyleOptionViewItem& option, const QIcon& icon)
+{
+    const QIcon::Mode mode
+        = option.state.testFlag(QStyle::State_Enabled) ? QIcon::Normal : QIcon::Disabled;
+    const QRect frame = iconFrame().translated(option.rect.topLeft());
+    const qreal ratio = painter.device()->devicePixelRatioF();
+    const QStyle& style = *QApplication::style();
+    style.drawItemPixmap(
+        &painter, frame, Qt::AlignCenter, pixmapIn(frame.size(), icon, ratio, mode));
+}
+
 QSize RecentsTableCell::sizeHint(
     const QStyleOptionViewItem& /*option*/, const QModelIndex& /*index*/) const
 {
-    return {0, kRowHeight};
+    return {0, withDesktopFont(kRowHeight)};
 }
 
 RecentsTableCell::Style RecentsTableCell::titleStyle(const QStyleOptionViewItem& option)

@@ -18,7 +18,7 @@ class Url;
 struct RecentRecord;
 
 /// Draws one recent scan: icon, title, when it was and how large the folder was then, each in a
-/// fixed place of the row.
+/// fixed place of the row. The row that a key would select has an outline.
 class RecentsTableCell final : public QStyledItemDelegate {
     Q_OBJECT
 
@@ -51,6 +51,8 @@ private:
     static Style titleStyle(const QStyleOptionViewItem& option);
     static Style subtitleStyle(const QStyleOptionViewItem& option);
     static Style fileSizeStyle(const QStyleOptionViewItem& option);
+    static void drawBackground(QPainter& painter, const QStyleOptionViewItem& option);
+    static void drawIcon(QPainter& painter, const QStyleOptionViewItem& option, const QIcon& icon);
     static void drawText(
         QPainter& painter, const QRect& box, const QString& text, const Style& style);
 

@@ -14,6 +14,7 @@ namespace {
 constexpr double kInset = 2;
 constexpr double kRadius = 4;
 constexpr double kOutlineWidth = 2;
+constexpr double kAroundIcon = 1;
 
 QPainterPath roundedInside(const QRectF& frame, double inset)
 {
@@ -32,6 +33,12 @@ void paintSelectionBackground(
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillPath(
         roundedInside(frame, kInset), isInMainWindow ? colors.selection : colors.inactiveSelection);
+}
+
+void paintIconBackground(QPainter& painter, const QRect& icon, const QPalette& palette)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(roundedInside(icon, -kAroundIcon), palette.color(QPalette::Base));
 }
 
 void paintSelectionOutline(QPainter& painter, const QRect& frame, const QPalette& palette)

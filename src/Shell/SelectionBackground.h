@@ -11,6 +11,10 @@ namespace tessera {
 void paintSelectionBackground(
     QPainter& painter, const QRect& frame, const QPalette& palette, bool isInMainWindow);
 
+/// Fills what lies behind the icon of a selected item: icons are made for the usual background, and
+/// many are as blue as the selection.
+void paintIconBackground(QPainter& painter, const QRect& icon, const QPalette& palette);
+
 /// The outline of the same shape, around the item that a key would select.
 void paintSelectionOutline(QPainter& painter, const QRect& frame, const QPalette& palette);
 

@@ -2,6 +2,7 @@
 #include "Shell/VolumeCollectionView.h"
 
 #include "Shell/NonBlockingTextField.h"
+#include "Shell/PlaceIcons.h"
 #include "Shell/PlaceNames.h"
 #include "TreeView/Bar.h"
 #include "Utils/DisplayText.h"
@@ -31,10 +32,10 @@ void VolumeCollectionView::setUrl(const Url& url, const QIcon& icon)
 {
     HomeItemView::setUrl(url);
     const QString name = localizedVolumeName(url);
-    imageView().setPixmap(icon.pixmap(imageView().maximumSize(), devicePixelRatioF()));
+    imageView().setPixmap(pixmapIn(imageView().maximumSize(), icon, devicePixelRatioF()));
     nameLabel().setText(name);
-    setToolTip(plainTooltip(name));
     setAccessibleName(name);
+    describe({});
     updateColors();
 }
 
@@ -45,7 +46,18 @@ void VolumeCollectionView::setFileSystemSizes(const std::optional<FileSystemSize
     spaceBar().update();
     const QString size = QString::fromStdString(Util::formatSize(known.freeBytes));
     spaceLabel().setText(tr("Free Space: %1").arg(size));
-    setAccessibleDescription(spaceLabel().text());
+    describe(known);
+}
+
+/// Disks of one name differ in where they are, and mostly in how large they are.
+void VolumeCollectionView::describe(const FileSystemSizes& sizes)
+{
+    const QString path = displayText(url().path());
+    const QString size = QString::fromStdString(Util::formatSize(sizes.totalBytes));
+    const QString place = sizes.totalBytes == 0 ? path : tr("%1, %2").arg(path, size);
+    setToolTip(plainTooltip(accessibleName() + QLatin1Char('\n') + place));
+    const QString space = spaceLabel().text();
+    setAccessibleDescription(space.isEmpty() ? place : tr("%1; %2").arg(space, place));
 }
 
 QLabel& VolumeCollectionView::imageView() const

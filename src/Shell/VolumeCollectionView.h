@@ -34,6 +34,7 @@ public:
     Bar& spaceBar() const;
 
 private:
+    void describe(const FileSystemSizes& sizes);
     void updateColors() override;
     void updateAlphaValue() override;
 };

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Shell/FolderCollectionView.h"
+#include "Shell/HomeColors.h"
 #include "Shell/NonBlockingTextField.h"
 #include "Shell/ProgramColors.h"
 #include "Shell/VolumeCollectionView.h"
@@ -14,6 +15,9 @@
 #include <QTest>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
 
 namespace tessera {
 namespace {
@@ -45,9 +49,28 @@ protected:
 TEST_F(HomeItemViewsTest, AVolumeIsCalledAsItsFolder)
 {
     EXPECT_EQ(volume->nameLabel().text(), QStringLiteral("data"));
-    EXPECT_EQ(volume->toolTip(), QStringLiteral("data"));
+    EXPECT_EQ(volume->toolTip().section(QLatin1Char('\n'), 0, 0), QStringLiteral("data"));
     volume->setUrl(Url("/", true), QIcon());
     EXPECT_EQ(volume->nameLabel().text(), QStringLiteral("File System"));
+}
+
+TEST_F(HomeItemViewsTest, DisksOfOneNameDifferInTheirTooltips)
+{
+    volume->setUrl(Url("/media/eve/b/data", true), QIcon());
+    EXPECT_EQ(volume->toolTip(), QStringLiteral("data\n/media/eve/b/data"));
+    volume->setFileSystemSizes(FileSystemSizes{3000000000, 1000000000});
+    EXPECT_EQ(volume->toolTip(), QStringLiteral("data\n/media/eve/b/data, 3.0 GB"));
+}
+
+TEST_F(HomeItemViewsTest, DisksOfOneNameDifferForScreenReaders)
+{
+    volume->setUrl(Url("/media/eve/b/data", true), QIcon());
+    EXPECT_EQ(volume->accessibleName(), QStringLiteral("data"));
+    EXPECT_EQ(volume->accessibleDescription(), QStringLiteral("/media/eve/b/data"));
+    volume->setFileSystemSizes(FileSystemSizes{3000000000, 1000000000});
+    EXPECT_EQ(
+        volume->accessibleDescription(),
+        QStringLiteral("Free Space: 1.0 GB; /media/eve/b/data, 3.0 GB"));
 }
 
 TEST_F(HomeItemViewsTest, NamesThatLookLikeMarkupAreShownAsTheyAre)
@@ -76,7 +99,7 @@ TEST_F(HomeItemViewsTest, AVolumesTextsTellWhetherItIsSelected)
 {
     volume->setSelected(true);
     EXPECT_EQ(volume->nameLabel().textColor(), QColor(Qt::white));
-    EXPECT_EQ(volume->spaceLabel().textColor(), colorWithHex(0xC3C7D1));
+    EXPECT_EQ(volume->spaceLabel().textColor(), colorWithHex(0xE6E9F1));
     volume->setSelected(false);
     EXPECT_EQ(volume->nameLabel().textColor(), QColor(Qt::black));
     EXPECT_EQ(volume->spaceLabel().textColor(), colorWithHex(0x555555));
@@ -173,7 +196,7 @@ TEST_F(HomeItemViewsTest, TheSelectionIsBlueInTheWindowThatIsWorkedIn)
     folder->setSelected(true);
     folder->show();
     ASSERT_TRUE(test::becomesActive(*folder));
-    EXPECT_EQ(picture(*folder).pixelColor(50, 4), colorWithHex(0x3875D7));
+    EXPECT_EQ(picture(*folder).pixelColor(50, 4), colorWithHex(0x2E66C4));
 }
 
 TEST_F(HomeItemViewsTest, TheSelectionOfADarkThemeIsDark)
@@ -187,8 +210,8 @@ TEST_F(HomeItemViewsTest, WhatAKeyWouldSelectHasAnOutline)
 {
     folder->setNextForKeys(true);
     const QImage image = picture(*folder);
-    EXPECT_EQ(image.pixelColor(50, 2), colorWithHex(0x3875D7));
-    EXPECT_NE(image.pixelColor(50, 6), colorWithHex(0x3875D7));
+    EXPECT_EQ(image.pixelColor(50, 2), colorWithHex(0x2E66C4));
+    EXPECT_NE(image.pixelColor(50, 6), colorWithHex(0x2E66C4));
 }
 
 TEST(NonBlockingTextField, NeverTakesTheMouse)
@@ -201,6 +224,72 @@ TEST(NonBlockingTextField, MayBeNarrowerThanItsText)
     NonBlockingTextField field;
     field.setText(QStringLiteral("a rather long name"));
     EXPECT_EQ(field.minimumSizeHint().width(), 0);
+}
+
+/// By the formula of the Web Content Accessibility Guidelines.
+double luminance(const QColor& color)
+{
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF())
+        + 0.0722 * linear(color.blueF());
+}
+
+double contrast(const QColor& a, const QColor& b)
+{
+    const double lighter = std::max(luminance(a), luminance(b));
+    const double darker = std::min(luminance(a), luminance(b));
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+TEST_F(HomeItemViewsTest, TextsOnTheSelectionAreLegibleInBothThemes)
+{
+    for (const QPalette& theme : {lightProgramColors(), darkProgramColors()}) {
+        volume->setPalette(theme);
+        const HomeColors colors(theme);
+        volume->setSelected(true);
+        EXPECT_GE(contrast(volume->nameLabel().textColor(), colors.selection), 4.5);
+        EXPECT_GE(contrast(volume->spaceLabel().textColor(), colors.selection), 4.5);
+        EXPECT_GE(contrast(colors.inactiveDetail, colors.inactiveSelection), 4.5);
+    }
+}
+
+TEST_F(HomeItemViewsTest, AnIconThatIsAsBlueAsTheSelectionCanBeSeenOnIt)
+{
+    QPixmap blue(64, 64);
+    blue.fill(HomeColors(lightProgramColors()).selection);
+    folder->setUrl(Url("/home/eve/Music", true), blue, QStringLiteral("Music"));
+    folder->setSelected(true);
+    folder->resize(100, 104);
+    const QImage image = folder->grab().toImage();
+    const QRect icon = folder->imageView().geometry();
+    EXPECT_EQ(image.pixelColor(icon.center()), HomeColors(lightProgramColors()).selection);
+    EXPECT_EQ(image.pixelColor(icon.center().x(), icon.top() - 1), QColor(Qt::white));
+    EXPECT_EQ(image.pixelColor(icon.right() + 1, icon.center().y()), QColor(Qt::white));
+}
+
+TEST_F(HomeItemViewsTest, TextsGrowWithTheDesktopsFont)
+{
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPixelSize(26);
+    QApplication::setFont(large);
+    const auto item = Util::loadViewFromNib<VolumeCollectionView>("VolumeCollectionView");
+    QApplication::setFont(usual);
+    EXPECT_EQ(item->nameLabel().font().pixelSize(), 26);
+    EXPECT_EQ(item->spaceLabel().font().pixelSize(), 22);
+}
+
+TEST_F(HomeItemViewsTest, TextsNeverShrinkWithIt)
+{
+    const QFont usual = QApplication::font();
+    QFont small = usual;
+    small.setPixelSize(8);
+    QApplication::setFont(small);
+    const auto item = Util::loadViewFromNib<VolumeCollectionView>("VolumeCollectionView");
+    QApplication::setFont(usual);
+    EXPECT_EQ(item->nameLabel().font().pixelSize(), 13);
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 #include "support/FakePlaces.h"
 #include "support/FakeRootModelServices.h"
 
+#include <QApplication>
 #include <QDateTime>
 #include <QFontDatabase>
 #include <QIcon>
@@ -31,10 +32,10 @@ std::chrono::sys_seconds noonOf(const QDate& day)
     return std::chrono::sys_seconds(std::chrono::seconds(seconds));
 }
 
-QIcon redIcon(const Url& /*folder*/)
+QPixmap filled(int size, Qt::GlobalColor color)
 {
-    QPixmap picture(64, 64);
-    picture.fill(Qt::red);
+    QPixmap picture(size, size);
+    picture.fill(color);
     return picture;
 }
 
@@ -44,7 +45,8 @@ protected:
     QString subtitle(const QDate& day) const { return cell.subtitle({"/", 0, noonOf(day)}); }
 
     /// The row of a scan of 1.2 GB.
-    QImage picture(QStyle::State state, const std::string& path = "/data/one")
+    QImage picture(
+        QStyle::State state, const std::string& path = "/data/one", QSize row = {290, 48})
     {
         const RecentRecord record{path, 1234567890, noonOf(kToday)};
         services.defaults.setRecentRecords(kRecentsKey, {record});
@@ -52,7 +54,7 @@ protected:
         RootModel rootModel(services.get());
         const RecentsTableModel model(rootModel.recents());
         QStyleOptionViewItem option;
-        option.rect = QRect(0, 0, 290, 48);
+        option.rect = QRect(QPoint(), row);
         option.palette = lightProgramColors();
         option.state = state;
         QImage image(option.rect.size(), QImage::Format_RGB32);
@@ -64,7 +66,13 @@ protected:
 
     test::FakeRootModelServices services;
     test::FakeMountedVolumes volumes;
-    RecentsTableCell cell{{volumes, "/home/me", "/real/me", redIcon, [] { return kToday; }}};
+    QIcon themeIcon; ///< null: a red one
+    RecentsTableCell cell{
+        {volumes,
+         "/home/me",
+         "/real/me",
+         [this](const Url&) { return themeIcon.isNull() ? QIcon(filled(64, Qt::red)) : themeIcon; },
+         [] { return kToday; }}};
 };
 
 /// Where something other than the background was drawn inside the box.
@@ -156,14 +164,14 @@ TEST_F(RecentsTableCellTest, TheTextsHaveFixedPlaces)
     const QRect subtitle = inkIn(image, QRect(50, 28, 160, 20), Qt::white);
     EXPECT_TRUE(QRect(54, 28, 154, 17).contains(subtitle));
     const QRect size = inkIn(image, QRect(210, 28, 80, 20), Qt::white);
-    EXPECT_TRUE(QRect(220, 28, 68, 17).contains(size));
-    EXPECT_GE(size.right(), 284) << "it ends at the right";
+    EXPECT_TRUE(QRect(212, 28, 68, 17).contains(size));
+    EXPECT_GE(size.right(), 276) << "it ends at the right";
 }
 
 TEST_F(RecentsTableCellTest, ASelectedRowHasTheColourOfSelectedItems)
 {
     const QImage image = picture(kUsual | QStyle::State_Selected);
-    EXPECT_EQ(image.pixelColor(150, 4), colorWithHex(0x3875D7));
+    EXPECT_EQ(image.pixelColor(150, 4), colorWithHex(0x2E66C4));
     EXPECT_EQ(image.pixelColor(150, 1), QColor(Qt::white));
 }
 
@@ -179,6 +187,52 @@ TEST_F(RecentsTableCellTest, ASelectedRowThatCannotBeUsedIsPaleAndLegible)
         }
     }
     EXPECT_LT(darkest, 150);
+}
+
+TEST_F(RecentsTableCellTest, ASelectedRowsIconStandsOnTheUsualBackground)
+{
+    const QImage image = picture(kUsual | QStyle::State_Selected);
+    EXPECT_EQ(image.pixelColor(26, 23), QColor(Qt::red));
+    EXPECT_EQ(image.pixelColor(6, 23), QColor(Qt::white));
+    EXPECT_EQ(image.pixelColor(26, 43), QColor(Qt::white));
+}
+
+TEST_F(RecentsTableCellTest, TheRowThatAKeyWouldTakeHasAnOutline)
+{
+    const QImage image = picture(kUsual | QStyle::State_HasFocus);
+    EXPECT_EQ(image.pixelColor(150, 3), colorWithHex(0x2E66C4));
+    EXPECT_EQ(image.pixelColor(150, 6), QColor(Qt::white));
+}
+
+TEST_F(RecentsTableCellTest, RowsAndLettersGrowWithTheDesktopsFont)
+{
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPixelSize(26);
+    QApplication::setFont(large);
+    const int row = cell.sizeHint({}, {}).height();
+    const QImage image = picture(kUsual, "/one", QSize(406, row));
+    QApplication::setFont(usual);
+    EXPECT_EQ(row, 96);
+    const QRect title = inkIn(image, QRect(76, 0, 330, 54), Qt::white);
+    const QRect subtitle = inkIn(image, QRect(76, 56, 220, 40), Qt::white);
+    const QRect size = inkIn(image, QRect(300, 56, 106, 40), Qt::white);
+    EXPECT_GE(title.height(), 19);
+    EXPECT_GE(size.height(), 15);
+    EXPECT_LE(subtitle.right(), size.left());
+    EXPECT_LT(size.right(), 406 - 8);
+    EXPECT_LT(size.bottom(), 94);
+}
+
+TEST_F(RecentsTableCellTest, AnIconIsDrawnFromTheNextLargerPictureOfItsTheme)
+{
+    // As themes do that have other pictures for other sizes, and a fixed few of these.
+    themeIcon.addPixmap(filled(32, Qt::green));
+    themeIcon.addPixmap(filled(48, Qt::blue));
+    themeIcon.addPixmap(filled(64, Qt::red));
+    const QImage image = picture(kUsual);
+    EXPECT_EQ(image.pixelColor(26, 23), QColor(Qt::blue));
+    EXPECT_EQ(inkIn(image, QRect(0, 0, 52, 48), Qt::white).width(), 38);
 }
 
 TEST_F(RecentsTableCellTest, RowsAreHighEnoughForTheirTexts)
