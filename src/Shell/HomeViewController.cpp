@@ -4,6 +4,7 @@
 #include "Model/NotificationCenter.h"
 #include "Model/RootModel.h"
 #include "Shell/CollectionHeaderView.h"
+#include "Shell/DesktopFont.h"
 #include "Shell/FolderCollectionView.h"
 #include "Shell/HiddenButtonCell.h"
 #include "Shell/HomeItemAccessible.h"
@@ -18,8 +19,9 @@
 #include "Utils/UserAccount.h"
 #include "Utils/Util.h"
 
+#include <QGraphicsOpacityEffect>
+#include <QKeyEvent>
 #include <QListView>
-#include <QShortcut>
 
 #include <algorithm>
 #include <utility>
@@ -30,13 +32,35 @@ namespace {
 
 constexpr int kVolumes = 0;
 constexpr int kSections = 2;
-constexpr double kLeastVolumeWidth = 200;
-constexpr double kGreatestVolumeWidth = 400;
-constexpr double kLeastLocationWidth = 100;
-constexpr double kGreatestLocationWidth = 200;
+constexpr int kLeastVolumeWidth = 200;
+constexpr int kGreatestVolumeWidth = 400;
+constexpr int kLeastLocationWidth = 100;
+constexpr int kGreatestLocationWidth = 200;
+constexpr int kColumnWidth = 300; ///< of the recent scans
+/// How visible the grid is while a scan runs, in which nothing can be chosen.
+constexpr double kUnusableOpacity = 0.5;
 
 /// Long enough for any file system that is alive and awake, and too short to be noticed.
 constexpr std::chrono::milliseconds kPatience{50};
+
+/// The grid's items are pictures and have no look of their own for it.
+void showUsable(QWidget& grid, bool isUsable)
+{
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the grid owns it
+    auto* const effect = isUsable ? nullptr : new QGraphicsOpacityEffect;
+    if (effect != nullptr) {
+        effect->setOpacity(kUnusableOpacity);
+    }
+    grid.setGraphicsEffect(effect);
+}
+
+/// What an item's texts need, with a larger font than usual, and never less than it was made for.
+template <typename View>
+std::unique_ptr<View> highEnough(std::unique_ptr<View> view)
+{
+    view->resize(view->width(), std::max(view->height(), view->minimumSizeHint().height()));
+    return view;
+}
 
 std::optional<Location> firstDirectory(
     const LocationCandidate& candidate, const ResourceValues& resourceValues)
@@ -94,7 +118,9 @@ void HomeViewController::loadView()
     installHomeItemAccessible();
     openButton().setShowsBorderOnlyWhileMouseInside(true);
     openButton().setIcon(plainFolderIcon());
+    fitFont();
     connectControls();
+    connectGrid();
     loadVolumes();
     if (!m_model.isRunningAsRoot()) {
         m_foundLocations.resize(m_candidates.size());
@@ -107,14 +133,43 @@ void HomeViewController::loadView()
     takeLocations();
     locationsCollection().reloadData();
     loadRecents();
+    updateButtons();
+}
+
+void HomeViewController::fitFont()
+{
+    m_view->findChild<QWidget*>(QStringLiteral("recentsColumn"))
+        ->setFixedWidth(widthWithDesktopFont(kColumnWidth));
 }
 
 void HomeViewController::connectControls()
 {
+    connect(&openButton(), &QPushButton::clicked, this, &HomeViewController::openFolder);
+    connect(&scanButton(), &QPushButton::clicked, this, &HomeViewController::scanSelected);
+    connect(&clearRecentsButton(), &QPushButton::clicked, this, &HomeViewController::clearList);
+    m_view->installEventFilter(this);
+}
+
+bool HomeViewController::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool isKey = watched == m_view.get() && event->type() == QEvent::KeyPress;
+    const int key = isKey ? dynamic_cast<QKeyEvent*>(event)->key() : 0;
+    if (key != Qt::Key_Return && key != Qt::Key_Enter) {
+        return QObject::eventFilter(watched, event);
+    }
+    auto* const focused = qobject_cast<QAbstractButton*>(m_view->focusWidget());
+    (focused != nullptr && focused->hasFocus() ? *focused : scanButton()).click();
+    return true;
+}
+
+void HomeViewController::connectGrid()
+{
     SectionedCollectionView& grid = locationsCollection();
     m_gridDelegate.didSelectView = [this](CollectionItemView& item, int, int) {
         dynamic_cast<HomeItemView&>(item).setSelected(true);
-        recentsTable().clearSelection();
+        // Without a current row either, from which an arrow would go on later.
+        recentsTable().selectionModel()->clear();
+        updateButtons();
     };
     m_gridDelegate.didDeselectView = [](CollectionItemView& item, int, int) {
         dynamic_cast<HomeItemView&>(item).setSelected(false);
@@ -129,15 +184,6 @@ void HomeViewController::connectControls()
     auto* const scrollView = m_view->findChild<QScrollArea*>(QStringLiteral("locationsScrollView"));
     scrollView->viewport()->setBackgroundRole(QPalette::Base);
     grid.setScrollView(scrollView);
-    connect(&openButton(), &QPushButton::clicked, this, &HomeViewController::openFolder);
-    connect(&scanButton(), &QPushButton::clicked, this, &HomeViewController::scanSelected);
-    connect(&clearRecentsButton(), &QPushButton::clicked, this, &HomeViewController::clearList);
-    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
-        // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the view owns it
-        auto* const shortcut = new QShortcut(QKeySequence(key), m_view.get());
-        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
-        connect(shortcut, &QShortcut::activated, &scanButton(), &QPushButton::click);
-    }
 }
 
 void HomeViewController::loadVolumes()
@@ -190,6 +236,7 @@ void HomeViewController::showLateLocations()
     if (section >= 0) {
         selectUrl(section, kept);
     }
+    updateButtons();
 }
 
 void HomeViewController::selectUrl(int section, const Url& url)
@@ -238,7 +285,7 @@ void HomeViewController::loadRecents()
 
 void HomeViewController::takeFocus()
 {
-    if (m_recents->rowCount() > 0) {
+    if (m_recents->rowCount() > 0 && selectedUrl() == nullptr) {
         recentsTable().setFocus();
     } else {
         locationsCollection().setFocus();
@@ -249,12 +296,19 @@ void HomeViewController::setEnabled(bool enabled)
 {
     m_enabled = enabled;
     openButton().setEnabled(enabled);
-    clearRecentsButton().setEnabled(enabled);
-    scanButton().setEnabled(enabled);
     recentsTable().setEnabled(enabled);
     locationsCollection().setEnabled(enabled);
+    showUsable(locationsCollection(), enabled);
     scanButton().setVisible(enabled);
     clearRecentsButton().setVisible(enabled);
+    updateButtons();
+}
+
+void HomeViewController::updateButtons()
+{
+    const bool isSelected = selectedRecent() >= 0 || selectedUrl() != nullptr;
+    scanButton().setEnabled(m_enabled && isSelected);
+    clearRecentsButton().setEnabled(m_enabled && m_recents->rowCount() > 0);
 }
 
 void HomeViewController::scanSelected()
@@ -292,6 +346,7 @@ void HomeViewController::clearList()
 {
     m_model.recents().clearList();
     m_recents->reload();
+    updateButtons();
 }
 
 void HomeViewController::recentSelected()
@@ -299,6 +354,7 @@ void HomeViewController::recentSelected()
     if (selectedRecent() >= 0) {
         locationsCollection().deselectAll();
     }
+    updateButtons();
 }
 
 int HomeViewController::selectedRecent() const
@@ -319,19 +375,20 @@ int HomeViewController::numberOfViewsInSection(int section) const
 
 double HomeViewController::minimumWidthInSection(int section) const
 {
-    return section == kVolumes ? kLeastVolumeWidth : kLeastLocationWidth;
+    return widthWithDesktopFont(section == kVolumes ? kLeastVolumeWidth : kLeastLocationWidth);
 }
 
 double HomeViewController::maximumWidthInSection(int section) const
 {
-    return section == kVolumes ? kGreatestVolumeWidth : kGreatestLocationWidth;
+    return widthWithDesktopFont(
+        section == kVolumes ? kGreatestVolumeWidth : kGreatestLocationWidth);
 }
 
 std::unique_ptr<QWidget> HomeViewController::headerForSection(int section)
 {
     auto header = Util::loadViewFromNib<CollectionHeaderView>("CollectionHeaderView");
     header->nameLabel().setText(section == kVolumes ? tr("Disks") : tr("Locations"));
-    return header;
+    return highEnough(std::move(header));
 }
 
 std::unique_ptr<CollectionItemView> HomeViewController::viewForSection(int section, int index)
@@ -349,14 +406,14 @@ std::unique_ptr<CollectionItemView> HomeViewController::volumeView(const Mounted
     if (sizes != m_sizes.end()) {
         view->setFileSystemSizes(sizes->second);
     }
-    return view;
+    return highEnough(std::move(view));
 }
 
 std::unique_ptr<CollectionItemView> HomeViewController::locationView(const Location& location)
 {
     auto view = Util::loadViewFromNib<FolderCollectionView>("FolderCollectionView");
     view->setUrl(location.url, locationIcon(location.kind), localizedLocationName(location));
-    return view;
+    return highEnough(std::move(view));
 }
 
 } // namespace tessera

@@ -55,11 +55,13 @@ public:
     const std::vector<MountedVolume>& volumes() const { return m_volumes; }
     const std::vector<Location>& locations() const { return m_locations; }
 
-    /// Whether the screen can be used. While it cannot, what it does is hidden or pale.
+    /// Whether the screen can be used. While it cannot, what it does is hidden or pale. Buttons are
+    /// enabled only where they have something to do.
     bool enabled() const { return m_enabled; }
     void setEnabled(bool enabled);
 
-    /// Gives the keyboard to the recent scans or, where there are none, to the grid.
+    /// Gives the keyboard to where the selection is; with nothing selected to the recent scans or,
+    /// where there are none, to the grid.
     void takeFocus();
 
     /// Scans what is selected, in the list of recent scans before the grid; else does nothing.
@@ -76,6 +78,9 @@ signals:
     void openFolder();
 
 private:
+    /// Enter presses the focused button, or else the scan button.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
     [[nodiscard]] int numberOfSections() const override;
     [[nodiscard]] int numberOfViewsInSection(int section) const override;
     [[nodiscard]] std::unique_ptr<QWidget> headerForSection(int section) override;
@@ -86,6 +91,9 @@ private:
 
     void loadView();
     void connectControls();
+    void connectGrid();
+    void fitFont();
+    void updateButtons();
     void loadVolumes();
     void askForSizes(const std::string& path);
     void askForLocation(std::size_t place, const LocationCandidate& candidate);

@@ -1,7 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "Shell/RecentsTableView.h"
 
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
+
+#include <algorithm>
+#include <array>
 
 namespace tessera {
 
@@ -14,6 +19,28 @@ void RecentsTableView::paintEvent(QPaintEvent* event)
     QPainter painter(viewport());
     painter.setPen(palette().color(QPalette::PlaceholderText));
     painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, tr("No scans yet"));
+}
+
+void RecentsTableView::keyPressEvent(QKeyEvent* event)
+{
+    constexpr std::array kArrows{Qt::Key_Up, Qt::Key_Down};
+    const bool isArrow = std::ranges::find(kArrows, event->key()) != kArrows.end();
+    const QModelIndex focused = currentIndex();
+    // Qt would move on from the row that has the focus, although it was not selected.
+    if (isArrow && focused.isValid() && !selectionModel()->hasSelection()) {
+        setCurrentIndex(focused);
+        return;
+    }
+    QListView::keyPressEvent(event);
+}
+
+void RecentsTableView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton) {
+        QListView::mouseDoubleClickEvent(event);
+    } else {
+        mousePressEvent(event);
+    }
 }
 
 } // namespace tessera

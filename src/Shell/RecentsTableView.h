@@ -5,7 +5,8 @@
 
 namespace tessera {
 
-/// The list of recent scans; it says so when there is none.
+/// The list of recent scans; it says so when there is none. While none is selected the first arrow
+/// selects the one with the keyboard's focus. Double clicks are those of the left button.
 class RecentsTableView final : public QListView {
     Q_OBJECT
 
@@ -14,6 +15,8 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
 };
 
 } // namespace tessera

@@ -122,9 +122,10 @@ void WholeProgram::clickOn(const std::string& name, const std::string& role)
 
 testing::AssertionResult WholeProgram::isHome()
 {
-    const Control scanButton = see("Scan", "push button");
+    see("Scan", "push button");
+    const Control openButton = see("Open Folder…", "push button");
     return eventually([&] {
-        const std::optional<Control> now = reader().again(scanButton);
+        const std::optional<Control> now = reader().again(openButton);
         return now && now->isShowing() && now->isEnabled() && !reader().find("Cancel");
     })
         ? testing::AssertionSuccess()

@@ -16,14 +16,19 @@
 #include "support/becomesActive.h"
 
 #include <QAccessible>
+#include <QApplication>
+#include <QDialog>
+#include <QImage>
 #include <QListView>
 #include <QScrollArea>
 #include <QSignalSpy>
 #include <QTest>
+#include <QWindow>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <future>
 
 namespace tessera {
@@ -73,6 +78,17 @@ private:
     std::promise<void> m_release;
     std::shared_future<void> m_released{m_release.get_future().share()};
 };
+
+int darkest(const QImage& image)
+{
+    int least = 255;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            least = std::min(least, image.pixelColor(x, y).lightness());
+        }
+    }
+    return least;
+}
 
 class HomeViewControllerTest : public testing::Test {
 protected:
@@ -297,6 +313,119 @@ TEST_F(HomeViewControllerTest, ReturnScans)
     EXPECT_THAT(scanned, ElementsAre("file:///home/eve/one/"));
 }
 
+TEST_F(HomeViewControllerTest, ReturnPressesTheButtonThatHasTheFocus)
+{
+    show();
+    ASSERT_TRUE(test::becomesActive(home->view()));
+    const QSignalSpy asked(home.get(), &HomeViewController::openFolder);
+    home->openButton().setFocus();
+    QTest::keyClick(&home->openButton(), Qt::Key_Return);
+    EXPECT_EQ(asked.size(), 1);
+    home->clearRecentsButton().setFocus();
+    QTest::keyClick(&home->clearRecentsButton(), Qt::Key_Enter);
+    EXPECT_THAT(model->recents().recentsList(), IsEmpty());
+    EXPECT_THAT(scanned, IsEmpty());
+}
+
+TEST_F(HomeViewControllerTest, ReturnOnTheScanButtonScansOnce)
+{
+    show();
+    ASSERT_TRUE(test::becomesActive(home->view()));
+    home->scanButton().setFocus();
+    QTest::keyClick(&home->scanButton(), Qt::Key_Return);
+    EXPECT_THAT(scanned, ElementsAre("file:///home/eve/one/"));
+}
+
+TEST_F(HomeViewControllerTest, ReturnGoesThroughNoSheet)
+{
+    show();
+    home->takeFocus();
+    ASSERT_TRUE(test::becomesActive(home->view()));
+    QDialog sheet(&home->view());
+    sheet.setWindowModality(Qt::WindowModal);
+    sheet.show();
+    // As window managers do that give a blocked window the keyboard.
+    QApplication::setActiveWindow(&home->view());
+    table().setFocus();
+    QTest::keyClick(home->view().windowHandle(), Qt::Key_Return);
+    EXPECT_THAT(scanned, IsEmpty());
+}
+
+TEST_F(HomeViewControllerTest, ARightDoubleClickStartsNothing)
+{
+    show();
+    const QPoint row = table().visualRect(table().model()->index(1, 0)).center();
+    QTest::mouseDClick(table().viewport(), Qt::RightButton, {}, row);
+    EXPECT_THAT(scanned, IsEmpty());
+}
+
+TEST_F(HomeViewControllerTest, TheFirstArrowInTheListTakesItsFirstRow)
+{
+    show();
+    clickRecent(1);
+    click(2);
+    table().setFocus();
+    QTest::keyClick(&table(), Qt::Key_Down);
+    home->scanSelected();
+    EXPECT_THAT(scanned, ElementsAre("file:///home/eve/one/"));
+}
+
+TEST_F(HomeViewControllerTest, ScanIsEnabledWhileSomethingIsSelected)
+{
+    modelServices.documents.urls.clear();
+    show();
+    EXPECT_FALSE(home->scanButton().isEnabled());
+    click(2);
+    EXPECT_TRUE(home->scanButton().isEnabled());
+    home->setEnabled(false);
+    EXPECT_FALSE(home->scanButton().isEnabled());
+}
+
+TEST_F(HomeViewControllerTest, ClearIsEnabledWhileThereAreRecentScans)
+{
+    show();
+    EXPECT_TRUE(home->clearRecentsButton().isEnabled());
+    home->clearList();
+    EXPECT_FALSE(home->clearRecentsButton().isEnabled());
+    EXPECT_FALSE(home->scanButton().isEnabled());
+    home->setEnabled(false);
+    home->setEnabled(true);
+    EXPECT_FALSE(home->clearRecentsButton().isEnabled());
+    EXPECT_FALSE(home->scanButton().isEnabled());
+}
+
+TEST_F(HomeViewControllerTest, TheGridLooksInactiveWhileItIs)
+{
+    show();
+    const QRect part(0, 0, grid().width(), grid().height());
+    const QImage usual = home->view().grab(part).toImage();
+    home->setEnabled(false);
+    const QImage inactive = home->view().grab(part).toImage();
+    home->setEnabled(true);
+    EXPECT_EQ(home->view().grab(part).toImage(), usual);
+    EXPECT_LT(darkest(usual), 20);
+    EXPECT_GT(darkest(inactive), 100);
+}
+
+TEST_F(HomeViewControllerTest, InALargeFontNothingInTheGridIsCut)
+{
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPointSizeF(16);
+    QApplication::setFont(large);
+    show();
+    home->view().resize(760, 400);
+    QApplication::processEvents();
+    EXPECT_GE(item(1).height(), item(1).minimumSizeHint().height());
+    EXPECT_LE(item(1).geometry().right(), grid().width());
+    EXPECT_GE(firstVolume().nameLabel().height(), firstVolume().nameLabel().fontMetrics().height());
+    EXPECT_GE(
+        firstVolume().spaceLabel().height(), firstVolume().spaceLabel().fontMetrics().height());
+    EXPECT_GE(
+        home->clearRecentsButton().height(), home->clearRecentsButton().minimumSizeHint().height());
+    QApplication::setFont(usual);
+}
+
 TEST_F(HomeViewControllerTest, ClearingEmptiesTheList)
 {
     show();
@@ -484,6 +613,16 @@ TEST_F(HomeViewControllerTest, TheKeyboardBeginsAtTheRecentScans)
     show();
     home->takeFocus();
     EXPECT_EQ(home->view().focusWidget(), &table());
+}
+
+TEST_F(HomeViewControllerTest, TheKeyboardGoesOnInTheGridWhereItHoldsTheSelection)
+{
+    show();
+    click(2);
+    home->setEnabled(false);
+    home->setEnabled(true);
+    home->takeFocus();
+    EXPECT_EQ(home->view().focusWidget(), &grid());
 }
 
 TEST_F(HomeViewControllerTest, WithoutRecentScansTheKeyboardBeginsAtTheGrid)

@@ -2,9 +2,12 @@
 #include "Shell/RecentsTableView.h"
 
 #include "Shell/ProgramColors.h"
+#include "support/becomesActive.h"
 
 #include <QImage>
+#include <QSignalSpy>
 #include <QStringListModel>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -57,6 +60,44 @@ TEST_F(RecentsTableViewTest, SaysNothingOfTheKindWhenItIsNot)
     EXPECT_FALSE(ink().intersects(QRect(0, 60, 290, 80)));
     model.setStringList({});
     EXPECT_TRUE(ink().intersects(QRect(0, 60, 290, 80)));
+}
+
+class RowsOfRecentsTest : public RecentsTableViewTest {
+protected:
+    RowsOfRecentsTest()
+    {
+        model.setStringList({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
+        view.show();
+        view.setFocus();
+        EXPECT_TRUE(test::becomesActive(view));
+    }
+
+    int selectedRow() const
+    {
+        const QModelIndexList rows = view.selectionModel()->selectedIndexes();
+        return rows.isEmpty() ? -1 : rows.first().row();
+    }
+};
+
+TEST_F(RowsOfRecentsTest, TheFirstArrowTakesTheFirstRow)
+{
+    QTest::keyClick(&view, Qt::Key_Down);
+    EXPECT_EQ(selectedRow(), 0);
+    QTest::keyClick(&view, Qt::Key_Down);
+    EXPECT_EQ(selectedRow(), 1);
+}
+
+TEST_F(RowsOfRecentsTest, ADoubleClickOfTheLeftButtonAloneIsOne)
+{
+    const QSignalSpy doubleClicks(&view, &QListView::doubleClicked);
+    const QPoint row = view.visualRect(model.index(1)).center();
+    for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
+        QTest::mouseClick(view.viewport(), button, {}, row);
+        QTest::mouseDClick(view.viewport(), button, {}, row);
+    }
+    EXPECT_EQ(doubleClicks.size(), 0);
+    QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, row);
+    EXPECT_EQ(doubleClicks.size(), 1);
 }
 
 } // namespace
