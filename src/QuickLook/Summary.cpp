@@ -14,6 +14,9 @@ namespace tessera {
 
 namespace {
 
+/// What file systems that keep no creation dates give instead of one: 1970-01-01 00:00 UTC.
+constexpr std::int64_t kNoCreationDate = 0;
+
 class SummaryTexts {
     Q_DECLARE_TR_FUNCTIONS(SummaryTexts)
 };
@@ -89,7 +92,9 @@ void addFileRows(RowList& rows, const Preview& preview)
     }
     rows.add(SummaryTexts::tr("Leads to"), displayText(file.linkTarget));
     rows.addDate(SummaryTexts::tr("Modified"), file.modified);
-    rows.addDate(SummaryTexts::tr("Created"), file.created);
+    if (file.created != kNoCreationDate) {
+        rows.addDate(SummaryTexts::tr("Created"), file.created);
+    }
 }
 
 } // namespace

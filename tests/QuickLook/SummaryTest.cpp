@@ -62,12 +62,32 @@ TEST_F(SummaryTest, HasNoRowForWhatIsNotKnown)
 TEST_F(SummaryTest, WritesDatesAsDays)
 {
     preview.file.modified = 1'700'000'000;
-    preview.file.created = 0;
+    preview.file.created = 1'600'000'000;
 
     const Summary summary = summaryOf(facts, &preview);
 
     EXPECT_TRUE(valueOf(summary, QStringLiteral("Modified")).contains(QStringLiteral("2023")));
-    EXPECT_FALSE(valueOf(summary, QStringLiteral("Created")).isEmpty());
+    EXPECT_TRUE(valueOf(summary, QStringLiteral("Created")).contains(QStringLiteral("2020")));
+}
+
+TEST_F(SummaryTest, TheFirstSecondOf1970IsNoCreationDate)
+{
+    preview.file.modified = 0;
+    preview.file.created = 0;
+
+    const Summary summary = summaryOf(facts, &preview);
+
+    EXPECT_TRUE(valueOf(summary, QStringLiteral("Created")).isEmpty());
+    EXPECT_FALSE(valueOf(summary, QStringLiteral("Modified")).isEmpty());
+}
+
+TEST_F(SummaryTest, TheSecondsAroundItAre)
+{
+    for (const int created : {-1, 1}) {
+        preview.file.created = created;
+        const Summary summary = summaryOf(facts, &preview);
+        EXPECT_FALSE(valueOf(summary, QStringLiteral("Created")).isEmpty()) << created;
+    }
 }
 
 TEST_F(SummaryTest, TheCaptionSaysWhenATextGoesOn)
