@@ -33,6 +33,9 @@ public:
     /// To a folder above the one in view.
     void zoomOutFolder(Folder& ancestor);
 
+    /// Shows the folder in view alone, as at the end of a zoom; nothing while none runs.
+    void endRunningZoom();
+
 private:
     /// Where a folder is, or is thought to be, in a picture.
     struct Place {
@@ -45,7 +48,6 @@ private:
         QTransform enlarged;
     };
 
-    void endRunningZoom();
     void changeFolder(Folder& folder);
     void changeAtOnce(Folder& folder);
     void abortAnimation();

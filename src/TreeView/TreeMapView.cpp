@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "TreeView/TreeMapView.h"
 
+#include "Layout/MultiLayoutObject.h"
 #include "Model/File.h"
 #include "Model/UserDefaults.h"
 #include "TreeView/TooltipController.h"
@@ -126,6 +127,7 @@ void TreeMapView::addBranchBelow(std::unique_ptr<TreeBranch> branch)
 void TreeMapView::removeAllBranches()
 {
     m_zoom.reset();
+    hideTooltip();
     if (m_dispatchDepth > 0) {
         std::ranges::move(m_branches, std::back_inserter(m_retiredBranches));
     }
@@ -171,6 +173,22 @@ std::optional<Rect> TreeMapView::findRectForFile(const File& file, const TreeBra
         return result.has_value();
     });
     return result;
+}
+
+bool TreeMapView::shows(const File& file) const
+{
+    const auto standsForIt = [&file](const auto& item) {
+        if (item->ref != nullptr) {
+            return item->ref == &file;
+        }
+        const auto* const group = dynamic_cast<const MultiLayoutObject*>(item.get());
+        return group != nullptr && std::ranges::find(group->refs, &file) != group->refs.end();
+    };
+    return std::ranges::any_of(m_branches, [&standsForIt](const auto& top) {
+        return visitBranches(*top, [&standsForIt](const TreeBranch& branch) {
+            return std::ranges::any_of(branch.layoutItems(), standsForIt);
+        });
+    });
 }
 
 // NOLINTNEXTLINE(readability-convert-member-functions-to-static): asked of a certain map

@@ -45,7 +45,7 @@ public:
     void addBranch(std::unique_ptr<TreeBranch> branch);
     void addBranchBelow(std::unique_ptr<TreeBranch> branch);
     /// May be called while a branch handles an event: that branch lives on until it has done so.
-    /// Ends a zoom, without a word.
+    /// Ends a zoom, without a word. The tooltip closes: what it describes may be gone or changed.
     void removeAllBranches();
 
     /// Shows the animation instead of the branches until these are removed. Until then the map has
@@ -60,6 +60,9 @@ public:
     std::optional<Rect> findRectForFile(const File& file) const;
     /// The same among `inBranch` and what is nested in it.
     std::optional<Rect> findRectForFile(const File& file, const TreeBranch& inBranch) const;
+
+    /// Whether the picture has a box for the node, or one for several nodes of which it is one.
+    bool shows(const File& file) const;
 
     /// Performs the commands of context menus; null disables them all. Not owned.
     void setCommandTarget(TreeCommandTarget* target) { m_commandTarget = target; }

@@ -260,7 +260,9 @@ bool TreeViewController::keyDown(const QKeyEvent& event)
 
 bool TreeViewController::moveSelection(Direction direction)
 {
-    File* const next = nextSelection(*m_treeView.branches().back(), m_selectedFile, direction);
+    // While a zoom runs there is a second picture, of the folder that is being left.
+    m_zoom.endRunningZoom();
+    File* const next = nextSelection(*m_treeView.branches().front(), m_selectedFile, direction);
     if (next == nullptr) {
         return false;
     }
@@ -348,6 +350,10 @@ void TreeViewController::renderTree()
     const Rect bounds{
         0, 0, static_cast<double>(m_treeView.width()), static_cast<double>(m_treeView.height())};
     m_treeView.addBranch(renderFolder(m_currentFolder, bounds, nullptr, 0));
+    // Nobody may delete or preview what they do not see.
+    if (m_selectedFile != nullptr && !m_treeView.shows(*m_selectedFile)) {
+        setSelectedFile(nullptr);
+    }
     m_rescan.pictureChanged();
     emit pictureRebuilt();
 }

@@ -88,7 +88,8 @@ public:
     /// or keeps them when its file system does not answer at once.
     void objectTreeRefreshed() override;
 
-    /// Rebuilds the whole picture from the tree; a running zoom ends.
+    /// Rebuilds the whole picture from the tree; a running zoom ends. What is selected and not in
+    /// the picture is selected no longer.
     void renderTree() override;
 
     /// Lays a folder out as a branch of frame `inRect`: at the top of the view when `inView` is

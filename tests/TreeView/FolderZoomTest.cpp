@@ -284,6 +284,56 @@ TEST_F(FolderZoomTest, AClickEndsTheZoomAtOnceAndSelectsInTheNewPicture)
     EXPECT_EQ(controller.selectedFile(), &folder("docs/deep"));
 }
 
+TEST_F(FolderZoomTest, AnArrowKeyDuringAZoomOutSelectsInTheFolderThatComesIntoView)
+{
+    goTo(folder("docs/deep"));
+    controller.zoomOutFolder(*model.topFolder());
+    ASSERT_TRUE(view.isZooming());
+    QTest::keyClick(&view, Qt::Key_Right);
+    EXPECT_EQ(controller.selectedFile(), &folder("docs"));
+    EXPECT_TRUE(view.findRectForFile(*controller.selectedFile()).has_value());
+}
+
+TEST_F(FolderZoomTest, AnArrowKeyDuringAZoomInSelectsInTheFolderThatComesIntoView)
+{
+    controller.zoomInFolder(folder("docs"));
+    QTest::keyClick(&view, Qt::Key_Right);
+    EXPECT_EQ(controller.selectedFile(), &folder("docs/deep"));
+}
+
+TEST_F(FolderZoomTest, AnArrowKeyEndsTheZoomAtOnce)
+{
+    goTo(folder("docs"));
+    controller.zoomOutFolder(*model.topFolder());
+    QTest::keyClick(&view, Qt::Key_Down);
+    EXPECT_FALSE(view.isZooming());
+    EXPECT_EQ(branches(), Names{"data"});
+}
+
+TEST_F(FolderZoomTest, DeleteDuringAZoomOutMovesNothing)
+{
+    goTo(folder("docs"));
+    controller.setSelectedFile(&folder("docs/deep"));
+    controller.zoomOutFolder(*model.topFolder());
+    QTest::keyClick(&view, Qt::Key_Delete);
+    EXPECT_TRUE(viewServices.workspace.recycled.empty());
+}
+
+TEST_F(FolderZoomTest, WhatLeavesDuringAZoomOutIsNotInTheNewPicture)
+{
+    const Url url = folder("docs").url();
+    controller.setSelectedFile(&folder("docs"));
+    controller.trashItem();
+    goTo(folder("docs/deep"));
+    controller.zoomOut();
+    RecycleResult result;
+    result.newUrls[url.absoluteString()] = Url("/trash/docs", true);
+    ASSERT_TRUE(viewServices.workspace.finishRecycling(result));
+    EXPECT_FALSE(view.isZooming());
+    EXPECT_EQ(branches(), Names{"data"});
+    EXPECT_EQ(controller.currentFolder(), model.topFolder());
+}
+
 TEST_F(FolderZoomTest, AnyButtonPressedAnywhereEndsTheZoomAtOnce)
 {
     controller.zoomInFolder(folder("docs"));
@@ -307,6 +357,21 @@ TEST_F(FolderZoomTest, ThereIsNoTooltipDuringAZoom)
     finishZoom();
     EXPECT_FALSE(tooltip.isVisible());
     QTest::mouseMove(view.windowHandle(), QPoint(70, 120));
+    EXPECT_TRUE(tooltip.isVisible());
+    view.hideTooltip();
+}
+
+TEST_F(FolderZoomTest, TheTooltipClosesWhenThePictureIsRebuilt)
+{
+    view.activateWindow();
+    ASSERT_TRUE(test::becomesActive(view));
+    defaults.setInteger(kTooltipTypeKey, 2);
+    const QWidget& tooltip = TooltipController::sharedInstance().window();
+    QTest::mouseMove(view.windowHandle(), QPoint(52, 100));
+    ASSERT_TRUE(tooltip.isVisible());
+    controller.renderTree();
+    EXPECT_FALSE(tooltip.isVisible());
+    QTest::mouseMove(view.windowHandle(), QPoint(53, 101));
     EXPECT_TRUE(tooltip.isVisible());
     view.hideTooltip();
 }

@@ -10,6 +10,7 @@
 #include "support/FakeUserDefaults.h"
 #include "support/makeTree.h"
 
+#include <QSignalSpy>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -130,6 +131,59 @@ TEST_F(TreeViewControllerTest, HiddenFilesAreLeftOutWhileTheyAreIgnored)
     model.settings().setIgnoreHiddenFiles(true);
     controller.renderTree();
     EXPECT_EQ(topBranch().layoutItems().size(), 1U);
+}
+
+TEST_F(TreeViewControllerTest, WhatIsHiddenWhileItIsSelectedIsSelectedNoLonger)
+{
+    model.setTopFolder(test::makeTree("/data", ".a:500 b:500"));
+    TreeViewController controller(model, view, viewServices.get());
+    const QSignalSpy changes(&controller, &TreeViewController::selectionChanged);
+    click(node(".a"));
+    model.settings().setIgnoreHiddenFiles(true);
+    controller.renderTree();
+    EXPECT_EQ(controller.selectedFile(), nullptr);
+    EXPECT_FALSE(node(".a").selected());
+    EXPECT_EQ(changes.count(), 2);
+}
+
+TEST_F(TreeViewControllerTest, WhatLiesInAFolderThatIsIgnoredIsSelectedNoLonger)
+{
+    TreeViewController controller(model, view, viewServices.get());
+    click(node("docs/a"));
+    node("docs").setIgnored(true);
+    controller.renderTree();
+    EXPECT_EQ(controller.selectedFile(), nullptr);
+}
+
+TEST_F(TreeViewControllerTest, WhatIsHiddenInAnInnerFolderIsSelectedNoLonger)
+{
+    model.setTopFolder(test::makeTree("/data", "docs/ ( .a:500 b:200 ) c:300"));
+    TreeViewController controller(model, view, viewServices.get());
+    click(node("docs/.a"));
+    ASSERT_EQ(controller.selectedFile(), &node("docs/.a"));
+    model.settings().setIgnoreHiddenFiles(true);
+    controller.renderTree();
+    EXPECT_EQ(controller.selectedFile(), nullptr);
+}
+
+TEST_F(TreeViewControllerTest, WhatIsInThePictureStaysSelectedWhenOtherThingsAreHidden)
+{
+    model.setTopFolder(test::makeTree("/data", "docs/ ( .a:500 b:200 ) c:300"));
+    TreeViewController controller(model, view, viewServices.get());
+    click(node("docs/b"));
+    model.settings().setIgnoreHiddenFiles(true);
+    controller.renderTree();
+    EXPECT_EQ(controller.selectedFile(), &node("docs/b"));
+}
+
+TEST_F(TreeViewControllerTest, WhatTheBoxOfAGroupStandsForStaysSelected)
+{
+    model.setTopFolder(test::makeTree("/data", "a:900000 b:1 c:1 d:1"));
+    TreeViewController controller(model, view, viewServices.get());
+    controller.setSelectedFile(&node("c"));
+    controller.renderTree();
+    ASSERT_FALSE(view.findRectForFile(node("c")).has_value());
+    EXPECT_EQ(controller.selectedFile(), &node("c"));
 }
 
 TEST_F(TreeViewControllerTest, AFolderRenderedInsideABranchBecomesPartOfIt)
