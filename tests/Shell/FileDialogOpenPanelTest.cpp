@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Shell/FileDialogOpenPanel.h"
 
+#include <QAbstractItemView>
 #include <QDir>
 #include <QFileDialog>
 #include <QImage>
@@ -41,6 +42,32 @@ TEST_F(FileDialogOpenPanelTest, BeginsInTheHomeFolder)
     begin();
     ASSERT_EQ(dialogs().size(), 1);
     EXPECT_EQ(dialogs().front()->directory(), QDir::home());
+}
+
+TEST_F(FileDialogOpenPanelTest, FoldersCanBeChosenAndFilesCannot)
+{
+    begin();
+    EXPECT_EQ(dialogs().front()->fileMode(), QFileDialog::Directory);
+    EXPECT_TRUE(dialogs().front()->testOption(QFileDialog::ShowDirsOnly));
+    EXPECT_FALSE(dialogs().front()->filter().testFlag(QDir::Files));
+}
+
+TEST_F(FileDialogOpenPanelTest, OneFolderCanBeChosenAtATime)
+{
+    begin();
+    for (const auto* list : dialogs().front()->findChildren<QAbstractItemView*>()) {
+        if (list->objectName() == QStringLiteral("listView")
+            || list->objectName() == QStringLiteral("treeView")) {
+            EXPECT_EQ(list->selectionMode(), QAbstractItemView::SingleSelection);
+        }
+    }
+    EXPECT_NE(dialogs().front()->fileMode(), QFileDialog::ExistingFiles);
+}
+
+TEST_F(FileDialogOpenPanelTest, HiddenFoldersAreShown)
+{
+    begin();
+    EXPECT_TRUE(dialogs().front()->filter().testFlag(QDir::Hidden));
 }
 
 TEST_F(FileDialogOpenPanelTest, IsOpenOnceAtMost)

@@ -143,6 +143,17 @@ TEST_F(ItemTrasherTest, AcceptingTheSystemWarningSparesTheOneForHiddenItems)
     EXPECT_TRUE(isAskedToMove());
 }
 
+TEST_F(ItemTrasherTest, OfTheTwoWarningsAHiddenSystemItemGetsTheOneForSystemFolders)
+{
+    model.setTopFolder(test::makeTree("/usr", "lib/ ( a.so:5 )"));
+    hide("lib/a.so");
+    hide("lib");
+    trash("lib/a.so");
+    ASSERT_EQ(alert.asked.size(), 1U);
+    EXPECT_NE(question().find("is located inside a system folder"), std::string::npos);
+    EXPECT_EQ(question().find("hidden"), std::string::npos);
+}
+
 TEST_F(ItemTrasherTest, WithoutTheSystemWarningAHiddenSystemItemGetsTheOther)
 {
     modelServices.defaults.setBoolean(kWarnDeleteSystemKey, false);

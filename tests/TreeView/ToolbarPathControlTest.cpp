@@ -106,6 +106,23 @@ TEST_F(ToolbarPathControlTest, GrowsAgainInADeeperFolder)
     EXPECT_EQ(control.toolbarRequestedRect(), (Rect{0, 0, 800, 30}));
 }
 
+TEST_F(ToolbarPathControlTest, ContentThatIsWiderThanTheToolbarMakesItAsWideAsThatAgain)
+{
+    tree = test::makeTree(
+        "/home/anna",
+        "documents/ ( aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa/ ( "
+        "bbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbbb/ ( c:1 ) ) )");
+    showPathTo("");
+    ASSERT_LT(control.width(), 800);
+    const std::string a(68, 'a');
+    const std::string b(71, 'b');
+    showPathTo("documents/" + a + '/' + b);
+
+    EXPECT_GT(naturalWidth(), 800);
+    EXPECT_EQ(control.width(), 800);
+    EXPECT_EQ(control.toolbarRequestedRect(), (Rect{0, 0, 800, 30}));
+}
+
 TEST_F(ToolbarPathControlTest, ShrinksAgainInAHigherFolder)
 {
     showPathTo("documents/pictures");

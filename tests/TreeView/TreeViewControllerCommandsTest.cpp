@@ -3,6 +3,8 @@
 #include "Model/FreeSpace.h"
 #include "Model/NotificationCenter.h"
 #include "Model/RootModel.h"
+#include "Model/TimeMachine.h"
+#include "Model/Unknown.h"
 #include "QuickLook/QuickLookPanel.h"
 #include "TreeView/SelectionPreview.h"
 #include "TreeView/TreeBranch.h"
@@ -177,13 +179,21 @@ TEST_F(TreeViewControllerCommandsTest, ADoubleClickOnADocumentPreviewsIt)
     EXPECT_TRUE(panel.isOpen());
 }
 
-TEST_F(TreeViewControllerCommandsTest, ADoubleClickOnSpaceDoesNothing)
+TEST_F(TreeViewControllerCommandsTest, ADoubleClickOnWhatStandsForNoFileDoesNothing)
 {
-    const auto space = makeNode<FreeSpace>("");
-    controller->setSelectedFile(space.get());
-    NotificationCenter::defaultCenter().post("DoubleClickTreeItem");
-    EXPECT_FALSE(panel.isOpen());
-    EXPECT_EQ(controller->currentFolder(), model.topFolder());
+    const std::unique_ptr<FreeSpace> space = makeNode<FreeSpace>("");
+    const std::unique_ptr<Unknown> unknown = makeNode<Unknown>("");
+    const std::unique_ptr<TimeMachine> backups = makeNode<TimeMachine>("");
+    for (File* const node :
+         {static_cast<File*>(space.get()),
+          static_cast<File*>(unknown.get()),
+          static_cast<File*>(backups.get())}) {
+        controller->setSelectedFile(node);
+        NotificationCenter::defaultCenter().post("DoubleClickTreeItem");
+        EXPECT_FALSE(panel.isOpen()) << node->name();
+        EXPECT_EQ(controller->currentFolder(), model.topFolder()) << node->name();
+        EXPECT_EQ(controller->selectedFile(), node) << node->name();
+    }
     controller->setSelectedFile(nullptr);
 }
 

@@ -5,7 +5,11 @@
 
 #include <gtest/gtest.h>
 #include <pwd.h>
+#include <sys/syscall.h>
 #include <unistd.h>
+
+#include <optional>
+#include <thread>
 
 namespace tessera {
 namespace {
@@ -19,6 +23,27 @@ TEST(LinuxUserAccount, TheRealUserIsThatOfTheRealUserId)
     ASSERT_TRUE(user.has_value());
     EXPECT_EQ(user->name, entry->pw_name);
     EXPECT_EQ(user->directory, entry->pw_dir);
+}
+
+/// Only the one thread that asks the kernel itself gets another real user id.
+TEST(LinuxUserAccount, TheRealUserIsNotTheOneWhoseRightsTheProcessHas)
+{
+    if (::geteuid() != 0) {
+        GTEST_SKIP() << "needs the super-user's rights";
+    }
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): no other thread asks
+    const struct passwd* const nobody = ::getpwnam("nobody");
+    ASSERT_NE(nobody, nullptr);
+    const uid_t real = nobody->pw_uid;
+    std::optional<PasswordEntry> user;
+    bool isOther = false;
+    std::thread([&] {
+        isOther = ::syscall(SYS_setresuid, real, 0, 0) == 0;
+        user = LinuxUserAccount().realUser();
+    }).join();
+    ASSERT_TRUE(isOther);
+    ASSERT_TRUE(user.has_value());
+    EXPECT_EQ(user->name, "nobody");
 }
 
 class HomeDirectory : public testing::Test {
