@@ -55,7 +55,17 @@ void FolderRescan::rescan(Folder& folder)
 
 std::optional<Rect> FolderRescan::indicatorFrame() const
 {
-    const std::optional<Rect> box = m_treeView.findRectForFile(*m_rescanFolder);
+    if (m_treeView.isZooming()) {
+        return std::nullopt;
+    }
+    std::optional<Rect> box = m_treeView.findRectForFile(*m_rescanFolder);
+    if (m_screen.folderInView() == m_rescanFolder) {
+        box = Rect{
+            0,
+            0,
+            static_cast<double>(m_treeView.width()),
+            static_cast<double>(m_treeView.height())};
+    }
     if (!box) {
         return std::nullopt;
     }
@@ -92,10 +102,53 @@ void FolderRescan::removeIndicator()
 void FolderRescan::nodeWillLeave(const File& node)
 {
     if (m_rescanFolder != nullptr && isAtOrBelow(*m_rescanFolder, node)) {
-        removeIndicator();
         const std::shared_ptr<Scanner> rescanner = m_rescanner; // dropped while it cancels
         rescanner->cancel();
+    } else {
+        noteChange(node);
     }
+}
+
+void FolderRescan::nodeCame(const File& node)
+{
+    noteChange(node);
+}
+
+void FolderRescan::noteChange(const File& node)
+{
+    if (m_rescanFolder != nullptr && isAtOrBelow(node, *m_rescanFolder)) {
+        m_changedPaths.insert(node.absolutePath());
+    }
+}
+
+/// The tree on screen is right about these paths, whether the scanner passed them before or after
+/// the change. In the order of the set a folder comes before what is in it.
+void FolderRescan::applyChanges(TopFolder& scanned)
+{
+    File* root = m_rescanFolder;
+    while (root->parent() != nullptr) {
+        root = root->parent();
+    }
+    auto& shown = *nodeCast<TopFolder>(root);
+    for (const std::string& path : m_changedPaths) {
+        if (File* const read = nodeAtPath(scanned, path)) {
+            read->parent()->removeChild(*read);
+        }
+        File* const known = nodeAtPath(shown, path);
+        auto* const parent = nodeCast<Folder>(nodeAtPath(scanned, path.substr(0, path.rfind('/'))));
+        if (known != nullptr && parent != nullptr) {
+            parent->insertChild(known->parent()->removeChild(*known));
+        }
+    }
+}
+
+void FolderRescan::end()
+{
+    removeIndicator();
+    m_changedPaths.clear();
+    m_rescanFolder->setRescanning(false);
+    m_rescanFolder = nullptr;
+    m_rescanner.reset();
 }
 
 void FolderRescan::scanUpdated(Scanner& scanner)
@@ -113,39 +166,34 @@ void FolderRescan::scanEnded(Scanner& scanner)
         scanner.scan(*home, ScanPurpose::PartOfTree);
         return;
     }
-    removeIndicator();
     Folder& folder = *m_rescanFolder;
     std::unique_ptr<TopFolder> scanned = m_homePass.takeTree(scanner);
+    applyChanges(*scanned);
+    end();
     TopFolder& with = *scanned;
     // What the folder looked like from outside was not read anew.
     with.setHidden(folder.hidden());
     with.setIgnored(folder.ignored());
+    with.setHue(folder.hue());
     // Released when nothing on screen stands for what is in it any more.
     const std::unique_ptr<File> old = folder.parent()->replaceChild(folder, std::move(scanned));
     m_screen.folderWasReplaced(folder, with);
     m_screen.objectTreeRefreshed();
     m_screen.renderTree();
-    folder.setRescanning(false);
-    m_rescanFolder = nullptr;
-    m_rescanner.reset();
 }
 
 void FolderRescan::scanCancelled(Scanner& /*scanner*/)
 {
+    end();
     m_screen.renderTree();
-    m_rescanFolder->setRescanning(false);
-    m_rescanFolder = nullptr;
-    m_rescanner.reset();
 }
 
 void FolderRescan::scanFailed(Scanner& /*scanner*/, const std::error_code& problem)
 {
-    removeIndicator();
-    Folder& folder = *std::exchange(m_rescanFolder, nullptr);
-    folder.setRescanning(false);
-    m_rescanner.reset();
+    const Url folder = m_rescanFolder->url();
+    end();
     m_screen.renderTree();
-    m_alert.beginSheet(scanProblem(folder.url(), problem));
+    m_alert.beginSheet(scanProblem(folder, problem));
 }
 
 } // namespace tessera

@@ -11,12 +11,15 @@
 
 #include <memory>
 #include <optional>
+#include <set>
+#include <string>
 
 namespace tessera {
 
 class Alert;
 class File;
 class Folder;
+class TopFolder;
 class TreeMapView;
 class TreeScreen;
 
@@ -36,16 +39,20 @@ public:
     /// The folder being rescanned; null while none is.
     Folder* rescanFolder() const { return m_rescanFolder; }
 
-    /// The bar over the folder's box; null while there is none. A cancelled rescan leaves its own
-    /// behind.
+    /// The bar over the folder's box, or across the view while the folder fills that; null while
+    /// there is none.
     RescanIndicator* rescanIndicator() const { return m_rescanIndicator; }
 
-    /// The picture was rebuilt: the bar follows the folder's box, and is out of sight where there
-    /// is none or a small one.
+    /// The picture was rebuilt, or a zoom has begun: the bar follows the folder's box, and is out
+    /// of sight during a zoom and where there is no box or a small one.
     void pictureChanged();
 
-    /// The folder, or one around it, leaves its place: the rescan ends without an effect.
+    /// The node leaves its place. If it is the folder, or one around it, the rescan ends without
+    /// an effect. What lies inside may have been read already: it is taken out of the new tree too.
     void nodeWillLeave(const File& node);
+
+    /// The node has come to its place. If that is inside the folder, it joins the new tree too.
+    void nodeCame(const File& node);
 
 private:
     void scanUpdated(Scanner& scanner) override;
@@ -53,6 +60,9 @@ private:
     void scanCancelled(Scanner& scanner) override;
     void scanFailed(Scanner& scanner, const std::error_code& problem) override;
 
+    void noteChange(const File& node);
+    void applyChanges(TopFolder& scanned);
+    void end();
     std::optional<Rect> indicatorFrame() const;
     void addIndicator();
     void removeIndicator();
@@ -64,6 +74,8 @@ private:
     std::shared_ptr<Scanner> m_rescanner;
     HomePass m_homePass;
     Folder* m_rescanFolder = nullptr;
+    /// Absolute paths of what left or came inside the folder since its rescan began.
+    std::set<std::string> m_changedPaths;
     QPointer<RescanIndicator> m_rescanIndicator;
 };
 

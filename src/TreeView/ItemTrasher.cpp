@@ -178,7 +178,7 @@ void ItemTrasher::moveNode(const Url& from, const Url* to)
     if (trash != nullptr && nodeAtPath(*top, to->path()) == nullptr) {
         node->setFragment(to->lastPathComponent());
         rebase(*node, from.path(), to->path());
-        trash->insertChild(std::move(node));
+        m_screen.nodeCame(trash->insertChild(std::move(node)));
     }
 }
 

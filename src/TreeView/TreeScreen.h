@@ -18,9 +18,15 @@ public:
     /// good: what is shown or done in there ends.
     virtual void nodeWillLeave(File& node) = 0;
 
+    /// To be called when a node has come to a place in the tree, from another or as a new one.
+    virtual void nodeCame(const File& node) = 0;
+
     /// The replaced folder is out of the tree and about to be released; `with` stands in its
     /// place.
     virtual void folderWasReplaced(Folder& folder, Folder& with) = 0;
+
+    /// The folder that fills the view; null when there is no tree.
+    virtual const Folder* folderInView() const = 0;
 
     /// Does not draw.
     virtual void setSelectedFile(File* file) = 0;

@@ -117,6 +117,18 @@ void TreeViewController::zoomOut()
     }
 }
 
+void TreeViewController::zoomInFolder(Folder& folder)
+{
+    m_zoom.zoomInFolder(folder);
+    m_rescan.pictureChanged();
+}
+
+void TreeViewController::zoomOutFolder(Folder& ancestor)
+{
+    m_zoom.zoomOutFolder(ancestor);
+    m_rescan.pictureChanged();
+}
+
 void TreeViewController::clickFolderPath(const Url& clicked)
 {
     Folder* folder = m_currentFolder;
@@ -187,7 +199,7 @@ void TreeViewController::itemCompressed(const Url& archive)
         m_services.resourceValues.allocatedSize(archive.path()).value_or(0));
     if (Folder* const parent = locateParent(archive)) {
         removeNodeAt(archive);
-        parent->insertChild(std::move(document));
+        nodeCame(parent->insertChild(std::move(document)));
     }
     objectTreeRefreshed();
     renderTree();

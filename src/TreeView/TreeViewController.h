@@ -54,8 +54,8 @@ public:
     /// Shows the folder around the one in view; nothing at the root.
     void zoomOut();
     /// Changes the folder in view, as FolderZoom does.
-    void zoomInFolder(Folder& folder) { m_zoom.zoomInFolder(folder); }
-    void zoomOutFolder(Folder& ancestor) { m_zoom.zoomOutFolder(ancestor); }
+    void zoomInFolder(Folder& folder);
+    void zoomOutFolder(Folder& ancestor);
     /// A zoom has come to its end or was interrupted.
     void animationDidStop() { renderTree(); }
 
@@ -114,7 +114,9 @@ signals:
 private:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void nodeWillLeave(File& node) override;
+    void nodeCame(const File& node) override { m_rescan.nodeCame(node); }
     void folderWasReplaced(Folder& folder, Folder& with) override;
+    const Folder* folderInView() const override { return m_currentFolder; }
 
     void observe();
     void doubleClickTreeItem();

@@ -24,12 +24,15 @@ constexpr int kCancel = Alert::kFirstButton + 1;
 class FakeScreen final : public TreeScreen {
 public:
     void nodeWillLeave(File& node) override { leaving.emplace_back(node.name()); }
+    void nodeCame(const File& node) override { come.push_back(node.absolutePath()); }
+    const Folder* folderInView() const override { return nullptr; }
     void folderWasReplaced(Folder& /*folder*/, Folder& /*with*/) override { }
     void setSelectedFile(File* file) override { isSelectionTaken = file == nullptr; }
     void objectTreeRefreshed() override { ++refreshCount; }
     void renderTree() override { ++renderCount; }
 
     std::vector<std::string> leaving;
+    std::vector<std::string> come; ///< paths
     bool isSelectionTaken = false;
     int refreshCount = 0;
     int renderCount = 0;
@@ -243,6 +246,14 @@ TEST_F(ItemTrasherTest, AMovedItemsNodeGoesUnderTheScannedTrash)
     EXPECT_TRUE(screen.isSelectionTaken);
     EXPECT_EQ(screen.refreshCount, 1);
     EXPECT_EQ(screen.renderCount, 1);
+}
+
+TEST_F(ItemTrasherTest, TheScreenHearsOfTheNodeWhereItIsNow)
+{
+    const Url url = node("docs/a").url();
+    trash("docs/a");
+    moveEnds(url, "a");
+    EXPECT_EQ(screen.come, std::vector<std::string>{"/Users/me/.local/Trash/files/a"});
 }
 
 TEST_F(ItemTrasherTest, ItIsCalledThereAsTheTrashCallsIt)
