@@ -11,10 +11,12 @@
 #include "TreeView/FolderBox.h"
 #include "TreeView/GroupBox.h"
 #include "TreeView/SpaceBox.h"
+#include "TreeView/Styles.h"
 #include "TreeView/TreeMapView.h"
 #include "TreeView/TreeMenu.h"
 #include "TreeView/TreePainter.h"
 
+#include <QCoreApplication>
 #include <QMenu>
 
 #include <algorithm>
@@ -23,10 +25,24 @@ namespace tessera {
 
 namespace {
 
+constexpr double kTextHeight = 16;
+
 bool liesWithin(const Rect& inner, const Rect& outer)
 {
     return inner.x >= outer.x && inner.y >= outer.y && inner.right() <= outer.right()
         && inner.bottom() <= outer.bottom();
+}
+
+struct TreeBranchTexts {
+    Q_DECLARE_TR_FUNCTIONS(TreeBranchTexts)
+};
+
+/// A black picture without a word looks like a failure.
+QString whyThereAreNoBoxes(const Folder& folder)
+{
+    return folder.children().empty()
+        ? TreeBranchTexts::tr("This folder is empty")
+        : TreeBranchTexts::tr("Everything in this folder is left out of the picture");
 }
 
 void select(File& node)
@@ -51,6 +67,9 @@ std::unique_ptr<TreeBranch> TreeBranch::make(RenderedLevel level, TreeMapView* t
     branch->setLevel(level.level);
     if (level.folder != nullptr) {
         branch->setName(std::string(level.folder->name()));
+    }
+    if (level.level == 0 && level.folder != nullptr && level.layoutItems.empty()) {
+        branch->m_textWithoutBoxes = whyThereAreNoBoxes(*level.folder).toStdString();
     }
     branch->setLayoutItems(std::move(level.layoutItems));
     for (RenderedLevel& nested : level.nested) {
@@ -129,6 +148,10 @@ void TreeBranch::draw(BoxCanvas& canvas) const
         if (!canvas.misses(item->rect)) {
             drawItem(canvas, *item, inside);
         }
+    }
+    if (!m_textWithoutBoxes.empty()) {
+        const Rect line{0, (m_frame.height - kTextHeight) / 2, m_frame.width, kTextHeight};
+        canvas.drawText(m_textWithoutBoxes, line, Styles::selectedTextAttributes());
     }
 }
 

@@ -53,6 +53,9 @@ public:
     const std::string& name() const { return m_name; }
     void setName(std::string name) { m_name = std::move(name); }
 
+    /// What a level without boxes says in its middle (UTF-8); may be empty.
+    const std::string& textWithoutBoxes() const { return m_textWithoutBoxes; }
+
     /// The map that holds the branch, or null. Not owned.
     TreeMapView* treeView() const { return m_treeView; }
     void setTreeView(TreeMapView* treeView) { m_treeView = treeView; }
@@ -96,6 +99,7 @@ private:
     long m_level = 0;
     QTransform m_scale;
     std::string m_name;
+    std::string m_textWithoutBoxes;
     TreeMapView* m_treeView = nullptr;
     std::vector<std::unique_ptr<LayoutObject>> m_layoutItems;
 };

@@ -18,6 +18,21 @@
 namespace tessera {
 namespace {
 
+/// What encloses all pixels that are not dark.
+QRect litArea(const QImage& picture)
+{
+    constexpr int kDark = 40;
+    QRect lit;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (qGray(picture.pixel(x, y)) > kDark) {
+                lit |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    return lit;
+}
+
 class TreeViewControllerTest : public testing::Test {
 protected:
     TreeViewControllerTest()
@@ -73,6 +88,44 @@ TEST_F(TreeViewControllerTest, WithoutATreeTheViewIsEmpty)
     const TreeViewController controller(model, view, viewServices.get());
     EXPECT_EQ(topBranch().name(), "");
     EXPECT_TRUE(topBranch().layoutItems().empty());
+}
+
+TEST_F(TreeViewControllerTest, AnEmptyFolderSaysSoInTheMiddleOfThePicture)
+{
+    model.setTopFolder(test::makeTree("/data", ""));
+    const TreeViewController controller(model, view, viewServices.get());
+    EXPECT_EQ(topBranch().textWithoutBoxes(), "This folder is empty");
+    const QRect written = litArea(view.picture());
+    EXPECT_NEAR(written.center().x(), 200, 2);
+    EXPECT_NEAR(written.center().y(), 150, 5);
+    EXPECT_GT(written.width(), 50);
+    EXPECT_LT(written.height(), 16);
+}
+
+TEST_F(TreeViewControllerTest, AFolderOfWhichNothingIsShownIsNotCalledEmpty)
+{
+    model.setTopFolder(test::makeTree("/data", ".a:500"));
+    model.settings().setIgnoreHiddenFiles(true);
+    const TreeViewController controller(model, view, viewServices.get());
+    EXPECT_EQ(
+        topBranch().textWithoutBoxes(), "Everything in this folder is left out of the picture");
+}
+
+TEST_F(TreeViewControllerTest, AnEmptyFolderInsideSaysNothing)
+{
+    model.setTopFolder(test::makeTree("/data", "docs/ ( ) c:300"));
+    const TreeViewController controller(model, view, viewServices.get());
+    EXPECT_EQ(topBranch().textWithoutBoxes(), "");
+    for (const auto& nested : topBranch().subBranches()) {
+        EXPECT_EQ(nested->textWithoutBoxes(), "");
+    }
+}
+
+TEST_F(TreeViewControllerTest, WithoutATreeThereIsNothingToSay)
+{
+    model.setTopFolder(nullptr);
+    const TreeViewController controller(model, view, viewServices.get());
+    EXPECT_TRUE(litArea(view.picture()).isEmpty());
 }
 
 TEST_F(TreeViewControllerTest, FollowsTheViewsSize)
