@@ -2,10 +2,12 @@
 #include "Shell/MainActions.h"
 
 #include <QAction>
+#include <QKeyEvent>
 #include <QKeySequence>
 #include <QMenu>
 #include <QMenuBar>
 
+#include <algorithm>
 #include <utility>
 
 namespace tessera {
@@ -55,6 +57,15 @@ void MainActions::fill(QMenu& menu, MainMenu entries) const
         menu.addAction(&action(row.command));
     }
     connect(&menu, &QMenu::aboutToShow, this, &MainActions::validate);
+}
+
+std::optional<MainCommand> MainActions::disabledCommand(const QKeyEvent& pressed) const
+{
+    const QKeySequence keys(pressed.key() | (pressed.modifiers() & ~Qt::KeypadModifier));
+    const auto found = std::ranges::find_if(m_actions, [&keys](const auto& entry) {
+        return !entry.second->isEnabled() && entry.second->shortcuts().contains(keys);
+    });
+    return found == m_actions.end() ? std::nullopt : std::optional(found->first);
 }
 
 void MainActions::validate()

@@ -7,8 +7,10 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 
 class QAction;
+class QKeyEvent;
 class QMenu;
 class QMenuBar;
 class QWidget;
@@ -29,6 +31,9 @@ public:
     ~MainActions() override;
 
     QAction& action(MainCommand command) const { return *m_actions.at(command); }
+
+    /// The command whose shortcut was pressed in vain, because its entry is disabled.
+    [[nodiscard]] std::optional<MainCommand> disabledCommand(const QKeyEvent& pressed) const;
 
     /// Adds all menus of the table.
     void fill(QMenuBar& menuBar) const;

@@ -16,13 +16,14 @@
 #include "Utils/Util.h"
 
 #include <QAction>
-#include <QEvent>
+#include <QKeyEvent>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QToolBar>
 #include <QToolButton>
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 #include <variant>
 
@@ -47,6 +48,29 @@ Url urlOf(const NotificationObject& object)
 {
     const Url* const url = std::get_if<Url>(&object);
     return url == nullptr ? Url() : *url;
+}
+
+/// What the command asks to be done with the selected item of the tree screen, if anything.
+std::optional<TreeCommand> treeCommandOf(MainCommand command)
+{
+    switch (command) {
+    case MainCommand::QuickLook:
+        return TreeCommand::QuickLook;
+    case MainCommand::ShowInFinder:
+        return TreeCommand::ShowInFinder;
+    case MainCommand::ZoomIn:
+        return TreeCommand::ZoomIn;
+    case MainCommand::Rescan:
+        return TreeCommand::Rescan;
+    case MainCommand::Ignore:
+        return TreeCommand::Ignore;
+    case MainCommand::Compress:
+        return TreeCommand::Compress;
+    case MainCommand::MoveToTrash:
+        return TreeCommand::MoveToTrash;
+    default:
+        return std::nullopt;
+    }
 }
 
 } // namespace
@@ -232,6 +256,8 @@ void MainWindowController::displayTree()
         &MainWindowController::refreshPathControl);
     connect(
         m_treeVC.get(), &TreeViewController::selectionChanged, m_actions, &MainActions::validate);
+    // A rescan has begun or ended, perhaps.
+    connect(m_treeVC.get(), &TreeViewController::pictureRebuilt, m_actions, &MainActions::validate);
     m_ignoreMenu.setTreeViewController(m_treeVC.get());
     m_treeView->show();
     m_treeView->setFocus();
@@ -285,6 +311,7 @@ bool MainWindowController::validateMenuItem(int tag) const
     if (m_treeVC != nullptr) {
         context.isRootInView = m_treeVC->currentFolder() == m_services.model.topFolder();
         context.selectedFile = m_treeVC->selectedFile();
+        context.canRescan = m_treeVC->validate(TreeCommand::Rescan);
     }
     return tessera::validateMenuItem(tag, context);
 }
@@ -326,6 +353,10 @@ void MainWindowController::performOnTree(MainCommand command)
         m_treeVC->zoomOut();
         return;
     }
+    if (command == MainCommand::Rescan) {
+        rescan();
+        return;
+    }
     if (m_treeVC->selectedFile() == nullptr) {
         return;
     }
@@ -339,9 +370,6 @@ void MainWindowController::performOnTree(MainCommand command)
     case MainCommand::ZoomIn:
         m_treeVC->zoomIn();
         break;
-    case MainCommand::Rescan:
-        m_treeVC->refreshFolder();
-        break;
     case MainCommand::Ignore:
         m_ignoreMenu.ignoreFolder();
         break;
@@ -353,6 +381,33 @@ void MainWindowController::performOnTree(MainCommand command)
         break;
     default:
         break;
+    }
+}
+
+/// The scanned folder has no place in a tree in which a new one could be put: it is scanned as if
+/// the user had chosen it again, which ends the tree screen.
+void MainWindowController::rescan()
+{
+    if (!m_treeVC->validate(TreeCommand::Rescan)) {
+        return;
+    }
+    const Folder& folder = *m_treeVC->folderToRescan();
+    if (&folder == m_services.model.topFolder()) {
+        scanURL(folder.url());
+    } else {
+        m_treeVC->refreshFolder();
+    }
+}
+
+void MainWindowController::sayWhyNot(MainCommand command)
+{
+    if (m_treeVC == nullptr) {
+        return;
+    }
+    if (command == MainCommand::ZoomOut) {
+        m_treeVC->sayNothingIsAround();
+    } else if (const std::optional<TreeCommand> onItem = treeCommandOf(command)) {
+        m_treeVC->sayWhyNot(*onItem);
     }
 }
 
@@ -411,6 +466,12 @@ bool MainWindowController::eventFilter(QObject* watched, QEvent* event)
     } else if (watched == m_window.get() && event->type() == QEvent::Close) {
         saveFrame(*m_window, m_services.defaults);
         emit closed();
+    } else if (watched == m_window.get() && event->type() == QEvent::KeyPress) {
+        const auto& pressed = *static_cast<QKeyEvent*>(event);
+        if (const auto command = m_actions->disabledCommand(pressed);
+            command && !pressed.isAutoRepeat()) {
+            sayWhyNot(*command);
+        }
     }
     return QObject::eventFilter(watched, event);
 }

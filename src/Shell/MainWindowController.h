@@ -89,6 +89,8 @@ private:
     void displayTree();
     void placeScreens();
     void performOnTree(MainCommand command);
+    void rescan();
+    void sayWhyNot(MainCommand command);
     void folderChosen(const std::vector<Url>& urls);
     void refuseTimeMachine(const Url& url);
     void toggleFullScreen();

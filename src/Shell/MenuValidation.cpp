@@ -18,9 +18,10 @@ bool validateMenuItem(int tag, const MenuContext& context)
     case menu_tag::kShowInFinder:
         return selected != nullptr;
     case menu_tag::kZoomIn:
-    case menu_tag::kRescan:
     case menu_tag::kIgnore:
         return isFolder;
+    case menu_tag::kRescan:
+        return context.hasTreeScreen && context.canRescan;
     case menu_tag::kCompress:
     case menu_tag::kMoveToTrash:
         return isFolder || isDocument;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QString>
+
 namespace tessera {
 
 /// What the user can ask to be done with the selected item of the tree screen.
@@ -24,6 +26,8 @@ public:
 
     /// Whether the command can be performed now; its menu entry is enabled accordingly.
     virtual bool validate(TreeCommand command) const = 0;
+    /// Why it cannot be performed now, a sentence for the user; empty when it can.
+    virtual QString whyNot(TreeCommand command) const = 0;
     virtual void perform(TreeCommand command) = 0;
 };
 

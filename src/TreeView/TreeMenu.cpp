@@ -64,6 +64,7 @@ void addEntry(QMenu& menu, const Entry& entry, TreeCommandTarget* target)
     QAction* action = menu.addAction(QCoreApplication::translate(kContext, entry.title));
     action->setEnabled(target != nullptr && target->validate(entry.command));
     if (target != nullptr) {
+        action->setToolTip(target->whyNot(entry.command));
         QObject::connect(action, &QAction::triggered, &menu, [target, command = entry.command] {
             target->perform(command);
         });
@@ -80,6 +81,8 @@ std::unique_ptr<QMenu> makeTreeMenu(const File& item, TreeCommandTarget* target)
     }
     auto menu = std::make_unique<QMenu>(
         QCoreApplication::translate(kContext, QT_TRANSLATE_NOOP("TreeMenu", "Contextual Menu")));
+    // Of disabled entries, whose tooltip says why they are.
+    menu->setToolTipsVisible(true);
     for (const Entry& entry : entries) {
         addEntry(*menu, entry, target);
     }

@@ -34,6 +34,7 @@ TreeViewController::TreeViewController(
     , m_rescan(services.scanEnvironment, treeView, services.alert, *this)
     , m_trasher(model, services.defaults, services.workspace, services.alert, *this)
     , m_preview(*this, treeView)
+    , m_note(&treeView)
 {
     setCurrentFolder(m_model.topFolder());
     observe();
@@ -150,10 +151,28 @@ void TreeViewController::trashItem()
     }
 }
 
+Folder* TreeViewController::folderToRescan() const
+{
+    return m_selectedFile == nullptr ? m_currentFolder : nodeCast<Folder>(m_selectedFile);
+}
+
+RescanObstacle TreeViewController::rescanObstacle() const
+{
+    if (m_rescan.rescanFolder() != nullptr) {
+        return RescanObstacle::AnotherRescan;
+    }
+    // A scan leaves mount points empty. That with the user's home has what a second scan found.
+    const Folder* const folder = folderToRescan();
+    const bool isMountPoint = folder != nullptr && folder->parent() != nullptr
+        && folder->children().empty()
+        && m_services.resourceValues.isMountPoint(folder->absolutePath());
+    return isMountPoint ? RescanObstacle::MountPoint : RescanObstacle::None;
+}
+
 void TreeViewController::refreshFolder()
 {
-    if (auto* const folder = nodeCast<Folder>(m_selectedFile)) {
-        rescanSelectedFolder(*folder);
+    if (validate(TreeCommand::Rescan)) {
+        rescanSelectedFolder(*folderToRescan());
         setSelectedFile(nullptr);
     }
 }
@@ -218,9 +237,30 @@ bool TreeViewController::validate(TreeCommand command) const
     case TreeCommand::Ignore:
         return isFolder;
     case TreeCommand::Rescan:
-        return isFolder && m_rescan.rescanFolder() == nullptr;
+        return folderToRescan() != nullptr && rescanObstacle() == RescanObstacle::None;
     }
     return false;
+}
+
+QString TreeViewController::whyNot(TreeCommand command) const
+{
+    return validate(command) ? QString()
+                             : command_hint::whyNot(command, folderToRescan(), rescanObstacle());
+}
+
+void TreeViewController::sayWhyNot(TreeCommand command)
+{
+    const QString why = whyNot(command);
+    if (!why.isEmpty()) {
+        m_note.say(why);
+    }
+}
+
+void TreeViewController::sayNothingIsAround()
+{
+    if (m_currentFolder != nullptr) {
+        m_note.say(command_hint::nothingAround(*m_currentFolder));
+    }
 }
 
 void TreeViewController::perform(TreeCommand command)
@@ -256,18 +296,43 @@ bool TreeViewController::keyDown(const QKeyEvent& event)
     if (!action) {
         return false;
     }
-    if (const auto* direction = std::get_if<Direction>(&*action)) {
+    // A key that is held down asks once, and is told once.
+    if (event.isAutoRepeat() && std::holds_alternative<TreeCommand>(*action)) {
+        return false;
+    }
+    const bool isDone = carryOut(*action);
+    if (!isDone && !event.isAutoRepeat()) {
+        sayWhyNot(*action);
+    }
+    return isDone;
+}
+
+bool TreeViewController::carryOut(const TreeKeyAction& action)
+{
+    if (const auto* direction = std::get_if<Direction>(&action)) {
         return moveSelection(*direction);
     }
-    if (const auto* command = std::get_if<TreeCommand>(&*action)) {
-        // A key that is held down asks once.
-        if (event.isAutoRepeat() || !validate(*command)) {
+    if (const auto* command = std::get_if<TreeCommand>(&action)) {
+        if (!validate(*command)) {
             return false;
         }
         perform(*command);
         return true;
     }
-    return std::get<TreeKey>(*action) == TreeKey::Open ? openSelected() : leaveFolder();
+    return std::get<TreeKey>(action) == TreeKey::Open ? openSelected() : leaveFolder();
+}
+
+void TreeViewController::sayWhyNot(const TreeKeyAction& action)
+{
+    if (const auto* command = std::get_if<TreeCommand>(&action)) {
+        sayWhyNot(*command);
+    } else if (const auto* key = std::get_if<TreeKey>(&action); key == nullptr) {
+        m_note.say(command_hint::noBoxThatWay());
+    } else if (*key == TreeKey::Open) {
+        sayWhyNot(TreeCommand::QuickLook);
+    } else {
+        sayNothingIsAround();
+    }
 }
 
 bool TreeViewController::moveSelection(Direction direction)
@@ -359,6 +424,7 @@ void TreeViewController::objectTreeRefreshed()
 void TreeViewController::renderTree()
 {
     m_treeView.removeAllBranches();
+    m_note.hide();
     const Rect bounds{
         0, 0, static_cast<double>(m_treeView.width()), static_cast<double>(m_treeView.height())};
     m_treeView.addBranch(renderFolder(m_currentFolder, bounds, nullptr, 0));

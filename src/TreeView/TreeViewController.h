@@ -4,11 +4,14 @@
 #include "Layout/Rect.h"
 #include "Model/Observation.h"
 #include "TreeView/BoxNavigation.h"
+#include "TreeView/CommandHint.h"
 #include "TreeView/FolderRescan.h"
 #include "TreeView/FolderZoom.h"
 #include "TreeView/ItemTrasher.h"
 #include "TreeView/SelectionPreview.h"
 #include "TreeView/TreeCommand.h"
+#include "TreeView/TreeKeys.h"
+#include "TreeView/TreeNote.h"
 #include "TreeView/TreeScreen.h"
 #include "TreeView/TreeViewServices.h"
 
@@ -65,8 +68,11 @@ public:
 
     /// Moves the selected item to the trash, after a warning where that is risky.
     void trashItem();
-    /// Scans the selected folder anew, in the background, and takes the selection away; nothing
-    /// when no folder is selected.
+    /// What refreshFolder() scans: the selected folder, or the one in view while nothing is
+    /// selected. Null for a selected file, and without a tree.
+    Folder* folderToRescan() const;
+    /// Scans folderToRescan() anew, in the background, and takes the selection away. Nothing when
+    /// validate() says so, nor for the scanned folder itself, which needs a scan.
     void refreshFolder();
     /// Does nothing while another rescan runs.
     void rescanSelectedFolder(Folder& folder) { m_rescan.rescan(folder); }
@@ -79,10 +85,17 @@ public:
     void compressItem();
 
     bool validate(TreeCommand command) const override;
+    QString whyNot(TreeCommand command) const override;
     void perform(TreeCommand command) override;
 
-    /// A key was pressed on the tree screen; false when it does nothing now.
+    /// A key was pressed on the tree screen; false when it does nothing now. Why not is said on
+    /// the picture.
     bool keyDown(const QKeyEvent& event);
+
+    /// Says on the picture, for a while, why the command cannot be performed now.
+    void sayWhyNot(TreeCommand command);
+    /// Likewise, why there is no way out of the folder in view.
+    void sayNothingIsAround();
 
     /// To be called when the disk has changed under the tree: a volume reads its sizes anew,
     /// or keeps them when its file system does not answer at once.
@@ -122,10 +135,14 @@ private:
     void doubleClickTreeItem();
     void itemCompressed(const Url& archive);
     void removeNodeAt(const Url& url);
+    void sayThatThereIsNoFileManager(const QString& itemName);
     void select(File* file);
+    RescanObstacle rescanObstacle() const;
     bool moveSelection(Direction direction);
     bool openSelected();
     bool leaveFolder();
+    bool carryOut(const TreeKeyAction& action);
+    void sayWhyNot(const TreeKeyAction& action);
 
     RootModel& m_model;
     TreeMapView& m_treeView;
@@ -134,6 +151,7 @@ private:
     FolderRescan m_rescan;
     ItemTrasher m_trasher;
     SelectionPreview m_preview;
+    TreeNote m_note;
     Folder* m_currentFolder = nullptr;
     File* m_selectedFile = nullptr;
     Observation m_clickObservation;

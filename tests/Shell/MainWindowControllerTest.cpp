@@ -7,8 +7,10 @@
 #include "TreeView/CenteredPathComponentCell.h"
 #include "TreeView/PathComponentButton.h"
 #include "TreeView/ToolbarPathControl.h"
+#include "TreeView/TreeNote.h"
 #include "support/becomesActive.h"
 
+#include <QKeySequence>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
@@ -51,6 +53,19 @@ protected:
         }
         ADD_FAILURE() << "no such action";
         return false;
+    }
+
+    void pressKeys(const char* keys) const
+    {
+        QTest::keySequence(
+            &controller->window(), QKeySequence::fromString(QString::fromLatin1(keys)));
+    }
+
+    /// What is said on the picture; empty while nothing is.
+    QString said() const
+    {
+        const auto* const note = controller->window().findChild<TreeNote*>();
+        return note != nullptr && note->isVisible() ? note->text() : QString();
     }
 
     static const ActionRow& rowOf(MainCommand command)
@@ -108,6 +123,86 @@ TEST_F(MainWindowControllerTest, TheCommandsFollowTheSelectionAtOnce)
     EXPECT_FALSE(isEnabled(MainCommand::Rescan));
     select("docs");
     EXPECT_TRUE(isEnabled(MainCommand::Rescan));
+}
+
+TEST_F(MainWindowControllerTest, RescanIsDisabledWhileOneRunsAndEnabledWhenItHasEnded)
+{
+    showTree();
+    select("docs");
+    controller->perform(MainCommand::Rescan);
+    EXPECT_FALSE(isEnabled(MainCommand::Rescan));
+    const File* const before = &test::at(*services.model.topFolder(), "docs");
+    services.treeScreen.mainThread.runUntil(
+        [&] { return &test::at(*services.model.topFolder(), "docs") != before; });
+    EXPECT_TRUE(isEnabled(MainCommand::Rescan));
+}
+
+TEST_F(MainWindowControllerTest, WithNothingSelectedRescanAtTheTopScansAllAgain)
+{
+    showTree();
+    services.screens.scanned.clear();
+    controller->perform(MainCommand::Rescan);
+    EXPECT_THAT(services.screens.scanned, ElementsAre("/data"));
+    EXPECT_EQ(controller->state(), ScreenState::Scanning);
+}
+
+TEST_F(MainWindowControllerTest, WithNothingSelectedRescanIsOfTheFolderInView)
+{
+    showTree();
+    zoomIntoDocs();
+    services.screens.scanned.clear();
+    controller->perform(MainCommand::Rescan);
+    EXPECT_THAT(services.screens.scanned, IsEmpty());
+    EXPECT_TRUE(test::at(*services.model.topFolder(), "docs").rescanning());
+    const File* const before = &test::at(*services.model.topFolder(), "docs");
+    services.treeScreen.mainThread.runUntil(
+        [&] { return &test::at(*services.model.topFolder(), "docs") != before; });
+}
+
+TEST_F(MainWindowControllerTest, WhileAFolderIsRescannedNothingElseIs)
+{
+    showTree();
+    select("docs");
+    controller->perform(MainCommand::Rescan);
+    services.screens.scanned.clear();
+    controller->perform(MainCommand::Rescan);
+    EXPECT_THAT(services.screens.scanned, IsEmpty());
+    EXPECT_EQ(controller->state(), ScreenState::Tree);
+    const File* const before = &test::at(*services.model.topFolder(), "docs");
+    services.treeScreen.mainThread.runUntil(
+        [&] { return &test::at(*services.model.topFolder(), "docs") != before; });
+}
+
+TEST_F(MainWindowControllerTest, WithAFileSelectedRescanDoesNothingAndSaysWhy)
+{
+    showTree();
+    controller->window().activateWindow();
+    ASSERT_TRUE(test::becomesActive(controller->window()));
+    select("c");
+    services.screens.scanned.clear();
+    pressKeys("F5");
+    EXPECT_THAT(services.screens.scanned, IsEmpty());
+    EXPECT_TRUE(said().startsWith(QStringLiteral("Only folders can be scanned again.")));
+}
+
+TEST_F(MainWindowControllerTest, TheShortcutsOfDisabledCommandsSayWhyTheyDoNothing)
+{
+    showTree();
+    controller->window().activateWindow();
+    ASSERT_TRUE(test::becomesActive(controller->window()));
+    for (const char* keys : {"Ctrl+Y", "Ctrl+Shift+R", "Ctrl+Shift+C", "Ctrl+Del"}) {
+        controller->treeVC()->renderTree();
+        pressKeys(keys);
+        EXPECT_EQ(said(), QStringLiteral("Select a file or a folder first.")) << keys;
+    }
+    for (const char* keys : {"Ctrl+I", "Ctrl++", "Alt+Down"}) {
+        controller->treeVC()->renderTree();
+        pressKeys(keys);
+        EXPECT_EQ(said(), QStringLiteral("Select a folder first.")) << keys;
+    }
+    controller->treeVC()->renderTree();
+    pressKeys("Alt+Up");
+    EXPECT_TRUE(said().startsWith(QStringLiteral("'data' is all that was scanned.")));
 }
 
 TEST_F(MainWindowControllerTest, TheWayHomeIsDisabledOnTheHomeScreen)

@@ -37,6 +37,13 @@ MenuContext treeWith(const File* selected)
     return {false, true, true, selected};
 }
 
+MenuContext whereRescanIsPossible(const MenuContext& context)
+{
+    MenuContext result = context;
+    result.canRescan = true;
+    return result;
+}
+
 TEST(MenuValidation, OnTheHomeScreenNoCommandOfTheTreeIsEnabled)
 {
     EXPECT_THAT(enabledTags({true, false, true, nullptr}), IsEmpty());
@@ -65,18 +72,18 @@ TEST(MenuValidation, ZoomOutIsDisabledWhileTheRootIsInView)
     EXPECT_TRUE(validateMenuItem(31, {false, true, false, nullptr}));
 }
 
-TEST(MenuValidation, ASelectedFolderEnablesEverything)
+TEST(MenuValidation, ASelectedFolderEnablesAllElseThatActsOnItems)
 {
     const auto folder = makeNode<Folder>("docs");
-    EXPECT_THAT(enabledTags(treeWith(folder.get())), ElementsAre(32, 33, 34, 35, 36, 37, 38, 41));
+    EXPECT_THAT(enabledTags(treeWith(folder.get())), ElementsAre(32, 33, 34, 36, 37, 38, 41));
 }
 
 TEST(MenuValidation, TheRootsOfScansAreFoldersToo)
 {
     const auto top = makeNode<TopFolder>("top");
     const auto volume = makeNode<Volume>("disk");
-    EXPECT_THAT(enabledTags(treeWith(top.get())), ElementsAre(32, 33, 34, 35, 36, 37, 38, 41));
-    EXPECT_THAT(enabledTags(treeWith(volume.get())), ElementsAre(32, 33, 34, 35, 36, 37, 38, 41));
+    EXPECT_THAT(enabledTags(treeWith(top.get())), ElementsAre(32, 33, 34, 36, 37, 38, 41));
+    EXPECT_THAT(enabledTags(treeWith(volume.get())), ElementsAre(32, 33, 34, 36, 37, 38, 41));
 }
 
 TEST(MenuValidation, ASelectedDocumentEnablesWhatNeedsNoFolder)
@@ -93,6 +100,15 @@ TEST(MenuValidation, BoxesThatStandForNoItemEnableQuickLookAndShowInFinderOnly)
     EXPECT_THAT(enabledTags(treeWith(freeSpace.get())), ElementsAre(33, 34, 41));
     EXPECT_THAT(enabledTags(treeWith(unknown.get())), ElementsAre(33, 34, 41));
     EXPECT_THAT(enabledTags(treeWith(timeMachine.get())), ElementsAre(33, 34, 41));
+}
+
+TEST(MenuValidation, RescanIsEnabledWhenTheTreeScreenSaysSo)
+{
+    const auto folder = makeNode<Folder>("docs");
+    EXPECT_FALSE(validateMenuItem(35, treeWith(folder.get())));
+    EXPECT_TRUE(validateMenuItem(35, whereRescanIsPossible(treeWith(folder.get()))));
+    EXPECT_TRUE(validateMenuItem(35, whereRescanIsPossible(treeWith(nullptr))));
+    EXPECT_FALSE(validateMenuItem(35, whereRescanIsPossible({true, false, true, folder.get()})));
 }
 
 TEST(MenuValidation, OtherEntriesAreAlwaysEnabled)

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "TreeView/FolderRescan.h"
 
+#include "Model/NotificationCenter.h"
 #include "Model/RootModel.h"
+#include "Model/nodeLookup.h"
 #include "TreeView/TreeMapView.h"
 #include "TreeView/TreeViewController.h"
 #include "support/FakeRootModelServices.h"
@@ -10,7 +12,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <atomic>
+#include <cstdint>
 #include <limits>
 #include <memory>
 #include <string>
@@ -67,6 +71,23 @@ protected:
 
     const RescanIndicator* indicator() const { return view.findChild<RescanIndicator*>(); }
     bool isRescanning() const { return !controller->validate(TreeCommand::Rescan); }
+
+    /// Moves the item to a trash outside the tree.
+    void trash(std::string_view path) { trashTo(path, "/trash/item"); }
+    void trashTo(std::string_view path, std::string_view to)
+    {
+        const Url url = node(path).url();
+        controller->setSelectedFile(&node(path));
+        controller->trashItem();
+        RecycleResult result;
+        result.newUrls[url.absoluteString()] = Url(to, url.isDirectory());
+        ASSERT_TRUE(services.workspace.finishRecycling(result));
+    }
+
+    bool has(std::string_view path)
+    {
+        return nodeAtPath(*model.topFolder(), "/data/" + std::string(path)) != nullptr;
+    }
 
     void finish()
     {
@@ -158,7 +179,7 @@ TEST_F(FolderRescanTest, TakesTheSelectionAway)
     finish();
 }
 
-TEST_F(FolderRescanTest, NothingHappensWithoutASelectedFolder)
+TEST_F(FolderRescanTest, NothingHappensToAFileOrTheScannedFolder)
 {
     controller->refreshFolder();
     controller->setSelectedFile(&node("docs/a"));
@@ -175,6 +196,213 @@ TEST_F(FolderRescanTest, ASecondRequestMeanwhileIsIgnored)
     finish();
     EXPECT_EQ(services.files.enumeratedPaths().size(), 2U);
     EXPECT_EQ(node("other").totalAllocation(), 600U);
+}
+
+TEST_F(FolderRescanTest, ASecondRequestMeanwhileKeepsTheSelectionAndItsLook)
+{
+    rescan("docs");
+    controller->setSelectedFile(&node("other"));
+    controller->renderTree();
+    const QImage selected = view.picture().copy();
+    controller->refreshFolder();
+    EXPECT_EQ(controller->selectedFile(), &node("other"));
+    EXPECT_EQ(view.picture(), selected);
+    finish();
+}
+
+TEST_F(FolderRescanTest, WithNothingSelectedItIsOfTheFolderInView)
+{
+    goTo("docs");
+    controller->refreshFolder();
+    EXPECT_TRUE(folder("docs").rescanning());
+    finish();
+    EXPECT_EQ(controller->currentFolder(), &folder("docs"));
+    EXPECT_TRUE(has("docs/new/b"));
+}
+
+TEST_F(FolderRescanTest, ABarCrossesTheViewWhileTheFolderInViewIsRescanned)
+{
+    goTo("docs");
+    controller->refreshFolder();
+    ASSERT_NE(indicator(), nullptr);
+    EXPECT_EQ(indicator()->geometry(), QRect(10, 10, 380, 280));
+    finish();
+}
+
+TEST_F(FolderRescanTest, TheNewTreeKeepsTheFoldersColour)
+{
+    for (const std::uint8_t hue : std::array<std::uint8_t, 3>{1, 2, 6}) {
+        folder("docs").setHue(hue);
+        rescan("docs");
+        finish();
+        EXPECT_EQ(folder("docs").hue(), hue);
+    }
+}
+
+TEST_F(FolderRescanTest, WhatIsTrashedMeanwhileIsNotInTheNewTree)
+{
+    rescan("docs");
+    trash("docs/a");
+    finish();
+    EXPECT_FALSE(has("docs/a"));
+    EXPECT_EQ(node("docs").totalAllocation(), 100U);
+    EXPECT_EQ(model.topFolder()->totalAllocation(), 701U);
+}
+
+TEST_F(FolderRescanTest, AFolderTrashedAfterAnItemInItIsNotInTheNewTree)
+{
+    folder("docs").insertChild(test::makeTree("/data/docs/new", "b:100 c:1"));
+    rescan("docs");
+    trash("docs/new/b");
+    trash("docs/new");
+    finish();
+    EXPECT_FALSE(has("docs/new"));
+    EXPECT_EQ(node("docs").totalAllocation(), 900U);
+}
+
+TEST_F(FolderRescanTest, WhatIsTrashedBesideTheFolderMeanwhileChangesNothingInIt)
+{
+    rescan("docs");
+    trash("other/o");
+    finish();
+    EXPECT_FALSE(has("other/o"));
+    EXPECT_EQ(node("docs").totalAllocation(), 1000U);
+}
+
+TEST_F(FolderRescanTest, AnArchiveThatComesMeanwhileIsInTheNewTree)
+{
+    services.resourceValues.size = 4096;
+    rescan("docs");
+    NotificationCenter::defaultCenter().post("ItemCompressed", Url("/data/docs/x.zip", false));
+    finish();
+    EXPECT_EQ(node("docs/x.zip").totalAllocation(), 4096U);
+    EXPECT_EQ(node("docs").totalAllocation(), 5096U);
+    EXPECT_EQ(model.topFolder()->totalAllocation(), 5697U);
+}
+
+TEST_F(FolderRescanTest, AnArchiveThatWasReadHalfWrittenHasItsWholeSize)
+{
+    services.resourceValues.size = 4096;
+    rescan("docs");
+    NotificationCenter::defaultCenter().post("ItemCompressed", Url("/data/docs/a", false));
+    finish();
+    EXPECT_EQ(node("docs/a").totalAllocation(), 4096U);
+    EXPECT_EQ(node("docs").totalAllocation(), 4196U);
+}
+
+TEST_F(FolderRescanTest, AnArchiveInAFolderThatVanishedIsInNoTree)
+{
+    services.resourceValues.size = 4096;
+    rescan("docs");
+    NotificationCenter::defaultCenter().post("ItemCompressed", Url("/data/docs/gone/x.zip", false));
+    controller->setSelectedFile(&node("docs/gone/x.zip"));
+    finish();
+    EXPECT_FALSE(has("docs/gone"));
+    EXPECT_EQ(controller->selectedFile(), nullptr);
+    EXPECT_EQ(node("docs").totalAllocation(), 1000U);
+}
+
+TEST_F(FolderRescanTest, WhatMovesIntoTheFolderMeanwhileIsInTheNewTreeAndStaysSelected)
+{
+    rescan("docs");
+    trashTo("other/o", "/data/docs/o 2");
+    controller->setSelectedFile(&node("docs/o 2"));
+    finish();
+    EXPECT_EQ(node("docs/o 2").totalAllocation(), 600U);
+    EXPECT_EQ(node("docs").totalAllocation(), 1600U);
+    EXPECT_EQ(model.topFolder()->totalAllocation(), 1601U);
+    EXPECT_EQ(controller->selectedFile(), &node("docs/o 2"));
+}
+
+TEST_F(FolderRescanTest, TheNextRescanKnowsNothingOfWhatLeftDuringTheOneBefore)
+{
+    rescan("docs");
+    trash("docs/a");
+    finish();
+    rescan("docs");
+    finish();
+    EXPECT_TRUE(has("docs/a"));
+}
+
+TEST_F(FolderRescanTest, AnEmptyMountPointIsNotRescanned)
+{
+    folder("other").removeChild(node("other/o"));
+    services.resourceValues.mountPoints = {"/data/other"};
+    controller->setSelectedFile(&node("other"));
+    EXPECT_FALSE(controller->validate(TreeCommand::Rescan));
+    controller->refreshFolder();
+    EXPECT_FALSE(folder("other").rescanning());
+    EXPECT_TRUE(controller->whyNot(TreeCommand::Rescan)
+                    .startsWith(QStringLiteral("A disk is mounted at 'other'.")));
+}
+
+TEST_F(FolderRescanTest, AMountPointThatASecondScanFilledIsRescanned)
+{
+    services.resourceValues.mountPoints = {"/data/docs"};
+    controller->setSelectedFile(&node("docs"));
+    EXPECT_TRUE(controller->validate(TreeCommand::Rescan));
+}
+
+TEST_F(FolderRescanTest, AnEmptyFolderIsRescanned)
+{
+    folder("other").removeChild(node("other/o"));
+    controller->setSelectedFile(&node("other"));
+    EXPECT_TRUE(controller->validate(TreeCommand::Rescan));
+}
+
+TEST_F(FolderRescanTest, TheScannedFolderMayBeAMountPoint)
+{
+    model.setTopFolder(test::makeTree("/data", ""));
+    services.resourceValues.mountPoints = {"/data"};
+    controller = std::make_unique<TreeViewController>(model, view, services.get());
+    EXPECT_TRUE(controller->validate(TreeCommand::Rescan));
+}
+
+TEST_F(FolderRescanTest, WhileOneRunsThereIsAReasonAgainstAnother)
+{
+    rescan("docs");
+    controller->setSelectedFile(&node("other"));
+    EXPECT_TRUE(controller->whyNot(TreeCommand::Rescan)
+                    .startsWith(QStringLiteral("A rescan is running already.")));
+    finish();
+    EXPECT_EQ(controller->whyNot(TreeCommand::Rescan), QString());
+}
+
+TEST_F(FolderRescanTest, TheBarHidesDuringAZoom)
+{
+    rescan("docs");
+    controller->zoomInFolder(folder("other"));
+    ASSERT_TRUE(view.isZooming());
+    EXPECT_FALSE(indicator()->isVisibleTo(&view));
+    controller->zoomOutFolder(*model.topFolder());
+    ASSERT_TRUE(view.isZooming());
+    EXPECT_FALSE(indicator()->isVisibleTo(&view));
+    controller->animationDidStop();
+    EXPECT_TRUE(indicator()->isVisibleTo(&view));
+    finish();
+}
+
+TEST_F(FolderRescanTest, ARescanThatEndsDuringAZoomOutShowsTheNewTreeAtOnce)
+{
+    rescan("docs");
+    goTo("other");
+    controller->zoomOutFolder(*model.topFolder());
+    ASSERT_TRUE(view.isZooming());
+    finish();
+    EXPECT_FALSE(view.isZooming());
+    EXPECT_TRUE(view.findRectForFile(node("docs")).has_value());
+    EXPECT_EQ(view.branches().size(), 1U);
+}
+
+TEST_F(FolderRescanTest, ARescanThatBeginsDuringAZoomOutEndsTheZoom)
+{
+    goTo("other");
+    controller->zoomOutFolder(*model.topFolder());
+    controller->rescanSelectedFolder(folder("docs"));
+    EXPECT_FALSE(view.isZooming());
+    EXPECT_EQ(view.branches().size(), 1U);
+    EXPECT_TRUE(indicator()->isVisibleTo(&view));
+    finish();
 }
 
 TEST_F(FolderRescanTest, AnotherCanFollow)

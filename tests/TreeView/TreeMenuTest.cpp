@@ -20,6 +20,10 @@ namespace {
 class FakeTarget final : public TreeCommandTarget {
 public:
     bool validate(TreeCommand command) const override { return command != TreeCommand::ZoomIn; }
+    QString whyNot(TreeCommand command) const override
+    {
+        return validate(command) ? QString() : QStringLiteral("Not now.");
+    }
     void perform(TreeCommand command) override { performed = command; }
 
     std::optional<TreeCommand> performed;
@@ -84,6 +88,14 @@ TEST(TreeMenu, EnablesWhatItsTargetValidates)
     const auto menu = makeTreeMenu(*makeNode<Folder>("a"), &target);
     EXPECT_FALSE(action(*menu, QStringLiteral("Zoom In"))->isEnabled());
     EXPECT_TRUE(action(*menu, QStringLiteral("Rescan"))->isEnabled());
+}
+
+TEST(TreeMenu, ADisabledEntrySaysWhyInItsTooltip)
+{
+    FakeTarget target;
+    const auto menu = makeTreeMenu(*makeNode<Folder>("a"), &target);
+    EXPECT_TRUE(menu->toolTipsVisible());
+    EXPECT_EQ(action(*menu, QStringLiteral("Zoom In"))->toolTip(), QStringLiteral("Not now."));
 }
 
 TEST(TreeMenu, PerformsTheCommandsOfItsEntries)

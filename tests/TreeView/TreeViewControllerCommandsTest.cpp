@@ -54,6 +54,13 @@ protected:
 
     bool canDo(TreeCommand command) const { return controller->validate(command); }
 
+    /// What is said on the picture; empty while nothing is.
+    QString said() const
+    {
+        const auto* const note = view.findChild<TreeNote*>();
+        return note->isVisible() ? note->text() : QString();
+    }
+
     test::FakeRootModelServices modelServices;
     RootModel model{modelServices.get()};
     test::FakeTreeViewServices services;
@@ -62,13 +69,14 @@ protected:
     std::unique_ptr<TreeViewController> controller;
 };
 
-TEST_F(TreeViewControllerCommandsTest, WithoutASelectionNoCommandMakesSense)
+TEST_F(TreeViewControllerCommandsTest, WithoutASelectionNoCommandButRescanMakesSense)
 {
+    EXPECT_TRUE(canDo(TreeCommand::Rescan));
     for (const TreeCommand command :
          {TreeCommand::QuickLook,
           TreeCommand::ShowInFinder,
           TreeCommand::ZoomIn,
-          TreeCommand::Rescan,
+          TreeCommand::Ignore,
           TreeCommand::Compress,
           TreeCommand::MoveToTrash}) {
         EXPECT_FALSE(canDo(command));
@@ -319,6 +327,71 @@ TEST_F(TreeViewControllerCommandsTest, KeysWithModifiersAreLeftToOthers)
     EXPECT_FALSE(press(Qt::Key_Delete, Qt::ShiftModifier));
     EXPECT_FALSE(press(Qt::Key_Left, Qt::AltModifier));
     EXPECT_FALSE(press(Qt::Key_A));
+}
+
+TEST_F(TreeViewControllerCommandsTest, AKeyThatNeedsASelectionSaysSo)
+{
+    for (const Qt::Key key : {Qt::Key_Delete, Qt::Key_Space, Qt::Key_Return}) {
+        controller->renderTree();
+        ASSERT_EQ(said(), QString());
+        press(key);
+        EXPECT_EQ(said(), QStringLiteral("Select a file or a folder first."));
+    }
+}
+
+TEST_F(TreeViewControllerCommandsTest, AWayOutThatIsNoneSaysSo)
+{
+    press(Qt::Key_Escape);
+    EXPECT_EQ(
+        said(),
+        QStringLiteral("'data' is all that was scanned. There is no folder around it here."));
+}
+
+TEST_F(TreeViewControllerCommandsTest, AnArrowThatLeadsNowhereSaysSo)
+{
+    press(Qt::Key_Right);
+    ASSERT_EQ(said(), QString());
+    press(Qt::Key_Left);
+    EXPECT_EQ(said(), QStringLiteral("There is no box that way."));
+    EXPECT_EQ(controller->selectedFile(), &node("docs"));
+}
+
+TEST_F(TreeViewControllerCommandsTest, AKeyThatIsHeldDownSaysItOnce)
+{
+    press(Qt::Key_Right);
+    const QKeyEvent held(QEvent::KeyPress, Qt::Key_Left, Qt::NoModifier, QString(), true);
+    controller->keyDown(held);
+    EXPECT_EQ(said(), QString());
+}
+
+TEST_F(TreeViewControllerCommandsTest, WhatWasSaidGoesWithTheNextPicture)
+{
+    press(Qt::Key_Delete);
+    ASSERT_NE(said(), QString());
+    press(Qt::Key_Right);
+    EXPECT_EQ(said(), QString());
+}
+
+TEST_F(TreeViewControllerCommandsTest, KeysOfOthersSayNothing)
+{
+    press(Qt::Key_A);
+    press(Qt::Key_Delete, Qt::ShiftModifier);
+    EXPECT_EQ(said(), QString());
+}
+
+TEST_F(TreeViewControllerCommandsTest, EachCommandHasItsReason)
+{
+    const QString anything = QStringLiteral("Select a file or a folder first.");
+    const QString folder = QStringLiteral("Select a folder first.");
+    EXPECT_EQ(controller->whyNot(TreeCommand::ShowInFinder), anything);
+    EXPECT_EQ(controller->whyNot(TreeCommand::Compress), anything);
+    EXPECT_EQ(controller->whyNot(TreeCommand::ZoomIn), folder);
+    EXPECT_EQ(controller->whyNot(TreeCommand::Ignore), folder);
+    select("docs/a");
+    EXPECT_EQ(controller->whyNot(TreeCommand::ShowInFinder), QString());
+    EXPECT_EQ(controller->whyNot(TreeCommand::ZoomIn), folder);
+    EXPECT_TRUE(controller->whyNot(TreeCommand::Rescan)
+                    .startsWith(QStringLiteral("Only folders can be scanned again.")));
 }
 
 TEST_F(TreeViewControllerCommandsTest, TheViewPassesItsKeysOn)
