@@ -12,6 +12,7 @@
 
 #include <QApplication>
 #include <QMainWindow>
+#include <QPointer>
 #include <QThread>
 
 #include <optional>
@@ -139,13 +140,21 @@ void AppDelegate::showHelpItem(int tag)
     if (!page) {
         return;
     }
-    const TreeViewServices& desktop = m_services.mainWindow.treeScreen;
-    if (!desktop.workspace.openUrl(m_services.helpAddress(*page))) {
-        desktop.alert.beginSheet(
-            {tr("The help cannot be shown"),
-             tr("Either its pages are not installed or the desktop offers no web browser."),
-             {tr("OK")}});
-    }
+    Workspace& workspace = m_services.mainWindow.treeScreen.workspace;
+    workspace.openUrl(
+        m_services.helpAddress(*page), [self = QPointer<AppDelegate>(this)](bool isOpened) {
+            if (self != nullptr && !isOpened) {
+                self->sayThatThereIsNoHelp();
+            }
+        });
+}
+
+void AppDelegate::sayThatThereIsNoHelp()
+{
+    m_services.mainWindow.treeScreen.alert.beginSheet(
+        {tr("The help cannot be shown"),
+         tr("Either its pages are not installed or the desktop offers no web browser."),
+         {tr("OK")}});
 }
 
 } // namespace tessera

@@ -69,6 +69,7 @@ public:
 
 private:
     void openWaiting();
+    void sayThatThereIsNoHelp();
 
     const AppDelegateServices m_services;
     std::unique_ptr<MainWindowController> m_mainWindow;

@@ -18,6 +18,7 @@
 #include "Utils/Util.h"
 
 #include <QKeyEvent>
+#include <QPointer>
 
 #include <optional>
 #include <utility>
@@ -191,14 +192,26 @@ Folder* TreeViewController::locateParent(const Url& url) const
 
 void TreeViewController::showInFinder()
 {
-    if (m_selectedFile != nullptr
-        && !Util::revealInFinder(m_selectedFile->url(), m_services.workspace)) {
-        m_services.alert.beginSheet(
-            {tr("There is no file manager"),
-             tr("'%1' cannot be shown, because the desktop offers no program for that.")
-                 .arg(displayText(m_selectedFile->name())),
-             {tr("OK")}});
+    if (m_selectedFile == nullptr) {
+        return;
     }
+    const QString name = displayText(m_selectedFile->name());
+    Util::revealInFinder(
+        m_selectedFile->url(),
+        m_services.workspace,
+        [self = QPointer<TreeViewController>(this), name](bool isShown) {
+            if (self != nullptr && !isShown) {
+                self->sayThatThereIsNoFileManager(name);
+            }
+        });
+}
+
+void TreeViewController::sayThatThereIsNoFileManager(const QString& itemName)
+{
+    m_services.alert.beginSheet(
+        {tr("There is no file manager"),
+         tr("'%1' cannot be shown, because the desktop offers no program for that.").arg(itemName),
+         {tr("OK")}});
 }
 
 void TreeViewController::compressItem()

@@ -167,9 +167,10 @@ double CoreUtil::aspectRatio(double width, double height)
     return width > height ? width / height : height / width;
 }
 
-bool CoreUtil::revealInFinder(const Url& url, Workspace& workspace)
+void CoreUtil::revealInFinder(
+    const Url& url, Workspace& workspace, OpenCompletion completionHandler)
 {
-    return url.isDirectory() ? workspace.openUrl(url.absoluteString()) : workspace.reveal(url);
+    workspace.reveal(url, std::move(completionHandler));
 }
 
 void CoreUtil::saveFolderToRecents(

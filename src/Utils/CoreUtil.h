@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 namespace tessera {
@@ -38,9 +39,10 @@ public:
     /// The larger side divided by the smaller.
     static double aspectRatio(double width, double height);
 
-    /// Opens a directory in the file viewer; any other item is selected there, in its folder.
-    /// False when the desktop could not be asked.
-    [[nodiscard]] static bool revealInFinder(const Url& url, Workspace& workspace);
+    /// Opens a directory in the file viewer; any other item is selected there, in its folder. The
+    /// completion handler hears whether a file viewer took it, as Workspace::reveal() says.
+    static void revealInFinder(
+        const Url& url, Workspace& workspace, std::function<void(bool isShown)> completionHandler);
 
     /// Puts the folder in front of the stored recent scans and of the desktop's recent documents.
     static void saveFolderToRecents(

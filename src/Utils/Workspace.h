@@ -20,6 +20,9 @@ struct RecycleResult {
 
 using RecycleCompletion = std::function<void(const RecycleResult&)>;
 
+/// Hears whether a program opened what it was to open.
+using OpenCompletion = std::function<void(bool isOpened)>;
+
 /// What the desktop does for a program: opening and showing things in other programs, and the
 /// trash. No operation waits until it is done. Main thread only.
 class Workspace {
@@ -29,13 +32,14 @@ public:
     Workspace& operator=(const Workspace&) = delete;
     virtual ~Workspace() = default;
 
-    /// Opens a web or file URL in the program that the user chose for it: a folder's in the file
-    /// viewer. False when no such program could be started.
-    [[nodiscard]] virtual bool openUrl(const std::string& absoluteUrl) = 0;
+    /// Opens a web or file URL in the program that the user chose for it. The completion handler
+    /// hears whether that worked, on the main thread, before or after the call has returned; not
+    /// when the workspace is gone by then.
+    virtual void openUrl(const std::string& absoluteUrl, OpenCompletion completionHandler) = 0;
 
-    /// Opens the folder that holds the item in the file viewer and selects the item there. False
-    /// when the desktop could not be asked.
-    [[nodiscard]] virtual bool reveal(const Url& item) = 0;
+    /// Shows an item in the file viewer: opens a directory; opens the folder that holds any other
+    /// item, and selects the item. The completion handler is called likewise.
+    virtual void reveal(const Url& item, OpenCompletion completionHandler) = 0;
 
     /// Moves the items to the trash, one after the other; one that cannot be moved stays where it
     /// is and does not stop the others. The completion handler is called later, on the main thread;

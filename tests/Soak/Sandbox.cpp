@@ -62,11 +62,14 @@ public:
     {
     }
 
-    bool openUrl(const std::string& absoluteUrl) override
+    void openUrl(const std::string& absoluteUrl, OpenCompletion completionHandler) override
     {
-        return m_workspace->openUrl(absoluteUrl);
+        m_workspace->openUrl(absoluteUrl, std::move(completionHandler));
     }
-    bool reveal(const Url& item) override { return m_workspace->reveal(item); }
+    void reveal(const Url& item, OpenCompletion completionHandler) override
+    {
+        m_workspace->reveal(item, std::move(completionHandler));
+    }
 
     void recycleURLs(std::vector<Url> urls, RecycleCompletion completionHandler) override
     {

@@ -109,6 +109,27 @@ TEST_F(TreeViewControllerCommandsTest, SaysWhenThereIsNoFileManager)
     EXPECT_EQ(services.alert.told.size(), 1U);
 }
 
+TEST_F(TreeViewControllerCommandsTest, SaysSoAlsoWhenThatIsKnownLater)
+{
+    services.workspace.answersLater = true;
+    select("docs");
+    controller->perform(TreeCommand::ShowInFinder);
+    ASSERT_TRUE(services.alert.told.empty());
+    services.workspace.lateAnswer(false);
+    ASSERT_EQ(services.alert.told.size(), 1U);
+    EXPECT_TRUE(services.alert.told[0].informativeText.contains(QStringLiteral("'docs'")));
+}
+
+TEST_F(TreeViewControllerCommandsTest, NobodyIsToldWhenTheScreenIsGoneByThen)
+{
+    services.workspace.answersLater = true;
+    select("docs");
+    controller->perform(TreeCommand::ShowInFinder);
+    controller.reset();
+    services.workspace.lateAnswer(false);
+    EXPECT_TRUE(services.alert.told.empty());
+}
+
 TEST_F(TreeViewControllerCommandsTest, MovesTheSelectedItemToTheTrash)
 {
     select("c\xFF");

@@ -14,6 +14,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <optional>
 #include <utility>
 
 namespace tessera {
@@ -253,28 +254,24 @@ TEST(RealUserDeathTest, AMissingEntryStopsTheProcess)
         (void)CoreUtil::realHomeDirectory(account), "\\(pw\\), function realHomeDirectory");
 }
 
-TEST(RevealInFinder, ADirectoryIsOpened)
+TEST(RevealInFinder, AsksTheDesktopForDirectoriesAndForOtherItems)
 {
     test::FakeWorkspace workspace;
-    EXPECT_TRUE(CoreUtil::revealInFinder(Url("/data/a b", true), workspace));
-    EXPECT_THAT(workspace.opened, testing::ElementsAre("file:///data/a%20b/"));
-    EXPECT_THAT(workspace.revealed, testing::IsEmpty());
-}
-
-TEST(RevealInFinder, AnyOtherItemIsSelectedInItsFolder)
-{
-    test::FakeWorkspace workspace;
-    EXPECT_TRUE(CoreUtil::revealInFinder(Url("/data/a\xFF", false), workspace));
-    EXPECT_THAT(workspace.opened, testing::IsEmpty());
-    EXPECT_THAT(workspace.revealed, testing::ElementsAre("/data/a\xFF"));
+    CoreUtil::revealInFinder(Url("/data/a b", true), workspace, [](bool) {});
+    CoreUtil::revealInFinder(Url("/data/a\xFF", false), workspace, [](bool) {});
+    EXPECT_THAT(workspace.revealed, testing::ElementsAre("/data/a b", "/data/a\xFF"));
 }
 
 TEST(RevealInFinder, GivesTheDesktopsAnswer)
 {
-    test::FakeWorkspace workspace;
-    workspace.answer = false;
-    EXPECT_FALSE(CoreUtil::revealInFinder(Url("/data", true), workspace));
-    EXPECT_FALSE(CoreUtil::revealInFinder(Url("/data/a", false), workspace));
+    for (const bool answer : {true, false}) {
+        test::FakeWorkspace workspace;
+        workspace.answer = answer;
+        std::optional<bool> isShown;
+        CoreUtil::revealInFinder(
+            Url("/data", true), workspace, [&isShown](bool given) { isShown = given; });
+        EXPECT_EQ(isShown, answer);
+    }
 }
 
 } // namespace

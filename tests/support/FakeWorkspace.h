@@ -14,16 +14,20 @@ namespace tessera::test {
 /// A desktop that writes down what it is asked for.
 class FakeWorkspace final : public Workspace {
 public:
-    [[nodiscard]] bool openUrl(const std::string& absoluteUrl) override
+    void openUrl(const std::string& absoluteUrl, OpenCompletion completionHandler) override
     {
         opened.push_back(absoluteUrl);
-        return answer;
+        completionHandler(answer);
     }
 
-    [[nodiscard]] bool reveal(const Url& item) override
+    void reveal(const Url& item, OpenCompletion completionHandler) override
     {
         revealed.push_back(item.path());
-        return answer;
+        if (answersLater) {
+            lateAnswer = std::move(completionHandler);
+        } else {
+            completionHandler(answer);
+        }
     }
 
     void recycleURLs(std::vector<Url> urls, RecycleCompletion completionHandler) override
@@ -45,6 +49,8 @@ public:
     }
 
     bool answer = true;
+    bool answersLater = false; ///< by lateAnswer, when an item is to be shown
+    OpenCompletion lateAnswer;
     std::vector<std::string> opened;
     std::vector<std::string> revealed;
     std::vector<std::vector<Url>> recycled; ///< the items of each call

@@ -2,13 +2,14 @@
 #include "Platform/Linux/DBusWorkspace.h"
 
 #include "Model/Url.h"
+#include "Platform/Linux/ExternalOpener.h"
 #include "Platform/Linux/FreedesktopTrash.h"
 
 #include <QDBusMessage>
 #include <QDBusPendingCall>
 #include <QDBusPendingCallWatcher>
 #include <QObject>
-#include <QProcess>
+#include <QPointer>
 #include <QStringList>
 
 #include <algorithm>
@@ -19,12 +20,6 @@
 namespace tessera {
 
 namespace {
-
-bool startXdgOpen(const std::string& absoluteUrl)
-{
-    return QProcess::startDetached(
-        QStringLiteral("xdg-open"), {QString::fromStdString(absoluteUrl)});
-}
 
 bool isOpenable(std::string_view absoluteUrl)
 {
@@ -44,13 +39,13 @@ std::string parentUrl(const Url& item)
 }
 
 /// https://www.freedesktop.org/wiki/Specifications/file-manager-interface/
-QDBusMessage showItems(const Url& item)
+QDBusMessage showRequest(const Url& item)
 {
     QDBusMessage message = QDBusMessage::createMethodCall(
         QStringLiteral("org.freedesktop.FileManager1"),
         QStringLiteral("/org/freedesktop/FileManager1"),
         QStringLiteral("org.freedesktop.FileManager1"),
-        QStringLiteral("ShowItems"));
+        item.isDirectory() ? QStringLiteral("ShowFolders") : QStringLiteral("ShowItems"));
     const QStringList urls{QString::fromStdString(item.absoluteString())};
     const QString noStartupId;
     message << urls << noStartupId;
@@ -62,7 +57,7 @@ QDBusMessage showItems(const Url& item)
 DBusWorkspace::DBusWorkspace(QDBusConnection bus, MainThread& mainThread)
     : DBusWorkspace(
         std::move(bus),
-        startXdgOpen,
+        ExternalOpener("xdg-open"),
         mainThread,
         [trash = FreedesktopTrash(TrashUser::current())](const std::vector<Url>& urls) {
             return trash.recycle(urls);
@@ -81,34 +76,49 @@ DBusWorkspace::DBusWorkspace(
 
 DBusWorkspace::~DBusWorkspace() = default;
 
-bool DBusWorkspace::openUrl(const std::string& absoluteUrl)
+void DBusWorkspace::openUrl(const std::string& absoluteUrl, OpenCompletion completionHandler)
 {
-    return isOpenable(absoluteUrl) && m_opener(absoluteUrl);
+    if (!isOpenable(absoluteUrl)) {
+        completionHandler(false);
+        return;
+    }
+    m_opener(
+        absoluteUrl,
+        [own = QPointer<QObject>(m_pendingCalls.get()),
+         completion = std::move(completionHandler)](bool isOpened) {
+            if (own != nullptr) {
+                completion(isOpened);
+            }
+        });
 }
 
-bool DBusWorkspace::reveal(const Url& item)
+void DBusWorkspace::reveal(const Url& item, OpenCompletion completionHandler)
 {
     if (item.empty()) {
-        return false;
+        completionHandler(false);
+        return;
     }
+    const std::string folder = item.isDirectory() ? item.absoluteString() : parentUrl(item);
     if (!m_bus.isConnected()) {
-        return openUrl(parentUrl(item));
+        openUrl(folder, std::move(completionHandler));
+        return;
     }
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the parent owns it
     auto* const watcher
-        = new QDBusPendingCallWatcher(m_bus.asyncCall(showItems(item)), m_pendingCalls.get());
+        = new QDBusPendingCallWatcher(m_bus.asyncCall(showRequest(item)), m_pendingCalls.get());
     QObject::connect(
         watcher,
         &QDBusPendingCallWatcher::finished,
         m_pendingCalls.get(),
-        [this, parent = parentUrl(item)](QDBusPendingCallWatcher* finished) {
+        [this, folder, completion = std::move(completionHandler)](
+            QDBusPendingCallWatcher* finished) {
             if (finished->isError()) {
-                // Nothing more can be tried, and the user sees that nothing opened.
-                (void)openUrl(parent);
+                openUrl(folder, completion);
+            } else {
+                completion(true);
             }
             finished->deleteLater();
         });
-    return true;
 }
 
 void DBusWorkspace::recycleURLs(std::vector<Url> urls, RecycleCompletion completionHandler)

@@ -17,8 +17,9 @@ namespace tessera {
 /// else.
 class DBusWorkspace final : public Workspace {
 public:
-    /// Starts whatever opens an absolute URL; false when that could not be started.
-    using Opener = std::function<bool(const std::string& absoluteUrl)>;
+    /// Has whatever is there for it open an absolute URL, and says whether that worked.
+    using Opener
+        = std::function<void(const std::string& absoluteUrl, OpenCompletion completionHandler)>;
 
     /// With xdg-open and the user's own trash. `mainThread` must outlive it.
     DBusWorkspace(QDBusConnection bus, MainThread& mainThread);
@@ -27,11 +28,11 @@ public:
     ~DBusWorkspace() override;
 
     /// Only "http", "https" and "file" URLs are opened.
-    [[nodiscard]] bool openUrl(const std::string& absoluteUrl) override;
+    void openUrl(const std::string& absoluteUrl, OpenCompletion completionHandler) override;
 
-    /// Asks the file manager and returns at once; where there is none that can select an item, the
-    /// folder that holds it is opened instead, as soon as that is known.
-    [[nodiscard]] bool reveal(const Url& item) override;
+    /// Asks the file manager and returns at once. Where none answers, the directory, or the folder
+    /// that holds the item, is opened instead, as soon as that is known.
+    void reveal(const Url& item, OpenCompletion completionHandler) override;
 
     /// By FreedesktopTrash, on a thread of its own.
     void recycleURLs(std::vector<Url> urls, RecycleCompletion completionHandler) override;

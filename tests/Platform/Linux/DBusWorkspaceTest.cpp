@@ -6,6 +6,7 @@
 #include "support/SessionBus.h"
 
 #include <QDBusConnection>
+#include <QDBusError>
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
 
@@ -13,6 +14,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -32,6 +34,10 @@ public:
 
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override
     {
+        if (refuses) {
+            return connection.send(
+                message.createErrorReply(QDBusError::UnknownMethod, QStringLiteral("No.")));
+        }
         calls.push_back(
             message.interface().toStdString() + '.' + message.member().toStdString() + ' '
             + message.arguments().at(0).toStringList().join(QLatin1Char(' ')).toStdString());
@@ -39,6 +45,7 @@ public:
     }
 
     std::vector<std::string> calls;
+    bool refuses = false;
 };
 
 /// A bus of the test's own, so that no real file manager is asked.
@@ -63,9 +70,9 @@ protected:
     {
         return {
             *m_bus,
-            [this](const std::string& url) {
+            [this](const std::string& url, const OpenCompletion& completionHandler) {
                 m_opened.push_back(url);
-                return true;
+                completionHandler(m_opens);
             },
             m_mainThread,
             [](const std::vector<Url>&) { return RecycleResult(); }};
@@ -74,19 +81,38 @@ protected:
     test::SessionBus m_sessionBus;
     std::unique_ptr<QDBusConnection> m_bus;
     FakeFileManager m_fileManager;
+    /// What is heard of the item's being shown.
+    std::optional<bool> isShown(const Url& item)
+    {
+        DBusWorkspace workspace = this->workspace();
+        std::optional<bool> answer;
+        workspace.reveal(item, [&answer](bool isShown) { answer = isShown; });
+        test::SessionBus::runEventsUntil([&answer] { return answer.has_value(); });
+        return answer;
+    }
+
     test::FakeMainThread m_mainThread;
     std::vector<std::string> m_opened;
+    bool m_opens = true;
 };
 
 TEST_F(DBusWorkspaceOnABus, RevealAsksTheFileManagerToShowTheItem)
 {
     startFileManager();
-    DBusWorkspace workspace = this->workspace();
-    EXPECT_TRUE(workspace.reveal(Url("/home/me/a \xFF", false)));
-    test::SessionBus::runEventsUntil([this] { return !m_fileManager.calls.empty(); });
+    EXPECT_EQ(isShown(Url("/home/me/a \xFF", false)), true);
     EXPECT_THAT(
         m_fileManager.calls,
         ElementsAre("org.freedesktop.FileManager1.ShowItems file:///home/me/a%20%FF"));
+    EXPECT_THAT(m_opened, IsEmpty());
+}
+
+TEST_F(DBusWorkspaceOnABus, RevealAsksTheFileManagerToOpenAFolder)
+{
+    startFileManager();
+    EXPECT_EQ(isShown(Url("/home/me/a \xFF", true)), true);
+    EXPECT_THAT(
+        m_fileManager.calls,
+        ElementsAre("org.freedesktop.FileManager1.ShowFolders file:///home/me/a%20%FF/"));
     EXPECT_THAT(m_opened, IsEmpty());
 }
 
@@ -94,37 +120,71 @@ TEST_F(DBusWorkspaceOnABus, RevealDoesNotWaitForTheFileManager)
 {
     startFileManager();
     DBusWorkspace workspace = this->workspace();
-    EXPECT_TRUE(workspace.reveal(Url("/home/me/a", false)));
+    workspace.reveal(Url("/home/me/a", false), [](bool) {});
     EXPECT_THAT(m_fileManager.calls, IsEmpty());
 }
 
 TEST_F(DBusWorkspaceOnABus, WithoutAFileManagerTheParentFolderIsOpened)
 {
-    DBusWorkspace workspace = this->workspace();
-    EXPECT_TRUE(workspace.reveal(Url("/home/me/a", false)));
-    test::SessionBus::runEventsUntil([this] { return !m_opened.empty(); });
+    EXPECT_EQ(isShown(Url("/home/me/a", false)), true);
     EXPECT_THAT(m_opened, ElementsAre("file:///home/me/"));
+}
+
+TEST_F(DBusWorkspaceOnABus, WithoutAFileManagerAFolderIsOpenedItself)
+{
+    EXPECT_EQ(isShown(Url("/home/me", true)), true);
+    EXPECT_THAT(m_opened, ElementsAre("file:///home/me/"));
+}
+
+TEST_F(DBusWorkspaceOnABus, AFileManagerThatRefusesIsNone)
+{
+    startFileManager();
+    m_fileManager.refuses = true;
+    EXPECT_EQ(isShown(Url("/home/me", true)), true);
+    EXPECT_THAT(m_opened, ElementsAre("file:///home/me/"));
+}
+
+TEST_F(DBusWorkspaceOnABus, NothingIsShownWhenNothingOpensFoldersEither)
+{
+    m_opens = false;
+    EXPECT_EQ(isShown(Url("/home/me", true)), false);
+    EXPECT_EQ(isShown(Url("/home/me/a", false)), false);
 }
 
 TEST_F(DBusWorkspaceOnABus, AWorkspaceMayGoBeforeItsCallIsAnswered)
 {
-    (void)workspace().reveal(Url("/home/me/a", false));
-    DBusWorkspace later = workspace();
-    EXPECT_TRUE(later.reveal(Url("/later/a", false)));
-    test::SessionBus::runEventsUntil([this] { return !m_opened.empty(); });
+    bool isHeard = false;
+    workspace().reveal(Url("/home/me/a", false), [&isHeard](bool) { isHeard = true; });
+    EXPECT_EQ(isShown(Url("/later/a", false)), true);
     EXPECT_THAT(m_opened, ElementsAre("file:///later/"));
+    EXPECT_FALSE(isHeard);
 }
 
+/// Whose opener answers at once.
 class DBusWorkspaceWithoutABus : public testing::Test {
 protected:
+    bool isShown(const Url& item)
+    {
+        bool answer = false;
+        m_workspace.reveal(item, [&answer](bool isShown) { answer = isShown; });
+        return answer;
+    }
+
+    bool isOpened(const char* url)
+    {
+        bool answer = false;
+        m_workspace.openUrl(url, [&answer](bool isOpened) { answer = isOpened; });
+        return answer;
+    }
+
     std::vector<std::string> m_opened;
     bool m_opens = true;
     test::FakeMainThread m_mainThread;
     DBusWorkspace m_workspace{
         QDBusConnection(QStringLiteral("no such bus")),
-        [this](const std::string& url) {
+        [this](const std::string& url, const OpenCompletion& completionHandler) {
             m_opened.push_back(url);
-            return m_opens;
+            completionHandler(m_opens);
         },
         m_mainThread,
         [](const std::vector<Url>& urls) {
@@ -134,22 +194,22 @@ protected:
         }};
 };
 
-TEST_F(DBusWorkspaceWithoutABus, RevealOpensTheParentFolder)
+TEST_F(DBusWorkspaceWithoutABus, RevealOpensTheFolderOrTheOneThatHoldsTheFile)
 {
-    EXPECT_TRUE(m_workspace.reveal(Url("/a", false)));
-    EXPECT_TRUE(m_workspace.reveal(Url("/home/me", true)));
-    EXPECT_THAT(m_opened, ElementsAre("file:///", "file:///home/"));
+    EXPECT_TRUE(isShown(Url("/a", false)));
+    EXPECT_TRUE(isShown(Url("/home/me", true)));
+    EXPECT_THAT(m_opened, ElementsAre("file:///", "file:///home/me/"));
 }
 
 TEST_F(DBusWorkspaceWithoutABus, RevealFailsWhenNothingOpensFolders)
 {
     m_opens = false;
-    EXPECT_FALSE(m_workspace.reveal(Url("/a", false)));
+    EXPECT_FALSE(isShown(Url("/a", false)));
 }
 
 TEST_F(DBusWorkspaceWithoutABus, RevealOfNothingFails)
 {
-    EXPECT_FALSE(m_workspace.reveal(Url()));
+    EXPECT_FALSE(isShown(Url()));
     EXPECT_THAT(m_opened, IsEmpty());
 }
 
@@ -166,12 +226,18 @@ TEST_F(DBusWorkspaceWithoutABus, WhatBecameOfTheItemsIsToldOnTheMainThread)
 
 TEST_F(DBusWorkspaceWithoutABus, OpensWebAndFileUrlsAlone)
 {
-    EXPECT_TRUE(m_workspace.openUrl("https://example.org/help"));
-    EXPECT_TRUE(m_workspace.openUrl("file:///home/"));
+    EXPECT_TRUE(isOpened("https://example.org/help"));
+    EXPECT_TRUE(isOpened("file:///home/"));
     for (const char* url : {"", "--help", "/home", "mailto:a@b", "file://host/a"}) {
-        EXPECT_FALSE(m_workspace.openUrl(url)) << url;
+        EXPECT_FALSE(isOpened(url)) << url;
     }
     EXPECT_THAT(m_opened, ElementsAre("https://example.org/help", "file:///home/"));
+}
+
+TEST_F(DBusWorkspaceWithoutABus, SaysWhenAUrlIsNotOpened)
+{
+    m_opens = false;
+    EXPECT_FALSE(isOpened("https://example.org/help"));
 }
 
 } // namespace
