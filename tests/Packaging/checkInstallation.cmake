@@ -35,6 +35,14 @@ endforeach()
 execute_process(
     COMMAND "${DESKTOP_FILE_VALIDATE}" "${PREFIX}/share/applications/tessera.desktop"
             COMMAND_ERROR_IS_FATAL ANY)
+# Whoever claims folders becomes the program that opens them where the user has chosen none.
+file(READ "${PREFIX}/share/applications/tessera.desktop" entry)
+if(entry MATCHES "MimeType")
+    message(FATAL_ERROR "The desktop entry claims types of files:\n${entry}")
+endif()
+if(NOT entry MATCHES "Exec=tessera %U")
+    message(FATAL_ERROR "The desktop entry takes no folders:\n${entry}")
+endif()
 execute_process(
     COMMAND "${PREFIX}/bin/tessera" --version OUTPUT_VARIABLE version COMMAND_ERROR_IS_FATAL ANY)
 if(NOT version MATCHES "^tessera [0-9]")
