@@ -4,15 +4,33 @@
 #include "sessionEnvironment.h"
 #include "support/fileContent.h"
 
+#include <cstdlib>
+
 namespace tessera::test {
 
-DrivenProgram::DrivenProgram(const std::string& folder)
+namespace {
+
+std::vector<std::string> withPath(std::vector<std::string> environment, const std::string& path)
+{
+    if (!path.empty()) {
+        // NOLINTNEXTLINE(concurrency-mt-unsafe): nobody changes it
+        environment.push_back("PATH=" + path + ':' + std::getenv("PATH"));
+    }
+    return environment;
+}
+
+} // namespace
+
+DrivenProgram::DrivenProgram(
+    const std::string& folder, const std::string& installed, const std::string& path)
     : m_desk(m_server.display())
     , m_process(
-          {TESSERA_PROGRAM,
+          {installed.empty() ? TESSERA_PROGRAM : installed,
            {folder},
-           sessionEnvironment(
-               m_session, m_server.display(), "unix:path=" + m_session.pathOf("no-bus")),
+           withPath(
+               sessionEnvironment(
+                   m_session, m_server.display(), "unix:path=" + m_session.pathOf("no-bus")),
+               path),
            m_session.pathOf("out"),
            m_session.pathOf("err")})
 {

@@ -20,7 +20,10 @@ namespace tessera::test {
 /// no session bus, so that nothing of the user's takes part and programs do not meet each other.
 class DrivenProgram {
 public:
-    explicit DrivenProgram(const std::string& folder);
+    /// `installed` is the path of the program; without one it is that of the build. `path` is where
+    /// it finds other programs, before the places of the environment.
+    explicit DrivenProgram(
+        const std::string& folder, const std::string& installed = {}, const std::string& path = {});
 
     XDesk& desk() { return m_desk; }
     ChildProcess& process() { return m_process; }

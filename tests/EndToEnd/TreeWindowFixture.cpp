@@ -38,9 +38,14 @@ TreeWindow::TreeWindow()
     tree.makeFile("docs/drafts/second", 150'000);
 }
 
+std::unique_ptr<DrivenProgram> TreeWindow::start() const
+{
+    return std::make_unique<DrivenProgram>(tree.path());
+}
+
 void TreeWindow::SetUp()
 {
-    program = std::make_unique<DrivenProgram>(tree.path());
+    program = start();
     desk().movePointer(beside());
     ASSERT_TRUE(opens(XWindow::Kind::Main));
     desk().setFrame(mainWindow(), kFirstFrame);

@@ -23,6 +23,8 @@ protected:
 
     TreeWindow();
 
+    virtual std::unique_ptr<DrivenProgram> start() const;
+
     /// Waits until the map shows the folder as it is on the disk now, `shown` filling the map and
     /// `selected` alone having the look of the selection; says what differs otherwise.
     testing::AssertionResult shows(const std::string& shown = {}, const std::string& selected = {});

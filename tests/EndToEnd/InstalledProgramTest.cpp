@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "TreeWindowFixture.h"
+#include "eventually.h"
+#include "support/fileContent.h"
+#include "support/runProgram.h"
+
+#include <sys/stat.h>
+
+#include <filesystem>
+#include <stdexcept>
+
+namespace tessera::test {
+namespace {
+
+/// The program where it was installed, with nothing else of the build beside it.
+class InstalledProgram : public TreeWindow {
+protected:
+    InstalledProgram()
+    {
+        const ProgramResult installing = runProgram(
+            TESSERA_CMAKE, {"--install", TESSERA_BUILD, "--prefix", m_places.pathOf("usr")});
+        if (installing.exitStatus != 0) {
+            throw std::runtime_error(installing.standardError);
+        }
+        m_places.makeFolder("bin");
+        m_places.writeFile(
+            "bin/xdg-open", "#!/bin/sh\necho \"$1\" >" + m_places.pathOf("opened") + '\n');
+        ::chmod(m_places.pathOf("bin/xdg-open").c_str(), 0700);
+    }
+
+    std::unique_ptr<DrivenProgram> start() const override
+    {
+        return std::make_unique<DrivenProgram>(
+            tree.path(), m_places.pathOf("usr/bin/tessera"), m_places.pathOf("bin"));
+    }
+
+    TempTree m_places;
+};
+
+TEST_F(InstalledProgram, FindsItsArchiver)
+{
+    ASSERT_TRUE(pick("song", MenuEntry::Compress));
+    ASSERT_TRUE(opens(XWindow::Kind::Dialog));
+    ASSERT_TRUE(closes(XWindow::Kind::Dialog));
+    EXPECT_TRUE(std::filesystem::exists(tree.pathOf("song.zip")));
+}
+
+TEST_F(InstalledProgram, FindsItsHelp)
+{
+    desk().typeKey(key::kF1);
+    const std::string page = m_places.pathOf("usr/share/doc/tessera/help/features.html");
+    EXPECT_TRUE(eventually([&] {
+        return fileContent(m_places.pathOf("opened")) == "file://" + page + '\n';
+    })) << fileContent(m_places.pathOf("opened"));
+}
+
+} // namespace
+} // namespace tessera::test
