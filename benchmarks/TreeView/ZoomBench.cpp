@@ -210,7 +210,8 @@ bool measure(
           *services.prompt.resourceValues,
           icons,
           targetsInUse},
-         motion});
+         motion,
+         [](const std::string&) { return std::error_code(); }});
     QCoreApplication::processEvents();
     const std::vector<Folder*> folders = shownFolders(*map.branches().front());
     if (folders.empty() || map.size() != size) {

@@ -21,8 +21,8 @@ public:
     /// False when it cannot be read.
     [[nodiscard]] virtual bool isVolume(const std::string& path) const = 0;
 
-    /// Whether `path` is a directory where something is mounted, be it whole or a part; false when
-    /// it cannot be read.
+    /// Whether `path` is a directory where something is mounted, be it whole or a part. Known of a
+    /// file system that does not answer, too; false when nothing is there.
     [[nodiscard]] virtual bool isMountPoint(const std::string& path) const = 0;
 
     /// Whether the two paths lead to one directory, over whatever links; false when either cannot

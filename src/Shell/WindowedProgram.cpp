@@ -108,6 +108,9 @@ WindowedProgram::~WindowedProgram()
 MainWindowServices WindowedProgram::mainWindowServices(
     const LaunchServices& services, RootModel& model) const
 {
+    const auto checkFolder = [&files = services.promptFiles](const std::string& path) {
+        return files.checkFolder(path);
+    };
     const TreeViewServices treeScreen{
         services.scanEnvironment,
         services.promptResourceValues,
@@ -121,15 +124,14 @@ MainWindowServices WindowedProgram::mainWindowServices(
          services.promptResourceValues,
          m_desktop->icons,
          m_desktop->targetsInUse},
-        services.motion};
+        services.motion,
+        checkFolder};
     const ScanningServices scanScreen{
         services.scanEnvironment,
         m_desktop->dockTile,
         m_desktop->alert,
         [desktop = m_desktop.get()](const Url& folder) { return desktop->places.look(folder); },
-        [&files = services.promptFiles](const std::string& path) {
-            return files.checkFolder(path);
-        }};
+        checkFolder};
     return {
         model,
         treeScreen,

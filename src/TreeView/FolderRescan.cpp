@@ -21,8 +21,13 @@ constexpr int kPercentDecimals = 6;
 } // namespace
 
 FolderRescan::FolderRescan(
-    ScanEnvironment environment, TreeMapView& treeView, Alert& alert, TreeScreen& screen)
+    ScanEnvironment environment,
+    FolderCheck checkFolder,
+    TreeMapView& treeView,
+    Alert& alert,
+    TreeScreen& screen)
     : m_environment(std::move(environment))
+    , m_checkFolder(std::move(checkFolder))
     , m_treeView(treeView)
     , m_alert(alert)
     , m_screen(screen)
@@ -168,8 +173,21 @@ void FolderRescan::scanEnded(Scanner& scanner)
     }
     Folder& folder = *m_rescanFolder;
     std::unique_ptr<TopFolder> scanned = m_homePass.takeTree(scanner);
+    // A scan passes over what it cannot read, the folder itself as well.
+    const std::error_code problem
+        = scanned->children().empty() ? m_checkFolder(folder.absolutePath()) : std::error_code{};
+    if (problem) {
+        end();
+        giveUp(folder, problem);
+        return;
+    }
     applyChanges(*scanned);
     end();
+    replace(folder, std::move(scanned));
+}
+
+void FolderRescan::replace(Folder& folder, std::unique_ptr<TopFolder> scanned)
+{
     TopFolder& with = *scanned;
     // What the folder looked like from outside was not read anew.
     with.setHidden(folder.hidden());
@@ -179,6 +197,23 @@ void FolderRescan::scanEnded(Scanner& scanner)
     const std::unique_ptr<File> old = folder.parent()->replaceChild(folder, std::move(scanned));
     m_screen.folderWasReplaced(folder, with);
     m_screen.objectTreeRefreshed();
+    m_screen.renderTree();
+}
+
+/// What is gone goes. Of what cannot be read the content last known is nearer to the truth than
+/// none.
+void FolderRescan::giveUp(Folder& folder, const std::error_code& problem)
+{
+    const bool isGone
+        = problem == std::errc::no_such_file_or_directory || problem == std::errc::not_a_directory;
+    std::unique_ptr<File> old; // lives until nothing on screen stands for it any more
+    if (isGone) {
+        m_screen.nodeWillLeave(folder);
+        old = folder.parent()->removeChild(folder);
+        m_screen.objectTreeRefreshed();
+    } else {
+        m_alert.beginSheet(scanProblem(folder.url(), problem));
+    }
     m_screen.renderTree();
 }
 

@@ -9,10 +9,12 @@
 
 #include <QPointer>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <set>
 #include <string>
+#include <system_error>
 
 namespace tessera {
 
@@ -27,9 +29,16 @@ class TreeScreen;
 /// One rescan runs at a time. Main thread only.
 class FolderRescan final : private ScannerDelegate {
 public:
+    /// Why the folder of that path cannot be read; no error when it can. Answers at once.
+    using FolderCheck = std::function<std::error_code(const std::string& path)>;
+
     /// All must outlive it. The indicator is put on the view.
     FolderRescan(
-        ScanEnvironment environment, TreeMapView& treeView, Alert& alert, TreeScreen& screen);
+        ScanEnvironment environment,
+        FolderCheck checkFolder,
+        TreeMapView& treeView,
+        Alert& alert,
+        TreeScreen& screen);
     /// Cancels.
     ~FolderRescan() override;
 
@@ -63,11 +72,14 @@ private:
     void noteChange(const File& node);
     void applyChanges(TopFolder& scanned);
     void end();
+    void replace(Folder& folder, std::unique_ptr<TopFolder> scanned);
+    void giveUp(Folder& folder, const std::error_code& problem);
     std::optional<Rect> indicatorFrame() const;
     void addIndicator();
     void removeIndicator();
 
     const ScanEnvironment m_environment;
+    const FolderCheck m_checkFolder;
     TreeMapView& m_treeView;
     Alert& m_alert;
     TreeScreen& m_screen;

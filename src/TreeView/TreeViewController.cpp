@@ -32,7 +32,7 @@ TreeViewController::TreeViewController(
     , m_treeView(treeView)
     , m_services(services)
     , m_zoom(*this, treeView, services)
-    , m_rescan(services.scanEnvironment, treeView, services.alert, *this)
+    , m_rescan(services.scanEnvironment, services.checkFolder, treeView, services.alert, *this)
     , m_trasher(model, services.defaults, services.workspace, services.alert, *this)
     , m_preview(*this, treeView)
     , m_note(&treeView)

@@ -5,6 +5,10 @@
 #include "Scanning/ScanEnvironment.h"
 #include "TreeView/ZoomAnimation.h"
 
+#include <functional>
+#include <string>
+#include <system_error>
+
 namespace tessera {
 
 class Alert;
@@ -23,6 +27,8 @@ struct TreeViewServices {
     Alert& alert;
     CompressServices compressing;
     const MotionPreference& motion;
+    /// Why the folder of that path cannot be read; no error when it can. Answers at once.
+    std::function<std::error_code(const std::string& path)> checkFolder;
     ZoomAnimation::Clock zoomClock = ZoomAnimation::steadyClock; ///< what zooms go by
 };
 

@@ -97,7 +97,7 @@ protected:
 
     test::FakeRootModelServices modelServices;
     RootModel model{modelServices.get()};
-    test::FakeTreeViewServices services{"a:900 new/ ( b:100 )"};
+    test::FakeTreeViewServices services;
     TreeMapView view{services.defaults};
     std::unique_ptr<TreeViewController> controller;
 };
@@ -583,6 +583,87 @@ TEST_F(FolderRescanTest, AnItemTrashedWhileItsFolderIsRescannedLeavesTheNewTree)
     result.newUrls[url.absoluteString()] = Url("/trash/a", false);
     ASSERT_TRUE(services.workspace.finishRecycling(result));
     EXPECT_EQ(node("docs").totalAllocation(), 100U);
+}
+
+/// A rescan that finds nothing.
+class EmptyRescanTest : public FolderRescanTest {
+protected:
+    EmptyRescanTest()
+        : FolderRescanTest("")
+    {
+    }
+
+    void rescanDocs()
+    {
+        rescan("docs");
+        services.mainThread.runUntil([this] { return !isRescanning(); });
+    }
+};
+
+TEST_F(EmptyRescanTest, AnEmptyFolderIsShownEmpty)
+{
+    rescanDocs();
+    EXPECT_EQ(node("docs").totalAllocation(), 0U);
+    EXPECT_EQ(model.topFolder()->totalAllocation(), 601U);
+    EXPECT_TRUE(services.alert.told.empty());
+}
+
+TEST_F(EmptyRescanTest, AFolderThatIsGoneLeavesTheTreeWithoutAWord)
+{
+    for (const std::errc problem :
+         {std::errc::no_such_file_or_directory, std::errc::not_a_directory}) {
+        model.setTopFolder(test::makeTree("/data", "docs/ ( a:500 ) other/ ( o:600 )"));
+        controller = std::make_unique<TreeViewController>(model, view, services.get());
+        services.folderProblem = std::make_error_code(problem);
+        rescanDocs();
+        EXPECT_FALSE(has("docs"));
+        EXPECT_EQ(model.topFolder()->totalAllocation(), 600U);
+        EXPECT_TRUE(view.findRectForFile(node("other")).has_value());
+        EXPECT_TRUE(services.alert.told.empty());
+        EXPECT_EQ(services.checkedFolder, "/data/docs");
+    }
+}
+
+TEST_F(EmptyRescanTest, WhenTheFolderInViewIsGoneTheOneAroundItIsShown)
+{
+    services.folderProblem = std::make_error_code(std::errc::no_such_file_or_directory);
+    goTo("docs");
+    controller->refreshFolder();
+    services.mainThread.runUntil([this] { return !isRescanning(); });
+    EXPECT_EQ(controller->currentFolder(), model.topFolder());
+    EXPECT_FALSE(has("docs"));
+}
+
+TEST_F(EmptyRescanTest, AFolderThatCannotBeReadKeepsItsContentAndTheUserIsTold)
+{
+    services.folderProblem = std::make_error_code(std::errc::permission_denied);
+    rescanDocs();
+    ASSERT_EQ(services.alert.told.size(), 1U);
+    EXPECT_EQ(services.alert.told[0].messageText, QStringLiteral("The folder cannot be scanned"));
+    EXPECT_TRUE(services.alert.told[0].informativeText.contains(QStringLiteral("/data/docs")));
+    EXPECT_EQ(node("docs").totalAllocation(), 700U);
+    EXPECT_FALSE(folder("docs").rescanning());
+    EXPECT_TRUE(view.findRectForFile(node("docs/a")).has_value());
+    EXPECT_EQ(indicator(), nullptr);
+}
+
+TEST_F(EmptyRescanTest, WhatLeftMeanwhileStaysAwayWhenTheFolderCannotBeRead)
+{
+    services.folderProblem = std::make_error_code(std::errc::timed_out);
+    rescan("docs");
+    trash("docs/a");
+    services.mainThread.runUntil([this] { return !isRescanning(); });
+    EXPECT_FALSE(has("docs/a"));
+    EXPECT_EQ(node("docs").totalAllocation(), 200U);
+}
+
+TEST_F(FolderRescanTest, AFolderInWhichSomethingWasFoundIsNotAskedFor)
+{
+    services.folderProblem = std::make_error_code(std::errc::permission_denied);
+    rescan("docs");
+    finish();
+    EXPECT_EQ(services.checkedFolder, "");
+    EXPECT_EQ(node("docs").totalAllocation(), 1000U);
 }
 
 TEST(RescanIndicator, NeedsABoxThatLeavesMoreThanTwentyByThirtyFive)

@@ -49,6 +49,8 @@ struct FakeTreeViewServices {
     FakeTaskRecord archiver;
     std::set<std::string> targetsInUse;
     FakeMotionPreference motion;
+    std::error_code folderProblem; ///< that every folder has
+    std::string checkedFolder; ///< the last one
     std::atomic<bool> hasThreads = true; ///< whether a scan gets a worker
     std::shared_ptr<ScanWorkers> workers
         = std::make_shared<ScanWorkers>([this](ScanWorkers::Work work) {
@@ -83,6 +85,10 @@ struct FakeTreeViewServices {
              icons,
              targetsInUse},
             motion,
+            [this](const std::string& path) {
+                checkedFolder = path;
+                return folderProblem;
+            },
             [this] { return now; }};
     }
 };

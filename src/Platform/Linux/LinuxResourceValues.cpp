@@ -45,6 +45,11 @@ bool showsPart(const FileStatus& mounted, const std::string& path, const MountTa
     return mount && mount->isPart();
 }
 
+bool isListedPoint(const MountTable& table, const std::string& path)
+{
+    return std::ranges::find(table.mounts(), path, &Mount::point) != table.mounts().end();
+}
+
 } // namespace
 
 LinuxResourceValues::LinuxResourceValues(std::shared_ptr<const FileSystemQuestions> questions)
@@ -75,14 +80,10 @@ bool LinuxResourceValues::isVolume(const std::string& path) const
 
 bool LinuxResourceValues::isMountPoint(const std::string& path) const
 {
-    return m_questions
-        ->ask<bool>(
-            path,
-            LinkMode::Follow,
-            [query = m_query, path] {
-                return std::optional(mountedDirectory(query, path).has_value());
-            })
-        .value_or(false);
+    const auto answer = m_questions->ask<bool>(path, LinkMode::Follow, [query = m_query, path] {
+        return std::optional(mountedDirectory(query, path).has_value());
+    });
+    return answer ? *answer : isListedPoint(m_mounts(), path);
 }
 
 bool LinuxResourceValues::isSameDirectory(const std::string& path, const std::string& other) const

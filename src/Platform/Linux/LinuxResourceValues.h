@@ -27,7 +27,7 @@ public:
     /// A symbolic link is followed, as by the walk that starts there.
     [[nodiscard]] bool isVolume(const std::string& path) const override;
 
-    /// Likewise.
+    /// Likewise; by the table of mounts where the file system does not answer.
     [[nodiscard]] bool isMountPoint(const std::string& path) const override;
 
     [[nodiscard]] bool isSameDirectory(

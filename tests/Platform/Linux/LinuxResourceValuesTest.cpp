@@ -214,5 +214,22 @@ TEST(LinuxResourceValues, AFileSystemThatDoesNotAnswerHasNoValues)
     release->set_value();
 }
 
+TEST(LinuxResourceValues, TheTableKnowsTheMountPointOfAFileSystemThatDoesNotAnswer)
+{
+    const auto release = std::make_shared<std::promise<void>>();
+    const std::shared_future<void> released = release->get_future().share();
+    const LinuxResourceValues values(
+        std::make_shared<const FileSystemQuestions>(std::chrono::milliseconds(1)),
+        [released](const std::string&, LinkMode) {
+            released.wait();
+            return StatusResult{};
+        },
+        [] { return MountTable("36 35 0:40 / /mnt/dead rw - nfs4 server:/ rw\n"); });
+    EXPECT_TRUE(values.isMountPoint("/mnt/dead"));
+    EXPECT_FALSE(values.isMountPoint("/mnt"));
+    EXPECT_FALSE(values.isMountPoint("/mnt/dead/folder"));
+    release->set_value();
+}
+
 } // namespace
 } // namespace tessera::test
