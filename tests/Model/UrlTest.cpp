@@ -85,6 +85,17 @@ TEST(Url, ReadsNothingElseThanAbsoluteFileUrls)
     }
 }
 
+TEST(Url, WordsStartTextsInEitherCaseOfTheirLettersAlone)
+{
+    EXPECT_TRUE(startsWithWord("AZ.", "az."));
+    EXPECT_TRUE(startsWithWord("Az", "az"));
+    EXPECT_TRUE(startsWithWord("az and more", "az"));
+    EXPECT_FALSE(startsWithWord("a", "az"));
+    EXPECT_FALSE(startsWithWord("az\x0E", "az.")); // as far from the dot as capitals from letters
+    EXPECT_FALSE(startsWithWord("@", "`")); // likewise, beside the capitals
+    EXPECT_FALSE(startsWithWord("[", "{"));
+}
+
 TEST(Url, LastPathComponentIsTheNameWithoutSlashes)
 {
     EXPECT_EQ(lastPathComponent("/home/me/"), "me");
