@@ -19,4 +19,9 @@ struct NamedPlace {
 /// link that is named. The root folder, being in no other, is an error.
 [[nodiscard]] NamedPlace openFolderOf(const std::string& path);
 
+/// The same for an absolute path of which no part may be a link, so that nobody who may rename
+/// something on the way can lead it elsewhere: a link that is met is ELOOP. The item itself may be
+/// one. A name of dots and the root folder are EINVAL.
+[[nodiscard]] NamedPlace openFolderOfWithoutLinks(const std::string& path);
+
 } // namespace tessera

@@ -6,6 +6,7 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <cerrno>
 
@@ -93,6 +94,64 @@ TEST(LongPath, PathsLongerThanTheSystemTakesAreOpened)
     EXPECT_EQ(place.error, 0);
     const NamedPlace deepest = openFolderOf(path);
     EXPECT_EQ(identityOf(place.folder), statusAt(deepest.folder.number(), "d").status.identity);
+}
+
+TEST(LongPathWithoutLinks, OpensTheFolderThatHoldsTheItem)
+{
+    const TempTree tree;
+    tree.makeFolder("a");
+    const NamedPlace place = openFolderOfWithoutLinks(tree.pathOf("a/item"));
+    EXPECT_EQ(place.error, 0);
+    EXPECT_EQ(place.name, "item");
+    EXPECT_EQ(identityOf(place.folder), identityOf(tree.pathOf("a")));
+}
+
+TEST(LongPathWithoutLinks, ALinkOnTheWayIsAnError)
+{
+    const TempTree tree;
+    tree.makeFolder("a");
+    tree.makeFolder("a/b");
+    tree.makeSymbolicLink("link", "a");
+    EXPECT_EQ(openFolderOfWithoutLinks(tree.pathOf("link/item")).error, ELOOP);
+    EXPECT_EQ(openFolderOfWithoutLinks(tree.pathOf("link/b/item")).error, ELOOP);
+}
+
+TEST(LongPathWithoutLinks, TheItemItselfMayBeALink)
+{
+    const TempTree tree;
+    tree.makeSymbolicLink("link", "nowhere");
+    const NamedPlace place = openFolderOfWithoutLinks(tree.pathOf("link"));
+    EXPECT_EQ(place.error, 0);
+    EXPECT_EQ(identityOf(place.folder), identityOf(tree.path()));
+}
+
+TEST(LongPathWithoutLinks, AFileOnTheWayIsAnError)
+{
+    const TempTree tree;
+    tree.makeFile("file");
+    EXPECT_EQ(openFolderOfWithoutLinks(tree.pathOf("file/item")).error, ENOTDIR);
+}
+
+TEST(LongPathWithoutLinks, WhatNamesNothingInAFolderIsAnError)
+{
+    for (const char* path : {"", "/", "relative", "/tmp/", "/tmp/.", "/tmp/.."}) {
+        EXPECT_EQ(openFolderOfWithoutLinks(path).error, EINVAL) << path;
+    }
+}
+
+TEST(LongPathWithoutLinks, ALinkFarDownALongPathIsAnError)
+{
+    constexpr std::size_t kDepth = 2200; // more than one call takes
+    const TempTree tree;
+    tree.makeChain(kDepth);
+    std::string path = tree.path();
+    for (std::size_t i = 0; i < kDepth; ++i) {
+        path += "/d";
+    }
+    const NamedPlace deepest = openFolderOfWithoutLinks(path + "/link");
+    ASSERT_EQ(deepest.error, 0);
+    ASSERT_EQ(::symlinkat(".", deepest.folder.number(), "link"), 0);
+    EXPECT_EQ(openFolderOfWithoutLinks(path + "/link/item").error, ELOOP);
 }
 
 } // namespace
