@@ -20,6 +20,11 @@ public:
     const std::string& origin() const { return m_origin; }
     void setOrigin(std::string origin) { m_origin = std::move(origin); }
 
+    /// The same directory's path with no link in it, as it was when the directory was scanned; the
+    /// origin itself where nobody told otherwise.
+    const std::string& realOrigin() const { return m_realOrigin.empty() ? m_origin : m_realOrigin; }
+    void setRealOrigin(std::string path) { m_realOrigin = std::move(path); }
+
 protected:
     explicit TopFolder(NodeType type)
         : Folder(type)
@@ -37,6 +42,7 @@ private:
     }
 
     std::string m_origin;
+    std::string m_realOrigin;
 };
 
 } // namespace tessera

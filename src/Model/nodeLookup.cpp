@@ -28,6 +28,16 @@ std::optional<std::string_view> pathBelow(std::string_view top, std::string_view
     return rest;
 }
 
+std::string joined(std::string_view folder, std::string_view below)
+{
+    std::string path(folder);
+    if (!below.empty()) {
+        path += path == "/" ? "" : "/";
+        path += below;
+    }
+    return path;
+}
+
 std::string_view takeComponent(std::string_view& path)
 {
     const std::string_view component = path.substr(0, path.find('/'));
@@ -69,6 +79,29 @@ Found walkDown(TopFolder& top, std::string_view absolutePath)
 }
 
 } // namespace
+
+Url placeOnDisk(const File& node)
+{
+    const File* outermost = &node;
+    while (outermost->parent() != nullptr) {
+        outermost = outermost->parent();
+    }
+    const auto* top = nodeCast<TopFolder>(outermost);
+    const std::string path = node.absolutePath();
+    return {top == nullptr ? path : pathOnDisk(*top, path), node.isFolder()};
+}
+
+std::string pathOnDisk(const TopFolder& top, std::string_view path)
+{
+    const auto below = pathBelow(top.origin(), path);
+    return below ? joined(top.realOrigin(), *below) : std::string(path);
+}
+
+std::string pathInTree(const TopFolder& top, std::string_view path)
+{
+    const auto below = pathBelow(top.realOrigin(), path);
+    return below ? joined(top.origin(), *below) : std::string(path);
+}
 
 bool isAtOrBelow(const File& node, const File& above)
 {

@@ -1,12 +1,27 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Model/Url.h"
+
+#include <string>
 #include <string_view>
 
 namespace tessera {
 
 class File;
 class TopFolder;
+
+/// Where the item was when it was scanned, with no link in the path: a scan follows none below the
+/// folder it begins at, and that folder's own path had none either once it was resolved. So a link
+/// that is met on this way was put there later, and leads away from what was scanned.
+[[nodiscard]] Url placeOnDisk(const File& node);
+
+/// Likewise for a path in the tree.
+[[nodiscard]] std::string pathOnDisk(const TopFolder& top, std::string_view path);
+
+/// The path that the tree has for a place on the disk, which differs where the scan began at a
+/// path with links.
+[[nodiscard]] std::string pathInTree(const TopFolder& top, std::string_view path);
 
 /// Whether `node` is `above` or lies below it.
 [[nodiscard]] bool isAtOrBelow(const File& node, const File& above);

@@ -64,7 +64,8 @@ public:
     virtual ~FileReader() = default;
 
     /// Only a regular file is opened: opening a pipe waits for its other end, and opening a device
-    /// may start something. The path is absolute, as bytes. Callable from any thread.
+    /// may start something. The path is absolute, as bytes, and no link is followed on it. Callable
+    /// from any thread.
     [[nodiscard]] virtual OpenedFile open(const std::string& path) const = 0;
 };
 

@@ -40,6 +40,13 @@ enum class ItemKeys : std::uint8_t {
     SizeAndHidden,
 };
 
+/// Whether links may be part of the path that leads to where a walk starts. Below, none is
+/// followed.
+enum class LinksToStart : std::uint8_t {
+    Follow, ///< somebody chose that path
+    Refuse, ///< the path comes from an earlier walk, so a link in it was put there since
+};
+
 /// Makes enumerators. Callable from any thread.
 class FileManager {
 public:
@@ -50,9 +57,13 @@ public:
 
     /// An enumerator of all that lies below the directory at `path` (bytes). Hidden items are
     /// included; mount points come as empty directories; symbolic links are not followed. A
-    /// `path` that cannot be read yields no items.
+    /// `path` that cannot be read, or leads over links that are refused, yields no items.
     [[nodiscard]] virtual std::unique_ptr<DirectoryEnumerator> enumerator(
-        const std::string& path, ItemKeys keys) const = 0;
+        const std::string& path, ItemKeys keys, LinksToStart links) const = 0;
+
+    /// The path without links that leads to the directory at `path`; `path` itself where there is
+    /// none. Takes as long as the file system does.
+    [[nodiscard]] virtual std::string pathWithoutLinks(const std::string& path) const = 0;
 };
 
 } // namespace tessera

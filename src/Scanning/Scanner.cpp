@@ -23,7 +23,8 @@ Scanner::~Scanner() = default;
 
 void Scanner::scan(const Url& url, ScanPurpose purpose)
 {
-    auto run = std::make_shared<Run>(*this, url, purpose);
+    auto run = std::make_shared<Run>(
+        *this, url, purpose, std::exchange(m_pathWithoutLinks, std::string()));
     {
         const std::lock_guard lock(m_mutex);
         if (m_run != nullptr) {

@@ -9,7 +9,9 @@
 #include <cstdint>
 #include <memory>
 #include <mutex>
+#include <string>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 namespace tessera {
@@ -38,6 +40,10 @@ public:
     /// Not owned. A delegate that dies before the scanner's end must be taken away first.
     ScannerDelegate* delegate() const { return m_delegate; }
     void setDelegate(ScannerDelegate* delegate) { m_delegate = delegate; }
+
+    /// The directory that is scanned next was in an earlier scan's tree, and is reached by this
+    /// path without links alone.
+    void setPathWithoutLinks(std::string path) { m_pathWithoutLinks = std::move(path); }
 
     /// Starts a worker on the directory and returns at once.
     void scan(const Url& url, ScanPurpose purpose = ScanPurpose::NewTree);
@@ -78,6 +84,7 @@ private:
     void notifyFailed(const std::shared_ptr<Run>& run, const std::error_code& problem);
 
     const ScanEnvironment m_environment;
+    std::string m_pathWithoutLinks; ///< for the next scan; empty unless it was told
     std::atomic<ScannerDelegate*> m_delegate = nullptr;
     std::atomic<double> m_percentComplete = 0;
     std::atomic<std::uint64_t> m_objectsRead = 0;

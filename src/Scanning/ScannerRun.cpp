@@ -30,17 +30,24 @@ constexpr std::string_view kBackupStoreName = "Backups.backupdb";
 
 } // namespace
 
-Scanner::Run::Run(Scanner& scanner, Url url, ScanPurpose purpose)
+Scanner::Run::Run(Scanner& scanner, Url url, ScanPurpose purpose, std::string pathWithoutLinks)
     : m_scanner(scanner)
     , m_url(std::move(url))
     , m_purpose(purpose)
+    , m_links(pathWithoutLinks.empty() ? LinksToStart::Follow : LinksToStart::Refuse)
+    , m_pathWithoutLinks(std::move(pathWithoutLinks))
 {
+}
+
+const std::string& Scanner::Run::startPath() const
+{
+    return m_links == LinksToStart::Follow ? m_url.path() : m_pathWithoutLinks;
 }
 
 std::uint32_t Scanner::Run::_getLevel2Items(
     const std::string& path, const FileManager& manager) const
 {
-    const auto enumerator = manager.enumerator(path, ItemKeys::None);
+    const auto enumerator = manager.enumerator(path, ItemKeys::None, m_links);
     std::uint32_t count = 0;
     DirectoryItem item;
     while (!isStopped() && enumerator->next(item)) {
@@ -68,6 +75,9 @@ void Scanner::Run::prepare()
 {
     m_userName = lastPathComponent(environment().homeDirectory);
     m_hiddenUserName = "." + m_userName;
+    if (m_links == LinksToStart::Follow) {
+        m_pathWithoutLinks = environment().fileManager.pathWithoutLinks(m_url.path());
+    }
     m_isVolume
         = m_purpose == ScanPurpose::NewTree && environment().resourceValues.isVolume(m_url.path());
     m_mode = m_isVolume && !isHome() ? Mode::Volume : Mode::Folder;
@@ -75,7 +85,7 @@ void Scanner::Run::prepare()
     if (m_mode == Mode::Volume) {
         measureVolume();
     } else if (!m_staysEmpty) {
-        m_levelTotal = _getLevel2Items(m_url.path(), environment().fileManager);
+        m_levelTotal = _getLevel2Items(startPath(), environment().fileManager);
     }
 }
 
@@ -108,6 +118,7 @@ std::unique_ptr<TopFolder> Scanner::Run::makeRoot() const
         ? makeNode<TopFolder>(m_url.lastPathComponent())
         : makeNode<Volume>(m_url.lastPathComponent());
     root->setOrigin(m_url.path());
+    root->setRealOrigin(m_pathWithoutLinks);
     return root;
 }
 
@@ -119,7 +130,7 @@ TreeBuilder Scanner::Run::walk()
         return tree;
     }
     const auto enumerator
-        = environment().fileManager.enumerator(m_url.path(), ItemKeys::SizeAndHidden);
+        = environment().fileManager.enumerator(startPath(), ItemKeys::SizeAndHidden, m_links);
     DirectoryItem item;
     while (enumerator->next(item) && !isStopped()) {
         visit(item, *enumerator, tree);

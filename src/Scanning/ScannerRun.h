@@ -18,7 +18,8 @@ class Volume;
 /// called on another thread.
 class Scanner::Run : public std::enable_shared_from_this<Scanner::Run> {
 public:
-    Run(Scanner& scanner, Url url, ScanPurpose purpose);
+    /// With a path without links, the directory is reached by that alone.
+    Run(Scanner& scanner, Url url, ScanPurpose purpose, std::string pathWithoutLinks);
 
     void stop() { _stop = true; }
     bool isStopped() const { return _stop; }
@@ -39,6 +40,7 @@ private:
     bool isHome() const;
     void measureVolume();
     bool isMountedInTree() const;
+    const std::string& startPath() const;
     TreeBuilder walk();
     void visit(const DirectoryItem& item, DirectoryEnumerator& enumerator, TreeBuilder& tree);
     void visitUpperLevels(
@@ -55,6 +57,8 @@ private:
     Scanner& m_scanner; ///< the worker holds it alive
     const Url m_url;
     const ScanPurpose m_purpose;
+    const LinksToStart m_links;
+    std::string m_pathWithoutLinks;
     std::atomic<bool> _stop = false;
 
     std::string m_userName; ///< last component of the home directory

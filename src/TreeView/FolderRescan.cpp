@@ -55,6 +55,7 @@ void FolderRescan::rescan(Folder& folder)
     m_rescanner = Scanner::create(m_environment);
     m_rescanner->setDelegate(this);
     m_homePass = {};
+    m_rescanner->setPathWithoutLinks(placeOnDisk(folder).path());
     m_rescanner->scan(folder.url(), ScanPurpose::PartOfTree);
 }
 
@@ -168,6 +169,7 @@ void FolderRescan::scanUpdated(Scanner& scanner)
 void FolderRescan::scanEnded(Scanner& scanner)
 {
     if (const std::optional<Url> home = m_homePass.nextScan(scanner)) {
+        scanner.setPathWithoutLinks(pathOnDisk(*m_homePass.surroundings(), home->path()));
         scanner.scan(*home, ScanPurpose::PartOfTree);
         return;
     }

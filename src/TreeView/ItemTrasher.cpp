@@ -80,15 +80,17 @@ ItemTrasher::ItemTrasher(
 
 void ItemTrasher::trash(const File& item)
 {
-    const Url url = item.url();
-    if (isOnItsWay(url.path()) || !mayTrash(item)) {
+    const Url place = placeOnDisk(item);
+    if (isOnItsWay(place.path()) || !mayTrash(item)) {
         return;
     }
-    m_onTheirWay.insert(url.path());
+    m_onTheirWay.insert(place.path());
     m_workspace.recycleURLs(
-        {url}, [self = QPointer<ItemTrasher>(this), url](const RecycleResult& result) {
+        {place},
+        [self = QPointer<ItemTrasher>(this), place, path = item.absolutePath()](
+            const RecycleResult& result) {
             if (self != nullptr) {
-                self->recycled(url, result);
+                self->recycled(place, path, result);
             }
         });
 }
@@ -102,12 +104,12 @@ bool ItemTrasher::isOnItsWay(const std::string& path) const
 
 bool ItemTrasher::mayTrash(const File& item) const
 {
-    return needsSystemWarning(item.url()) ? confirmSystem(item) : confirmHidden(item);
+    return needsSystemWarning(placeOnDisk(item)) ? confirmSystem(item) : confirmHidden(item);
 }
 
-bool ItemTrasher::needsSystemWarning(const Url& url) const
+bool ItemTrasher::needsSystemWarning(const Url& place) const
 {
-    const std::string text = url.absoluteString();
+    const std::string text = place.absoluteString();
     const std::vector<std::string>& safe = m_model.nonSystemFolders();
     return m_defaults.boolean(kWarnDeleteSystemKey)
         && std::none_of(safe.begin(), safe.end(), [&text](const std::string& folder) {
@@ -143,41 +145,45 @@ bool ItemTrasher::ask(const QString& question) const
     return m_alert.runModal(warning) != Alert::kFirstButton + kCancelButton;
 }
 
-void ItemTrasher::recycled(const Url& url, const RecycleResult& result)
+void ItemTrasher::recycled(const Url& place, const std::string& path, const RecycleResult& result)
 {
-    m_onTheirWay.erase(url.path());
+    m_onTheirWay.erase(place.path());
     if (!result.error.empty()) {
         m_alert.beginSheet(
             {tr("Error moving to Trash"),
              tr("Error moving '%1' to the Trash for recycling. This file may be restricted or you "
                 "may have read-only access to this file.")
-                 .arg(displayText(url.lastPathComponent())),
+                 .arg(displayText(place.lastPathComponent())),
              {tr("OK")},
              displayText(result.error)});
         return;
     }
-    const auto found = result.newUrls.find(url.absoluteString());
-    moveNode(url, found == result.newUrls.end() ? nullptr : &found->second);
+    const auto found = result.newUrls.find(place.absoluteString());
+    moveNode(path, found == result.newUrls.end() ? nullptr : &found->second);
     m_screen.setSelectedFile(nullptr);
     m_screen.objectTreeRefreshed();
     m_screen.renderTree();
 }
 
-void ItemTrasher::moveNode(const Url& from, const Url* to)
+void ItemTrasher::moveNode(const std::string& from, const Url* to)
 {
     // Looked up again: a rescan may have put another tree in the place of what the item was in.
     TopFolder* const top = m_model.topFolder();
-    File* const item = top == nullptr ? nullptr : nodeAtPath(*top, from.path());
+    File* const item = top == nullptr ? nullptr : nodeAtPath(*top, from);
     if (item == nullptr || item == top) {
         return;
     }
     m_screen.nodeWillLeave(*item);
     std::unique_ptr<File> node = item->parent()->removeChild(*item);
-    Folder* const trash = to == nullptr ? nullptr : CoreUtil::locateParent(*to, *top);
+    if (to == nullptr) {
+        return;
+    }
+    const Url url(pathInTree(*top, to->path()), to->isDirectory());
+    Folder* const trash = CoreUtil::locateParent(url, *top);
     // A rescan of the trash meanwhile may have met the item there.
-    if (trash != nullptr && nodeAtPath(*top, to->path()) == nullptr) {
-        node->setFragment(to->lastPathComponent());
-        rebase(*node, from.path(), to->path());
+    if (trash != nullptr && nodeAtPath(*top, url.path()) == nullptr) {
+        node->setFragment(url.lastPathComponent());
+        rebase(*node, from, url.path());
         m_screen.nodeCame(trash->insertChild(std::move(node)));
     }
 }

@@ -41,19 +41,19 @@ private:
     bool mayTrash(const File& item) const;
     bool confirmSystem(const File& item) const;
     bool confirmHidden(const File& item) const;
-    bool needsSystemWarning(const Url& url) const;
+    bool needsSystemWarning(const Url& place) const;
     bool ask(const QString& question) const;
     bool isOnItsWay(const std::string& path) const;
 
-    void recycled(const Url& url, const RecycleResult& result);
-    void moveNode(const Url& from, const Url* to);
+    void recycled(const Url& place, const std::string& path, const RecycleResult& result);
+    void moveNode(const std::string& from, const Url* to);
 
     RootModel& m_model;
     const UserDefaults& m_defaults;
     Workspace& m_workspace;
     Alert& m_alert;
     TreeScreen& m_screen;
-    std::set<std::string> m_onTheirWay; ///< absolute paths
+    std::set<std::string> m_onTheirWay; ///< absolute paths on the disk
 };
 
 } // namespace tessera

@@ -2,6 +2,7 @@
 #include "TreeView/SelectionPreview.h"
 
 #include "Model/File.h"
+#include "Model/nodeLookup.h"
 #include "QuickLook/QuickLookPanel.h"
 #include "TreeView/TreeMapView.h"
 #include "TreeView/TreeViewController.h"
@@ -79,7 +80,7 @@ QRectF SelectionPreview::sourceFrameOnScreenForPreviewItem(const PreviewItem& /*
 Url SelectionPreview::previewItemURL() const
 {
     const File* const selected = m_controller.selectedFile();
-    return selected == nullptr ? Url() : selected->url();
+    return selected == nullptr ? Url() : placeOnDisk(*selected);
 }
 
 const File* SelectionPreview::previewItemNode() const

@@ -221,7 +221,7 @@ void TreeViewController::compressItem()
     }
     const auto compressing = CompressWindowController::make(m_services.compressing);
     compressing->showWindow(m_treeView.window());
-    compressing->compressURL(m_selectedFile->url(), m_selectedFile->totalAllocation());
+    compressing->compressURL(placeOnDisk(*m_selectedFile), m_selectedFile->totalAllocation());
 }
 
 void TreeViewController::itemCompressed(const Url& archive)
@@ -229,8 +229,10 @@ void TreeViewController::itemCompressed(const Url& archive)
     auto document = makeNode<Document>(archive.lastPathComponent());
     document->setTotalAllocation(
         m_services.resourceValues.allocatedSize(archive.path()).value_or(0));
-    if (Folder* const parent = locateParent(archive)) {
-        removeNodeAt(archive);
+    const TopFolder* const top = m_model.topFolder();
+    const Url inTree(top == nullptr ? "" : pathInTree(*top, archive.path()), false);
+    if (Folder* const parent = locateParent(inTree)) {
+        removeNodeAt(inTree);
         nodeCame(parent->insertChild(std::move(document)));
     }
     objectTreeRefreshed();

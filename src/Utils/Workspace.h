@@ -41,9 +41,10 @@ public:
     /// item, and selects the item. The completion handler is called likewise.
     virtual void reveal(const Url& item, OpenCompletion completionHandler) = 0;
 
-    /// Moves the items to the trash, one after the other; one that cannot be moved stays where it
-    /// is and does not stop the others. The completion handler is called later, on the main thread;
-    /// not when the workspace is gone by then.
+    /// Moves the items to the trash, one after the other, each at exactly that path, which must
+    /// lead over no link; one that cannot be moved stays where it is and does not stop the others.
+    /// The completion handler is called later, on the main thread; not when the workspace is gone
+    /// by then.
     virtual void recycleURLs(std::vector<Url> urls, RecycleCompletion completionHandler) = 0;
 };
 

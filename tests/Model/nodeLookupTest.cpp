@@ -55,6 +55,43 @@ TEST_F(NodeLookup, TheNearestIsTheDeepestOnTheWay)
     EXPECT_EQ(nearestNodeAtPath(top(), "/elsewhere"), nullptr);
 }
 
+TEST_F(NodeLookup, ANodesPlaceIsItsPathWhereNoLinkLedToTheScan)
+{
+    EXPECT_EQ(placeOnDisk(node("ab/deep")), Url("/data/ab/deep", true));
+    EXPECT_EQ(placeOnDisk(node("a/x")), Url("/data/a/x", false));
+}
+
+TEST_F(NodeLookup, ANodesPlaceBeginsWhereTheLinksToTheScanLed)
+{
+    top().setRealOrigin("/disk/data");
+    EXPECT_EQ(placeOnDisk(node("ab/deep/z")), Url("/disk/data/ab/deep/z", false));
+    EXPECT_EQ(placeOnDisk(top()), Url("/disk/data", true));
+}
+
+TEST_F(NodeLookup, ALinkToTheRootLeadsToPathsWithoutASlashTooMany)
+{
+    top().setRealOrigin("/");
+    EXPECT_EQ(placeOnDisk(node("a/x")), Url("/a/x", false));
+}
+
+TEST_F(NodeLookup, BelowARescannedFolderThePlaceBeginsThereToo)
+{
+    top().setRealOrigin("/disk/data");
+    auto& above = static_cast<Folder&>(node("ab"));
+    auto rescanned = test::makeTree("/data/ab/deep", "w:5");
+    rescanned->setRealOrigin("/elsewhere");
+    above.replaceChild(node("ab/deep"), std::move(rescanned));
+    EXPECT_EQ(placeOnDisk(node("ab/deep/w")), Url("/disk/data/ab/deep/w", false));
+}
+
+TEST_F(NodeLookup, APlaceOnTheDiskHasItsPathInTheTree)
+{
+    top().setRealOrigin("/disk/data");
+    EXPECT_EQ(pathInTree(top(), "/disk/data/ab/new"), "/data/ab/new");
+    EXPECT_EQ(pathInTree(top(), "/disk/data"), "/data");
+    EXPECT_EQ(pathInTree(top(), "/disk/database"), "/disk/database");
+}
+
 TEST_F(NodeLookup, ANodeIsAtItselfAndBelowWhatHoldsIt)
 {
     EXPECT_TRUE(isAtOrBelow(node("ab/deep"), node("ab/deep")));

@@ -26,6 +26,7 @@
 namespace tessera {
 namespace {
 
+using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -202,6 +203,30 @@ TEST_F(ScannerTest, TheRootTakesThePathAsOriginAndItsLastComponentAsName)
     TopFolder& root = scanToEnd("a:1", "/srv/some data");
     EXPECT_EQ(root.origin(), "/srv/some data");
     EXPECT_EQ(root.fragment(), "some data");
+}
+
+TEST_F(ScannerTest, TheRootKnowsWhereTheLinksOfItsPathLed)
+{
+    Scanner& scanner = scannerOf("a:1");
+    files->setPathWithoutLinks("/srv/link", "/disk/data");
+    scanner.scan(Url("/srv/link", true));
+    mainThread.runUntil([this] { return delegate.hasEnded(); });
+    EXPECT_EQ(delegate.tree->origin(), "/srv/link");
+    EXPECT_EQ(delegate.tree->realOrigin(), "/disk/data");
+    EXPECT_EQ(files->enumeratedPaths(), (std::vector<std::string>{"/srv/link", "/srv/link"}));
+    EXPECT_THAT(files->linksToStarts(), Each(LinksToStart::Follow));
+}
+
+TEST_F(ScannerTest, APathWithoutLinksIsTheOnlyWayToTheDirectory)
+{
+    Scanner& scanner = scannerOf("a:1");
+    scanner.setPathWithoutLinks("/disk/data/docs");
+    scanner.scan(Url("/srv/link/docs", true));
+    mainThread.runUntil([this] { return delegate.hasEnded(); });
+    EXPECT_EQ(delegate.tree->origin(), "/srv/link/docs");
+    EXPECT_EQ(
+        files->enumeratedPaths(), (std::vector<std::string>{"/disk/data/docs", "/disk/data/docs"}));
+    EXPECT_THAT(files->linksToStarts(), Each(LinksToStart::Refuse));
 }
 
 TEST_F(ScannerTest, SortsEveryFolderTheRootIncluded)

@@ -44,9 +44,14 @@ public:
     }
 
     std::unique_ptr<DirectoryEnumerator> enumerator(
-        const std::string& path, ItemKeys keys) const override
+        const std::string& path, ItemKeys keys, LinksToStart links) const override
     {
-        return std::make_unique<SlowEnumerator>(m_files->enumerator(path, keys));
+        return std::make_unique<SlowEnumerator>(m_files->enumerator(path, keys, links));
+    }
+
+    std::string pathWithoutLinks(const std::string& path) const override
+    {
+        return m_files->pathWithoutLinks(path);
     }
 
 private:

@@ -53,6 +53,17 @@ TEST_F(HomeRescanTest, TheHomeIsScannedAgainToo)
     EXPECT_EQ(model.topFolder()->totalAllocation(), 2501U);
 }
 
+TEST_F(HomeRescanTest, BothAreReachedOverNoLink)
+{
+    model.topFolder()->setRealOrigin("/disk");
+    rescan("docs");
+    finish();
+    EXPECT_EQ(
+        services.files.enumeratedPaths(),
+        (std::vector<std::string>{"/disk/docs", "/disk/docs", "/disk/docs/new", "/disk/docs/new"}));
+    EXPECT_EQ(services.files.linksToStarts().back(), LinksToStart::Refuse);
+}
+
 TEST_F(HomeRescanTest, TheBarStaysUntilTheEndOfTheSecondScan)
 {
     bool isInHome = false;
@@ -68,6 +79,16 @@ TEST_F(HomeRescanTest, TheBarStaysUntilTheEndOfTheSecondScan)
     EXPECT_TRUE(isRescanning());
     finish();
     EXPECT_EQ(indicator(), nullptr);
+}
+
+TEST_F(FolderRescanTest, FollowsNoLinkThatWasPutInTheFoldersPlace)
+{
+    model.topFolder()->setRealOrigin("/disk");
+    rescan("docs");
+    finish();
+    EXPECT_EQ(services.files.enumeratedPaths().back(), "/disk/docs");
+    EXPECT_EQ(services.files.linksToStarts().back(), LinksToStart::Refuse);
+    EXPECT_EQ(node("docs/a").absolutePath(), "/data/docs/a");
 }
 
 TEST_F(FolderRescanTest, ShowsTheFolderWithoutItsContentMeanwhile)

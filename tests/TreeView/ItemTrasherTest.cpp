@@ -359,5 +359,43 @@ TEST_F(ItemTrasherTest, AMoveMayEndWhenTheTrasherIsGone)
     EXPECT_EQ(node("docs").totalAllocation(), 700U);
 }
 
+class ItemTrasherOverLinks : public ItemTrasherTest {
+protected:
+    ItemTrasherOverLinks() { model.topFolder()->setRealOrigin("/disk/me"); }
+};
+
+TEST_F(ItemTrasherOverLinks, TheItemIsMovedFromWhereItIs)
+{
+    modelServices.defaults.setBoolean(kWarnDeleteSystemKey, false);
+    trash("docs/a");
+    ASSERT_EQ(workspace.recycled.size(), 1U);
+    EXPECT_EQ(workspace.recycled[0], (std::vector{Url("/disk/me/docs/a", false)}));
+}
+
+TEST_F(ItemTrasherOverLinks, WhereTheItemIsDecidesTheWarning)
+{
+    trash("docs/a");
+    EXPECT_NE(question().find("is located inside a system folder"), std::string::npos);
+}
+
+TEST_F(ItemTrasherOverLinks, WhatLinksInSystemFoldersLeadToMayBeTheUsersOwn)
+{
+    model.setTopFolder(test::makeTree("/var/link", "a:5"));
+    model.topFolder()->setRealOrigin("/Users/me");
+    trash("a");
+    EXPECT_TRUE(alert.asked.empty());
+}
+
+TEST_F(ItemTrasherOverLinks, TheNodeGoesUnderTheScannedTrash)
+{
+    trash("docs/a");
+    const Url url("/disk/me/docs/a", false);
+    RecycleResult result;
+    result.newUrls[url.absoluteString()] = Url("/disk/me/.local/Trash/files/a 2", false);
+    ASSERT_TRUE(workspace.finishRecycling(result));
+    EXPECT_EQ(node("docs").totalAllocation(), 200U);
+    EXPECT_EQ(node(".local/Trash/files/a 2").totalAllocation(), 500U);
+}
+
 } // namespace
 } // namespace tessera

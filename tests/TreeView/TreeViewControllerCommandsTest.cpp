@@ -178,6 +178,29 @@ TEST_F(TreeViewControllerCommandsTest, AnArchiveJoinsTheTree)
     EXPECT_EQ(view.branches().front()->layoutItems().size(), 2U);
 }
 
+TEST_F(TreeViewControllerCommandsTest, AnArchiveOfAScanOverALinkIsMadeWhereTheItemIs)
+{
+    model.topFolder()->setRealOrigin("/disk");
+    select("docs");
+    controller->perform(TreeCommand::Compress);
+    EXPECT_EQ(
+        services.archiver.arguments,
+        (std::vector<std::string>{"-c", "-k", "--sequesterRsrc", "/disk/docs", "/disk/docs.zip"}));
+    services.archiver.onTerminated(1);
+    QTRY_COMPARE(services.workspace.recycled.size(), 1U);
+    ASSERT_TRUE(services.workspace.finishRecycling({}));
+    QTRY_VERIFY(services.archiver.isDestroyed);
+    QTest::qWait(0);
+}
+
+TEST_F(TreeViewControllerCommandsTest, AnArchiveOfAScanOverALinkJoinsTheTree)
+{
+    model.topFolder()->setRealOrigin("/disk");
+    services.resourceValues.sizes["/disk/docs/a.zip"] = 4096;
+    NotificationCenter::defaultCenter().post("ItemCompressed", Url("/disk/docs/a.zip", false));
+    EXPECT_EQ(node("docs/a.zip").totalAllocation(), 4096U);
+}
+
 TEST_F(TreeViewControllerCommandsTest, AnArchiveThatARescanMetIsNotAddedTwice)
 {
     services.resourceValues.size = 4096;
@@ -234,6 +257,14 @@ TEST_F(TreeViewControllerCommandsTest, ThePreviewHasOneItemWhateverIsSelected)
     EXPECT_EQ(panel.dataSource()->numberOfPreviewItemsInPreviewPanel(), 1);
     EXPECT_EQ(
         panel.dataSource()->previewItemAtIndex(7).previewItemURL(), Url("/data/docs/a", false));
+}
+
+TEST_F(TreeViewControllerCommandsTest, ThePreviewLooksWhereTheLinksToTheScanLed)
+{
+    model.topFolder()->setRealOrigin("/disk");
+    select("docs/a");
+    EXPECT_EQ(
+        panel.dataSource()->previewItemAtIndex(0).previewItemURL(), Url("/disk/docs/a", false));
 }
 
 TEST_F(TreeViewControllerCommandsTest, ThePreviewGrowsOutOfTheSelectedBox)

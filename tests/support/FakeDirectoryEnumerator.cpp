@@ -41,10 +41,17 @@ void FakeFileManager::onItem(std::function<void(const std::string& path)> action
 }
 
 std::unique_ptr<DirectoryEnumerator> FakeFileManager::enumerator(
-    const std::string& path, ItemKeys keys) const
+    const std::string& path, ItemKeys keys, LinksToStart links) const
 {
     m_enumeratedPaths.push_back(path);
+    m_linksToStarts.push_back(links);
     return std::make_unique<FakeDirectoryEnumerator>(*this, keys);
+}
+
+std::string FakeFileManager::pathWithoutLinks(const std::string& path) const
+{
+    const auto found = m_pathsWithoutLinks.find(path);
+    return found == m_pathsWithoutLinks.end() ? path : found->second;
 }
 
 FakeDirectoryEnumerator::FakeDirectoryEnumerator(const FakeFileManager& fileManager, ItemKeys keys)

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <set>
 #include <string>
 #include <string_view>
@@ -34,9 +35,18 @@ public:
 
     /// The paths for which enumerators were asked, in order.
     const std::vector<std::string>& enumeratedPaths() const { return m_enumeratedPaths; }
+    /// What each of those may lead over.
+    const std::vector<LinksToStart>& linksToStarts() const { return m_linksToStarts; }
+
+    /// `path` leads over links to `place`.
+    void setPathWithoutLinks(const std::string& path, const std::string& place)
+    {
+        m_pathsWithoutLinks[path] = place;
+    }
 
     [[nodiscard]] std::unique_ptr<DirectoryEnumerator> enumerator(
-        const std::string& path, ItemKeys keys) const override;
+        const std::string& path, ItemKeys keys, LinksToStart links) const override;
+    [[nodiscard]] std::string pathWithoutLinks(const std::string& path) const override;
 
 private:
     friend class FakeDirectoryEnumerator;
@@ -55,7 +65,9 @@ private:
     std::set<std::string, std::less<>> m_vanishing;
     std::set<std::string, std::less<>> m_late;
     std::function<void(const std::string& path)> m_onItem;
+    std::map<std::string, std::string> m_pathsWithoutLinks;
     mutable std::vector<std::string> m_enumeratedPaths;
+    mutable std::vector<LinksToStart> m_linksToStarts;
 };
 
 /// Walks the items of a FakeFileManager, which must outlive it.

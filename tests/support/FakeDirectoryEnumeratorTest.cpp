@@ -14,7 +14,8 @@ std::vector<std::string> walk(
     const FakeFileManager& fileManager, std::string_view skipped = "no such item")
 {
     std::vector<std::string> names;
-    const auto enumerator = fileManager.enumerator("/disk", ItemKeys::SizeAndHidden);
+    const auto enumerator
+        = fileManager.enumerator("/disk", ItemKeys::SizeAndHidden, LinksToStart::Follow);
     DirectoryItem item;
     while (enumerator->next(item)) {
         names.emplace_back(item.name);
@@ -33,7 +34,8 @@ TEST(FakeDirectoryEnumerator, DeliversTheItemsDepthFirst)
 TEST(FakeDirectoryEnumerator, GivesEachItemItsKeys)
 {
     const FakeFileManager fileManager("a/ ( .b:700 )");
-    const auto enumerator = fileManager.enumerator("/disk", ItemKeys::SizeAndHidden);
+    const auto enumerator
+        = fileManager.enumerator("/disk", ItemKeys::SizeAndHidden, LinksToStart::Follow);
     DirectoryItem item;
     ASSERT_TRUE(enumerator->next(item));
     ASSERT_TRUE(enumerator->next(item));
@@ -46,7 +48,7 @@ TEST(FakeDirectoryEnumerator, GivesEachItemItsKeys)
 TEST(FakeDirectoryEnumerator, LeavesTheKeysOutWhenNoneAreAskedFor)
 {
     const FakeFileManager fileManager(".b:700");
-    const auto enumerator = fileManager.enumerator("/disk", ItemKeys::None);
+    const auto enumerator = fileManager.enumerator("/disk", ItemKeys::None, LinksToStart::Follow);
     DirectoryItem item;
     ASSERT_TRUE(enumerator->next(item));
     EXPECT_FALSE(item.isHidden);

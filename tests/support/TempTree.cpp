@@ -125,7 +125,7 @@ TempTree::TempTree()
 }
 
 TempTree::TempTree(const std::string& parent)
-    : m_path(parent + "/tessera-test-XXXXXX")
+    : m_path(std::filesystem::canonical(parent).string() + "/tessera-test-XXXXXX")
 {
     check(::mkdtemp(m_path.data()) != nullptr, m_path);
     // Tests give up the super-user's rights and have to get in here nevertheless.

@@ -19,7 +19,8 @@ std::vector<WalkedItem> walkTree(
 {
     std::vector<WalkedItem> items;
     std::vector<std::string> parents;
-    const auto enumerator = LinuxFileManager(options).enumerator(path, ItemKeys::SizeAndHidden);
+    const auto enumerator
+        = LinuxFileManager(options).enumerator(path, ItemKeys::SizeAndHidden, LinksToStart::Follow);
     DirectoryItem item;
     while (enumerator->next(item)) {
         parents.resize(item.level - 1);
@@ -58,7 +59,8 @@ WalkedItem itemAt(const std::vector<WalkedItem>& items, const std::string& path)
 
 std::size_t countItems(const std::string& path, const ReadAheadOptions& options)
 {
-    const auto enumerator = LinuxFileManager(options).enumerator(path, ItemKeys::SizeAndHidden);
+    const auto enumerator
+        = LinuxFileManager(options).enumerator(path, ItemKeys::SizeAndHidden, LinksToStart::Follow);
     std::size_t count = 0;
     for (DirectoryItem item; enumerator->next(item);) {
         ++count;

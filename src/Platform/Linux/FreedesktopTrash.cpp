@@ -7,6 +7,7 @@
 #include "Platform/Linux/TrashDirectory.h"
 #include "Platform/Linux/TrashInfo.h"
 #include "Platform/Linux/TrashItem.h"
+#include "Platform/Linux/realPath.h"
 #include "Platform/Linux/renameWithoutReplacing.h"
 #include "Platform/Linux/writeAll.h"
 
@@ -17,7 +18,6 @@
 #include <cctype>
 #include <cerrno>
 #include <cstdlib>
-#include <memory>
 #include <utility>
 
 namespace tessera {
@@ -33,9 +33,7 @@ std::string dataHome(const std::string& home)
 
 std::string withoutLinks(const std::string& path)
 {
-    const std::unique_ptr<char, decltype(&std::free)> resolved(
-        ::realpath(path.c_str(), nullptr), &std::free);
-    return resolved == nullptr ? path : std::string(resolved.get());
+    return realPath(path).value_or(path);
 }
 
 /// Whether the item is what one of the path's components names, a link among them included.

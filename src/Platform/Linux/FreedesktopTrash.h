@@ -38,7 +38,8 @@ class FreedesktopTrash {
 public:
     explicit FreedesktopTrash(TrashUser user);
 
-    /// Moves the items, one after the other.
+    /// Moves the items, one after the other. What would be reached over a link stays: the paths
+    /// come from scans, which follow none, so it was put there since.
     [[nodiscard]] RecycleResult recycle(const std::vector<Url>& urls) const;
 
 private:

@@ -13,11 +13,11 @@ constexpr std::size_t kEntriesCountedTogether = 256;
 } // namespace
 
 LinuxDirectoryEnumerator::LinuxDirectoryEnumerator(
-    const std::string& path, ItemKeys keys, const ReadAheadOptions& options)
-    : m_readAhead(path, keys, options)
+    FileDescriptor start, ItemKeys keys, const ReadAheadOptions& options)
+    : m_readAhead(std::move(start), keys, options)
 {
-    if (WalkFolder* start = m_readAhead.start()) {
-        m_path.push_back({start});
+    if (WalkFolder* folder = m_readAhead.start()) {
+        m_path.push_back({folder});
     }
 }
 

@@ -4,7 +4,6 @@
 #include "Platform/Linux/ReadAhead.h"
 #include "Scanning/DirectoryEnumerator.h"
 
-#include <string>
 #include <vector>
 
 namespace tessera {
@@ -14,8 +13,8 @@ namespace tessera {
 /// opened, is a mount point, or is no directory any more when its turn comes, nothing is walked.
 class LinuxDirectoryEnumerator final : public DirectoryEnumerator {
 public:
-    LinuxDirectoryEnumerator(
-        const std::string& path, ItemKeys keys, const ReadAheadOptions& options);
+    /// Of the open directory; of none, nothing is walked.
+    LinuxDirectoryEnumerator(FileDescriptor start, ItemKeys keys, const ReadAheadOptions& options);
 
     [[nodiscard]] bool next(DirectoryItem& item) override;
     void skipDescendants() override;

@@ -2,6 +2,7 @@
 #include "Platform/Linux/LinuxFileAccess.h"
 
 #include "Platform/Linux/FileDescriptor.h"
+#include "Platform/Linux/realPath.h"
 #include "Platform/Linux/writeWholeFile.h"
 
 #include <fcntl.h>
@@ -28,13 +29,6 @@ std::error_code tryToOpenFolder(const std::string& path)
     return folder.isOpen() ? std::error_code{} : lastError();
 }
 
-std::optional<std::string> resolvedPath(const std::string& path)
-{
-    const std::unique_ptr<char, decltype(&std::free)> resolved(
-        ::realpath(path.c_str(), nullptr), &std::free);
-    return resolved != nullptr ? std::optional<std::string>(resolved.get()) : std::nullopt;
-}
-
 } // namespace
 
 LinuxFileAccess::LinuxFileAccess(std::shared_ptr<const FileSystemQuestions> questions)
@@ -56,9 +50,8 @@ std::error_code LinuxFileAccess::checkFolder(const std::string& path) const
 std::string LinuxFileAccess::absolutePath(const std::string& path) const
 {
     const std::optional<std::string> resolved = m_questions == nullptr
-        ? resolvedPath(path)
-        : m_questions->ask<std::string>(
-            path, LinkMode::Follow, [path] { return resolvedPath(path); });
+        ? realPath(path)
+        : m_questions->ask<std::string>(path, LinkMode::Follow, [path] { return realPath(path); });
     if (resolved) {
         return *resolved;
     }

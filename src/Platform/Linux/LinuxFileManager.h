@@ -18,10 +18,9 @@ public:
     {
     }
 
-    /// As promised by FileManager; a symbolic link at the end of `path` itself is followed,
-    /// because somebody chose it.
     [[nodiscard]] std::unique_ptr<DirectoryEnumerator> enumerator(
-        const std::string& path, ItemKeys keys) const override;
+        const std::string& path, ItemKeys keys, LinksToStart links) const override;
+    [[nodiscard]] std::string pathWithoutLinks(const std::string& path) const override;
 
 private:
     ReadAheadOptions m_options;

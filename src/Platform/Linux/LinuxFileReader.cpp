@@ -2,6 +2,7 @@
 #include "Platform/Linux/LinuxFileReader.h"
 
 #include "Platform/Linux/FileDescriptor.h"
+#include "Platform/Linux/LongPath.h"
 
 #include <fcntl.h>
 #include <linux/stat.h>
@@ -10,7 +11,6 @@
 
 #include <cerrno>
 #include <climits>
-#include <string_view>
 #include <utility>
 #include <variant>
 
@@ -40,27 +40,14 @@ Place openAt(int directory, const std::string& name, int flags)
     return FileDescriptor(number);
 }
 
-/// The kernel takes no path of PATH_MAX bytes or more at once, but a deep tree has such paths:
-/// they are walked in several pieces.
-Place openPlace(std::string_view path)
+/// A link that is met on the way was put there after the scan, and may lead to anything.
+Place openPlace(const std::string& path)
 {
-    FileDescriptor folder;
-    int directory = AT_FDCWD;
-    while (path.size() >= PATH_MAX) {
-        const std::size_t slash = path.rfind('/', PATH_MAX - 1);
-        if (slash == std::string_view::npos || slash == 0) {
-            return std::make_error_code(std::errc::filename_too_long);
-        }
-        Place next
-            = openAt(directory, std::string(path.substr(0, slash)), kPlaceFlags | O_DIRECTORY);
-        if (!std::holds_alternative<FileDescriptor>(next)) {
-            return next;
-        }
-        folder = std::get<FileDescriptor>(std::move(next));
-        directory = folder.number();
-        path.remove_prefix(slash + 1);
+    const NamedPlace place = openFolderOfWithoutLinks(path);
+    if (place.error != 0) {
+        return std::error_code(place.error, std::generic_category());
     }
-    return openAt(directory, std::string(path), kPlaceFlags | O_NOFOLLOW);
+    return openAt(place.folder.number(), place.name, kPlaceFlags | O_NOFOLLOW);
 }
 
 FileKind kindOf(mode_t mode)

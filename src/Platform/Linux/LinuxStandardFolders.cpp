@@ -2,6 +2,7 @@
 #include "Platform/Linux/LinuxStandardFolders.h"
 
 #include "Platform/Linux/UserDirectories.h"
+#include "Platform/Linux/realPath.h"
 
 #include <fstream>
 #include <iterator>
@@ -51,6 +52,11 @@ std::string usualLocation(LocationKind kind, const std::string& homeDirectory)
 }
 
 } // namespace
+
+Url LinuxStandardFolders::localUsers() const
+{
+    return {realPath("/home").value_or("/home"), true};
+}
 
 std::string LinuxStandardFolders::equivalentLocation(
     LocationKind kind, const std::string& homeDirectory) const

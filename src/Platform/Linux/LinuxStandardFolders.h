@@ -10,7 +10,8 @@ class LinuxStandardFolders final : public StandardFolders {
 public:
     /// /opt, because what lies under /usr belongs to the system.
     [[nodiscard]] Url localApplications() const override { return {"/opt", true}; }
-    [[nodiscard]] Url localUsers() const override { return {"/home", true}; }
+    /// /home, or where that leads: on some systems it is a link.
+    [[nodiscard]] Url localUsers() const override;
 
     /// The user directories may have other names and places, after the user's language and wish.
     [[nodiscard]] std::string equivalentLocation(

@@ -20,11 +20,6 @@ constexpr std::size_t kEntriesPerStep = 512;
 /// So many times the entries that may be read ahead may lie far away beside them.
 constexpr std::size_t kFarLimits = 8;
 
-FileDescriptor openStart(const std::string& path)
-{
-    return FileDescriptor(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-}
-
 std::vector<std::size_t> directoriesIn(const DirectoryListing& listing)
 {
     std::vector<std::size_t> positions;
@@ -69,21 +64,20 @@ void destroy(std::vector<std::unique_ptr<WalkFolder>> folders)
 
 } // namespace
 
-ReadAhead::ReadAhead(const std::string& start, ItemKeys keys, const ReadAheadOptions& options)
+ReadAhead::ReadAhead(FileDescriptor start, ItemKeys keys, const ReadAheadOptions& options)
     : m_reader(keys, m_isEnding)
     , m_maxEntriesAhead(options.maxEntriesAhead)
     , m_levelsAhead(options.levelsAhead)
     , m_handles(FolderHandles::defaultCapacity())
 {
-    FileDescriptor opened = openStart(start);
-    const StatusResult found = statusOf(opened.number());
-    if (!opened.isOpen() || !found) {
+    const StatusResult found = statusOf(start.number());
+    if (!start.isOpen() || !found) {
         return;
     }
     m_boundary.emplace(found.status);
-    m_mayHoldAutomounts = mayHoldAutomounts(opened);
+    m_mayHoldAutomounts = mayHoldAutomounts(start);
     m_start = std::make_unique<WalkFolder>(nullptr, 0, std::string());
-    m_start->readingHandle = std::make_shared<const FileDescriptor>(std::move(opened));
+    m_start->readingHandle = std::make_shared<const FileDescriptor>(std::move(start));
     startHelpers(options.helpers);
     Lock lock(m_mutex);
     readEntries(*m_start, lock);

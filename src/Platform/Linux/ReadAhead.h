@@ -37,8 +37,8 @@ struct ReadAheadOptions {
 /// entries that are not taken yet, and the taker would have to read alone until it gets there.
 class ReadAhead {
 public:
-    /// `start` is a path, bytes; a symbolic link in the place of its last component is followed.
-    ReadAhead(const std::string& start, ItemKeys keys, const ReadAheadOptions& options);
+    /// `start` is a directory open for reading, or none.
+    ReadAhead(FileDescriptor start, ItemKeys keys, const ReadAheadOptions& options);
     ReadAhead(const ReadAhead&) = delete;
     ReadAhead& operator=(const ReadAhead&) = delete;
 

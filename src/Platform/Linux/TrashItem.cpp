@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/TrashItem.h"
 
+#include "Platform/Linux/LongPath.h"
+
 #include <fcntl.h>
 
 #include <array>
 #include <cerrno>
 #include <climits>
+#include <string_view>
 #include <system_error>
 #include <utility>
 
@@ -13,18 +16,28 @@ namespace tessera {
 
 namespace {
 
-FileDescriptor openParent(const std::string& path)
-{
-    // Links above the item are followed, as for everybody who uses this path.
-    const std::size_t slash = path.rfind('/');
-    const std::string parent = slash == 0 ? "/" : path.substr(0, slash);
-    return FileDescriptor(::open(parent.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
-}
-
 std::string changedKindSentence(const std::string& name, bool isDirectory)
 {
     return '\'' + name + "' was not moved, because it has changed since the scan: it is "
         + (isDirectory ? "a folder now." : "no folder any more.");
+}
+
+/// Whether the path is absolute, names something in a folder and says where that lies without
+/// anybody having to resolve it.
+bool isPlainPath(std::string_view path)
+{
+    if (!path.starts_with('/')) {
+        return false;
+    }
+    while (!path.empty()) {
+        path.remove_prefix(1);
+        const std::string_view name = path.substr(0, path.find('/'));
+        if (name.empty() || name == "." || name == "..") {
+            return false;
+        }
+        path.remove_prefix(name.size());
+    }
+    return true;
 }
 
 TrashItemResult failure(std::string sentence)
@@ -41,22 +54,26 @@ TrashItemResult findTrashItem(const Url& url)
     TrashItemResult result;
     TrashItem& item = result.item;
     item.name = url.lastPathComponent();
-    if (!url.path().starts_with('/') || item.name == "/" || item.name == "." || item.name == "..") {
-        return failure('\'' + url.path() + "' cannot be moved to the trash.");
+    item.path = url.path();
+    if (!isPlainPath(item.path)) {
+        return failure('\'' + item.path + "' cannot be moved to the trash.");
     }
-    item.parent = openParent(url.path());
-    if (!item.parent.isOpen()) {
-        return failure(trashErrorSentence(item.name, errno));
+    if (item.path.size() >= PATH_MAX) {
+        // No program could put it back.
+        return failure(trashErrorSentence(item.name, ENAMETOOLONG));
     }
+    NamedPlace place = openFolderOfWithoutLinks(item.path);
+    if (place.error != 0) {
+        return failure(trashErrorSentence(item.name, place.error));
+    }
+    item.parent = std::move(place.folder);
     const StatusResult parent = statusOf(item.parent.number());
     const StatusResult found = statusAt(item.parent.number(), item.name.c_str());
-    const std::string parentPath = pathOf(item.parent);
-    if (!parent || !found || parentPath.empty()) {
-        return failure(trashErrorSentence(item.name, found ? ENOENT : found.error));
+    if (!parent || !found) {
+        return failure(trashErrorSentence(item.name, parent ? found.error : parent.error));
     }
     item.parentStatus = parent.status;
     item.status = found.status;
-    item.path = (parentPath == "/" ? "" : parentPath) + '/' + item.name;
     if (item.status.isDirectory != url.isDirectory()) {
         return failure(changedKindSentence(item.name, item.status.isDirectory));
     }
@@ -73,6 +90,10 @@ std::string trashErrorSentence(const std::string& name, int error)
     case EACCES:
     case EPERM:
         return quoted + " was not moved to the trash, because you have no permission to do so.";
+    case ELOOP:
+        return quoted
+            + " was not moved to the trash, because a folder on the way to it has become a link "
+              "since the scan.";
     case EROFS:
         return quoted + " was not moved to the trash, because its disk can only be read.";
     case ENOSPC:

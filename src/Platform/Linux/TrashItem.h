@@ -14,7 +14,7 @@ struct TrashItem {
     FileDescriptor parent;
     FileStatus parentStatus;
     std::string name; ///< in `parent`
-    std::string path; ///< where it is without any link above it
+    std::string path; ///< where it is; nothing above it is a link
     FileStatus status; ///< of the item itself, be it a link
 };
 
@@ -26,7 +26,8 @@ struct TrashItemResult {
     explicit operator bool() const { return error.empty(); }
 };
 
-/// Looks the item up, which must still be a folder or no folder as the URL says.
+/// Looks the item up, which must still be a folder or no folder as the URL says, and be reached
+/// over no link.
 [[nodiscard]] TrashItemResult findTrashItem(const Url& url);
 
 /// One sentence for the user that says why the item of that name stays where it is, for an errno

@@ -268,5 +268,13 @@ TEST_F(TrashOnAMount, OneWhoseHomeTrashIsOnTheMountUsesThatOne)
     EXPECT_THAT(namesIn(m_disk + "/data/Trash/files"), ElementsAre("a"));
 }
 
+TEST_F(TrashOnAMount, AFolderThatBecameALinkToAnotherDiskLeadsNothingAway)
+{
+    m_tree.makeFolder("disk/etc");
+    m_tree.makeFile("disk/etc/conf");
+    m_tree.makeSymbolicLink("work/etc", m_disk + "/etc");
+    EXPECT_THAT(moveInVain("work/etc/conf"), HasSubstr("has become a link since the scan"));
+}
+
 } // namespace
 } // namespace tessera::test

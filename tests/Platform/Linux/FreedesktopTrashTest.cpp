@@ -104,14 +104,24 @@ TEST_F(FreedesktopTrashTest, TheInfoFileHasThePathsBytesPercentEncoded)
             "[Trash Info]\nPath=" + m_tree.pathOf("work/") + "a%20b%0A%FF%2541\nDeletionDate="));
 }
 
-TEST_F(FreedesktopTrashTest, TheOriginalPathHasNoLinksInIt)
+TEST_F(FreedesktopTrashTest, WhatIsReachedOverALinkStays)
+{
+    m_tree.makeFolder("work/folder");
+    m_tree.makeFile("work/folder/a");
+    m_tree.makeSymbolicLink("link", "work");
+    EXPECT_EQ(
+        moveInVain("link/folder/a"),
+        "'a' was not moved to the trash, because a folder on the way to it has become a link since "
+        "the scan.");
+    EXPECT_THAT(moveInVain("link/folder/"), HasSubstr("has become a link since the scan"));
+}
+
+TEST_F(FreedesktopTrashTest, WhatOnlyAResolvedPathLeadsToStays)
 {
     m_tree.makeFile("work/a");
-    m_tree.makeSymbolicLink("link", "work");
-    EXPECT_EQ(move("link/a"), "");
-    EXPECT_THAT(
-        fileContent(m_homeTrash + "/info/a.trashinfo"),
-        HasSubstr("\nPath=" + m_tree.pathOf("work/a") + '\n'));
+    for (const char* name : {"work/../work/a", "work/./a", "work//a"}) {
+        EXPECT_THAT(moveInVain(name), HasSubstr("cannot be moved to the trash.")) << name;
+    }
 }
 
 TEST_F(FreedesktopTrashTest, AFolderMovesInOneStepWhateverIsInIt)

@@ -207,7 +207,8 @@ TEST_P(LinuxDirectoryEnumeratorWith, CanBeDroppedInMidWalk)
     const TempTree tree(TempTree::fastParent());
     makeRandomTree(tree, 7);
     const auto enumerator
-        = LinuxFileManager(GetParam()).enumerator(tree.path(), ItemKeys::SizeAndHidden);
+        = LinuxFileManager(GetParam())
+              .enumerator(tree.path(), ItemKeys::SizeAndHidden, LinksToStart::Follow);
     DirectoryItem item;
     for (int i = 0; i < 20; ++i) {
         EXPECT_TRUE(enumerator->next(item));
@@ -217,7 +218,8 @@ TEST_P(LinuxDirectoryEnumeratorWith, CanBeDroppedInMidWalk)
 TEST(LinuxDirectoryEnumerator, StaysAtTheEnd)
 {
     const TempTree tree;
-    const auto enumerator = LinuxFileManager().enumerator(tree.path(), ItemKeys::SizeAndHidden);
+    const auto enumerator
+        = LinuxFileManager().enumerator(tree.path(), ItemKeys::SizeAndHidden, LinksToStart::Follow);
     DirectoryItem item;
     EXPECT_FALSE(enumerator->next(item));
     EXPECT_FALSE(enumerator->next(item));
@@ -258,12 +260,39 @@ TEST(LinuxDirectoryEnumerator, ASymbolicLinkThatSomebodyChoseIsFollowed)
     EXPECT_THAT(sortedPaths(tree.pathOf("link")), ElementsAre("file"));
 }
 
+TEST(LinuxDirectoryEnumerator, LinksOnTheWayToTheStartCanBeRefused)
+{
+    const TempTree tree;
+    tree.makeFolder("folder");
+    tree.makeFolder("folder/sub");
+    tree.makeFile("folder/sub/file");
+    tree.makeSymbolicLink("link", "folder");
+    const LinuxFileManager files;
+    const auto isWalked = [&](const std::string& name) {
+        DirectoryItem item;
+        return files.enumerator(tree.pathOf(name), ItemKeys::None, LinksToStart::Refuse)
+            ->next(item);
+    };
+    EXPECT_TRUE(isWalked("folder"));
+    EXPECT_FALSE(isWalked("link"));
+    EXPECT_TRUE(isWalked("folder/sub"));
+    EXPECT_FALSE(isWalked("link/sub"));
+}
+
+TEST(LinuxDirectoryEnumerator, TheRootIsReachedOverNoLink)
+{
+    DirectoryItem item;
+    EXPECT_TRUE(
+        LinuxFileManager().enumerator("/", ItemKeys::None, LinksToStart::Refuse)->next(item));
+}
+
 TEST(LinuxDirectoryEnumerator, CountsLevelsFromOne)
 {
     const TempTree tree;
     tree.makeFolder("a");
     tree.makeFile("a/b");
-    const auto enumerator = LinuxFileManager().enumerator(tree.path(), ItemKeys::SizeAndHidden);
+    const auto enumerator
+        = LinuxFileManager().enumerator(tree.path(), ItemKeys::SizeAndHidden, LinksToStart::Follow);
     DirectoryItem item;
     ASSERT_TRUE(enumerator->next(item));
     EXPECT_EQ(item.level, 1U);
@@ -276,7 +305,8 @@ TEST(LinuxDirectoryEnumerator, WithoutKeysItOnlyListsAndWalks)
     const TempTree tree;
     tree.makeFolder(".a");
     tree.makeFile(".a/b", 5000);
-    const auto enumerator = LinuxFileManager().enumerator(tree.path(), ItemKeys::None);
+    const auto enumerator
+        = LinuxFileManager().enumerator(tree.path(), ItemKeys::None, LinksToStart::Follow);
     DirectoryItem item;
     ASSERT_TRUE(enumerator->next(item));
     EXPECT_TRUE(item.isDirectory);
@@ -333,14 +363,16 @@ protected:
 
 TEST_F(CountAheadTest, ReadsTheFoldersInTheStartBeforeTheyAreAskedFor)
 {
-    const auto enumerator = LinuxFileManager().enumerator(m_tree.path(), ItemKeys::None);
+    const auto enumerator
+        = LinuxFileManager().enumerator(m_tree.path(), ItemKeys::None, LinksToStart::Follow);
     while (opened.size() < kFolders && awaitOpening()) { }
     EXPECT_EQ(opened.size(), static_cast<std::size_t>(kFolders));
 }
 
 TEST_F(CountAheadTest, ReadsNothingDeeperThatIsNotAskedFor)
 {
-    const auto enumerator = LinuxFileManager().enumerator(m_tree.path(), ItemKeys::None);
+    const auto enumerator
+        = LinuxFileManager().enumerator(m_tree.path(), ItemKeys::None, LinksToStart::Follow);
     DirectoryItem item;
     int count = 0;
     while (enumerator->next(item)) {
@@ -356,7 +388,8 @@ TEST_F(CountAheadTest, ReadsNothingDeeperThatIsNotAskedFor)
 
 TEST_F(CountAheadTest, FindsWhatIsDeeperAllTheSame)
 {
-    const auto enumerator = LinuxFileManager().enumerator(m_tree.path(), ItemKeys::None);
+    const auto enumerator
+        = LinuxFileManager().enumerator(m_tree.path(), ItemKeys::None, LinksToStart::Follow);
     DirectoryItem item;
     int count = 0;
     while (enumerator->next(item)) {

@@ -118,6 +118,19 @@ TEST(LinuxFileReader, TellsALinksTargetAndDoesNotFollowIt)
     EXPECT_EQ(dangling.description.linkTarget, "\xFFnowhere");
 }
 
+TEST(LinuxFileReader, FollowsNoLinkOnTheWay)
+{
+    const test::TempTree tree;
+    tree.makeFolder("folder");
+    tree.makeFile("folder/file", 9);
+    tree.makeSymbolicLink("link", "folder");
+
+    const OpenedFile opened = LinuxFileReader().open(tree.pathOf("link/file"));
+
+    EXPECT_EQ(opened.description.error, std::errc::too_many_symbolic_link_levels);
+    EXPECT_EQ(opened.content, nullptr);
+}
+
 TEST(LinuxFileReader, SaysThatAFileHasVanished)
 {
     const test::TempTree tree;
@@ -161,7 +174,8 @@ TEST(LinuxFileReader, TakesThePartOfAHugeFileThatIsAskedFor)
 
 TEST(LinuxFileReader, ReadsFilesWhoseLengthTheSystemDoesNotKnow)
 {
-    const OpenedFile opened = LinuxFileReader().open("/proc/self/status");
+    const OpenedFile opened
+        = LinuxFileReader().open("/proc/" + std::to_string(::getpid()) + "/status");
 
     EXPECT_EQ(opened.description.length, 0U);
     ASSERT_NE(opened.content, nullptr);

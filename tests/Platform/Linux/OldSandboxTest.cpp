@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "Platform/Linux/FileStatus.h"
 #include "Platform/Linux/LinuxDirectoryEnumerator.h"
+#include "Platform/Linux/LongPath.h"
 #include "support/TempTree.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <linux/filter.h>
 #include <linux/seccomp.h>
@@ -33,7 +36,8 @@ bool forbidOpenat2()
 /// The names below the folder, deepest last.
 std::string namesBelow(const std::string& path)
 {
-    LinuxDirectoryEnumerator enumerator(path, ItemKeys::SizeAndHidden, {.helpers = 0});
+    LinuxDirectoryEnumerator enumerator(
+        openDirectoryAt(AT_FDCWD, path.c_str()), ItemKeys::SizeAndHidden, {.helpers = 0});
     std::string names;
     for (DirectoryItem item; enumerator.next(item);) {
         names += item.name;
@@ -43,7 +47,8 @@ std::string namesBelow(const std::string& path)
 
 bool isEmptyBelow(const std::string& path, std::string_view mount)
 {
-    LinuxDirectoryEnumerator enumerator(path, ItemKeys::None, {.helpers = 0});
+    LinuxDirectoryEnumerator enumerator(
+        openDirectoryAt(AT_FDCWD, path.c_str()), ItemKeys::None, {.helpers = 0});
     bool isInMount = false;
     for (DirectoryItem item; enumerator.next(item);) {
         if (item.level == 1) {
@@ -79,6 +84,36 @@ TEST(OldSandbox, WhatIsMountedInsideIsNotEntered)
 {
     EXPECT_EXIT(
         exitAfter(forbidOpenat2() && isEmptyBelow("/", "proc")), testing::ExitedWithCode(0), "");
+}
+
+TEST(OldSandbox, AWayDownWithoutLinksIsTakenStepByStep)
+{
+    const TempTree tree;
+    tree.makeFolder("a");
+    tree.makeFolder("a/b");
+    const FileIdentity wanted = statusAt(AT_FDCWD, tree.pathOf("a/b").c_str()).status.identity;
+    const auto reaches = [&] {
+        const NamedPlace place = openFolderOfWithoutLinks(tree.pathOf("a/b/item"));
+        return place.error == 0 && statusOf(place.folder.number()).status.identity == wanted;
+    };
+    EXPECT_EXIT(exitAfter(forbidOpenat2() && reaches()), testing::ExitedWithCode(0), "");
+}
+
+TEST(OldSandbox, ALinkOnTheWayDownIsAnErrorThereToo)
+{
+    const TempTree tree;
+    tree.makeFolder("a");
+    tree.makeFolder("a/b");
+    tree.makeFile("file");
+    tree.makeSymbolicLink("link", "a");
+    const auto errorOf
+        = [&](const char* name) { return openFolderOfWithoutLinks(tree.pathOf(name)).error; };
+    EXPECT_EXIT(
+        exitAfter(
+            forbidOpenat2() && errorOf("link/item") == ELOOP && errorOf("link/b/item") == ELOOP
+            && errorOf("file/item") == ENOTDIR && errorOf("gone/item") == ENOENT),
+        testing::ExitedWithCode(0),
+        "");
 }
 
 } // namespace
