@@ -110,7 +110,8 @@ int makeInfo(const TrashDirectory& trash, const std::string& infoName, const std
     return error.value();
 }
 
-/// Moves the item into the trash under that name. 0, or the errno; then nothing has changed.
+/// Moves the item into the trash under that name. 0, or the errno; then nothing has changed, except
+/// that what may be in the trash keeps its info file.
 int moveAs(const std::string& name, const TrashItem& item, const TrashDirectory& trash)
 {
     const std::string infoName = name + std::string(kTrashInfoSuffix);
@@ -119,7 +120,7 @@ int moveAs(const std::string& name, const TrashItem& item, const TrashDirectory&
         return error;
     }
     const int error = renameWithoutReplacing({item.parent, item.name}, {trash.files, name});
-    if (error != 0) {
+    if (error != 0 && error != kMoveUncertain) {
         removeInfo(trash, infoName);
     }
     return error;

@@ -2,6 +2,7 @@
 #include "Platform/Linux/TrashItem.h"
 
 #include "Platform/Linux/LongPath.h"
+#include "Platform/Linux/renameWithoutReplacing.h"
 
 #include <fcntl.h>
 
@@ -103,6 +104,11 @@ std::string trashErrorSentence(const std::string& name, int error)
         return quoted + " was not moved to the trash, because it could only be copied there.";
     case EBUSY:
         return quoted + " was not moved to the trash, because the system is using it.";
+    case kMoveUncertain:
+        return quoted
+            + " may be in the trash or where it was, because its disk broke off while it was "
+              "moved. "
+              "Nothing has been removed.";
     case ENAMETOOLONG:
         return quoted + " was not moved to the trash, because its path is too long.";
     default:
