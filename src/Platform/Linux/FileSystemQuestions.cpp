@@ -15,7 +15,8 @@ namespace {
 
 std::string mountPointOf(const std::string& path)
 {
-    const std::optional<Mount> mount = MountTable::ofThisProcess().mountOf(path, {});
+    const std::optional<MountTable> mounts = MountTable::ofThisProcess();
+    const std::optional<Mount> mount = mounts ? mounts->mountOf(path, {}) : std::nullopt;
     return mount ? mount->point : std::string();
 }
 

@@ -155,7 +155,13 @@ TrashUser TrashUser::current()
 }
 
 FreedesktopTrash::FreedesktopTrash(TrashUser user)
+    : FreedesktopTrash(std::move(user), [] { return MountTable::ofThisProcess(); })
+{
+}
+
+FreedesktopTrash::FreedesktopTrash(TrashUser user, Mounts mounts)
     : m_user(std::move(user))
+    , m_mounts(std::move(mounts))
 {
 }
 
@@ -180,11 +186,14 @@ FreedesktopTrash::Outcome FreedesktopTrash::move(const Url& url) const
         return {found.error, {}};
     }
     const TrashItem& item = found.item;
-    const MountTable mounts = MountTable::ofThisProcess();
-    if (std::string refused = refusal(item, mounts); !refused.empty()) {
+    const std::optional<MountTable> mounts = m_mounts();
+    if (!mounts) {
+        return {refusalSentence(item, "the system does not say which disks are mounted"), {}};
+    }
+    if (std::string refused = refusal(item, *mounts); !refused.empty()) {
         return {std::move(refused), {}};
     }
-    const TrashDirectoryResult opened = openTrashFor(item, mounts);
+    const TrashDirectoryResult opened = openTrashFor(item, *mounts);
     if (!opened) {
         return {noTrashSentence(item.name, opened.error), {}};
     }

@@ -1,16 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Platform/Linux/MountTable.h"
 #include "Utils/Workspace.h"
 
 #include <sys/types.h>
 
+#include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace tessera {
 
-class MountTable;
 struct TrashDirectoryResult;
 struct TrashItem;
 
@@ -36,7 +38,12 @@ struct TrashUser {
 /// once.
 class FreedesktopTrash {
 public:
+    /// What is mounted where; nothing when the system does not tell, and then nothing is moved.
+    using Mounts = std::function<std::optional<MountTable>()>;
+
     explicit FreedesktopTrash(TrashUser user);
+    /// Tests pass mounts of their own.
+    FreedesktopTrash(TrashUser user, Mounts mounts);
 
     /// Moves the items, one after the other. What would be reached over a link stays: the paths
     /// come from scans, which follow none, so it was put there since.
@@ -56,6 +63,7 @@ private:
     TrashDirectoryResult openTrashFor(const TrashItem& item, const MountTable& mounts) const;
 
     TrashUser m_user;
+    Mounts m_mounts;
 };
 
 } // namespace tessera

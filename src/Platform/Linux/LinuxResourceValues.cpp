@@ -53,7 +53,9 @@ bool isListedPoint(const MountTable& table, const std::string& path)
 } // namespace
 
 LinuxResourceValues::LinuxResourceValues(std::shared_ptr<const FileSystemQuestions> questions)
-    : LinuxResourceValues(std::move(questions), queryStatus, MountTable::ofThisProcess)
+    : LinuxResourceValues(std::move(questions), queryStatus, [] {
+        return MountTable::ofThisProcess().value_or(MountTable({}));
+    })
 {
 }
 

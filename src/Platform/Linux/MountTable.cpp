@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/MountTable.h"
 
+#include "Platform/Linux/FileDescriptor.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <algorithm>
+#include <array>
+#include <cerrno>
 #include <charconv>
-#include <fstream>
-#include <iterator>
 
 namespace tessera {
 
@@ -53,11 +58,18 @@ MountTable::MountTable(std::string_view mountInfo)
     }
 }
 
-MountTable MountTable::ofThisProcess()
+std::optional<MountTable> MountTable::ofThisProcess(const char* path)
 {
-    std::ifstream file("/proc/self/mountinfo", std::ios::binary);
-    const std::string text{std::istreambuf_iterator<char>(file), {}};
-    return MountTable(text);
+    const FileDescriptor file(::open(path, O_RDONLY | O_CLOEXEC));
+    std::string text;
+    std::array<char, 4096> piece{};
+    ssize_t count = 0;
+    do {
+        count = ::read(file.number(), piece.data(), piece.size());
+        text.append(piece.data(), static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
+    } while (count > 0 || (count < 0 && errno == EINTR));
+    // A table that broke off would say that nothing is mounted where something is.
+    return count == 0 ? std::optional(MountTable(text)) : std::nullopt;
 }
 
 std::optional<Mount> MountTable::mountOf(

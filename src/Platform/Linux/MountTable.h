@@ -30,8 +30,9 @@ public:
     /// Of a text like /proc/self/mountinfo; lines that cannot be read are left out.
     explicit MountTable(std::string_view mountInfo);
 
-    /// Of this process; empty when the system does not tell.
-    static MountTable ofThisProcess();
+    /// Of this process; nothing when the system does not tell. `path` is for tests.
+    [[nodiscard]] static std::optional<MountTable> ofThisProcess(
+        const char* path = "/proc/self/mountinfo");
 
     /// In the kernel's order, a mount after those that it may cover.
     const std::vector<Mount>& mounts() const { return m_mounts; }

@@ -402,5 +402,21 @@ TEST_F(FreedesktopTrashTest, APathThatIsTooLongIsTold)
     EXPECT_THAT(moveInVain(name), HasSubstr("because its path is too long."));
 }
 
+TEST_F(FreedesktopTrashTest, NothingMovesWhileNobodyKnowsWhatIsMounted)
+{
+    m_tree.makeFolder("work/folder");
+    m_tree.makeFile("work/a");
+    const auto before = snapshotOf(m_tree.path());
+    const FreedesktopTrash trash(
+        {::geteuid(), m_homeTrash, {}}, [] { return std::optional<MountTable>(); });
+    for (const Url& url :
+         {Url(m_tree.pathOf("work/folder"), true), Url(m_tree.pathOf("work/a"), false)}) {
+        EXPECT_THAT(
+            trash.recycle({url}).error,
+            HasSubstr("because the system does not say which disks are mounted."));
+    }
+    EXPECT_EQ(snapshotOf(m_tree.path()), before);
+}
+
 } // namespace
 } // namespace tessera::test

@@ -95,11 +95,18 @@ TEST(MountTable, KnowsWhatIsMountedInsideAFolder)
 TEST(MountTable, TheSystemsOwnHasMountsWithTheNumbersThatTheSystemGivesThem)
 {
     // Not the root, which need not be a mount for a process whose root is a plain folder.
-    const std::optional<Mount> proc = MountTable::ofThisProcess().mountOf("/proc", {});
+    const std::optional<Mount> proc = MountTable::ofThisProcess().value().mountOf("/proc", {});
     ASSERT_EQ(pointOf(proc), "/proc");
     const StatusResult found = statusAt(AT_FDCWD, "/proc");
     ASSERT_TRUE(found);
     EXPECT_EQ(proc->id, found.status.mountId.value_or(proc->id));
+}
+
+TEST(MountTable, WhatCannotBeReadIsNoTable)
+{
+    EXPECT_FALSE(MountTable::ofThisProcess("/no/such/table").has_value());
+    // It can be opened, but every reading of it fails.
+    EXPECT_FALSE(MountTable::ofThisProcess("/").has_value());
 }
 
 } // namespace
