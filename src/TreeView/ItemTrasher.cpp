@@ -6,7 +6,6 @@
 #include "Model/nodeLookup.h"
 #include "TreeView/TreeScreen.h"
 #include "Utils/Alert.h"
-#include "Utils/CoreUtil.h"
 #include "Utils/DisplayText.h"
 #include "Utils/Workspace.h"
 
@@ -60,6 +59,30 @@ void rebase(File& node, const std::string& from, const std::string& to)
 bool liesAtOrBelow(const std::string& path, const std::string& above)
 {
     return path == above || path.starts_with(above + '/');
+}
+
+std::string folderOf(const std::string& path)
+{
+    return path.substr(0, std::max<std::size_t>(path.rfind('/'), 1));
+}
+
+/// Puts the node where the path says. A trash that was made for it joins the tree with it; what
+/// lies outside the tree leaves it. Returns the outermost node that joined, null when none did.
+const File* insertAt(TopFolder& top, const std::string& path, std::unique_ptr<File> node)
+{
+    std::string parent = folderOf(path);
+    auto* const nearest = nodeCast<Folder>(nearestNodeAtPath(top, parent));
+    if (nearest == nullptr) {
+        return nullptr;
+    }
+    for (const std::size_t there = nearest->absolutePath().size(); parent.size() > there;
+         parent = folderOf(parent)) {
+        auto folder = makeNode<Folder>(lastPathComponent(parent));
+        folder->setHidden(lastPathComponent(parent).starts_with('.'));
+        folder->insertChild(std::move(node));
+        node = std::move(folder);
+    }
+    return &nearest->insertChild(std::move(node));
 }
 
 } // namespace
@@ -178,13 +201,14 @@ void ItemTrasher::moveNode(const std::string& from, const Url* to)
     if (to == nullptr) {
         return;
     }
-    const Url url(pathInTree(*top, to->path()), to->isDirectory());
-    Folder* const trash = CoreUtil::locateParent(url, *top);
+    const std::string path = pathInTree(*top, to->path());
     // A rescan of the trash meanwhile may have met the item there.
-    if (trash != nullptr && nodeAtPath(*top, url.path()) == nullptr) {
-        node->setFragment(url.lastPathComponent());
-        rebase(*node, from, url.path());
-        m_screen.nodeCame(trash->insertChild(std::move(node)));
+    if (nodeAtPath(*top, path) == nullptr) {
+        node->setFragment(lastPathComponent(path));
+        rebase(*node, from, path);
+        if (const File* const came = insertAt(*top, path, std::move(node))) {
+            m_screen.nodeCame(*came);
+        }
     }
 }
 
