@@ -174,8 +174,7 @@ void ItemTrasher::recycled(const Url& place, const std::string& path, const Recy
     if (!result.error.empty()) {
         m_alert.beginSheet(
             {tr("Error moving to Trash"),
-             tr("Error moving '%1' to the Trash for recycling. This file may be restricted or you "
-                "may have read-only access to this file.")
+             tr("Error moving '%1' to the Trash for recycling.")
                  .arg(displayText(place.lastPathComponent())),
              {tr("OK")},
              displayText(result.error)});

@@ -306,8 +306,7 @@ TEST_F(ItemTrasherTest, AFailureIsToldAndLeavesTheTreeAsItIs)
     EXPECT_EQ(alert.told[0].messageText, QStringLiteral("Error moving to Trash"));
     EXPECT_EQ(
         alert.told[0].informativeText,
-        QStringLiteral("Error moving 'a' to the Trash for recycling. This file may be restricted "
-                       "or you may have read-only access to this file."));
+        QStringLiteral("Error moving 'a' to the Trash for recycling."));
     EXPECT_EQ(alert.told[0].reason, QStringLiteral("The disk is read-only."));
     EXPECT_EQ(alert.told[0].buttons, QStringList{QStringLiteral("OK")});
     EXPECT_EQ(node("docs").totalAllocation(), 700U);
