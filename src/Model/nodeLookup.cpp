@@ -80,6 +80,11 @@ Found walkDown(TopFolder& top, std::string_view absolutePath)
 
 } // namespace
 
+bool isItem(const File& node)
+{
+    return node.isFolder() || node.type() == NodeType::Document;
+}
+
 Url placeOnDisk(const File& node)
 {
     const File* outermost = &node;

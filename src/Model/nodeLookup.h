@@ -11,6 +11,10 @@ namespace tessera {
 class File;
 class TopFolder;
 
+/// Whether the node stands for a file or folder of its own: others are space on the disk, whose
+/// paths are those of the folder around them. The one rule of what may be moved or compressed.
+[[nodiscard]] bool isItem(const File& node);
+
 /// Where the item was when it was scanned, with no link in the path: a scan follows none below the
 /// folder it begins at, and that folder's own path had none either once it was resolved. So a link
 /// that is met on this way was put there later, and leads away from what was scanned.

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "QuickLook/ItemFacts.h"
 
-#include "Model/Document.h"
 #include "Model/Folder.h"
 #include "Model/Url.h"
+#include "Model/nodeLookup.h"
 #include "QuickLook/PreviewItem.h"
 #include "Utils/DisplayText.h"
 
@@ -21,7 +21,7 @@ std::optional<ItemFacts> factsOf(const PreviewItem& item)
     if (folder != nullptr) {
         facts.itemCount = folder->children().size();
     }
-    if (folder != nullptr || nodeCast<Document>(node) != nullptr) {
+    if (isItem(*node)) {
         facts.path = item.previewItemURL().path();
     }
     facts.name = displayText(node->name().empty() ? facts.path : node->name());

@@ -2,7 +2,7 @@
 #include "Shell/MenuValidation.h"
 
 #include "Model/File.h"
-#include "Model/NodeType.h"
+#include "Model/nodeLookup.h"
 
 namespace tessera {
 
@@ -10,7 +10,6 @@ bool validateMenuItem(int tag, const MenuContext& context)
 {
     const File* const selected = context.hasTreeScreen ? context.selectedFile : nullptr;
     const bool isFolder = selected != nullptr && selected->isFolder();
-    const bool isDocument = selected != nullptr && selected->type() == NodeType::Document;
     switch (tag) {
     case menu_tag::kZoomOut:
         return context.hasTreeScreen && !context.isRootInView;
@@ -24,7 +23,7 @@ bool validateMenuItem(int tag, const MenuContext& context)
         return context.hasTreeScreen && context.canRescan;
     case menu_tag::kCompress:
     case menu_tag::kMoveToTrash:
-        return isFolder || isDocument;
+        return selected != nullptr && isItem(*selected);
     case menu_tag::kHome:
         return !context.hasHomeScreen;
     default:

@@ -103,6 +103,9 @@ ItemTrasher::ItemTrasher(
 
 void ItemTrasher::trash(const File& item)
 {
+    if (!isItem(item)) {
+        return;
+    }
     const Url place = placeOnDisk(item);
     if (isOnItsWay(place.path()) || !mayTrash(item)) {
         return;

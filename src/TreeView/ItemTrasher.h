@@ -34,7 +34,8 @@ public:
         TreeScreen& screen);
 
     /// Asks the desktop to move the item and returns; the tree changes when that is done. Does
-    /// nothing while the item, or a folder around it, is on its way already.
+    /// nothing while the item, or a folder around it, is on its way already, and for space that is
+    /// no item.
     void trash(const File& item);
 
 private:

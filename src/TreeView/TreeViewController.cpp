@@ -216,7 +216,7 @@ void TreeViewController::sayThatThereIsNoFileManager(const QString& itemName)
 
 void TreeViewController::compressItem()
 {
-    if (m_selectedFile == nullptr) {
+    if (m_selectedFile == nullptr || !isItem(*m_selectedFile)) {
         return;
     }
     const auto compressing = CompressWindowController::make(m_services.compressing);
@@ -245,9 +245,10 @@ bool TreeViewController::validate(TreeCommand command) const
     switch (command) {
     case TreeCommand::QuickLook:
     case TreeCommand::ShowInFinder:
+        return m_selectedFile != nullptr;
     case TreeCommand::Compress:
     case TreeCommand::MoveToTrash:
-        return m_selectedFile != nullptr;
+        return m_selectedFile != nullptr && isItem(*m_selectedFile);
     case TreeCommand::ZoomIn:
     case TreeCommand::Ignore:
         return isFolder;

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "Model/nodeLookup.h"
 
+#include "Model/FreeSpace.h"
+#include "Model/TimeMachine.h"
+#include "Model/Unknown.h"
 #include "support/makeTree.h"
 
 #include <gtest/gtest.h>
@@ -53,6 +56,20 @@ TEST_F(NodeLookup, TheNearestIsTheDeepestOnTheWay)
     EXPECT_EQ(nearestNodeAtPath(top(), "/data/ab/deep/gone/away"), &node("ab/deep"));
     EXPECT_EQ(nearestNodeAtPath(top(), "/data/ab/deep/z"), &node("ab/deep/z"));
     EXPECT_EQ(nearestNodeAtPath(top(), "/elsewhere"), nullptr);
+}
+
+TEST_F(NodeLookup, FoldersAndDocumentsAreItems)
+{
+    EXPECT_TRUE(isItem(node("a")));
+    EXPECT_TRUE(isItem(node("a/x")));
+    EXPECT_TRUE(isItem(top()));
+}
+
+TEST_F(NodeLookup, SpaceIsNoItem)
+{
+    EXPECT_FALSE(isItem(*makeNode<FreeSpace>("")));
+    EXPECT_FALSE(isItem(*makeNode<Unknown>("")));
+    EXPECT_FALSE(isItem(*makeNode<TimeMachine>("")));
 }
 
 TEST_F(NodeLookup, ANodesPlaceIsItsPathWhereNoLinkLedToTheScan)

@@ -2,9 +2,12 @@
 #include "TreeView/ItemTrasher.h"
 
 #include "Model/RootModel.h"
+#include "Model/TimeMachine.h"
 #include "Model/UserDefaults.h"
+#include "Model/Volume.h"
 #include "TreeView/TreeScreen.h"
 #include "support/FakeAlert.h"
+#include "support/FakeFileSystem.h"
 #include "support/FakeRootModelServices.h"
 #include "support/FakeWorkspace.h"
 #include "support/makeTree.h"
@@ -296,6 +299,71 @@ TEST_F(ItemTrasherTest, WithoutAScannedTrashTheItemLeavesTheTree)
     ASSERT_TRUE(workspace.finishRecycling(result));
     EXPECT_EQ(model.topFolder()->totalAllocation(), 316U);
     EXPECT_EQ(screen.renderCount, 1);
+}
+
+TEST_F(ItemTrasherTest, ATrashThatWasMadeForTheItemJoinsTheTree)
+{
+    const Url url = node("docs/a").url();
+    trash("docs/a");
+    RecycleResult result;
+    result.newUrls[url.absoluteString()] = Url("/Users/me/.Trash-7/files/a", false);
+    ASSERT_TRUE(workspace.finishRecycling(result));
+    EXPECT_EQ(model.topFolder()->totalAllocation(), 816U);
+    EXPECT_EQ(node(".Trash-7").totalAllocation(), 500U);
+    EXPECT_TRUE(node(".Trash-7").hidden());
+    EXPECT_FALSE(node(".Trash-7/files").hidden());
+    EXPECT_EQ(node(".Trash-7/files/a").absolutePath(), "/Users/me/.Trash-7/files/a");
+}
+
+TEST_F(ItemTrasherTest, TheNextItemGoesThereToo)
+{
+    for (const char* name : {"a", "deep"}) {
+        const Url url = node(std::string("docs/") + name).url();
+        trash(std::string("docs/") + name);
+        RecycleResult result;
+        result.newUrls[url.absoluteString()]
+            = Url(std::string("/Users/me/.Trash-7/files/") + name, url.isDirectory());
+        ASSERT_TRUE(workspace.finishRecycling(result));
+    }
+    EXPECT_EQ(node(".Trash-7/files").totalAllocation(), 700U);
+}
+
+TEST_F(ItemTrasherTest, OnAScannedVolumeTheItemsSpaceStaysAccountedFor)
+{
+    auto scanned = makeNode<Volume>("");
+    scanned->setOrigin("/");
+    scanned->insertChild(test::makeTree("/docs", "film:700"));
+    const test::FixedFileSystem sizes(FileSystemSizes{1000, 300});
+    scanned->refreshVolume(sizes);
+    model.setTopFolder(std::move(scanned));
+    auto& volume = static_cast<Volume&>(*model.topFolder());
+    const Url url = node("docs/film").url();
+    modelServices.defaults.setBoolean(kWarnDeleteSystemKey, false);
+    trash("docs/film");
+    RecycleResult result;
+    result.newUrls[url.absoluteString()] = Url("/.Trash-0/files/film", false);
+    ASSERT_TRUE(workspace.finishRecycling(result));
+    volume.refreshVolume(sizes);
+    EXPECT_EQ(node(".Trash-0/files/film").absolutePath(), "/.Trash-0/files/film");
+    EXPECT_EQ(volume.unreadFile().totalAllocation(), 0U);
+}
+
+TEST_F(ItemTrasherTest, SpaceThatIsNoItemStays)
+{
+    auto scanned = makeNode<Volume>("me");
+    scanned->setOrigin("/Users/me");
+    const test::FixedFileSystem sizes(FileSystemSizes{1000, 300});
+    scanned->refreshVolume(sizes);
+    auto backups = makeNode<TimeMachine>("");
+    const File& space = scanned->addChild(std::move(backups));
+    model.setTopFolder(std::move(scanned));
+    const auto& volume = static_cast<const Volume&>(*model.topFolder());
+    for (const File* const file :
+         std::vector<const File*>{&volume.freeFile(), &volume.unreadFile(), &space}) {
+        trasher.trash(*file);
+    }
+    EXPECT_FALSE(isAskedToMove());
+    EXPECT_TRUE(alert.asked.empty());
 }
 
 TEST_F(ItemTrasherTest, AFailureIsToldAndLeavesTheTreeAsItIs)

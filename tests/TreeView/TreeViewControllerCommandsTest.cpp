@@ -94,6 +94,19 @@ TEST_F(TreeViewControllerCommandsTest, OnlyFoldersAreZoomedIntoAndRescanned)
     EXPECT_TRUE(canDo(TreeCommand::MoveToTrash));
 }
 
+TEST_F(TreeViewControllerCommandsTest, SpaceIsNeitherMovedNorCompressed)
+{
+    const auto space = makeNode<FreeSpace>("");
+    controller->setSelectedFile(space.get());
+    for (const TreeCommand command : {TreeCommand::Compress, TreeCommand::MoveToTrash}) {
+        EXPECT_FALSE(canDo(command));
+        controller->perform(command);
+    }
+    EXPECT_EQ(services.archiver.program, "");
+    EXPECT_TRUE(services.workspace.recycled.empty());
+    controller->setSelectedFile(nullptr);
+}
+
 TEST_F(TreeViewControllerCommandsTest, ShowsAFileInTheFileManager)
 {
     select("docs/a");
