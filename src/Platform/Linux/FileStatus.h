@@ -2,19 +2,12 @@
 #pragma once
 
 #include "Platform/Linux/FileDescriptor.h"
+#include "Utils/FileIdentity.h"
 
 #include <cstdint>
 #include <optional>
 
 namespace tessera {
-
-/// What tells one file from every other one on this machine, as long as it exists.
-struct FileIdentity {
-    std::uint64_t device = 0;
-    std::uint64_t inode = 0;
-
-    bool operator==(const FileIdentity& other) const = default;
-};
 
 /// What the system says of a file without opening it.
 struct FileStatus {
