@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Archiver/AppleDouble.h"
 
+#include "Utils/FileNames.h"
+
 #include <cstddef>
 #include <cstdint>
 
@@ -149,9 +151,7 @@ std::string AppleDouble::pathFor(std::string_view path)
     const std::size_t nameStart = slash == std::string_view::npos ? 0 : slash + 1;
     std::string result = "__MACOSX/";
     result += path.substr(0, nameStart);
-    result += "._";
-    result += path.substr(nameStart);
-    return result;
+    return result += surroundedName("._", path.substr(nameStart), {});
 }
 
 } // namespace tessera

@@ -22,7 +22,8 @@ public:
     std::string bytes() const;
 
     /// Where an archive keeps the file that belongs to the item at `path`: "a/b" gives
-    /// "__MACOSX/a/._b". A folder's path has no slash at its end.
+    /// "__MACOSX/a/._b". A folder's path has no slash at its end. A name too long to get the "._"
+    /// is shortened and marked, or no disk could take the file.
     static std::string pathFor(std::string_view path);
 
 private:

@@ -28,6 +28,7 @@ struct ArchiveItem {
     std::uint64_t length = 0; ///< bytes of content that a file is expected to have; may get fewer
     std::string linkTarget; ///< of a link
     std::vector<ExtendedAttribute> attributes;
+    bool lacksAttributes = false; ///< it has more of them, which could not be read
 };
 
 } // namespace tessera

@@ -15,6 +15,13 @@ constexpr std::uint32_t kReadableByAll = 0644;
 
 } // namespace
 
+void CountedItems::add(const std::string& path)
+{
+    if (count++ == 0) {
+        first = path;
+    }
+}
+
 Archiver::Archiver(SourceWalk& source, ArchiveOutput& output)
     : m_source(source)
     , m_output(output)
@@ -32,7 +39,9 @@ ArchiveReport Archiver::run()
         if (step == Step::Item) {
             archive(item);
         } else if (step == Step::LeftOut) {
-            noteLeftOut(item.path);
+            m_report.leftOut.add(item.path);
+        } else if (step == Step::Vanished) {
+            m_report.vanished.add(item.path);
         } else {
             noteFailure(m_source.error(), item.path);
         }
@@ -50,22 +59,29 @@ void Archiver::archive(const ArchiveItem& item)
     }
     m_zip.begin(item);
     if (item.kind == ArchiveItem::Kind::File) {
-        copyContent(item.path);
+        copyContent(item);
+    }
+    if (item.lacksAttributes) {
+        m_report.lackingAttributes.add(item.path);
     }
     if (!item.attributes.empty()) {
         archiveAttributes(item);
     }
 }
 
-void Archiver::copyContent(const std::string& path)
+void Archiver::copyContent(const ArchiveItem& item)
 {
+    std::uint64_t copied = 0;
     ContentPart part;
     do {
         part = m_source.read(m_buffer);
         m_zip.write({m_buffer.data(), part.length});
+        copied += part.length;
     } while (part.length > 0 && m_zip.error() == 0);
     if (part.error != 0) {
-        noteFailure(part.error, path);
+        noteFailure(part.error, item.path);
+    } else if (copied < item.length) {
+        m_report.shrunk.add(item.path);
     }
 }
 
@@ -89,13 +105,6 @@ void Archiver::noteFailure(int code, const std::string& path)
 {
     if (m_report.failureCount++ == 0) {
         m_report.firstFailure = {code, "archive", path};
-    }
-}
-
-void Archiver::noteLeftOut(const std::string& path)
-{
-    if (m_report.leftOutCount++ == 0) {
-        m_report.firstLeftOut = path;
     }
 }
 

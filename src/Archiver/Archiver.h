@@ -11,13 +11,23 @@
 
 namespace tessera {
 
-/// What an archive does not hold, and why. Of many cases the first one stands for all.
+/// Items of which the first one stands for all.
+struct CountedItems {
+    std::size_t count = 0;
+    std::string first; ///< its path
+
+    void add(const std::string& path);
+};
+
+/// What an archive does not hold, and why.
 struct ArchiveReport {
     int outputError = 0; ///< errno; the archive is a fragment
     std::size_t failureCount = 0; ///< items that should be in the archive and are not, or not whole
     ArchiveFailure firstFailure;
-    std::size_t leftOutCount = 0; ///< items that have no content to archive
-    std::string firstLeftOut;
+    CountedItems leftOut; ///< have no content to archive
+    CountedItems vanished; ///< were taken away before their turn
+    CountedItems lackingAttributes; ///< are there, but not all that was attached to them
+    CountedItems shrunk; ///< are there with what they still had
 };
 
 /// Puts everything that a walk delivers into one zip archive. An item that cannot be read does not
@@ -32,10 +42,9 @@ public:
 
 private:
     void archive(const ArchiveItem& item);
-    void copyContent(const std::string& path);
+    void copyContent(const ArchiveItem& item);
     void archiveAttributes(const ArchiveItem& item);
     void noteFailure(int code, const std::string& path);
-    void noteLeftOut(const std::string& path);
 
     SourceWalk& m_source;
     ArchiveOutput& m_output;

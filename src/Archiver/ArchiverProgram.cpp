@@ -2,8 +2,10 @@
 #include "Archiver/ArchiverProgram.h"
 
 #include "Archiver/Archiver.h"
+#include "FileOps/archiverStatus.h"
 #include "Utils/Log.h"
 
+#include <cerrno>
 #include <cstddef>
 #include <memory>
 #include <string>
@@ -13,38 +15,59 @@ namespace tessera {
 
 namespace {
 
-constexpr int kDone = 0;
-constexpr int kFailed = 1;
-constexpr int kNothingMade = 3;
-constexpr std::uint32_t kReadAndWrite = 0666;
-constexpr std::uint32_t kOwnerReadsAndWrites = 0600;
-
 std::string andMore(std::size_t count)
 {
     return count > 1 ? " (and " + std::to_string(count - 1) + " more)" : std::string();
 }
 
-int fail(const std::string& message, int exitStatus = kFailed)
+int fail(const ArchiveFailure& failure, int exitStatus, std::size_t count = 1)
 {
-    logLine("tessera-ditto: %s", message.c_str());
+    logLine("tessera-ditto: %s%s", failure.text().c_str(), andMore(count).c_str());
     return exitStatus;
 }
 
-int exitStatusFor(const ArchiveReport& report, const std::string& target)
+/// A line, if there is anything to say.
+void note(const CountedItems& items, const char* before, const char* behind)
+{
+    if (items.count > 0) {
+        logLine(
+            "tessera-ditto: %s'%s'%s%s",
+            before,
+            items.first.c_str(),
+            behind,
+            andMore(items.count).c_str());
+    }
+}
+
+void noteWhatIsMissing(const ArchiveReport& report)
+{
+    note(report.leftOut, "left out ", ", which has no content");
+    note(report.vanished, "left out ", ", which vanished meanwhile");
+    note(report.lackingAttributes, "left out attributes of ", ", which cannot be read");
+    note(report.shrunk, "", " became shorter while it was read");
+}
+
+int outputFailure(int error, const std::string& path, ArchiveOutput& target)
+{
+    target.giveRoomBack();
+    const bool isFull = error == ENOSPC || error == EDQUOT;
+    return fail(
+        {error, "write", path}, isFull ? archiver_status::kDiskFull : archiver_status::kFailed);
+}
+
+int finish(const ArchiveReport& report, const std::string& path, ArchiveOutput& target)
 {
     if (report.outputError != 0) {
-        return fail(ArchiveFailure{report.outputError, "write", target}.text());
+        return outputFailure(report.outputError, path, target);
     }
     if (report.failureCount > 0) {
-        return fail(report.firstFailure.text() + andMore(report.failureCount));
+        return fail(report.firstFailure, archiver_status::kFailed, report.failureCount);
     }
-    if (report.leftOutCount > 0) {
-        logLine(
-            "tessera-ditto: left out '%s', which has no content%s",
-            report.firstLeftOut.c_str(),
-            andMore(report.leftOutCount).c_str());
+    if (const int error = target.publish(); error != 0) {
+        return fail({error, "create", path}, archiver_status::kFailed);
     }
-    return kDone;
+    noteWhatIsMissing(report);
+    return archiver_status::kDone;
 }
 
 } // namespace
@@ -53,18 +76,16 @@ int runArchiver(const ArchiverCommandLine& commandLine, ArchiverSystem& system)
 {
     auto opened = system.openSource(commandLine.source);
     if (const auto* failure = std::get_if<ArchiveFailure>(&opened)) {
-        return fail(failure->text(), kNothingMade);
+        return fail(*failure, archiver_status::kNothingMade);
+    }
+    auto created = system.createTarget(commandLine.target);
+    if (const auto* failure = std::get_if<ArchiveFailure>(&created)) {
+        return fail(*failure, archiver_status::kNothingMade);
     }
     auto& source = *std::get<std::unique_ptr<SourceWalk>>(opened);
-    // What others may not read they may not read in the archive either.
-    const std::uint32_t permissions = (source.permissions() & kReadAndWrite) | kOwnerReadsAndWrites;
-    auto created = system.createTarget(commandLine.target, permissions);
-    if (const auto* failure = std::get_if<ArchiveFailure>(&created)) {
-        return fail(failure->text(), kNothingMade);
-    }
     auto& target = *std::get<std::unique_ptr<ArchiveOutput>>(created);
-    source.passOver(commandLine.target);
-    return exitStatusFor(Archiver(source, target).run(), commandLine.target);
+    source.passOver(target.identity());
+    return finish(Archiver(source, target).run(), commandLine.target, target);
 }
 
 } // namespace tessera

@@ -6,10 +6,9 @@
 
 namespace tessera {
 
-/// Makes the archive and returns the exit status: 0 when everything that has content is in it,
-/// else 1 after one line on standard error, or 3 when no archive was made at all: what is in its
-/// place is somebody else's and stays untouched. An archive that could not be completed stays where
-/// it is.
+/// Makes the archive and returns one of archiver_status. On standard error it says in one line why
+/// something failed, or in one line for each sort of thing what an archive otherwise complete does
+/// not hold. An archive that could not be completed stays where it is, without its name.
 int runArchiver(const ArchiverCommandLine& commandLine, ArchiverSystem& system);
 
 } // namespace tessera

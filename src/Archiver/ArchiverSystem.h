@@ -5,14 +5,15 @@
 #include "Archiver/ArchiveOutput.h"
 #include "Archiver/SourceWalk.h"
 
-#include <cstdint>
 #include <memory>
 #include <string>
 #include <variant>
 
 namespace tessera {
 
-/// What the archiver asks of the operating system. Paths are bytes of any length.
+/// What the archiver asks of the operating system. Paths are bytes of any length. The folder that
+/// two paths have in common is opened once: whoever swaps it meanwhile cannot have one folder's
+/// content archived in another, where more people may read it.
 class ArchiverSystem {
 public:
     template <typename Opened>
@@ -26,17 +27,23 @@ public:
     /// Opens a folder, a file or a link for archiving, whatever slashes the path ends in.
     [[nodiscard]] virtual Result<SourceWalk> openSource(const std::string& path) = 0;
 
-    /// Makes a new file. Fails when anything has that name, be it a link to nowhere.
-    [[nodiscard]] virtual Result<ArchiveOutput> createTarget(
-        const std::string& path, std::uint32_t permissions)
-        = 0;
+    /// Makes a new file that its owner alone may read, which will become the archive at `path`,
+    /// and tells its identity on standard output. Fails when anything has the one's name or the
+    /// other's, be it a link to nowhere.
+    [[nodiscard]] virtual Result<ArchiveOutput> createTarget(const std::string& path) = 0;
 };
 
 /// The one for the system that the program is built for.
 std::unique_ptr<ArchiverSystem> makeArchiverSystem();
 
-/// From now on a request to end the process writes `line` to standard error and ends it at once
-/// with `exitStatus`. To be called once.
-void endOnTerminationSignals(const char* line, int exitStatus);
+/// What a process ends with when it is asked to end.
+struct StoppedStatus {
+    int nothingMade; ///< as long as it has not created its target
+    int fragmentMade;
+};
+
+/// From now on a request to end the process writes `line` to standard error and ends it at once.
+/// To be called once.
+void endOnTerminationSignals(const char* line, StoppedStatus status);
 
 } // namespace tessera

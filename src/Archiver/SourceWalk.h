@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Archiver/ArchiveItem.h"
+#include "Utils/FileIdentity.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -23,6 +24,7 @@ public:
     enum class Step : std::uint8_t {
         Item, ///< the item is complete; a file's content can be read until the next step
         LeftOut, ///< what has no content and no place in an archive: a socket, say
+        Vanished, ///< somebody took it away after it was listed
         Failed, ///< the item could not be read, nor what is in it
         End,
     };
@@ -32,13 +34,10 @@ public:
     SourceWalk& operator=(const SourceWalk&) = delete;
     virtual ~SourceWalk() = default;
 
-    /// The permissions of the source itself.
-    virtual std::uint32_t permissions() const = 0;
+    /// Passes over that file should the walk meet it: the archive that is being made.
+    virtual void passOver(const FileIdentity& file) = 0;
 
-    /// Passes over the file at `path` should the walk meet it: the archive that is being made.
-    virtual void passOver(const std::string& path) = 0;
-
-    /// Moves on. Of what is left out or failed only the path is set.
+    /// Moves on. Of what is left out, vanished or failed only the path is set.
     [[nodiscard]] virtual Step next(ArchiveItem& item) = 0;
 
     /// Why the last step failed, as an errno.

@@ -2,16 +2,10 @@
 #include "Archiver/ArchiverCommandLine.h"
 #include "Archiver/ArchiverProgram.h"
 #include "Archiver/ArchiverSystem.h"
+#include "FileOps/archiverStatus.h"
 
 #include <cstdio>
 #include <span>
-
-namespace {
-
-constexpr int kFailed = 1;
-constexpr int kBadUsage = 2;
-
-} // namespace
 
 // NOLINTNEXTLINE(bugprone-exception-escape): out of memory ends the program
 int main(int argc, char** argv)
@@ -21,8 +15,9 @@ int main(int argc, char** argv)
     const auto commandLine = parseArchiverCommandLine(arguments.subspan(argc > 0 ? 1 : 0));
     if (!commandLine) {
         (void)std::fprintf(stderr, "%s\n", archiverUsage());
-        return kBadUsage;
+        return archiver_status::kBadUsage;
     }
-    endOnTerminationSignals("tessera-ditto: stopped\n", kFailed);
+    endOnTerminationSignals(
+        "tessera-ditto: stopped\n", {archiver_status::kNothingMade, archiver_status::kFailed});
     return runArchiver(*commandLine, *makeArchiverSystem());
 }

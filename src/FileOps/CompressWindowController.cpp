@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "FileOps/CompressWindowController.h"
 
+#include "FileOps/archivePaths.h"
+#include "FileOps/archiverStatus.h"
 #include "Model/NotificationCenter.h"
 #include "Scanning/ResourceValues.h"
 #include "TreeView/IconProvider.h"
+#include "Utils/Alert.h"
 #include "Utils/DisplayText.h"
 #include "Utils/Log.h"
 #include "Utils/ProgressSteps.h"
@@ -27,11 +30,6 @@ namespace {
 constexpr std::chrono::milliseconds kUpdateInterval{100};
 constexpr std::chrono::milliseconds kTimeToReadTheEnd{1000};
 constexpr int kIconPoints = 48;
-constexpr int kFirstNumber = 2;
-
-/// The archiver's exit status when it has made no archive. A file of that name is not ours then: it
-/// was overlooked, on a disk that did not answer in time, or came in between.
-constexpr int kNothingMade = 3;
 
 /// Archives are usually smaller than what is in them; after success the rest of the bar is filled
 /// by this much at a time up to a bound beyond its end.
@@ -42,16 +40,18 @@ bool isTaken(const std::string& path, const CompressServices& services)
 {
     // Whatever has a size is there, a dangling link too.
     return services.targetsInUse.contains(path)
-        || services.resourceValues.allocatedSize(path).has_value();
+        || services.resourceValues.allocatedSize(path).has_value()
+        || services.resourceValues.allocatedSize(partPath(path)).has_value();
 }
 
 /// "X.zip", or the first of "X 2.zip", "X 3.zip" and so on that is free.
 std::string freeTarget(const std::string& sourcePath, const CompressServices& services)
 {
-    std::string candidate = sourcePath + ".zip";
-    for (int number = kFirstNumber; isTaken(candidate, services); ++number) {
-        candidate = sourcePath + ' ' + std::to_string(number) + ".zip";
-    }
+    std::string candidate;
+    unsigned number = 0;
+    do {
+        candidate = archivePath(sourcePath, ++number);
+    } while (isTaken(candidate, services));
     return candidate;
 }
 
@@ -134,8 +134,7 @@ void CompressWindowController::startArchiver()
 
 void CompressWindowController::updateProgress()
 {
-    const std::optional<std::uint64_t> archiveBytes
-        = m_services.resourceValues.allocatedSize(m_targetPath);
+    const std::optional<std::uint64_t> archiveBytes = archiveSize();
     if (archiveBytes) {
         showIcon();
     }
@@ -152,7 +151,7 @@ void CompressWindowController::updateProgress()
     } else if (m_state >= State::Failed && m_backupTask == nullptr) {
         // A cancelled program that still runs might yet write what was moved away.
         m_updateTimer.stop();
-        m_hasArchive ? trashIncompleteArchive() : finishLater(std::nullopt);
+        m_made ? trashIncompleteArchive() : finishLater(std::nullopt);
     }
 }
 
@@ -169,10 +168,10 @@ void CompressWindowController::cancelCompress()
 
 void CompressWindowController::checkATaskStatus(int status)
 {
-    m_backupTask.reset();
+    noteWhatWasMade();
     m_cancelButton->setEnabled(false);
-    m_hasArchive = status != kNothingMade;
-    if (status != 0) {
+    m_isDiskFull = status == archiver_status::kDiskFull;
+    if (status != archiver_status::kDone) {
         logLine("Task failed.");
         m_state = State::Failed;
         setOutputText(tr("Compression Failed"));
@@ -187,19 +186,17 @@ void CompressWindowController::checkATaskStatus(int status)
 
 void CompressWindowController::trashIncompleteArchive()
 {
-    m_services.workspace.recycleURLs(
-        {archive()}, [self = QPointer(this)](const RecycleResult& result) {
+    m_services.workspace.recycleFile(
+        *m_made, archivePlaces(), [self = QPointer(this)](const RecycleResult& result) {
             if (self.isNull()) {
                 return;
             }
-            std::optional<Url> inTrash;
-            const auto moved = result.newUrls.find(self->archive().absoluteString());
-            if (moved != result.newUrls.end()) {
-                inTrash = moved->second;
-            } else {
+            if (result.newUrls.empty()) {
                 logLine("Error deleting incomplete archive");
+                self->finishLater(std::nullopt);
+            } else {
+                self->finishLater(result.newUrls.begin()->second);
             }
-            self->finishLater(inTrash);
         });
 }
 
@@ -221,6 +218,21 @@ void CompressWindowController::compressFinished(const std::optional<Url>& archiv
     NotificationCenter::defaultCenter().post(
         "ItemCompressed", archive ? NotificationObject(*archive) : NotificationObject());
     release();
+    if (m_isDiskFull) {
+        sayThatTheDiskIsFull();
+    }
+}
+
+void CompressWindowController::sayThatTheDiskIsFull() const
+{
+    // Over another window than this one, which is about to go.
+    m_callLater(std::chrono::milliseconds(0), [&alert = m_services.alert] {
+        alert.beginSheet(
+            {tr("The archive cannot be made"),
+             tr("The disk is full. Nothing is left of the incomplete archive but an empty file in "
+                "the trash."),
+             {tr("OK")}});
+    });
 }
 
 void CompressWindowController::breakOffAtExit()
@@ -228,22 +240,42 @@ void CompressWindowController::breakOffAtExit()
     if (m_self == nullptr) {
         return;
     }
-    // Ends the archiving program, so that it does not go on writing without us.
-    m_backupTask.reset();
-    const bool isUntouched
-        = m_updateTimer.isActive() && m_state != State::Succeeded && m_hasArchive;
+    if (m_backupTask != nullptr) {
+        // It must not go on writing without us, and may yet say what it has made.
+        m_backupTask->stop();
+        noteWhatWasMade();
+    }
+    const bool isUntouched = m_updateTimer.isActive() && m_state != State::Succeeded;
     m_updateTimer.stop();
-    if (isUntouched) {
-        m_services.workspace.recycleURLs({archive()}, [](const RecycleResult& /*result*/) {});
+    if (isUntouched && m_made) {
+        m_services.workspace.recycleFile(
+            *m_made, archivePlaces(), [](const RecycleResult& /*result*/) {});
     }
     m_services.targetsInUse.erase(m_targetPath);
     release();
+}
+
+void CompressWindowController::noteWhatWasMade()
+{
+    m_made = readFileIdentityLine(m_backupTask->output());
+    m_backupTask.reset();
 }
 
 void CompressWindowController::release()
 {
     m_window->close();
     m_self.reset();
+}
+
+std::optional<std::uint64_t> CompressWindowController::archiveSize() const
+{
+    const auto size = m_services.resourceValues.allocatedSize(partPath(m_targetPath));
+    return size ? size : m_services.resourceValues.allocatedSize(m_targetPath);
+}
+
+std::vector<Url> CompressWindowController::archivePlaces() const
+{
+    return {Url(partPath(m_targetPath), false), archive()};
 }
 
 void CompressWindowController::setOutputText(const QString& text)

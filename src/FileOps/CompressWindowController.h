@@ -3,6 +3,7 @@
 
 #include "FileOps/Task.h"
 #include "Model/Url.h"
+#include "Utils/FileIdentity.h"
 
 #include <QObject>
 #include <QTimer>
@@ -14,6 +15,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <vector>
 
 class QDialog;
 class QLabel;
@@ -23,6 +25,7 @@ class QString;
 
 namespace tessera {
 
+class Alert;
 class IconProvider;
 class ResourceValues;
 class Workspace;
@@ -37,6 +40,7 @@ struct CompressServices {
     /// The paths of the archives that are being written, some of which are not on the disk yet; one
     /// set for all compressions.
     std::set<std::string>& targetsInUse;
+    Alert& alert;
 };
 
 /// Calls back once after a time, from the event loop.
@@ -46,10 +50,12 @@ using CallLater = std::function<void(std::chrono::milliseconds, std::function<vo
 /// estimated from the archive's growing size. Whatever the end, the notification "ItemCompressed"
 /// is posted: with the URL of the archive, or of the incomplete archive in the trash, or of none.
 ///
+/// Until it is complete the archive has another name (partPath()). What goes to the trash is the
+/// very file that the archiving program said it made, under whichever of the two names.
+///
 /// Once started the controller keeps itself alive until that end, so that nobody need hold it.
-/// The work also goes on when the main window is closed; it is broken off, and the incomplete
-/// archive moved to the trash, when its own window is closed or the program ends. Main thread
-/// only.
+/// The work is broken off, and the incomplete archive moved to the trash, when its own window is
+/// closed or the program ends. Main thread only.
 class CompressWindowController final
     : public QObject,
       public std::enable_shared_from_this<CompressWindowController> {
@@ -89,11 +95,15 @@ private:
     void trashIncompleteArchive();
     void finishLater(const std::optional<Url>& archive);
     void breakOffAtExit();
+    void noteWhatWasMade();
     void release();
+    void sayThatTheDiskIsFull() const;
 
     void setOutputText(const QString& text);
     void showIcon();
+    std::optional<std::uint64_t> archiveSize() const;
     Url archive() const { return {m_targetPath, false}; }
+    std::vector<Url> archivePlaces() const;
 
     CompressServices m_services;
     CallLater m_callLater;
@@ -110,7 +120,8 @@ private:
     std::unique_ptr<Task> m_backupTask; ///< null when it has ended
     QTimer m_updateTimer;
     State m_state = State::New;
-    bool m_hasArchive = true; ///< as far as known, what lies at the target is the tool's work
+    std::optional<FileIdentity> m_made; ///< known when the tool has ended, if it made a file
+    bool m_isDiskFull = false;
     double m_lastCompressedPercent = 0; ///< what is added to the progress after success
 
     /// Its hold on itself while it works.

@@ -18,13 +18,13 @@ public:
     Task(const Task&) = delete;
     Task& operator=(const Task&) = delete;
 
-    /// Ends the process if it still runs, and waits for that as long as the system lets one hope.
-    /// The handler is not called any more.
+    /// As stop().
     virtual ~Task() = default;
 
     /// Starts the program, once for each task. `program` is a path; all texts are bytes. Its
-    /// standard input and output lead nowhere, its errors go where ours go. It gets a request to
-    /// end when this program dies. The handler is called later, once, and may destroy the task.
+    /// standard input leads nowhere, its output is kept, its errors go where ours go. It gets a
+    /// request to end when this program dies. The handler is called later, once, and may destroy
+    /// the task.
     virtual void start(
         const std::string& program,
         const std::vector<std::string>& arguments,
@@ -33,6 +33,14 @@ public:
 
     /// Asks the process to end, which the handler will tell. Nothing once it has ended.
     virtual void terminate() = 0;
+
+    /// Ends the process if it still runs, and waits for that as long as the system lets one hope.
+    /// The handler is not called any more.
+    virtual void stop() = 0;
+
+    /// What the process has written to its standard output so far; of more than a few lines the
+    /// beginning. Empty where the system could not keep it.
+    [[nodiscard]] virtual std::string output() const = 0;
 };
 
 } // namespace tessera

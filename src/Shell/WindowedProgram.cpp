@@ -123,7 +123,8 @@ MainWindowServices WindowedProgram::mainWindowServices(
          services.workspace,
          services.promptResourceValues,
          m_desktop->icons,
-         m_desktop->targetsInUse},
+         m_desktop->targetsInUse,
+         m_desktop->alert},
         services.motion,
         checkFolder};
     const ScanningServices scanScreen{

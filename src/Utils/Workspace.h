@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Model/Url.h"
+#include "Utils/FileIdentity.h"
 
 #include <functional>
 #include <map>
@@ -46,6 +47,12 @@ public:
     /// The completion handler is called later, on the main thread; not when the workspace is gone
     /// by then.
     virtual void recycleURLs(std::vector<Url> urls, RecycleCompletion completionHandler) = 0;
+
+    /// Moves one file to the trash, whichever of the places it is at. What else is there stays, and
+    /// so does everything when the file is at none of them, which is an error.
+    virtual void recycleFile(
+        const FileIdentity& file, std::vector<Url> places, RecycleCompletion completionHandler)
+        = 0;
 };
 
 } // namespace tessera

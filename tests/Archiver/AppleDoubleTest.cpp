@@ -91,5 +91,24 @@ TEST(AppleDouble, LiesUnderItsOwnFolderBesideTheItem)
     EXPECT_EQ(AppleDouble::pathFor("X/sub/file"), "__MACOSX/X/sub/._file");
 }
 
+TEST(AppleDouble, ANameOf253BytesIsKept)
+{
+    const std::string name(253, 'n');
+    EXPECT_EQ(AppleDouble::pathFor("X/" + name), "__MACOSX/X/._" + name);
+}
+
+TEST(AppleDouble, ALongerNameIsShortenedToWhatADiskTakes)
+{
+    const std::string path = AppleDouble::pathFor("X/" + std::string(254, 'n'));
+    EXPECT_EQ(path.size(), std::string("__MACOSX/X/").size() + 255);
+    EXPECT_EQ(path.find("__MACOSX/X/._nnn"), 0U);
+}
+
+TEST(AppleDouble, LongNamesThatBeginAlikeHaveDifferentPlaces)
+{
+    const std::string beginning(254, 'n');
+    EXPECT_NE(AppleDouble::pathFor(beginning + 'a'), AppleDouble::pathFor(beginning + 'b'));
+}
+
 } // namespace
 } // namespace tessera

@@ -59,13 +59,16 @@ protected:
     TempTree out;
     std::string source = tree.pathOf("X");
     std::string target = out.pathOf("X.zip");
+    std::string part = out.pathOf("X.zip.part"); ///< what it is called until it is complete
 };
 
-TEST_F(ArchiveCommand, SaysNothingWhenAllIsWell)
+TEST_F(ArchiveCommand, SaysNothingWhenAllIsWellButWhichFileItMade)
 {
     const ProgramResult result = archiveX();
     EXPECT_EQ(result.exitStatus, 0);
-    EXPECT_EQ(result.standardOutput, "");
+    struct stat values { };
+    ASSERT_EQ(::lstat(target.c_str(), &values), 0);
+    EXPECT_THAT(result.standardOutput, EndsWith(' ' + std::to_string(values.st_ino) + '\n'));
     EXPECT_EQ(result.standardError, "");
 }
 
@@ -165,9 +168,24 @@ TEST_F(ArchiveCommand, AnArchiveInsideItsSourceDoesNotHoldItself)
 
 TEST_F(ArchiveCommand, AnArchiveInsideItsSourceIsFoundUnderAnyPath)
 {
-    tree.makeSymbolicLink("other", "X");
-    EXPECT_EQ(makeArchive(source, tree.pathOf("other/X.zip")).exitStatus, 0);
+    EXPECT_EQ(makeArchive(source, tree.pathOf("X/../X/X.zip")).exitStatus, 0);
     EXPECT_THAT(pathsOfArchive(tree.pathOf("X/X.zip")), ElementsAre("folder X", "file X/file"));
+}
+
+TEST_F(ArchiveCommand, AWayToTheSourceThatLeadsOverALinkIsNotTaken)
+{
+    tree.makeSymbolicLink("link", "X");
+    const ProgramResult result = makeArchive(tree.pathOf("link/file"), target);
+    EXPECT_EQ(result.exitStatus, 3);
+    EXPECT_FALSE(exists(target));
+}
+
+TEST_F(ArchiveCommand, AWayToTheArchiveThatLeadsOverALinkIsNotTaken)
+{
+    tree.makeSymbolicLink("link", "X");
+    const ProgramResult result = makeArchive(source, tree.pathOf("link/X.zip"));
+    EXPECT_EQ(result.exitStatus, 3);
+    EXPECT_FALSE(exists(tree.pathOf("X/X.zip")));
 }
 
 TEST_F(ArchiveCommand, TheSourceStaysAsItIs)
@@ -185,7 +203,7 @@ TEST_F(ArchiveCommand, AFileThatMayNotBeReadIsSaidAndAllElseArchived)
     EXPECT_EQ(result.exitStatus, 1);
     EXPECT_EQ(
         result.standardError, "tessera-ditto: cannot archive 'X/secret': Permission denied\n");
-    EXPECT_THAT(pathsOfArchive(target), ElementsAre("folder X", "file X/file"));
+    EXPECT_THAT(pathsOfArchive(part), ElementsAre("folder X", "file X/file"));
 }
 
 TEST_F(ArchiveCommand, OfSeveralThatMayNotBeReadTheFirstIsNamed)
@@ -199,7 +217,7 @@ TEST_F(ArchiveCommand, OfSeveralThatMayNotBeReadTheFirstIsNamed)
     EXPECT_EQ(
         result.standardError,
         "tessera-ditto: cannot archive 'X/a': Permission denied (and 2 more)\n");
-    EXPECT_THAT(pathsOfArchive(target), ElementsAre("folder X", "file X/file"));
+    EXPECT_THAT(pathsOfArchive(part), ElementsAre("folder X", "file X/file"));
 }
 
 TEST_F(ArchiveCommand, AFolderThatMayBeListedButNotEnteredIsSaid)
@@ -211,7 +229,7 @@ TEST_F(ArchiveCommand, AFolderThatMayBeListedButNotEnteredIsSaid)
     EXPECT_EQ(result.exitStatus, 1);
     EXPECT_EQ(
         result.standardError, "tessera-ditto: cannot archive 'X/listed/file': Permission denied\n");
-    EXPECT_THAT(pathsOfArchive(target), ElementsAre("folder X", "file X/file", "folder X/listed"));
+    EXPECT_THAT(pathsOfArchive(part), ElementsAre("folder X", "file X/file", "folder X/listed"));
 }
 
 TEST_F(ArchiveCommand, ANameWithALineBreakStaysOneLine)
@@ -304,7 +322,7 @@ TEST_F(ArchiveCommand, AFullDiskIsSaidInOneLine)
     OwnMounts mounts;
     mounts.mountMemory(out.path(), "size=256k");
     const ProgramResult result = archiveX();
-    EXPECT_EQ(result.exitStatus, 1);
+    EXPECT_EQ(result.exitStatus, 4);
     EXPECT_EQ(
         result.standardError,
         "tessera-ditto: cannot write '" + target + "': No space left on device\n");
@@ -324,7 +342,7 @@ TEST_F(ArchiveCommand, ALimitOnTheSizeOfFilesIsAFailureAndTheFragmentStays)
     EXPECT_EQ(result.exitStatus, 1);
     EXPECT_EQ(
         result.standardError, "tessera-ditto: cannot write '" + target + "': File too large\n");
-    EXPECT_TRUE(exists(target));
+    EXPECT_TRUE(exists(part));
 }
 
 } // namespace

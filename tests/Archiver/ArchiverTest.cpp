@@ -37,7 +37,7 @@ protected:
     {
         prepared.item.path = "file";
         source.add(std::move(prepared));
-        const ArchiveReport report = run();
+        report = run();
         EXPECT_EQ(report.outputError, 0);
         EXPECT_EQ(report.failureCount, 0U);
         return lines().at(0);
@@ -60,13 +60,14 @@ protected:
 
     FakeSourceWalk source;
     FakeArchiveOutput output;
+    ArchiveReport report; ///< of lineFor()
 };
 
 TEST_F(ArchiverOfPreparedItems, HoldsThemInTheirOrder)
 {
     source.addFolder("X");
     source.addFile("X/a", "content");
-    const ArchiveReport report = run();
+    report = run();
     EXPECT_EQ(report.outputError, 0);
     EXPECT_THAT(
         lines(),
@@ -85,7 +86,7 @@ TEST_F(ArchiverOfPreparedItems, OneThatCannotBeReadKeepsNoOtherOut)
 {
     source.addStep(Step::Failed, "X/secret", EACCES);
     source.addFile("X/z", "z");
-    const ArchiveReport report = run();
+    report = run();
     EXPECT_EQ(report.failureCount, 1U);
     EXPECT_EQ(report.firstFailure.text(), "cannot archive 'X/secret': Permission denied");
     EXPECT_THAT(lines(), ElementsAre(HasSubstr("file X/z ")));
@@ -95,7 +96,7 @@ TEST_F(ArchiverOfPreparedItems, TheFirstFailureStandsForAll)
 {
     source.addStep(Step::Failed, "first", EIO);
     source.addStep(Step::Failed, "second", EACCES);
-    const ArchiveReport report = run();
+    report = run();
     EXPECT_EQ(report.failureCount, 2U);
     EXPECT_EQ(report.firstFailure.path, "first");
 }
@@ -104,10 +105,47 @@ TEST_F(ArchiverOfPreparedItems, WhatHasNoContentIsNoFailure)
 {
     source.addStep(Step::LeftOut, "X/socket");
     source.addStep(Step::LeftOut, "X/socket2");
-    const ArchiveReport report = run();
+    report = run();
     EXPECT_EQ(report.failureCount, 0U);
-    EXPECT_EQ(report.leftOutCount, 2U);
-    EXPECT_EQ(report.firstLeftOut, "X/socket");
+    EXPECT_EQ(report.leftOut.count, 2U);
+    EXPECT_EQ(report.leftOut.first, "X/socket");
+}
+
+TEST_F(ArchiverOfPreparedItems, WhatVanishedIsCountedAndNoFailure)
+{
+    source.addStep(Step::Vanished, "X/first");
+    source.addStep(Step::Vanished, "X/second");
+    report = run();
+    EXPECT_EQ(report.failureCount, 0U);
+    EXPECT_EQ(report.vanished.count, 2U);
+    EXPECT_EQ(report.vanished.first, "X/first");
+}
+
+TEST_F(ArchiverOfPreparedItems, OneThatLacksAttributesIsStoredWithItsContentAndCounted)
+{
+    FakeSourceWalk::Prepared prepared;
+    prepared.item.path = "file";
+    prepared.item.length = 7;
+    prepared.item.lacksAttributes = true;
+    prepared.content = "content";
+    source.add(prepared);
+    report = run();
+    EXPECT_EQ(report.failureCount, 0U);
+    EXPECT_EQ(report.lackingAttributes.first, "file");
+    EXPECT_THAT(lines(), ElementsAre(HasSubstr("size=7 crc=fec530a9")));
+}
+
+TEST_F(ArchiverOfPreparedItems, AFileThatHasShrunkIsCounted)
+{
+    lineForContent("abc", 4);
+    EXPECT_EQ(report.shrunk.count, 1U);
+    EXPECT_EQ(report.shrunk.first, "file");
+}
+
+TEST_F(ArchiverOfPreparedItems, AFileThatHasGrownHasNotShrunk)
+{
+    lineForContent("abcdef", 6);
+    EXPECT_EQ(report.shrunk.count, 0U);
 }
 
 TEST_F(ArchiverOfPreparedItems, AFileThatBreaksOffIsAFailureAndTheArchiveValid)
@@ -119,8 +157,9 @@ TEST_F(ArchiverOfPreparedItems, AFileThatBreaksOffIsAFailureAndTheArchiveValid)
     broken.error = EIO;
     source.add(broken);
     source.addFile("next", "n");
-    const ArchiveReport report = run();
+    report = run();
     EXPECT_EQ(report.firstFailure.text(), "cannot archive 'broken': Input/output error");
+    EXPECT_EQ(report.shrunk.count, 0U);
     EXPECT_THAT(lines(), Contains(HasSubstr("file broken mode=0 modified=0 size=3 crc=352441c2")));
     EXPECT_THAT(lines(), Contains(HasSubstr("file next ")));
 }
@@ -146,7 +185,7 @@ TEST_F(ArchiverOfPreparedItems, ALongerPathIsAFailure)
 {
     source.addFolder(std::string(65535, 'p'));
     source.addFile("next", "n");
-    const ArchiveReport report = run();
+    report = run();
     EXPECT_EQ(report.firstFailure.code, ENAMETOOLONG);
     EXPECT_THAT(lines(), ElementsAre(HasSubstr("file next ")));
 }
@@ -154,7 +193,10 @@ TEST_F(ArchiverOfPreparedItems, ALongerPathIsAFailure)
 TEST_F(ArchiverOfPreparedItems, AttributesWhoseOwnPathIsTooLongAreAFailure)
 {
     FakeSourceWalk::Prepared prepared;
-    prepared.item.path = std::string(65530, 'p');
+    for (int i = 0; i < 256; ++i) {
+        prepared.item.path += std::string(254, 'p') + '/';
+    }
+    prepared.item.path += std::string(250, 'p');
     prepared.item.attributes = {{"name", "value"}};
     source.add(prepared);
     EXPECT_EQ(run().firstFailure.code, ENAMETOOLONG);

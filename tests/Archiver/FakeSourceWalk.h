@@ -53,8 +53,7 @@ public:
 
     std::size_t delivered() const { return m_next; }
 
-    std::uint32_t permissions() const override { return sourcePermissions; }
-    void passOver(const std::string& path) override { passedOver = path; }
+    void passOver(const FileIdentity& /*file*/) override { }
     int error() const override { return m_steps[m_next - 1].error; }
 
     [[nodiscard]] Step next(ArchiveItem& item) override
@@ -75,9 +74,6 @@ public:
         m_position += length;
         return {length, length == 0 ? current.error : 0};
     }
-
-    std::uint32_t sourcePermissions = 0755;
-    std::string passedOver;
 
 private:
     std::vector<Prepared> m_steps;

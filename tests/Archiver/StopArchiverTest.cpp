@@ -44,7 +44,7 @@ private:
 class WorkingArchiver {
 public:
     WorkingArchiver(const std::string& source, const TempTree& out)
-        : m_errorPath(out.pathOf("stderr"))
+        : m_errorPath(m_texts.pathOf("stderr"))
     {
         const int watch = ::inotify_init1(IN_CLOEXEC);
         ::inotify_add_watch(watch, out.path().c_str(), IN_MODIFY);
@@ -53,7 +53,7 @@ public:
             TESSERA_ARCHIVER,
             {"-c", "-k", "--sequesterRsrc", source, out.pathOf("X.zip")},
             {},
-            out.pathOf("stdout"),
+            m_texts.pathOf("stdout"),
             m_errorPath});
         std::array<char, sizeof(inotify_event) + NAME_MAX + 1> event{};
         while (::read(watch, event.data(), event.size()) < 0 && errno == EINTR) { }
@@ -70,6 +70,7 @@ public:
     std::string standardError() const { return fileContent(m_errorPath); }
 
 private:
+    TempTree m_texts; ///< not where the archive is waited for
     std::string m_errorPath;
     std::unique_ptr<ChildProcess> m_process;
 };
@@ -116,11 +117,32 @@ TEST_F(StopArchiver, AnInterruptEndsItAsWell)
     EXPECT_EQ(archiver.stop(SIGINT), 1);
 }
 
+TEST_F(StopArchiver, TheEndOfItsTerminalEndsItAsWell)
+{
+    WorkingArchiver archiver(source, out);
+    EXPECT_EQ(archiver.stop(SIGHUP), 1);
+}
+
+TEST_F(StopArchiver, StoppedBeforeItHasMadeAnythingItSaysSo)
+{
+    const BlockedTermination blocked;
+    ChildProcess archiver(
+        {TESSERA_ARCHIVER,
+         {"-c", "-k", "--sequesterRsrc", source, out.pathOf("X.zip")},
+         {},
+         out.pathOf("stdout"),
+         out.pathOf("stderr"),
+         [] { ::raise(SIGTERM); }});
+    EXPECT_EQ(archiver.waitForExit(), 3);
+    EXPECT_EQ(fileContent(out.pathOf("stdout")), "");
+}
+
 TEST_F(StopArchiver, TheFragmentIsLeftToWhoeverStartedIt)
 {
     WorkingArchiver archiver(source, out);
     archiver.stop(SIGTERM);
-    EXPECT_GT(std::filesystem::file_size(out.pathOf("X.zip")), 0U);
+    EXPECT_GT(std::filesystem::file_size(out.pathOf("X.zip.part")), 0U);
+    EXPECT_FALSE(std::filesystem::exists(out.pathOf("X.zip")));
 }
 
 TEST_F(StopArchiver, KillingItLeavesTheSourceAlone)

@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "Archiver/archives.h"
 
+#include "support/ChildProcess.h"
+#include "support/TempTree.h"
+#include "support/fileContent.h"
+
 #include <unistd.h>
 
+#include <cstdlib>
 #include <random>
 #include <sstream>
 #include <utility>
@@ -67,6 +72,25 @@ std::string noise(std::size_t length)
 ProgramResult runTool(const std::string& name, const std::vector<std::string>& arguments)
 {
     return runProgram(name, arguments, {"LC_ALL=C.UTF-8"});
+}
+
+ProgramResult makeArchiveWhereFails(
+    const FailingCall& call, const std::string& source, const std::string& target)
+{
+    const TempTree out;
+    ChildProcess archiver(
+        {TESSERA_ARCHIVER,
+         archiverArguments(source, target),
+         {},
+         out.pathOf("stdout"),
+         out.pathOf("stderr"),
+         [&] {
+             if (!makeCallFail(call)) {
+                 std::_Exit(-1);
+             }
+         }});
+    const int status = archiver.waitForExit();
+    return {status, fileContent(out.pathOf("stdout")), fileContent(out.pathOf("stderr"))};
 }
 
 ProgramResult makeArchiveWithoutRights(const std::string& source, const std::string& target)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "support/failingCalls.h"
 #include "support/runProgram.h"
 
 #include <cstddef>
@@ -27,6 +28,10 @@ std::string noise(std::size_t length);
 
 /// Runs a program by its name, with UTF-8 as its character set.
 ProgramResult runTool(const std::string& name, const std::vector<std::string>& arguments);
+
+/// Runs the archiver while a system call fails.
+ProgramResult makeArchiveWhereFails(
+    const FailingCall& call, const std::string& source, const std::string& target);
 
 /// Runs the archiver as somebody who is bound by permissions, be the tests run by the super-user.
 ProgramResult makeArchiveWithoutRights(const std::string& source, const std::string& target);

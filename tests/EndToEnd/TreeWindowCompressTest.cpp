@@ -49,21 +49,29 @@ protected:
         TreeWindow::SetUp();
         ASSERT_TRUE(pick("movie", MenuEntry::Compress));
         ASSERT_TRUE(opens(XWindow::Kind::Dialog));
-        ASSERT_TRUE(eventually([this] { return exists(archive()); }));
+        ASSERT_TRUE(eventually([this] { return exists(part()); }));
     }
 
     std::string archive() const { return tree.pathOf("movie.zip"); }
+    /// What it is called while it is not complete.
+    std::string part() const { return tree.pathOf("movie.zip.part"); }
     std::optional<pid_t> archiver() const { return processWithArgument(archive()); }
 
     /// The partial archive is in the trash, the item is as it was, and nobody is writing.
     void expectOnlyTheTrashHasAnArchive()
     {
         EXPECT_TRUE(closes(XWindow::Kind::Dialog));
-        EXPECT_FALSE(exists(archive()));
-        EXPECT_FALSE(archiver().has_value());
-        EXPECT_TRUE(exists(program->dataFolder() + "/Trash/files/movie.zip"));
-        EXPECT_EQ(std::filesystem::file_size(tree.pathOf("movie")), kEndlessBytes);
+        expectThePartInTheTrash();
         EXPECT_TRUE(shows({}, "movie"));
+    }
+
+    void expectThePartInTheTrash()
+    {
+        EXPECT_FALSE(exists(archive()));
+        EXPECT_FALSE(exists(part()));
+        EXPECT_FALSE(archiver().has_value());
+        EXPECT_TRUE(exists(program->dataFolder() + "/Trash/files/movie.zip.part"));
+        EXPECT_EQ(std::filesystem::file_size(tree.pathOf("movie")), kEndlessBytes);
     }
 };
 

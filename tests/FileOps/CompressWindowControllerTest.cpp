@@ -2,6 +2,7 @@
 #include "FileOps/CompressWindowController.h"
 
 #include "Model/NotificationCenter.h"
+#include "support/FakeAlert.h"
 #include "support/FakeFileSystem.h"
 #include "support/FakeIconProvider.h"
 #include "support/FakeTask.h"
@@ -35,8 +36,14 @@ using testing::SizeIs;
 
 using State = CompressWindowController::State;
 
+/// The file that the archiver says it has made, and how it says so.
+constexpr FileIdentity kMade{2049, 12};
+constexpr const char* kMadeLine = "2049 12\n";
+
 class CompressWindowControllerTest : public testing::Test {
 protected:
+    CompressWindowControllerTest() { task.output = kMadeLine; }
+
     ~CompressWindowControllerTest() override
     {
         endProgram();
@@ -52,7 +59,8 @@ protected:
              workspace,
              files,
              icons,
-             targetsInUse},
+             targetsInUse,
+             alert},
             [this](std::chrono::milliseconds delay, std::function<void()> work) {
                 delays.push_back(delay);
                 delayed.push_back(std::move(work));
@@ -83,7 +91,7 @@ protected:
     void moveToTrash()
     {
         RecycleResult result;
-        result.newUrls.emplace("file:///data/X.zip", Url("/trash/X.zip", false));
+        result.newUrls.emplace("file:///data/X.zip.part", Url("/trash/X.zip.part", false));
         ASSERT_TRUE(workspace.finishRecycling(result));
     }
 
@@ -114,6 +122,7 @@ protected:
     test::FakeResourceValues files;
     test::FakeIconProvider icons;
     std::set<std::string> targetsInUse;
+    test::FakeAlert alert;
     std::vector<std::chrono::milliseconds> delays;
     std::vector<std::function<void()>> delayed;
     std::shared_ptr<CompressWindowController> controller = makeController();
@@ -173,7 +182,8 @@ TEST_F(CompressWindowControllerTest, TwoAtOnceDoNotWriteTheSameArchive)
          workspace,
          files,
          icons,
-         targetsInUse});
+         targetsInUse,
+         alert});
     other->compressURL(Url("/data/X", true), 1);
 
     EXPECT_EQ(otherTask.arguments.at(4), "/data/X 2.zip");
@@ -342,12 +352,16 @@ TEST_F(CompressWindowControllerTest, AfterAFailureTheNextTickMovesTheArchiveToTh
     EXPECT_THAT(workspace.recycled, IsEmpty());
     controller->updateProgress();
 
-    EXPECT_THAT(workspace.recycled, ElementsAre(ElementsAre(Url("/data/X.zip", false))));
+    EXPECT_THAT(
+        workspace.recycled,
+        ElementsAre(ElementsAre(Url("/data/X.zip.part", false), Url("/data/X.zip", false))));
+    EXPECT_EQ(workspace.recycledFile, kMade);
     EXPECT_FALSE(controller->updateTimer().isActive());
 }
 
 TEST_F(CompressWindowControllerTest, WhatTheArchiverFoundInItsWayIsNotMovedToTheTrash)
 {
+    task.output = "";
     compress();
     endTool(3);
     controller->updateProgress();
@@ -357,6 +371,79 @@ TEST_F(CompressWindowControllerTest, WhatTheArchiverFoundInItsWayIsNotMovedToThe
     EXPECT_FALSE(controller->updateTimer().isActive());
     endDelay();
     EXPECT_THAT(posted, ElementsAre(NotificationObject()));
+}
+
+TEST_F(CompressWindowControllerTest, WhoeverSaysNothingOfAFileHasMadeNone)
+{
+    // Bad usage, stopped before the start, no such program, killed.
+    for (const int status : {2, 1, 127, 137}) {
+        task.output = "";
+        controller = makeController();
+        compress();
+        endTool(status);
+        controller->updateProgress();
+        endDelay();
+    }
+    EXPECT_THAT(workspace.recycled, IsEmpty());
+    EXPECT_THAT(posted, SizeIs(4));
+}
+
+TEST_F(CompressWindowControllerTest, WhatAKilledToolHasMadeIsMovedToTheTrash)
+{
+    compress();
+    endTool(137);
+    controller->updateProgress();
+
+    EXPECT_EQ(workspace.recycledFile, kMade);
+}
+
+TEST_F(CompressWindowControllerTest, ProgressIsReadFromThePartWhileThatIsThere)
+{
+    compress();
+    files.sizes["/data/X.zip.part"] = 250'000;
+    controller->updateProgress();
+
+    EXPECT_EQ(shownProgress(), 0.25);
+}
+
+TEST_F(CompressWindowControllerTest, ANameWhosePartIsTakenIsTaken)
+{
+    files.sizes["/data/X.zip.part"] = 5;
+    compress();
+
+    EXPECT_EQ(task.arguments.at(4), "/data/X 2.zip");
+}
+
+TEST_F(CompressWindowControllerTest, ANameTooLongForItsEndingIsShortened)
+{
+    compress("/data/" + std::string(255, 'n'));
+
+    EXPECT_EQ(task.arguments.at(4), "/data/" + std::string(251, 'n') + ".zip");
+}
+
+TEST_F(CompressWindowControllerTest, ThatTheDiskIsFullIsSaidWhenTheWindowIsGone)
+{
+    compress();
+    endTool(4);
+    controller->updateProgress();
+    refuseTrash();
+    endDelay();
+    EXPECT_THAT(alert.told, IsEmpty());
+    endDelay();
+
+    ASSERT_THAT(alert.told, SizeIs(1));
+    EXPECT_THAT(alert.told[0].informativeText.toStdString(), HasSubstr("The disk is full."));
+}
+
+TEST_F(CompressWindowControllerTest, OfOtherFailuresNothingIsSaidAfterwards)
+{
+    compress();
+    endTool(1);
+    controller->updateProgress();
+    refuseTrash();
+    endDelay();
+
+    EXPECT_THAT(delayed, IsEmpty());
 }
 
 TEST_F(CompressWindowControllerTest, TheTrashedArchiveIsAnnouncedASecondLater)
@@ -369,7 +456,7 @@ TEST_F(CompressWindowControllerTest, TheTrashedArchiveIsAnnouncedASecondLater)
     EXPECT_THAT(posted, IsEmpty());
     endDelay();
 
-    EXPECT_THAT(posted, ElementsAre(NotificationObject(Url("/trash/X.zip", false))));
+    EXPECT_THAT(posted, ElementsAre(NotificationObject(Url("/trash/X.zip.part", false))));
 }
 
 TEST_F(CompressWindowControllerTest, WhatCannotBeTrashedIsLoggedAndNothingAnnounced)
@@ -502,12 +589,27 @@ TEST_F(CompressWindowControllerTest, KeepsItselfAliveUntilItHasFinished)
 
 TEST_F(CompressWindowControllerTest, AtTheProgramsEndTheToolIsEndedAndItsArchiveTrashed)
 {
+    task.output = "";
+    task.outputWhenStopped = kMadeLine;
     compress();
     endProgram();
 
+    EXPECT_TRUE(task.isStopped);
     EXPECT_TRUE(task.isDestroyed);
-    EXPECT_THAT(workspace.recycled, ElementsAre(ElementsAre(Url("/data/X.zip", false))));
+    EXPECT_THAT(
+        workspace.recycled,
+        ElementsAre(ElementsAre(Url("/data/X.zip.part", false), Url("/data/X.zip", false))));
+    EXPECT_EQ(workspace.recycledFile, kMade);
     EXPECT_THAT(posted, IsEmpty());
+}
+
+TEST_F(CompressWindowControllerTest, AtTheProgramsEndAToolThatHasMadeNothingLeavesAllAsItIs)
+{
+    task.output = "";
+    compress();
+    endProgram();
+
+    EXPECT_THAT(workspace.recycled, IsEmpty());
 }
 
 TEST_F(CompressWindowControllerTest, AtTheProgramsEndAFinishedArchiveStays)

@@ -78,23 +78,38 @@ public:
 
     void recycleURLs(std::vector<Url> urls, RecycleCompletion completionHandler) override
     {
-        ++m_work.moves;
-        ++m_work.movesBegun;
-        const auto finish
-            = [this, completion = std::move(completionHandler)](const RecycleResult& result) {
-                  --m_work.moves;
-                  completion(result);
-              };
-        if (std::ranges::all_of(
-                urls, [this](const Url& url) { return m_sandbox.holds(url.path()); })) {
-            m_workspace->recycleURLs(std::move(urls), finish);
-        } else {
-            // Nothing at all is an error that comes as late as any other.
-            m_workspace->recycleURLs({Url(m_sandbox.path() + "/nothing", false)}, finish);
-        }
+        const auto finish = begin(std::move(completionHandler));
+        m_workspace->recycleURLs(confined(std::move(urls)), finish);
+    }
+
+    void recycleFile(
+        const FileIdentity& file,
+        std::vector<Url> places,
+        RecycleCompletion completionHandler) override
+    {
+        const auto finish = begin(std::move(completionHandler));
+        m_workspace->recycleFile(file, confined(std::move(places)), finish);
     }
 
 private:
+    RecycleCompletion begin(RecycleCompletion completionHandler)
+    {
+        ++m_work.moves;
+        ++m_work.movesBegun;
+        return [this, completion = std::move(completionHandler)](const RecycleResult& result) {
+            --m_work.moves;
+            completion(result);
+        };
+    }
+
+    std::vector<Url> confined(std::vector<Url> urls) const
+    {
+        const bool isInside = std::ranges::all_of(
+            urls, [this](const Url& url) { return m_sandbox.holds(url.path()); });
+        // Nothing at all is an error that comes as late as any other.
+        return isInside ? std::move(urls) : std::vector{Url(m_sandbox.path() + "/nothing", false)};
+    }
+
     const std::unique_ptr<Workspace> m_workspace;
     const Sandbox m_sandbox;
     OpenWork& m_work;
@@ -128,6 +143,8 @@ public:
         }
     }
     void terminate() override { m_task->terminate(); }
+    void stop() override { m_task->stop(); }
+    [[nodiscard]] std::string output() const override { return m_task->output(); }
 
 private:
     const std::unique_ptr<Task> m_task;

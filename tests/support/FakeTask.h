@@ -15,7 +15,10 @@ struct FakeTaskRecord {
     std::string program;
     std::vector<std::string> arguments;
     int terminateCount = 0;
+    bool isStopped = false;
     bool isDestroyed = false;
+    std::string output;
+    std::string outputWhenStopped; ///< what it still writes when it is made to end
     Task::TerminationHandler onTerminated;
 };
 
@@ -47,6 +50,14 @@ public:
     }
 
     void terminate() override { ++m_record.terminateCount; }
+
+    void stop() override
+    {
+        m_record.isStopped = true;
+        m_record.output += m_record.outputWhenStopped;
+    }
+
+    [[nodiscard]] std::string output() const override { return m_record.output; }
 
 private:
     FakeTaskRecord& m_record;

@@ -83,7 +83,8 @@ struct FakeTreeViewServices {
              workspace,
              resourceValues,
              icons,
-             targetsInUse},
+             targetsInUse,
+             alert},
             motion,
             [this](const std::string& path) {
                 checkedFolder = path;

@@ -36,6 +36,15 @@ public:
         m_completions.push_back(std::move(completionHandler));
     }
 
+    void recycleFile(
+        const FileIdentity& file,
+        std::vector<Url> places,
+        RecycleCompletion completionHandler) override
+    {
+        recycledFile = file;
+        recycleURLs(std::move(places), std::move(completionHandler));
+    }
+
     /// Ends the oldest move to the trash that has not ended yet; false when there is none.
     [[nodiscard]] bool finishRecycling(const RecycleResult& result)
     {
@@ -53,7 +62,8 @@ public:
     OpenCompletion lateAnswer;
     std::vector<std::string> opened;
     std::vector<std::string> revealed;
-    std::vector<std::vector<Url>> recycled; ///< the items of each call
+    std::vector<std::vector<Url>> recycled; ///< the items, or a file's places, of each call
+    FileIdentity recycledFile; ///< the last one that was recycled by its identity
 
 private:
     std::deque<RecycleCompletion> m_completions;

@@ -61,15 +61,21 @@ BackgroundTrash::~BackgroundTrash()
 
 void BackgroundTrash::recycle(std::vector<Url> urls, RecycleCompletion completionHandler)
 {
+    perform(
+        [mover = m_mover, urls = std::move(urls)] { return mover(urls); },
+        std::move(completionHandler));
+}
+
+void BackgroundTrash::perform(Move move, RecycleCompletion completionHandler)
+{
     forgetEndedMoves();
     std::promise<void> ended;
     m_moves.push_back(ended.get_future());
-    std::thread([mover = m_mover,
+    std::thread([move = std::move(move),
                  delivery = m_delivery,
-                 urls = std::move(urls),
                  completion = std::move(completionHandler),
                  ended = std::move(ended)]() mutable {
-        RecycleResult result = mover(urls);
+        RecycleResult result = move();
         delivery->perform(
             [delivery, completion = std::move(completion), result = std::move(result)] {
                 // The owner may have gone while this was waiting for its turn.

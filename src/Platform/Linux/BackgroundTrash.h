@@ -17,7 +17,9 @@ class MainThread;
 /// server is gone would hold up the caller for as long as the server is away. Main thread only.
 class BackgroundTrash {
 public:
-    /// Moves the items one after the other; runs on a worker and must own all that it uses.
+    /// Moves something; runs on a worker and must own all that it uses.
+    using Move = std::function<RecycleResult()>;
+    /// Moves the items one after the other; likewise.
     using Mover = std::function<RecycleResult(const std::vector<Url>&)>;
 
     /// `mainThread` must outlive this object.
@@ -32,6 +34,9 @@ public:
     /// Returns at once; the completion handler is called on the main thread, or never when this
     /// object is gone by then.
     void recycle(std::vector<Url> urls, RecycleCompletion completionHandler);
+
+    /// The same for a move of the caller's own.
+    void perform(Move move, RecycleCompletion completionHandler);
 
 private:
     class Delivery;

@@ -6,6 +6,7 @@
 
 #include <fcntl.h>
 #include <poll.h>
+#include <sys/mman.h>
 #include <sys/prctl.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
@@ -23,6 +24,7 @@ namespace {
 constexpr int kCannotStart = 127; // as in the shell
 constexpr int kSignalBase = 128; // as in the shell
 constexpr int kMillisecondsToObey = 1000;
+constexpr std::size_t kKeptOutputBytes = 4096;
 
 std::vector<char*> argumentVector(std::string& program, std::vector<std::string>& arguments)
 {
@@ -47,7 +49,7 @@ void resetSignals()
 
 /// Runs in the child, where after a fork of a program with threads only calls that are safe in
 /// signal handlers may be made.
-[[noreturn]] void becomeProgram(char* const* arguments, pid_t parent)
+[[noreturn]] void becomeProgram(char* const* arguments, pid_t parent, int output)
 {
     // No orphan goes on writing when this program crashes.
     (void)::prctl(PR_SET_PDEATHSIG, SIGTERM);
@@ -57,7 +59,7 @@ void resetSignals()
     resetSignals();
     const int nowhere = ::open("/dev/null", O_RDWR | O_CLOEXEC);
     ::dup2(nowhere, STDIN_FILENO);
-    ::dup2(nowhere, STDOUT_FILENO);
+    ::dup2(output >= 0 ? output : nowhere, STDOUT_FILENO);
     ::execv(*arguments, arguments);
     ::_exit(kCannotStart);
 }
@@ -88,6 +90,14 @@ ChildProcessTask::ChildProcessTask() = default;
 
 ChildProcessTask::~ChildProcessTask()
 {
+    end();
+}
+
+void ChildProcessTask::end()
+{
+    m_onTerminated = {};
+    m_notifier.reset();
+    m_pendingReport.reset();
     if (!isRunning()) {
         return;
     }
@@ -99,6 +109,16 @@ ChildProcessTask::~ChildProcessTask()
     if (waitForEnd(kMillisecondsToObey)) {
         (void)reap(m_process);
     }
+    m_process = 0;
+}
+
+std::string ChildProcessTask::output() const
+{
+    std::string text(kKeptOutputBytes, '\0');
+    const ssize_t length
+        = m_output.isOpen() ? ::pread(m_output.number(), text.data(), text.size(), 0) : 0;
+    text.resize(length > 0 ? static_cast<std::size_t>(length) : 0);
+    return text;
 }
 
 void ChildProcessTask::start(
@@ -110,10 +130,11 @@ void ChildProcessTask::start(
     std::string ownProgram = program;
     std::vector<std::string> ownArguments = arguments;
     const std::vector<char*> vector = argumentVector(ownProgram, ownArguments);
+    m_output = FileDescriptor(::memfd_create("output", MFD_CLOEXEC));
     const pid_t parent = ::getpid();
     const pid_t process = ::fork();
     if (process == 0) {
-        becomeProgram(vector.data(), parent);
+        becomeProgram(vector.data(), parent, m_output.number());
     }
     if (process < 0) {
         reportLater(kCannotStart);

@@ -25,11 +25,14 @@ public:
         const std::vector<std::string>& arguments,
         TerminationHandler onTerminated) override;
     void terminate() override;
+    void stop() override { end(); }
+    [[nodiscard]] std::string output() const override;
 
 private:
     void watch();
     void reportLater(int status);
     void ended();
+    void end();
     bool waitForEnd(int milliseconds) const;
     /// Whether there is a process whose end nobody has taken note of.
     bool isRunning() const { return m_process > 0; }
@@ -37,6 +40,7 @@ private:
     TerminationHandler m_onTerminated;
     pid_t m_process = 0;
     FileDescriptor m_handle; ///< becomes readable when the process ends
+    FileDescriptor m_output; ///< a file without a name
     std::unique_ptr<QSocketNotifier> m_notifier;
     std::unique_ptr<QTimer> m_pendingReport;
 };

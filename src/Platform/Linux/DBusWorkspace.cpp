@@ -61,15 +61,24 @@ DBusWorkspace::DBusWorkspace(QDBusConnection bus, MainThread& mainThread)
         mainThread,
         [trash = FreedesktopTrash(TrashUser::current())](const std::vector<Url>& urls) {
             return trash.recycle(urls);
+        },
+        [trash = FreedesktopTrash(TrashUser::current())](
+            const FileIdentity& file, const std::vector<Url>& places) {
+            return trash.recycleFile(file, places);
         })
 {
 }
 
 DBusWorkspace::DBusWorkspace(
-    QDBusConnection bus, Opener opener, MainThread& mainThread, BackgroundTrash::Mover mover)
+    QDBusConnection bus,
+    Opener opener,
+    MainThread& mainThread,
+    BackgroundTrash::Mover mover,
+    FileMover fileMover)
     : m_bus(std::move(bus))
     , m_opener(std::move(opener))
     , m_trash(mainThread, std::move(mover))
+    , m_fileMover(std::move(fileMover))
     , m_pendingCalls(std::make_unique<QObject>())
 {
 }
@@ -124,6 +133,14 @@ void DBusWorkspace::reveal(const Url& item, OpenCompletion completionHandler)
 void DBusWorkspace::recycleURLs(std::vector<Url> urls, RecycleCompletion completionHandler)
 {
     m_trash.recycle(std::move(urls), std::move(completionHandler));
+}
+
+void DBusWorkspace::recycleFile(
+    const FileIdentity& file, std::vector<Url> places, RecycleCompletion completionHandler)
+{
+    m_trash.perform(
+        [mover = m_fileMover, file, places = std::move(places)] { return mover(file, places); },
+        std::move(completionHandler));
 }
 
 } // namespace tessera

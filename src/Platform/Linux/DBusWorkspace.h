@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 class QObject;
 
@@ -21,10 +22,18 @@ public:
     using Opener
         = std::function<void(const std::string& absoluteUrl, OpenCompletion completionHandler)>;
 
+    /// Moves a file that is at one of the places; runs on a worker and must own all that it uses.
+    using FileMover
+        = std::function<RecycleResult(const FileIdentity&, const std::vector<Url>& places)>;
+
     /// With xdg-open and the user's own trash. `mainThread` must outlive it.
     DBusWorkspace(QDBusConnection bus, MainThread& mainThread);
     DBusWorkspace(
-        QDBusConnection bus, Opener opener, MainThread& mainThread, BackgroundTrash::Mover mover);
+        QDBusConnection bus,
+        Opener opener,
+        MainThread& mainThread,
+        BackgroundTrash::Mover mover,
+        FileMover fileMover);
     ~DBusWorkspace() override;
 
     /// Only "http", "https" and "file" URLs are opened.
@@ -34,13 +43,18 @@ public:
     /// that holds the item, is opened instead, as soon as that is known.
     void reveal(const Url& item, OpenCompletion completionHandler) override;
 
-    /// By FreedesktopTrash, on a thread of its own.
+    /// By FreedesktopTrash, on a thread of its own; recycleFile() likewise.
     void recycleURLs(std::vector<Url> urls, RecycleCompletion completionHandler) override;
+    void recycleFile(
+        const FileIdentity& file,
+        std::vector<Url> places,
+        RecycleCompletion completionHandler) override;
 
 private:
     QDBusConnection m_bus;
     Opener m_opener;
     BackgroundTrash m_trash;
+    FileMover m_fileMover;
     std::unique_ptr<QObject> m_pendingCalls; ///< parent of the calls not yet answered
 };
 

@@ -179,13 +179,36 @@ RecycleResult FreedesktopTrash::recycle(const std::vector<Url>& urls) const
     return result;
 }
 
+RecycleResult FreedesktopTrash::recycleFile(
+    const FileIdentity& file, const std::vector<Url>& places) const
+{
+    RecycleResult result;
+    for (const Url& place : places) {
+        const TrashItemResult found = findTrashItem(place);
+        if (!found) {
+            result.error = found.error;
+        } else if (found.item.status.identity == file) {
+            Outcome outcome = move(found.item);
+            result.error = std::move(outcome.error);
+            if (result.error.empty()) {
+                result.newUrls.insert_or_assign(place.absoluteString(), std::move(outcome.newUrl));
+            }
+            return result;
+        } else {
+            result.error = trashErrorSentence(found.item.name, ENOENT);
+        }
+    }
+    return result;
+}
+
 FreedesktopTrash::Outcome FreedesktopTrash::move(const Url& url) const
 {
     const TrashItemResult found = findTrashItem(url);
-    if (!found) {
-        return {found.error, {}};
-    }
-    const TrashItem& item = found.item;
+    return found ? move(found.item) : Outcome{found.error, {}};
+}
+
+FreedesktopTrash::Outcome FreedesktopTrash::move(const TrashItem& item) const
+{
     const std::optional<MountTable> mounts = m_mounts();
     if (!mounts) {
         return {refusalSentence(item, "the system does not say which disks are mounted"), {}};
@@ -201,7 +224,7 @@ FreedesktopTrash::Outcome FreedesktopTrash::move(const Url& url) const
     if (const int error = moveInto(opened.trash, item, name); error != 0) {
         return {trashErrorSentence(item.name, error), {}};
     }
-    return {{}, Url(opened.trash.path + "/files/" + name, url.isDirectory())};
+    return {{}, Url(opened.trash.path + "/files/" + name, item.status.isDirectory)};
 }
 
 std::string FreedesktopTrash::refusal(const TrashItem& item, const MountTable& mounts) const

@@ -49,6 +49,10 @@ public:
     /// come from scans, which follow none, so it was put there since.
     [[nodiscard]] RecycleResult recycle(const std::vector<Url>& urls) const;
 
+    /// Moves one file, whichever of the places it is at; what else is there stays.
+    [[nodiscard]] RecycleResult recycleFile(
+        const FileIdentity& file, const std::vector<Url>& places) const;
+
 private:
     struct Outcome {
         std::string error;
@@ -56,6 +60,7 @@ private:
     };
 
     Outcome move(const Url& url) const;
+    Outcome move(const TrashItem& item) const;
 
     /// Why the item must stay where it is, as a sentence; empty when it need not.
     std::string refusal(const TrashItem& item, const MountTable& mounts) const;

@@ -9,9 +9,10 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <functional>
-#include <memory>
+#include <span>
 #include <utility>
 
 namespace tessera {
@@ -21,9 +22,11 @@ namespace {
 constexpr std::size_t kMaxOpenFolders = 32;
 constexpr std::uint32_t kPermissionBits = 07777;
 constexpr std::size_t kUsualLinkLength = 256;
+constexpr std::size_t kListingBytes = std::size_t{32} * 1024;
 
 struct OpenedItem {
-    int error = 0;
+    int openError = 0; ///< errno of looking the name up
+    int error = 0; ///< errno of what was found there
     FileDescriptor handle;
     FileStatus status;
 };
@@ -38,9 +41,9 @@ OpenedItem openAt(int folder, const std::string& name, std::uint32_t kind)
             folder, name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     } while (number < 0 && errno == EINTR);
     if (number < 0) {
-        return {errno, {}, {}};
+        return {errno, 0, {}, {}};
     }
-    OpenedItem opened{0, FileDescriptor(number), {}};
+    OpenedItem opened{0, 0, FileDescriptor(number), {}};
     const StatusResult found = statusOf(number);
     opened.status = found.status;
     opened.error = found.error;
@@ -50,28 +53,41 @@ OpenedItem openAt(int folder, const std::string& name, std::uint32_t kind)
     return opened;
 }
 
-/// What the folder holds, in descending order; the errno when it cannot be listed to its end.
-int listNames(int folder, std::vector<std::string>& names)
+void appendNames(std::vector<std::string>& names, std::span<const char> entries)
 {
-    const int copy = ::fcntl(folder, F_DUPFD_CLOEXEC, 0);
-    const std::unique_ptr<DIR, int (*)(DIR*)> listing(::fdopendir(copy), ::closedir);
-    if (listing == nullptr) {
-        const int error = errno;
-        ::close(copy);
-        return error;
-    }
-    errno = 0;
-    // NOLINTNEXTLINE(concurrency-mt-unsafe): the stream is this function's own
-    while (const dirent* entry = ::readdir(listing.get())) {
+    while (!entries.empty()) {
+        const auto* entry = reinterpret_cast<const dirent64*>(entries.data());
         const std::string name = &entry->d_name[0];
         if (name != "." && name != "..") {
             names.push_back(name);
         }
-        errno = 0;
+        entries = entries.subspan(entry->d_reclen);
     }
-    const int error = errno;
-    std::sort(names.begin(), names.end(), std::greater<>());
-    return error;
+}
+
+/// What the folder holds, in descending order; the errno when it cannot be listed to its end. Not
+/// by readdir(), which takes ENOENT for the end.
+int listNames(int folder, std::vector<std::string>& names)
+{
+    alignas(dirent64) std::array<char, kListingBytes> buffer;
+    while (true) {
+        const ssize_t bytes = ::getdents64(folder, buffer.data(), buffer.size());
+        if (bytes > 0) {
+            appendNames(names, std::span(buffer).first(static_cast<std::size_t>(bytes)));
+        } else if (bytes == 0) {
+            std::sort(names.begin(), names.end(), std::greater<>());
+            return 0;
+        } else if (errno != EINTR) {
+            return errno;
+        }
+    }
+}
+
+void takeAttributes(ArchiveItem& item, int descriptor)
+{
+    UserAttributes found = readUserAttributes(descriptor);
+    item.attributes = std::move(found.attributes);
+    item.lacksAttributes = found.error != 0;
 }
 
 void describe(ArchiveItem& item, ArchiveItem::Kind kind, const FileStatus& status)
@@ -87,31 +103,13 @@ void describe(ArchiveItem& item, ArchiveItem::Kind kind, const FileStatus& statu
 } // namespace
 
 LinuxSourceWalk::LinuxSourceWalk(NamedPlace source, const FileStatus& start)
-    : m_start(start)
-    , m_boundary(start)
+    : m_boundary(start)
 {
     Place around;
     around.identity = statusOf(source.folder.number()).status.identity;
     around.handle = std::move(source.folder);
     around.names.push_back(std::move(source.name));
     m_places.push_back(std::move(around));
-}
-
-std::uint32_t LinuxSourceWalk::permissions() const
-{
-    return m_start.mode & kPermissionBits;
-}
-
-void LinuxSourceWalk::passOver(const std::string& path)
-{
-    const NamedPlace place = openFolderOf(path);
-    if (place.error != 0) {
-        return;
-    }
-    const StatusResult found = statusAt(place.folder.number(), place.name.c_str());
-    if (found) {
-        m_passedOver = found.status.identity;
-    }
 }
 
 SourceWalk::Step LinuxSourceWalk::next(ArchiveItem& item)
@@ -149,7 +147,7 @@ std::optional<SourceWalk::Step> LinuxSourceWalk::visit(
 {
     const StatusResult found = statusAt(folder, name.c_str());
     if (!found) {
-        return failed(found.error);
+        return notFound(found.error);
     }
     if (found.status.identity == m_passedOver) {
         return std::nullopt;
@@ -174,6 +172,9 @@ std::optional<SourceWalk::Step> LinuxSourceWalk::visitFolder(
         return Step::Item;
     }
     OpenedItem opened = openAt(folder, name, S_IFDIR);
+    if (opened.openError != 0) {
+        return notFound(opened.openError);
+    }
     if (opened.error != 0) {
         return failed(opened.error);
     }
@@ -182,11 +183,7 @@ std::optional<SourceWalk::Step> LinuxSourceWalk::visitFolder(
     if (error != 0) {
         return failed(error);
     }
-    UserAttributes found = readUserAttributes(opened.handle.number());
-    if (found.error != 0) {
-        return failed(found.error);
-    }
-    item.attributes = std::move(found.attributes);
+    takeAttributes(item, opened.handle.number());
     describe(item, ArchiveItem::Kind::Folder, opened.status);
     enterFolder(std::move(opened.handle), std::move(names));
     return Step::Item;
@@ -196,14 +193,13 @@ std::optional<SourceWalk::Step> LinuxSourceWalk::visitFile(
     int folder, const std::string& name, ArchiveItem& item)
 {
     OpenedItem opened = openAt(folder, name, S_IFREG);
+    if (opened.openError != 0) {
+        return notFound(opened.openError);
+    }
     if (opened.error != 0) {
         return failed(opened.error);
     }
-    UserAttributes found = readUserAttributes(opened.handle.number());
-    if (found.error != 0) {
-        return failed(found.error);
-    }
-    item.attributes = std::move(found.attributes);
+    takeAttributes(item, opened.handle.number());
     describe(item, ArchiveItem::Kind::File, opened.status);
     m_content.emplace(std::move(opened.handle), opened.status.length);
     return Step::Item;
@@ -216,7 +212,7 @@ std::optional<SourceWalk::Step> LinuxSourceWalk::visitLink(
     while (true) {
         const ssize_t length = ::readlinkat(folder, name.c_str(), target.data(), target.size());
         if (length < 0) {
-            return failed(errno);
+            return notFound(errno);
         }
         // A target that fills the buffer may have been cut off.
         if (std::cmp_less(length, target.size())) {
@@ -230,13 +226,16 @@ std::optional<SourceWalk::Step> LinuxSourceWalk::visitLink(
     return Step::Item;
 }
 
-std::optional<SourceWalk::Step> LinuxSourceWalk::failed(int error)
+SourceWalk::Step LinuxSourceWalk::failed(int error)
 {
-    if (error == ENOENT && !isAtSource()) {
-        return std::nullopt;
-    }
     m_error = error;
     return Step::Failed;
+}
+
+/// Of a name; what is open is there, whatever a file system says of it.
+SourceWalk::Step LinuxSourceWalk::notFound(int error)
+{
+    return error == ENOENT && !isAtSource() ? Step::Vanished : failed(error);
 }
 
 void LinuxSourceWalk::enterFolder(FileDescriptor handle, std::vector<std::string> names)

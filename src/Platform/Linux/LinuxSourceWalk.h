@@ -16,14 +16,13 @@ namespace tessera {
 /// Walks an item of the real file system in the order of the names' bytes. Everything is opened by
 /// its own name in the open folder above, so depth is no limit and nothing that is moved meanwhile
 /// leads elsewhere. Only the innermost folders stay open; a folder further up is opened again
-/// through the one left, if it still is the same. What vanishes during the walk is passed over.
+/// through the one left, if it still is the same.
 class LinuxSourceWalk final : public SourceWalk {
 public:
     /// `start` is the status of what `source` names.
     LinuxSourceWalk(NamedPlace source, const FileStatus& start);
 
-    std::uint32_t permissions() const override;
-    void passOver(const std::string& path) override;
+    void passOver(const FileIdentity& file) override { m_passedOver = file; }
     [[nodiscard]] Step next(ArchiveItem& item) override;
     int error() const override { return m_error; }
     [[nodiscard]] ContentPart read(std::span<char> buffer) override;
@@ -43,12 +42,12 @@ private:
     std::optional<Step> visitFile(int folder, const std::string& name, ArchiveItem& item);
     std::optional<Step> visitLink(
         int folder, const std::string& name, const FileStatus& status, ArchiveItem& item);
-    std::optional<Step> failed(int error);
+    Step failed(int error);
+    Step notFound(int error);
     bool isAtSource() const { return m_places.size() == 1; }
     void enterFolder(FileDescriptor handle, std::vector<std::string> names);
     void leaveFolder();
 
-    const FileStatus m_start;
     const MountBoundary m_boundary;
     std::optional<FileIdentity> m_passedOver;
     std::vector<Place> m_places; ///< outermost first, which is the one around the source

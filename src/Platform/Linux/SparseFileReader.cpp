@@ -18,7 +18,9 @@ SparseFileReader::SparseFileReader(FileDescriptor file, std::uint64_t length)
 ContentPart SparseFileReader::read(std::span<char> buffer)
 {
     if (m_position >= m_dataEnd && m_position < m_length) {
-        findData();
+        if (const int error = findData(); error != 0) {
+            return failed(error);
+        }
     }
     if (m_position >= m_length) {
         return {};
@@ -33,21 +35,32 @@ ContentPart SparseFileReader::read(std::span<char> buffer)
     return {zeros.size(), 0};
 }
 
-void SparseFileReader::findData()
+/// Finds the next stretch of data; the errno when not even the end can be found.
+int SparseFileReader::findData()
 {
     const auto position = static_cast<off_t>(m_position);
     const off_t begin = ::lseek(m_file.number(), position, SEEK_DATA);
     if (begin < 0 && errno == ENXIO) {
         // No data from here on: a hole to the end of the file, which may have come nearer.
         const off_t end = ::lseek(m_file.number(), 0, SEEK_END);
-        m_length = std::min(m_length, static_cast<std::uint64_t>(std::max<off_t>(end, 0)));
+        if (end < 0) {
+            return errno;
+        }
+        m_length = std::min(m_length, static_cast<std::uint64_t>(end));
         m_dataBegin = m_dataEnd = m_length;
-        return;
+        return 0;
     }
     // Where the file system cannot tell, all of it may be data.
     m_dataBegin = begin < 0 ? m_position : static_cast<std::uint64_t>(begin);
     const off_t end = begin < 0 ? begin : ::lseek(m_file.number(), begin, SEEK_HOLE);
     m_dataEnd = end <= begin ? m_length : std::min(m_length, static_cast<std::uint64_t>(end));
+    return 0;
+}
+
+ContentPart SparseFileReader::failed(int error)
+{
+    m_length = m_position;
+    return {0, error};
 }
 
 ContentPart SparseFileReader::readData(std::span<char> buffer)
@@ -58,9 +71,7 @@ ContentPart SparseFileReader::readData(std::span<char> buffer)
             m_file.number(), buffer.data(), buffer.size(), static_cast<off_t>(m_position));
     } while (count < 0 && errno == EINTR);
     if (count < 0) {
-        const int error = errno;
-        m_length = m_position;
-        return {0, error};
+        return failed(errno);
     }
     if (count == 0) {
         m_length = m_position;

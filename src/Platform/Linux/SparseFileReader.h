@@ -15,11 +15,13 @@ public:
     /// Reads at most `length` bytes.
     SparseFileReader(FileDescriptor file, std::uint64_t length);
 
-    /// The next bytes; none at the end, which comes early when the file has shrunk.
+    /// The next bytes; none at the end, which comes early when the file has shrunk, and none with
+    /// the first error.
     [[nodiscard]] ContentPart read(std::span<char> buffer);
 
 private:
-    void findData();
+    [[nodiscard]] int findData();
+    ContentPart failed(int error);
     ContentPart readData(std::span<char> buffer);
 
     FileDescriptor m_file;

@@ -61,7 +61,7 @@ UserAttributes readUserAttributes(int descriptor)
     const Bytes names = readNames(descriptor);
     result.error = names.error;
     std::string_view rest = names.value;
-    while (!rest.empty() && result.error == 0) {
+    while (!rest.empty()) {
         const std::string name(rest.substr(0, rest.find('\0')));
         rest.remove_prefix(std::min(name.size() + 1, rest.size()));
         if (!name.starts_with(kUserNamespace)) {

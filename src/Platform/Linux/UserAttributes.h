@@ -7,9 +7,9 @@
 
 namespace tessera {
 
-/// Extended attributes, or the errno that says why they could not be read.
+/// Extended attributes, as far as they can be read.
 struct UserAttributes {
-    int error = 0;
+    int error = 0; ///< why there are more than these; an errno
     std::vector<ExtendedAttribute> attributes;
 };
 

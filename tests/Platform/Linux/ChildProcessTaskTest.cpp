@@ -139,6 +139,40 @@ TEST_F(ChildProcessTaskTest, TheProcessReadsNothingAndPrintsNothing)
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
 }
 
+TEST_F(ChildProcessTaskTest, WhatTheProcessHasPrintedIsKept)
+{
+    startShell("printf '12 3\\n'");
+    EXPECT_EQ(statusAtEnd(), 0);
+    EXPECT_EQ(task->output(), "12 3\n");
+}
+
+TEST_F(ChildProcessTaskTest, OfAProcessThatPrintsForLongTheBeginningIsKept)
+{
+    startShell("printf '%10000d' 7");
+    EXPECT_EQ(statusAtEnd(), 0);
+    EXPECT_EQ(task->output(), std::string(4096, ' '));
+}
+
+TEST_F(ChildProcessTaskTest, AProgramThatIsNotThereHasPrintedNothing)
+{
+    start("/no/such/program", {});
+    EXPECT_EQ(statusAtEnd(), 127);
+    EXPECT_EQ(task->output(), "");
+}
+
+TEST_F(ChildProcessTaskTest, StoppingEndsTheProcessAndKeepsWhatItPrintsAtItsEnd)
+{
+    startShell(
+        R"(trap 'echo ended; exit' TERM; echo $$ > "$1.new"; mv "$1.new" "$1"; while :; do sleep 0.01; done)",
+        numberFile);
+    ASSERT_TRUE(waitUntil([this] { return toldNumber().has_value(); }));
+    task->stop();
+    EXPECT_FALSE(isAlive(*toldNumber()));
+    EXPECT_EQ(task->output(), "ended\n");
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(statuses.empty());
+}
+
 TEST_F(ChildProcessTaskTest, TheHandlerMayDestroyTheTask)
 {
     task->start("/bin/sh", {"-c", "exit 4"}, [this](int status) {

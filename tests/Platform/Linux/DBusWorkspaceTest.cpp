@@ -75,7 +75,8 @@ protected:
                 completionHandler(m_opens);
             },
             m_mainThread,
-            [](const std::vector<Url>&) { return RecycleResult(); }};
+            [](const std::vector<Url>&) { return RecycleResult(); },
+            [](const FileIdentity&, const std::vector<Url>&) { return RecycleResult(); }};
     }
 
     test::SessionBus m_sessionBus;
@@ -191,6 +192,11 @@ protected:
             RecycleResult result;
             result.error = std::to_string(urls.size());
             return result;
+        },
+        [](const FileIdentity& file, const std::vector<Url>& places) {
+            RecycleResult result;
+            result.error = std::to_string(file.inode) + " of " + std::to_string(places.size());
+            return result;
         }};
 };
 
@@ -222,6 +228,17 @@ TEST_F(DBusWorkspaceWithoutABus, WhatBecameOfTheItemsIsToldOnTheMainThread)
     EXPECT_EQ(told, "");
     m_mainThread.runUntil([&] { return !told.empty(); });
     EXPECT_EQ(told, "2");
+}
+
+TEST_F(DBusWorkspaceWithoutABus, AFileIsMovedByItsIdentity)
+{
+    std::string told;
+    m_workspace.recycleFile(
+        {1, 77}, {Url("/a.part", false), Url("/a", false)}, [&](const RecycleResult& result) {
+            told = result.error;
+        });
+    m_mainThread.runUntil([&] { return !told.empty(); });
+    EXPECT_EQ(told, "77 of 2");
 }
 
 TEST_F(DBusWorkspaceWithoutABus, OpensWebAndFileUrlsAlone)

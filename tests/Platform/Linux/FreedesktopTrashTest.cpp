@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "Platform/Linux/FileStatus.h"
 #include "support/TrashFixture.h"
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <linux/capability.h>
@@ -70,6 +72,11 @@ ino_t inodeOf(const std::string& path)
     return ::lstat(path.c_str(), &values) == 0 ? values.st_ino : 0;
 }
 
+FileIdentity identityOf(const std::string& path)
+{
+    return statusAt(AT_FDCWD, path.c_str()).status.identity;
+}
+
 TEST_F(FreedesktopTrashTest, AFileMovesIntoATrashThatIsMadeForIt)
 {
     m_tree.writeFile("work/a", "content");
@@ -77,6 +84,39 @@ TEST_F(FreedesktopTrashTest, AFileMovesIntoATrashThatIsMadeForIt)
     EXPECT_EQ(m_newPath, m_homeTrash + "/files/a");
     EXPECT_EQ(fileContent(m_newPath), "content");
     EXPECT_FALSE(exists(m_tree.pathOf("work/a")));
+}
+
+TEST_F(FreedesktopTrashTest, AFileIsFoundAtTheOneOfItsPlacesWhereItIs)
+{
+    m_tree.writeFile("work/a.part", "another's");
+    m_tree.writeFile("work/a", "content");
+    const Url place(m_tree.pathOf("work/a"), false);
+    const RecycleResult result = m_trash.recycleFile(
+        identityOf(place.path()), {Url(m_tree.pathOf("work/a.part"), false), place});
+    EXPECT_EQ(result.error, "");
+    EXPECT_EQ(result.newUrls.at(place.absoluteString()).path(), m_homeTrash + "/files/a");
+    EXPECT_EQ(fileContent(m_tree.pathOf("work/a.part")), "another's");
+}
+
+TEST_F(FreedesktopTrashTest, AnotherFileInItsPlaceStays)
+{
+    m_tree.writeFile("work/mine", "mine");
+    const FileIdentity mine = identityOf(m_tree.pathOf("work/mine"));
+    m_tree.writeFile("work/a", "another's");
+    const RecycleResult result = m_trash.recycleFile(mine, {Url(m_tree.pathOf("work/a"), false)});
+    EXPECT_THAT(result.error, HasSubstr("it is not there any more"));
+    EXPECT_THAT(result.newUrls, IsEmpty());
+    EXPECT_EQ(fileContent(m_tree.pathOf("work/a")), "another's");
+}
+
+TEST_F(FreedesktopTrashTest, AFileThatIsAtItsFirstPlaceIsMovedFromThere)
+{
+    m_tree.writeFile("work/a.part", "content");
+    const Url place(m_tree.pathOf("work/a.part"), false);
+    const RecycleResult result = m_trash.recycleFile(
+        identityOf(place.path()), {place, Url(m_tree.pathOf("work/a"), false)});
+    EXPECT_EQ(result.error, "");
+    EXPECT_FALSE(exists(place.path()));
 }
 
 TEST_F(FreedesktopTrashTest, OnlyTheUserMayEnterWhatIsMade)

@@ -4,6 +4,7 @@
 #include "Archiver/ArchiverSystem.h"
 #include "support/TempTree.h"
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -46,7 +47,7 @@ std::vector<std::string> remainingPaths(SourceWalk& walk)
     std::vector<std::string> paths;
     ArchiveItem item;
     for (Step step = walk.next(item); step != Step::End; step = walk.next(item)) {
-        paths.push_back((step == Step::Item ? "" : "!") + item.path);
+        paths.push_back((step == Step::Item ? "" : step == Step::Vanished ? "-" : "!") + item.path);
     }
     return paths;
 }
@@ -127,7 +128,7 @@ TEST_F(LinuxSourceWalkOfX, LinksHaveTargetsOfAnyLength)
     EXPECT_EQ(item.length, 0U);
 }
 
-TEST_F(LinuxSourceWalkOfX, WhatVanishesMeanwhileIsPassedOver)
+TEST_F(LinuxSourceWalkOfX, WhatVanishesMeanwhileIsSaidToHaveVanished)
 {
     tree.makeFile("X/a");
     tree.makeFile("X/b");
@@ -135,7 +136,7 @@ TEST_F(LinuxSourceWalkOfX, WhatVanishesMeanwhileIsPassedOver)
     const auto walk = open();
     advanceTo(*walk, "X/a");
     tree.removeFile("X/b");
-    EXPECT_THAT(remainingPaths(*walk), ElementsAre("X/c"));
+    EXPECT_THAT(remainingPaths(*walk), ElementsAre("-X/b", "X/c"));
 }
 
 TEST_F(LinuxSourceWalkOfX, ASourceThatVanishesIsAFailure)
@@ -145,12 +146,28 @@ TEST_F(LinuxSourceWalkOfX, ASourceThatVanishesIsAFailure)
     EXPECT_THAT(remainingPaths(*walk), ElementsAre("!X"));
 }
 
+TEST_F(LinuxSourceWalkOfX, TheArchiveIsMadeInTheFolderThatTheSourceWasFoundIn)
+{
+    const auto system = makeArchiverSystem();
+    const std::string target = tree.pathOf("pub/X.zip");
+    tree.makeFolder("pub");
+    tree.rename("X", "pub/X");
+    ASSERT_EQ(system->openSource(tree.pathOf("pub/X")).index(), 0U);
+    tree.rename("pub", "priv");
+    tree.makeFolder("pub");
+    testing::internal::CaptureStdout();
+    ASSERT_EQ(system->createTarget(target).index(), 0U);
+    testing::internal::GetCapturedStdout();
+    EXPECT_TRUE(statusAt(AT_FDCWD, tree.pathOf("priv/X.zip.part").c_str()));
+    EXPECT_FALSE(statusAt(AT_FDCWD, tree.pathOf("pub/X.zip.part").c_str()));
+}
+
 TEST_F(LinuxSourceWalkOfX, WhatIsPassedOverIsNotDelivered)
 {
     tree.makeFile("X/a");
     tree.makeFile("X/b");
     const auto walk = open();
-    walk->passOver(tree.pathOf("X/a"));
+    walk->passOver(statusAt(AT_FDCWD, tree.pathOf("X/a").c_str()).status.identity);
     EXPECT_THAT(remainingPaths(*walk), ElementsAre("X", "X/b"));
 }
 
