@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Shell/AppDelegate.h"
 
+#include "Model/NotificationCenter.h"
 #include "Model/RootModel.h"
 #include "Shell/Defaults.h"
 #include "Shell/FolderDrop.h"
@@ -77,13 +78,16 @@ void AppDelegate::applicationDidFinishLaunching()
         this,
         &AppDelegate::showPreferences);
     connect(&mainWindow, &MainWindowController::helpRequested, this, &AppDelegate::showHelpItem);
+    mainWindow.setMayClose([this] { return mayCloseMainWindow(); });
     // Not from within the handling of its close event, and whatever other windows there are.
     connect(
         &mainWindow,
         &MainWindowController::closed,
-        qApp,
-        &QApplication::quit,
+        this,
+        &AppDelegate::mainWindowClosed,
         Qt::QueuedConnection);
+    m_compressObservation = NotificationCenter::defaultCenter().addObserver(
+        "ItemCompressed", [this](const NotificationObject&) { quitIfFinished(); });
     m_folderDrop = std::make_unique<FolderDrop>(
         mainWindow.window(), m_services.mainWindow.treeScreen.scanEnvironment.resourceValues);
     connect(m_folderDrop.get(), &FolderDrop::dropped, this, &AppDelegate::openFile);
@@ -119,12 +123,48 @@ void AppDelegate::openFromElsewhere(const Url& folder, const std::string& activa
     if (m_mainWindow == nullptr) {
         return;
     }
+    m_isFinishing = false;
     if (m_services.adoptActivationToken && !activationToken.empty()) {
         m_services.adoptActivationToken(activationToken);
     }
     bringToFront(m_mainWindow->window());
     if (!folder.empty()) {
         openFile(folder.path());
+    }
+}
+
+bool AppDelegate::isCompressing() const
+{
+    return !m_services.mainWindow.treeScreen.compressing.targetsInUse.empty();
+}
+
+bool AppDelegate::mayCloseMainWindow()
+{
+    if (!isCompressing()) {
+        return true;
+    }
+    const int answer = m_services.mainWindow.treeScreen.alert.runModal(
+        {tr("An archive is still being made"),
+         tr("Tessera can finish it in the background, in a window of its own, and quit then. If it "
+            "is stopped, the incomplete archive goes to the trash."),
+         {tr("Finish in Background"), tr("Stop and Quit"), tr("Cancel")}});
+    m_isFinishing = answer == Alert::kFirstButton;
+    return m_isFinishing || answer == Alert::kFirstButton + 1;
+}
+
+void AppDelegate::mainWindowClosed() const
+{
+    if (m_isFinishing) {
+        quitIfFinished();
+    } else {
+        QApplication::quit();
+    }
+}
+
+void AppDelegate::quitIfFinished() const
+{
+    if (m_isFinishing && !isCompressing()) {
+        QMetaObject::invokeMethod(qApp, &QApplication::quit, Qt::QueuedConnection);
     }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Model/Observation.h"
 #include "Model/Url.h"
 #include "Shell/MainWindowServices.h"
 
@@ -34,7 +35,8 @@ struct AppDelegateServices {
 };
 
 /// The application as a whole: starts it, has one main window, opens preferences and help, and
-/// takes folders that are to be opened with the program. Main thread only.
+/// takes folders that are to be opened with the program. It quits when that window is closed; while
+/// archives are being made the user is asked whether to finish them first. Main thread only.
 class AppDelegate final : public QObject {
 public:
     explicit AppDelegate(AppDelegateServices services);
@@ -70,6 +72,10 @@ public:
 private:
     void openWaiting();
     void sayThatThereIsNoHelp();
+    bool isCompressing() const;
+    bool mayCloseMainWindow();
+    void mainWindowClosed() const;
+    void quitIfFinished() const;
 
     const AppDelegateServices m_services;
     std::unique_ptr<MainWindowController> m_mainWindow;
@@ -77,6 +83,8 @@ private:
     std::unique_ptr<PreferencesWindowController> m_prefWindow;
     Url m_waiting; ///< to be opened as soon as may be; empty when nothing is
     QTimer m_wait; ///< runs from one opening until the next may follow
+    bool m_isFinishing = false; ///< without its main window, until the last archive is made
+    Observation m_compressObservation;
 };
 
 } // namespace tessera

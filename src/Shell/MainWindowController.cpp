@@ -121,6 +121,12 @@ void MainWindowController::loadWindow()
     m_release.callOnTimeout(this, [this] { m_retired.clear(); });
     m_window->installEventFilter(this);
     m_view->installEventFilter(this);
+    // The program may end without the window being closed.
+    connect(qApp, &QCoreApplication::aboutToQuit, this, [this] {
+        if (m_window->isVisible()) {
+            saveFrame(*m_window, m_services.defaults);
+        }
+    });
 }
 
 void MainWindowController::observe()
@@ -464,6 +470,10 @@ bool MainWindowController::eventFilter(QObject* watched, QEvent* event)
     if (watched == m_view && event->type() == QEvent::Resize) {
         placeScreens();
     } else if (watched == m_window.get() && event->type() == QEvent::Close) {
+        if (!m_mayClose()) {
+            event->ignore();
+            return true;
+        }
         saveFrame(*m_window, m_services.defaults);
         emit closed();
     } else if (watched == m_window.get() && event->type() == QEvent::KeyPress) {

@@ -15,7 +15,9 @@
 #include <QTimer>
 
 #include <array>
+#include <functional>
 #include <memory>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -41,6 +43,8 @@ public:
     QMainWindow& window() const { return *m_window; }
     /// Opens the window where it was the last time.
     void showWindow();
+    /// Has somebody be asked before the user closes the window; false keeps it open.
+    void setMayClose(std::function<bool()> mayClose) { m_mayClose = std::move(mayClose); }
 
     ScreenState state() const { return m_state; }
     /// Null while the tree is not displayed.
@@ -96,6 +100,7 @@ private:
     void toggleFullScreen();
 
     const MainWindowServices m_services;
+    std::function<bool()> m_mayClose = [] { return true; };
     ScreenState m_state = ScreenState::Starting;
     std::unique_ptr<QMainWindow> m_window;
     QWidget* m_view; ///< the window's content area, which holds the screens

@@ -250,5 +250,130 @@ TEST_F(AppDelegateTest, ClosingTheMainWindowQuitsAlsoWhenAnotherWindowIsOpen)
     EXPECT_EQ(QApplication::exec(), 0);
 }
 
+/// An archive is being made.
+class AppDelegateWhileCompressing : public AppDelegateTest {
+protected:
+    AppDelegateWhileCompressing()
+    {
+        delegate.applicationDidFinishLaunching();
+        services.treeScreen.targetsInUse = {"/data/X.zip"};
+    }
+
+    void closeAnswering(int button)
+    {
+        services.treeScreen.alert.answer = Alert::kFirstButton + button;
+        delegate.mainWindow()->perform(MainCommand::Quit);
+    }
+
+    void endCompression()
+    {
+        services.treeScreen.targetsInUse.clear();
+        NotificationCenter::defaultCenter().post("ItemCompressed");
+    }
+
+    bool isWindowOpen() const { return delegate.mainWindow()->window().isVisible(); }
+
+    /// Whether the program ends after that of its own accord.
+    bool quitsAfter(const std::function<void()>& work)
+    {
+        QTimer::singleShot(0, &delegate, [this, &work] {
+            work();
+            giveUpAfter(10);
+        });
+        return QApplication::exec() == 0;
+    }
+
+    /// What the work has queued comes first, and what that queues.
+    void giveUpAfter(int turns)
+    {
+        QMetaObject::invokeMethod(
+            &delegate,
+            [this, turns] {
+                if (turns == 0) {
+                    QCoreApplication::exit(1);
+                } else {
+                    giveUpAfter(turns - 1);
+                }
+            },
+            Qt::QueuedConnection);
+    }
+};
+
+TEST_F(AppDelegateWhileCompressing, ClosingTheMainWindowAsksFirst)
+{
+    closeAnswering(2);
+    ASSERT_EQ(services.treeScreen.alert.asked.size(), 1U);
+    const AlertText& text = services.treeScreen.alert.asked[0];
+    EXPECT_EQ(text.messageText, QStringLiteral("An archive is still being made"));
+    EXPECT_EQ(
+        text.buttons,
+        (QStringList{
+            QStringLiteral("Finish in Background"),
+            QStringLiteral("Stop and Quit"),
+            QStringLiteral("Cancel")}));
+}
+
+TEST_F(AppDelegateWhileCompressing, WhoeverCancelsKeepsTheWindow)
+{
+    EXPECT_FALSE(quitsAfter([this] { closeAnswering(2); }));
+    EXPECT_TRUE(isWindowOpen());
+}
+
+TEST_F(AppDelegateWhileCompressing, StoppingQuits)
+{
+    EXPECT_TRUE(quitsAfter([this] { closeAnswering(1); }));
+}
+
+TEST_F(AppDelegateWhileCompressing, FinishingInTheBackgroundClosesTheWindowAlone)
+{
+    QWidget compressWindow;
+    compressWindow.show();
+    EXPECT_FALSE(quitsAfter([this] { closeAnswering(0); }));
+    EXPECT_FALSE(isWindowOpen());
+    EXPECT_TRUE(compressWindow.isVisible());
+}
+
+TEST_F(AppDelegateWhileCompressing, WhatWasFinishedInTheBackgroundQuits)
+{
+    QWidget compressWindow;
+    compressWindow.show();
+    EXPECT_TRUE(quitsAfter([this] {
+        closeAnswering(0);
+        endCompression();
+    }));
+}
+
+TEST_F(AppDelegateWhileCompressing, OneOfSeveralThatIsFinishedDoesNotQuit)
+{
+    QWidget compressWindow;
+    compressWindow.show();
+    EXPECT_FALSE(quitsAfter([this] {
+        closeAnswering(0);
+        NotificationCenter::defaultCenter().post("ItemCompressed");
+    }));
+}
+
+TEST_F(AppDelegateWhileCompressing, AnotherStartBringsTheWindowBackForGood)
+{
+    EXPECT_FALSE(quitsAfter([this] {
+        closeAnswering(0);
+        delegate.openFromElsewhere(Url());
+        endCompression();
+    }));
+    EXPECT_TRUE(isWindowOpen());
+}
+
+TEST_F(AppDelegateWhileCompressing, WithTheWindowOpenTheEndOfTheCompressionDoesNotQuit)
+{
+    EXPECT_FALSE(quitsAfter([this] { endCompression(); }));
+}
+
+TEST_F(AppDelegateWhileCompressing, OnceItIsDoneNobodyIsAsked)
+{
+    endCompression();
+    EXPECT_TRUE(quitsAfter([this] { closeAnswering(2); }));
+    EXPECT_THAT(services.treeScreen.alert.asked, IsEmpty());
+}
+
 } // namespace
 } // namespace tessera
