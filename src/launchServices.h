@@ -35,6 +35,7 @@ inline LaunchServices launchServices(const PlatformServices& services)
         *services.userAccount,
         *services.launcherProgress,
         *services.runningInstance,
+        *services.endRequests,
         services.helpFolder,
         services.availableMemory,
         PlatformServices::hasTerminal()};

@@ -13,6 +13,7 @@
 #include "Scanning/LauncherProgress.h"
 #include "Scanning/ResourceValues.h"
 #include "Shell/ColorSchemePreference.h"
+#include "Shell/EndRequests.h"
 #include "Shell/FileAccess.h"
 #include "Shell/RunningInstance.h"
 #include "Utils/MotionPreference.h"
@@ -54,6 +55,7 @@ struct PlatformServices {
     std::unique_ptr<MotionPreference> motionPreference;
     std::unique_ptr<LauncherProgress> launcherProgress;
     std::unique_ptr<RunningInstance> runningInstance;
+    std::unique_ptr<EndRequests> endRequests;
     std::unique_ptr<QtMainThread> mainThread;
     std::unique_ptr<Workspace> workspace; ///< uses mainThread
     std::function<std::unique_ptr<Task>()> makeTask; ///< a child process, not yet started

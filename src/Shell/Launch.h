@@ -15,6 +15,7 @@
 namespace tessera {
 
 class ColorSchemePreference;
+class EndRequests;
 class FileAccess;
 class FileReader;
 class LauncherProgress;
@@ -43,6 +44,7 @@ struct LaunchServices {
     const UserAccount& userAccount;
     LauncherProgress& launcherProgress;
     RunningInstance& runningInstance;
+    EndRequests& endRequests;
     std::string helpFolder; ///< path of the folder with the help pages; empty when missing
     std::uint64_t availableMemory; ///< bytes
     bool hasTerminal; ///< somebody reads the standard error

@@ -8,6 +8,7 @@
 #include "Scanning/ScanningViewController.h"
 #include "Shell/AppDelegate.h"
 #include "Shell/ApplicationPalette.h"
+#include "Shell/EndRequests.h"
 #include "Shell/FileAccess.h"
 #include "Shell/FileDialogOpenPanel.h"
 #include "Shell/KnownPlaces.h"
@@ -97,6 +98,8 @@ WindowedProgram::WindowedProgram(const LaunchServices& services)
     m_runningInstance.setHandler([this](const Url& later, const std::string& activationToken) {
         m_delegate->openFromElsewhere(later, activationToken);
     });
+    // Whoever sends these waits for no answer to a question, as quit() would ask.
+    services.endRequests.setHandler([] { QCoreApplication::exit(); });
 }
 
 WindowedProgram::~WindowedProgram()

@@ -2,6 +2,8 @@
 #include "WholeProgramFixture.h"
 #include "eventually.h"
 
+#include <csignal>
+
 namespace tessera::test {
 namespace {
 
@@ -17,6 +19,24 @@ protected:
             ? testing::AssertionSuccess()
             : failure("the program goes on");
     }
+
+    void placeWindow()
+    {
+        desk().setFrame(mainWindow(), kSomewhere);
+        ASSERT_TRUE(eventually([this] { return mainWindow().frame.size() == kSomewhere.size(); }));
+        m_kept = mainWindow().frame;
+    }
+
+    void expectWindowInItsPlace()
+    {
+        launch();
+        EXPECT_TRUE(eventually([&] { return mainWindow().frame == m_kept; }))
+            << mainWindow().frame.x() << ',' << mainWindow().frame.y() << " instead of "
+            << m_kept.x() << ',' << m_kept.y();
+    }
+
+private:
+    QRect m_kept;
 };
 
 TEST_F(Restart, ControlQEndsTheProgram)
@@ -50,14 +70,17 @@ TEST_F(Restart, OffersTheLatestScanOnReturn)
 
 TEST_F(Restart, KeepsTheWindowsPlaceAndSize)
 {
-    desk().setFrame(mainWindow(), kSomewhere);
-    ASSERT_TRUE(eventually([this] { return mainWindow().frame.size() == kSomewhere.size(); }));
-    const QRect kept = mainWindow().frame;
+    placeWindow();
     ASSERT_TRUE(endsByKeys());
-    launch();
-    EXPECT_TRUE(eventually([&] { return mainWindow().frame == kept; }))
-        << mainWindow().frame.x() << ',' << mainWindow().frame.y() << " instead of " << kept.x()
-        << ',' << kept.y();
+    expectWindowInItsPlace();
+}
+
+TEST_F(Restart, KeepsTheWindowsPlaceAndSizeWhenTheSystemEndsTheProgram)
+{
+    placeWindow();
+    program->signal(SIGTERM);
+    ASSERT_EQ(program->waitForExit(), 0);
+    expectWindowInItsPlace();
 }
 
 } // namespace

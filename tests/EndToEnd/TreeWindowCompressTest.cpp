@@ -73,6 +73,13 @@ protected:
         EXPECT_TRUE(exists(program->dataFolder() + "/Trash/files/movie.zip.part"));
         EXPECT_EQ(std::filesystem::file_size(tree.pathOf("movie")), kEndlessBytes);
     }
+
+    void expectAnOrderlyEndBy(int signal)
+    {
+        program->process().signal(signal);
+        EXPECT_EQ(program->process().waitForExit(), 0) << log();
+        expectThePartInTheTrash();
+    }
 };
 
 TEST_F(EndlessCompression, AKilledArchiverLeavesNothingBesideTheItem)
@@ -87,6 +94,37 @@ TEST_F(EndlessCompression, CancellingLeavesNothingBesideTheItem)
 {
     ASSERT_TRUE(rejectDialog());
     expectOnlyTheTrashHasAnArchive();
+}
+
+TEST_F(EndlessCompression, TerminatingTheProgramLeavesNothingBesideTheItem)
+{
+    expectAnOrderlyEndBy(SIGTERM);
+}
+
+TEST_F(EndlessCompression, InterruptingTheProgramLeavesNothingBesideTheItem)
+{
+    expectAnOrderlyEndBy(SIGINT);
+}
+
+TEST_F(EndlessCompression, TheEndOfItsTerminalLeavesNothingBesideTheItem)
+{
+    expectAnOrderlyEndBy(SIGHUP);
+}
+
+TEST_F(EndlessCompression, GoesOnInTheBackgroundWhenTheUserClosesTheMainWindow)
+{
+    const XWindow compressing = *program->window(XWindow::Kind::Dialog);
+    desk().requestClose(mainWindow());
+    ASSERT_TRUE(
+        eventually([&] { return program->window(XWindow::Kind::Dialog)->id != compressing.id; }));
+    ASSERT_TRUE(becomesActive(XWindow::Kind::Dialog));
+    desk().typeKey(key::kReturn);
+    EXPECT_TRUE(closes(XWindow::Kind::Main));
+    const std::optional<pid_t> process = archiver();
+    ASSERT_TRUE(process.has_value());
+    ::kill(*process, SIGKILL);
+    EXPECT_EQ(program->process().waitForExit(), 0) << log();
+    expectThePartInTheTrash();
 }
 
 } // namespace

@@ -16,6 +16,7 @@
 #include "Platform/Linux/LinuxStandardFolders.h"
 #include "Platform/Linux/LinuxUserAccount.h"
 #include "Platform/Linux/LinuxWords.h"
+#include "Platform/Linux/SignalEndRequests.h"
 #include "Platform/Linux/UnityLauncherProgress.h"
 #include "Platform/Linux/XbelRecentDocuments.h"
 #include "Platform/Linux/availableMemory.h"
@@ -94,6 +95,7 @@ PlatformServices makePlatformServices(Session session)
     services.motionPreference = std::make_unique<DesktopMotionPreference>();
     services.launcherProgress = std::make_unique<UnityLauncherProgress>(bus);
     services.runningInstance = std::make_unique<DBusRunningInstance>(bus);
+    services.endRequests = std::make_unique<SignalEndRequests>();
     services.mainThread = std::make_unique<QtMainThread>();
     services.workspace = std::make_unique<DBusWorkspace>(bus, *services.mainThread);
     services.makeTask = [] { return std::make_unique<ChildProcessTask>(); };
