@@ -59,4 +59,6 @@ if(TESSERA_SANITIZE)
     target_link_options(tessera_options INTERFACE -fsanitize=${TESSERA_SANITIZE})
     # One allocation a node lets the sanitizers see each node's end of life.
     target_compile_definitions(tessera_options INTERFACE TESSERA_SEPARATE_NODES)
+    # Their tables take more addresses than a process with little memory has.
+    target_compile_definitions(tessera_options INTERFACE TESSERA_SANITIZED)
 endif()

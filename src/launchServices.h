@@ -30,6 +30,7 @@ inline LaunchServices launchServices(const PlatformServices& services)
         *services.motionPreference,
         *services.workspace,
         services.fileReader,
+        services.rasterDecoder,
         services.makeTask,
         services.archiver,
         *services.userAccount,

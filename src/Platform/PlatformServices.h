@@ -9,6 +9,7 @@
 #include "Model/UserDefaults.h"
 #include "Platform/Qt/QtMainThread.h"
 #include "QuickLook/FileReader.h"
+#include "QuickLook/RasterDecoder.h"
 #include "Scanning/DirectoryEnumerator.h"
 #include "Scanning/LauncherProgress.h"
 #include "Scanning/ResourceValues.h"
@@ -47,6 +48,7 @@ struct PlatformServices {
     std::unique_ptr<MountedVolumes> mountedVolumes;
     std::unique_ptr<FileAccess> fileAccess; ///< waits as long as it takes
     std::shared_ptr<const FileReader> fileReader; ///< a look that is stuck keeps it
+    std::shared_ptr<const RasterDecoder> rasterDecoder; ///< likewise
     std::unique_ptr<StandardFolders> standardFolders;
     std::unique_ptr<UserAccount> userAccount;
     std::unique_ptr<UserDefaults> userDefaults;

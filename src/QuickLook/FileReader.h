@@ -46,6 +46,9 @@ public:
     [[nodiscard]] virtual std::optional<std::size_t> readAt(
         std::uint64_t offset, std::span<char> into)
         = 0;
+
+    /// The number by which another process can be given the open file; negative when there is none.
+    [[nodiscard]] virtual int descriptor() const = 0;
 };
 
 struct OpenedFile {

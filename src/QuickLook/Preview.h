@@ -2,6 +2,7 @@
 #pragma once
 
 #include "QuickLook/FileReader.h"
+#include "QuickLook/RasterDecoder.h"
 
 #include <QImage>
 #include <QSize>
@@ -35,6 +36,7 @@ struct Preview {
     FileDescription file;
     std::error_code contentError; ///< why the content of a regular file is not shown
     QString kind; ///< "PNG image", in the user's language; empty when nothing is known
+    RasterOutcome decoding = RasterOutcome::Whole; ///< of a picture or of pages
     QSize pixelSize; ///< an image's own, also when it is too large to be shown
     std::variant<std::monostate, PreviewText, PreviewPicture, PreviewPages> content;
 };

@@ -7,16 +7,16 @@
 #include <QCoreApplication>
 #include <QEvent>
 
-#include <atomic>
 #include <condition_variable>
 #include <mutex>
+#include <stop_token>
 #include <utility>
 
 namespace tessera {
 
 namespace {
 
-/// Enough to go on when a dead network mount holds some of them.
+/// Enough to go on when a dead network mount holds some of them. Each decodes one file at a time.
 constexpr int kMostThreads = 4;
 
 QEvent::Type arrivalEvent()
@@ -29,7 +29,7 @@ QEvent::Type arrivalEvent()
 
 struct PreviewLoader::Look {
     PreviewRequest request;
-    std::atomic<bool> isCancelled{false};
+    std::stop_source cancelling;
     Preview preview;
 };
 
@@ -39,9 +39,11 @@ class PreviewLoader::Crew : public std::enable_shared_from_this<Crew> {
 public:
     Crew(
         std::shared_ptr<const FileReader> files,
+        std::shared_ptr<const RasterDecoder> decoder,
         std::shared_ptr<PreviewThreads> threads,
         QObject& receiver)
         : m_files(std::move(files))
+        , m_decoder(std::move(decoder))
         , m_pool(std::move(threads))
         , m_receiver(&receiver)
     {
@@ -89,7 +91,8 @@ private:
     void run(std::shared_ptr<Look> look)
     {
         while (look != nullptr) {
-            look->preview = readPreview(*m_files, look->request, look->isCancelled);
+            look->preview
+                = readPreview(*m_files, *m_decoder, look->request, look->cancelling.get_token());
             look = handOver(std::move(look));
         }
     }
@@ -98,7 +101,7 @@ private:
     std::shared_ptr<Look> handOver(std::shared_ptr<Look> done)
     {
         const std::lock_guard lock(m_mutex);
-        if (m_receiver != nullptr && !done->isCancelled.load(std::memory_order_relaxed)) {
+        if (m_receiver != nullptr && !done->cancelling.stop_requested()) {
             m_arrived = std::move(done);
             // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the event queue takes it over
             QCoreApplication::postEvent(m_receiver, new QEvent(arrivalEvent()));
@@ -111,6 +114,7 @@ private:
     }
 
     const std::shared_ptr<const FileReader> m_files;
+    const std::shared_ptr<const RasterDecoder> m_decoder;
     const std::shared_ptr<PreviewThreads> m_pool;
     std::mutex m_mutex;
     std::condition_variable m_ended;
@@ -122,9 +126,11 @@ private:
 
 PreviewLoader::PreviewLoader(
     std::shared_ptr<const FileReader> files,
+    std::shared_ptr<const RasterDecoder> decoder,
     std::shared_ptr<PreviewThreads> threads,
     std::function<void(Preview)> show)
-    : m_crew(std::make_shared<Crew>(std::move(files), std::move(threads), *this))
+    : m_crew(
+        std::make_shared<Crew>(std::move(files), std::move(decoder), std::move(threads), *this))
     , m_show(std::move(show))
 {
 }
@@ -146,7 +152,7 @@ void PreviewLoader::load(const PreviewRequest& request)
 void PreviewLoader::cancel()
 {
     if (m_current != nullptr) {
-        m_current->isCancelled.store(true, std::memory_order_relaxed);
+        m_current->cancelling.request_stop();
         m_current.reset();
     }
     m_crew->dropWaiting();

@@ -1,22 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "QuickLook/PreviewReading.h"
 
-#include "Model/Url.h"
-#include "QuickLook/FileDevice.h"
-#include "QuickLook/ImageDecoding.h"
-#include "QuickLook/PageDecoding.h"
+#include "QuickLook/ContentMark.h"
 #include "QuickLook/TextDecoding.h"
-#include "Utils/DisplayText.h"
+#include "QuickLook/contentKind.h"
 
 #include <QByteArray>
-#include <QByteArrayView>
-#include <QMimeDatabase>
-#include <QMimeType>
 
-#include <array>
 #include <optional>
 #include <span>
 #include <string_view>
+#include <utility>
 
 namespace tessera {
 
@@ -24,53 +18,16 @@ namespace {
 
 /// Larger files are no pictures or documents that anybody wants to wait for.
 constexpr std::uint64_t kMostDecodedBytes = 1024ULL * 1024 * 1024;
-/// A PDF's mark may stand behind some other bytes.
-constexpr qsizetype kPdfMarkRoom = 1024;
-
-/// The kinds of items that have no content, as the desktop names them.
-QString specialTypeName(FileKind kind)
-{
-    switch (kind) {
-    case FileKind::Folder:
-        return QStringLiteral("inode/directory");
-    case FileKind::SymbolicLink:
-        return QStringLiteral("inode/symlink");
-    case FileKind::Fifo:
-        return QStringLiteral("inode/fifo");
-    case FileKind::Socket:
-        return QStringLiteral("inode/socket");
-    case FileKind::BlockDevice:
-        return QStringLiteral("inode/blockdevice");
-    case FileKind::CharacterDevice:
-        return QStringLiteral("inode/chardevice");
-    case FileKind::Regular:
-    case FileKind::Unknown:
-        break;
-    }
-    return {};
-}
-
-/// Without a beginning the name alone tells.
-QString kindText(
-    const PreviewRequest& request, FileKind kind, const std::optional<QByteArray>& beginning)
-{
-    const QMimeDatabase types;
-    const QString special = specialTypeName(kind);
-    if (!special.isEmpty()) {
-        return types.mimeTypeForName(special).comment();
-    }
-    const QString name = displayText(lastPathComponent(request.path));
-    return beginning ? types.mimeTypeForFileNameAndData(name, *beginning).comment()
-                     : types.mimeTypeForFile(name, QMimeDatabase::MatchExtension).comment();
-}
+/// A page may be drawn on a strip of paper kilometres long.
+constexpr int kMostHeightPerWidth = 4;
 
 /// The file's first bytes, one more than a text shows, so that it is known whether there are more.
-std::optional<QByteArray> readBeginning(ReadableFile& file, const std::atomic<bool>& isCancelled)
+std::optional<QByteArray> readBeginning(ReadableFile& file, const std::stop_token& stop)
 {
     QByteArray beginning(static_cast<qsizetype>(kPreviewTextBytes + 1), '\0');
     const std::span<char> room(beginning.data(), kPreviewTextBytes + 1);
     std::size_t filled = 0;
-    while (filled < room.size() && !isCancelled.load(std::memory_order_relaxed)) {
+    while (filled < room.size() && !stop.stop_requested()) {
         const auto count = file.readAt(filled, room.subspan(filled));
         if (!count && filled == 0) {
             return std::nullopt;
@@ -84,67 +41,119 @@ std::optional<QByteArray> readBeginning(ReadableFile& file, const std::atomic<bo
     return beginning;
 }
 
-void showPictureOrPages(
-    Preview& preview,
-    OpenedFile& opened,
-    const PreviewRequest& request,
-    bool isPdf,
-    const std::atomic<bool>& isCancelled)
+std::string_view bytesOf(const QByteArray& bytes)
 {
-    FileDevice device(*opened.content, opened.description.length, isCancelled);
-    if (isPdf) {
-        PreviewPages pages = decodedPages(device, request.pageWidth, isCancelled);
-        if (!pages.pages.empty()) {
-            preview.content = std::move(pages);
-        }
+    return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
+}
+
+RasterRequest rasterRequest(const PreviewRequest& request, ContentMark mark)
+{
+    if (mark == ContentMark::Pages) {
+        return {
+            RasterRequest::Kind::Pages,
+            {request.pageWidth, request.pageWidth * kMostHeightPerWidth}};
+    }
+    return {
+        RasterRequest::Kind::Picture,
+        {request.pictureLimit.width(), request.pictureLimit.height()}};
+}
+
+QImage imageOf(const Raster& raster)
+{
+    const auto* const pixels
+        = static_cast<const uchar*>(static_cast<const void*>(raster.pixels.data()));
+    const QImage image(
+        pixels,
+        raster.size.width,
+        raster.size.height,
+        raster.isOpaque ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied);
+    return image.copy();
+}
+
+void adoptRasters(Preview& preview, const RasterAnswer& answer, RasterRequest::Kind kind)
+{
+    preview.decoding = answer.outcome;
+    if (answer.pictureSize) {
+        preview.pixelSize = QSize(answer.pictureSize->width, answer.pictureSize->height);
+    }
+    if (answer.rasters.empty()) {
         return;
     }
-    DecodedImage decoded = decodedImage(device, request.pictureLimit);
-    preview.pixelSize = decoded.pixelSize;
-    if (!decoded.image.isNull()) {
-        preview.content = PreviewPicture{std::move(decoded.image)};
+    if (kind == RasterRequest::Kind::Picture) {
+        preview.content = PreviewPicture{imageOf(answer.rasters.front())};
+        return;
     }
+    PreviewPages pages;
+    pages.pageCount = answer.pageCount;
+    for (const Raster& raster : answer.rasters) {
+        pages.pages.push_back(imageOf(raster));
+    }
+    preview.content = std::move(pages);
+}
+
+bool isShown(const Preview& preview)
+{
+    return !std::holds_alternative<std::monostate>(preview.content);
 }
 
 void showText(Preview& preview, const QByteArray& beginning)
 {
-    std::string_view bytes(beginning.constData(), static_cast<std::size_t>(beginning.size()));
+    std::string_view bytes = bytesOf(beginning);
     const bool isCut = bytes.size() > kPreviewTextBytes;
     bytes = bytes.substr(0, kPreviewTextBytes);
     const auto extent = isCut ? TextExtent::Beginning : TextExtent::Whole;
     if (auto text = decodedText(bytes, extent)) {
         preview.content = PreviewText{*std::move(text), isCut};
+        preview.decoding = RasterOutcome::Whole;
     }
+}
+
+ContentShown shownContent(const Preview& preview)
+{
+    if (std::holds_alternative<PreviewPages>(preview.content)) {
+        return ContentShown::Pages;
+    }
+    if (std::holds_alternative<PreviewText>(preview.content)) {
+        return ContentShown::Text;
+    }
+    return preview.pixelSize.isValid() ? ContentShown::Picture : ContentShown::Nothing;
 }
 
 void showContent(
     Preview& preview,
     OpenedFile& opened,
+    const RasterDecoder& decoder,
     const PreviewRequest& request,
-    const std::atomic<bool>& isCancelled)
+    const std::stop_token& stop)
 {
-    const auto beginning = readBeginning(*opened.content, isCancelled);
-    preview.kind = kindText(request, preview.file.kind, beginning);
+    const auto beginning = readBeginning(*opened.content, stop);
     if (!beginning) {
+        preview.kind = itemKind(request.path, preview.file.kind);
         preview.contentError = std::make_error_code(std::errc::io_error);
         return;
     }
-    const bool isPdf
-        = QByteArrayView(*beginning).first(qMin(kPdfMarkRoom, beginning->size())).contains("%PDF-");
-    if (opened.description.length <= kMostDecodedBytes) {
-        showPictureOrPages(preview, opened, request, isPdf, isCancelled);
+    const ContentMark mark = contentMark(bytesOf(*beginning));
+    const bool isForDecoder
+        = mark != ContentMark::None && opened.description.length <= kMostDecodedBytes;
+    if (isForDecoder && !stop.stop_requested()) {
+        const RasterRequest wanted = rasterRequest(request, mark);
+        adoptRasters(preview, decoder.decode(*opened.content, wanted, stop), wanted.kind);
     }
     // A PDF's bytes often pass for a text, which nobody wants to read.
-    const bool isShown = !std::holds_alternative<std::monostate>(preview.content);
-    if (!isShown && !preview.pixelSize.isValid() && !isPdf && !beginning->isEmpty()) {
+    const bool mayBeText = mark != ContentMark::Pages && !preview.pixelSize.isValid();
+    if (!isShown(preview) && mayBeText && !beginning->isEmpty()) {
         showText(preview, *beginning);
     }
+    preview.kind = contentKind(request.path, *beginning, shownContent(preview));
 }
 
 } // namespace
 
 Preview readPreview(
-    const FileReader& files, const PreviewRequest& request, const std::atomic<bool>& isCancelled)
+    const FileReader& files,
+    const RasterDecoder& decoder,
+    const PreviewRequest& request,
+    const std::stop_token& stop)
 {
     OpenedFile opened = files.open(request.path);
     Preview preview;
@@ -154,9 +163,9 @@ Preview readPreview(
         return preview;
     }
     if (opened.content != nullptr) {
-        showContent(preview, opened, request, isCancelled);
+        showContent(preview, opened, decoder, request, stop);
     } else {
-        preview.kind = kindText(request, preview.file.kind, std::nullopt);
+        preview.kind = itemKind(request.path, preview.file.kind);
     }
     return preview;
 }

@@ -3,20 +3,24 @@
 
 #include "QuickLook/Preview.h"
 
-#include <atomic>
 #include <cstddef>
+#include <stop_token>
 
 namespace tessera {
 
 class FileReader;
+class RasterDecoder;
 
 /// How much of a text is shown, in bytes.
 inline constexpr std::size_t kPreviewTextBytes = std::size_t{64} * 1024;
 
 /// Looks at the file and makes of it what can be shown: a picture, pages, the beginning of a text,
 /// or no more than its description. It may block for as long as the file system does, hence runs
-/// on workers only; once `isCancelled` is set it ends soon, with whatever it has.
+/// on workers only; once `stop` is requested it ends soon, with whatever it has.
 Preview readPreview(
-    const FileReader& files, const PreviewRequest& request, const std::atomic<bool>& isCancelled);
+    const FileReader& files,
+    const RasterDecoder& decoder,
+    const PreviewRequest& request,
+    const std::stop_token& stop);
 
 } // namespace tessera

@@ -33,7 +33,7 @@ constexpr double kMostOfScreen = 0.7;
 constexpr int kPageWidth = 640;
 /// Most files are read sooner, and the item before stays in sight so long.
 constexpr int kPatienceMs = 150;
-/// A decoder that is told to end does so at its next read.
+/// A decoder is killed at once; a file system may take its time.
 constexpr std::chrono::milliseconds kEndOfProgramPatience{500};
 
 constexpr Qt::WindowFlags kPanelFlags = Qt::Tool | Qt::FramelessWindowHint;
@@ -85,13 +85,15 @@ QuickLookPanel::QuickLookPanel()
 QuickLookPanel::~QuickLookPanel() = default;
 
 void QuickLookPanel::setFileReader(
-    const std::shared_ptr<const FileReader>& files, const std::shared_ptr<PreviewThreads>& threads)
+    const std::shared_ptr<const FileReader>& files,
+    const std::shared_ptr<const RasterDecoder>& decoder,
+    const std::shared_ptr<PreviewThreads>& threads)
 {
     m_loader.reset();
     m_threads = threads;
     if (files != nullptr) {
         m_loader = std::make_unique<PreviewLoader>(
-            files, threads, [this](const Preview& preview) { showPreview(preview); });
+            files, decoder, threads, [this](const Preview& preview) { showPreview(preview); });
     }
 }
 

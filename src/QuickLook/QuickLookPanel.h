@@ -23,6 +23,7 @@ class PreviewLoader;
 class PreviewThreads;
 class QuickLookPanelDataSource;
 class QuickLookPanelDelegate;
+class RasterDecoder;
 struct Preview;
 
 /// The floating panel that shows what is in the selected item: a picture, a text, a document's
@@ -41,10 +42,12 @@ public:
     QuickLookPanel();
     ~QuickLookPanel() override;
 
-    /// Reads the files on these threads; without a reader, every item is shown by what the tree
-    /// knows. Shared, because a look at a file that never answers may outlive the panel.
+    /// Reads the files on these threads and has pictures and documents decoded; without a reader,
+    /// every item is shown by what the tree knows. Shared, because a look at a file that never
+    /// answers may outlive the panel.
     void setFileReader(
         const std::shared_ptr<const FileReader>& files,
+        const std::shared_ptr<const RasterDecoder>& decoder,
         const std::shared_ptr<PreviewThreads>& threads);
 
     /// Not owned, may be null.

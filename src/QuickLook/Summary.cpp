@@ -53,6 +53,13 @@ QString noteOf(const Preview& preview)
     if (preview.contentError) {
         return SummaryTexts::tr("It cannot be read: %1").arg(reason(preview.contentError));
     }
+    if (preview.decoding == RasterOutcome::NotStarted) {
+        return SummaryTexts::tr(
+            "It cannot be shown: the program tessera-preview cannot be started.");
+    }
+    if (preview.decoding != RasterOutcome::Whole) {
+        return SummaryTexts::tr("It is damaged, or takes too much memory or time to be shown.");
+    }
     return preview.pixelSize.isValid()
         ? SummaryTexts::tr("The picture is damaged or too large to be shown.")
         : QString();

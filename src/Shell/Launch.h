@@ -20,6 +20,7 @@ class FileAccess;
 class FileReader;
 class LauncherProgress;
 class MotionPreference;
+class RasterDecoder;
 class RunningInstance;
 class Task;
 class UserAccount;
@@ -39,6 +40,7 @@ struct LaunchServices {
     const MotionPreference& motion;
     Workspace& workspace;
     std::shared_ptr<const FileReader> fileReader;
+    std::shared_ptr<const RasterDecoder> rasterDecoder;
     std::function<std::unique_ptr<Task>()> makeTask;
     std::string archiver; ///< path of the program that makes archives; bytes
     const UserAccount& userAccount;

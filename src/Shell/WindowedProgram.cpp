@@ -34,7 +34,7 @@ namespace {
 void setUpPreview(QWidget& mainWindow, const LaunchServices& services, IconProvider& icons)
 {
     QuickLookPanel& panel = QuickLookPanel::sharedInstance();
-    panel.setFileReader(services.fileReader, PreviewThreads::make());
+    panel.setFileReader(services.fileReader, services.rasterDecoder, PreviewThreads::make());
     panel.setIconProvider(&icons);
     panel.setMainWindow(&mainWindow);
     panel.setMotionPreference(&services.motion);

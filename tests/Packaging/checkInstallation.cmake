@@ -8,6 +8,7 @@ execute_process(
 set(expected
     bin/tessera
     bin/tessera-ditto
+    bin/tessera-preview
     share/applications/tessera.desktop
     share/doc/tessera/LICENSE
     share/doc/tessera/help/faq.html
@@ -47,5 +48,28 @@ execute_process(
     COMMAND "${PREFIX}/bin/tessera" --version OUTPUT_VARIABLE version COMMAND_ERROR_IS_FATAL ANY)
 if(NOT version MATCHES "^tessera [0-9]")
     message(FATAL_ERROR "The installed program says: ${version}")
+endif()
+
+# A picture of four pixels is answered by a frame with its size, one with the raster's, the pixels,
+# and one for the end. The previewer writes to no file, hence the pipe.
+file(WRITE "${PREFIX}/picture" "P1 2 2 0 1 1 0\n")
+execute_process(
+    COMMAND "${PREFIX}/bin/tessera-preview" picture 100 100
+    COMMAND cat
+    INPUT_FILE "${PREFIX}/picture"
+    OUTPUT_FILE "${PREFIX}/answer" COMMAND_ERROR_IS_FATAL ANY)
+file(SIZE "${PREFIX}/answer" answer_bytes)
+if(NOT answer_bytes EQUAL 64)
+    message(FATAL_ERROR "The installed previewer answers by ${answer_bytes} bytes")
+endif()
+
+# What decodes strangers' documents is no part of the program itself.
+file(
+    GET_RUNTIME_DEPENDENCIES
+    EXECUTABLES "${PREFIX}/bin/tessera"
+    RESOLVED_DEPENDENCIES_VAR libraries
+    UNRESOLVED_DEPENDENCIES_VAR missing)
+if(NOT libraries MATCHES "Qt6Gui" OR libraries MATCHES "Qt6Pdf")
+    message(FATAL_ERROR "The installed program uses ${libraries}")
 endif()
 file(REMOVE_RECURSE "${PREFIX}")

@@ -30,10 +30,16 @@ public:
                 m_item.content.size() - std::min<std::size_t>(offset, m_item.content.size()));
             std::memcpy(into.data(), m_item.content.data() + (count == 0 ? 0 : offset), count);
         }
+        if (offset < m_item.beginning.size()) {
+            const std::string rest = m_item.beginning.substr(offset, into.size());
+            std::ranges::copy(rest, into.begin());
+        }
         const std::lock_guard lock(m_reader.m_mutex);
         m_reader.m_bytesRead += count;
         return count;
     }
+
+    [[nodiscard]] int descriptor() const override { return -1; }
 
 private:
     const FakeFileReader& m_reader;
@@ -69,6 +75,12 @@ void FakeFileReader::addEndlessFile(const std::string& path, char byte, std::uin
     item.content = std::string(1, byte);
     item.isEndless = true;
     add(path, std::move(item));
+}
+
+void FakeFileReader::setBeginning(const std::string& path, const std::string& beginning)
+{
+    const std::lock_guard lock(m_mutex);
+    m_items.at(path).beginning = beginning;
 }
 
 void FakeFileReader::addUnreadableFile(const std::string& path, std::uint64_t length)

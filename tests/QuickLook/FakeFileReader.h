@@ -24,6 +24,8 @@ public:
     void addFile(const std::string& path, const std::string& content);
     /// Its content never ends, and its length is what the system would say.
     void addEndlessFile(const std::string& path, char byte, std::uint64_t length);
+    /// Gives the file, which is there already, these bytes at its begin.
+    void setBeginning(const std::string& path, const std::string& beginning);
     void addUnreadableFile(const std::string& path, std::uint64_t length);
     /// It can be opened, but reading it fails.
     void addBrokenFile(const std::string& path, std::uint64_t length);
@@ -45,6 +47,7 @@ private:
         FileDescription description;
         std::error_code contentError;
         std::string content;
+        std::string beginning; ///< instead of as much of the content
         bool isEndless = false;
         bool isBroken = false;
     };

@@ -3,6 +3,7 @@
 
 #include "Model/Url.h"
 #include "QuickLook/FakeFileReader.h"
+#include "QuickLook/FakeRasterDecoder.h"
 #include "QuickLook/PreviewItem.h"
 #include "QuickLook/PreviewThreads.h"
 #include "QuickLook/QuickLookPanel.h"
@@ -70,7 +71,7 @@ protected:
         files->addSpecial("/home/anna/docs", FileKind::Folder);
         window.setGeometry(100, 50, 600, 500);
         window.show();
-        panel.setFileReader(files, threads);
+        panel.setFileReader(files, decoder, threads);
         panel.setIconProvider(&icons);
         panel.setMainWindow(&window);
         panel.setDelegate(&screen);
@@ -82,7 +83,7 @@ protected:
     {
         files->release("/home/anna/a.txt");
         panel.setDataSource(nullptr);
-        panel.setFileReader(nullptr, nullptr);
+        panel.setFileReader(nullptr, nullptr, nullptr);
         EXPECT_TRUE(threads->waitForEnd(std::chrono::minutes(1)));
     }
 
@@ -115,6 +116,7 @@ protected:
     std::unique_ptr<TopFolder> tree
         = makeTree("/home/anna", "docs/ ( x:1000 y:2000 ) a.txt:4096 b.txt:5000");
     std::shared_ptr<FakeFileReader> files = std::make_shared<FakeFileReader>();
+    std::shared_ptr<FakeRasterDecoder> decoder = std::make_shared<FakeRasterDecoder>();
     std::shared_ptr<PreviewThreads> threads = PreviewThreads::make();
     FakeIconProvider icons;
     FakeTreeScreen screen;

@@ -2,6 +2,7 @@
 #include "QuickLook/PreviewLoader.h"
 
 #include "QuickLook/FakeFileReader.h"
+#include "QuickLook/FakeRasterDecoder.h"
 #include "QuickLook/PreviewThreads.h"
 
 #include <QTest>
@@ -56,9 +57,10 @@ protected:
 
     std::vector<QString> shown;
     std::shared_ptr<test::FakeFileReader> files = std::make_shared<test::FakeFileReader>();
+    std::shared_ptr<test::FakeRasterDecoder> decoder = std::make_shared<test::FakeRasterDecoder>();
     std::shared_ptr<PreviewThreads> threads = PreviewThreads::make();
     std::unique_ptr<PreviewLoader> loader
-        = std::make_unique<PreviewLoader>(files, threads, [this](const Preview& preview) {
+        = std::make_unique<PreviewLoader>(files, decoder, threads, [this](const Preview& preview) {
               shown.push_back(std::get<PreviewText>(preview.content).text);
           });
 };
@@ -161,6 +163,44 @@ TEST_F(PreviewLoaderTest, AStuckLookMayOutliveItsLoader)
 
     EXPECT_TRUE(QTest::qWaitFor([&] { return reader.expired(); }, 60000));
     EXPECT_TRUE(shown.empty());
+}
+
+TEST_F(PreviewLoaderTest, DecodingsThatNeverEndLeaveTheirPlacesToOthers)
+{
+    decoder->neverEnd();
+    // As many as may be under way at once.
+    for (int i = 0; i < 4; ++i) {
+        files->addFile(path(i), "%PDF-1.4");
+        load(i);
+        decoder->waitUntilAsked(static_cast<std::size_t>(i) + 1);
+    }
+    load(5);
+
+    ASSERT_TRUE(waitFor(1));
+    EXPECT_EQ(shown, std::vector{QStringLiteral("text 5")});
+}
+
+TEST_F(PreviewLoaderTest, ACancelledDecodingIsToldToEnd)
+{
+    decoder->neverEnd();
+    files->addFile(path(1), "%PDF-1.4");
+    load(1);
+    decoder->waitUntilAsked(1);
+
+    EXPECT_TRUE(loader->cancelAndWait(60s));
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(shown.empty());
+}
+
+TEST_F(PreviewLoaderTest, ALoaderThatGoesAwayEndsItsDecoding)
+{
+    decoder->neverEnd();
+    files->addFile(path(1), "%PDF-1.4");
+    load(1);
+    decoder->waitUntilAsked(1);
+    loader.reset();
+
+    EXPECT_TRUE(threads->waitForEnd(60s));
 }
 
 } // namespace tessera

@@ -4,6 +4,7 @@
 #include "Model/FreeSpace.h"
 #include "QuickLook/ImageView.h"
 #include "QuickLook/PanelFixture.h"
+#include "QuickLook/rasters.h"
 #include "QuickLook/sampleFiles.h"
 
 #include <QLabel>
@@ -72,6 +73,11 @@ TEST_F(QuickLookPanelTest, ShowsTheTextOfTheSelectedFile)
 TEST_F(QuickLookPanelTest, ShowsAPictureWithItsDimensions)
 {
     files->addFile("/home/anna/a.txt", test::imageFile({300, 200}, "png"));
+    decoder->setAnswer(
+        {RasterOutcome::Whole,
+         PixelSize{300, 200},
+         0,
+         {test::opaqueRaster({300, 200}, 0xFFFF0000)}});
 
     open("a.txt");
 
@@ -85,7 +91,14 @@ TEST_F(QuickLookPanelTest, ShowsAPictureWithItsDimensions)
 
 TEST_F(QuickLookPanelTest, ALargePictureTakesNoMoreThanItsShareOfTheScreen)
 {
-    files->addFile("/home/anna/a.txt", test::imageFile({5000, 4000}, "png"));
+    files->addFile("/home/anna/a.txt", test::imageFile({500, 400}, "png"));
+    decoder->setAnswers([](const RasterRequest& request) {
+        // As large as it may be.
+        const QSize limit(request.limit.width, request.limit.height);
+        const QSize size = QSize(5000, 4000).scaled(limit, Qt::KeepAspectRatio);
+        const Raster raster = test::opaqueRaster({size.width(), size.height()}, 0xFFFF0000);
+        return RasterAnswer{RasterOutcome::Whole, PixelSize{5000, 4000}, 0, {raster}};
+    });
 
     open("a.txt");
 
@@ -157,6 +170,7 @@ TEST_F(QuickLookPanelTest, AnUnreadableFileSaysWhy)
 TEST_F(QuickLookPanelTest, ABrokenPictureSaysSo)
 {
     files->addFile("/home/anna/a.txt", test::pngOfClaimedSize(60000, 60000));
+    decoder->setAnswer({RasterOutcome::Whole, PixelSize{60000, 60000}, 0, {}});
 
     open("a.txt");
 

@@ -108,4 +108,23 @@ TEST_F(SummaryTest, TheCaptionSaysHowManyPagesAreShown)
     EXPECT_TRUE(captionOf(facts, preview).contains(QStringLiteral("240 pages")));
 }
 
+TEST_F(SummaryTest, SaysThatContentTookTooMuchOrIsDamaged)
+{
+    for (const RasterOutcome outcome : {RasterOutcome::CutShort, RasterOutcome::Refused}) {
+        preview.decoding = outcome;
+        EXPECT_EQ(
+            summaryOf(facts, &preview).note,
+            QStringLiteral("It is damaged, or takes too much memory or time to be shown."));
+    }
+}
+
+TEST_F(SummaryTest, SaysThatTheDecodingProgramCannotBeStarted)
+{
+    preview.decoding = RasterOutcome::NotStarted;
+
+    EXPECT_EQ(
+        summaryOf(facts, &preview).note,
+        QStringLiteral("It cannot be shown: the program tessera-preview cannot be started."));
+}
+
 } // namespace tessera

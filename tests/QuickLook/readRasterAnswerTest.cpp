@@ -2,6 +2,7 @@
 #include "QuickLook/readRasterAnswer.h"
 
 #include "QuickLook/RasterFrame.h"
+#include "QuickLook/readFrom.h"
 
 #include <gtest/gtest.h>
 
@@ -30,7 +31,7 @@ std::string frame(
 std::string raster(int width, int height)
 {
     return frame(Kind::OpaqueRaster, width, height)
-        + std::string(static_cast<std::size_t>(width * height * 4), 'p');
+        + std::string(static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * 4, 'p');
 }
 
 std::string pictureSize(int width, int height)
@@ -45,15 +46,9 @@ std::string pageCount(int count)
 
 const std::string kEnd = frame(Kind::End);
 
-RasterAnswer read(const RasterRequest& request, std::string bytes)
+RasterAnswer read(const RasterRequest& request, const std::string& bytes)
 {
-    std::size_t at = 0;
-    return readRasterAnswer(request, [&](std::span<char> into) {
-        const std::size_t count = std::min(into.size(), bytes.size() - at);
-        std::copy_n(bytes.data() + at, count, into.data());
-        at += count;
-        return count == into.size();
-    });
+    return readRasterAnswer(request, test::readFrom(bytes));
 }
 
 /// Nothing of what was said is believed.

@@ -4,13 +4,11 @@
 #include <QBuffer>
 #include <QByteArray>
 #include <QImage>
-#include <QPageSize>
-#include <QPainter>
-#include <QPdfWriter>
 
 #include <array>
 #include <initializer_list>
 #include <string_view>
+#include <vector>
 
 namespace tessera::test {
 
@@ -85,19 +83,41 @@ std::string animatedGif()
 
 std::string pdfFile(int pages)
 {
-    QBuffer bytes;
-    bytes.open(QIODevice::WriteOnly);
-    QPdfWriter writer(&bytes);
-    writer.setPageSize(QPageSize(QPageSize::A4));
-    QPainter painter(&writer);
+    std::string kids;
+    std::vector<std::string> objects(2);
     for (int page = 1; page <= pages; ++page) {
-        painter.drawText(1000, 1000, QString::number(page));
-        if (page < pages) {
-            writer.newPage();
-        }
+        const std::size_t number = objects.size() + 1;
+        kids += std::to_string(number) + " 0 R ";
+        objects.push_back(
+            "<</Type/Page/Parent 2 0 R/MediaBox[0 0 595.276 841.89]/Contents "
+            + std::to_string(number + 1)
+            + " 0 R/Resources<</Font<</F<</Type/Font/Subtype/Type1/BaseFont/Helvetica>>>>>>>>");
+        objects.push_back(pdfStream("BT /F 40 Tf 100 700 Td (" + std::to_string(page) + ") Tj ET"));
     }
-    painter.end();
-    return bytes.data().toStdString();
+    objects[0] = "<</Type/Catalog/Pages 2 0 R>>";
+    objects[1] = "<</Type/Pages/Kids[" + kids + "]/Count " + std::to_string(pages) + ">>";
+    return pdfOf(objects);
+}
+
+std::string pdfOf(const std::vector<std::string>& objects)
+{
+    std::string bytes = "%PDF-1.4\n";
+    std::string table = "0000000000 65535 f \n";
+    std::size_t number = 0;
+    for (const std::string& object : objects) {
+        const std::string offset = std::to_string(bytes.size());
+        table += std::string(10 - offset.size(), '0') + offset + " 00000 n \n";
+        bytes += std::to_string(++number) + " 0 obj\n" + object + "\nendobj\n";
+    }
+    const std::string count = std::to_string(objects.size() + 1);
+    return bytes + "xref\n0 " + count + "\n" + table + "trailer\n<</Size " + count
+        + "/Root 1 0 R>>\nstartxref\n" + std::to_string(bytes.size()) + "\n%%EOF\n";
+}
+
+std::string pdfStream(const std::string& content, const std::string& entries)
+{
+    return "<<" + entries + "/Length " + std::to_string(content.size()) + ">>\nstream\n" + content
+        + "\nendstream";
 }
 
 } // namespace tessera::test

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Sandbox.h"
 
+#include "Platform/Linux/ChildRasterDecoder.h"
+
 #include <algorithm>
 #include <chrono>
 #include <thread>
@@ -207,6 +209,7 @@ void confine(PlatformServices& services, const Sandbox& sandbox, OpenWork& work)
         = std::make_unique<ConfinedVolumes>(std::move(services.mountedVolumes), sandbox);
     services.userAccount = std::make_unique<ConfinedUser>(sandbox.home());
     services.archiver = sandbox.archiver();
+    services.rasterDecoder = std::make_shared<ChildRasterDecoder>(sandbox.previewer());
 }
 
 } // namespace tessera::test

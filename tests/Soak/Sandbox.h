@@ -19,6 +19,7 @@ public:
     std::string volume() const { return m_path + "/volume"; }
     std::string home() const { return m_path + "/home"; }
     std::string archiver() const { return m_path + "/bin/tessera-ditto"; }
+    std::string previewer() const { return m_path + "/bin/tessera-preview"; }
 
     /// Whether the path is inside.
     bool holds(const std::string& itemPath) const { return itemPath.starts_with(m_path + '/'); }

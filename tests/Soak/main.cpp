@@ -170,7 +170,7 @@ int main(int argc, char** argv)
     if (commandLine->sandbox.empty()) {
         std::vector<std::string> again(arguments.begin(), arguments.end());
         again.emplace_back(kInside);
-        return runInSandbox(again, TESSERA_ARCHIVER);
+        return runInSandbox(again, {TESSERA_ARCHIVER, TESSERA_PREVIEWER});
     }
     const int status = runInside(*commandLine, argc, argv);
     if (::waitpid(-1, nullptr, WNOHANG) != -1) {

@@ -60,14 +60,16 @@ void mountVolume(const Sandbox& sandbox, OwnMounts& mounts)
     }
 }
 
-void makeFolders(const Sandbox& sandbox, const std::string& archiver)
+void makeFolders(const Sandbox& sandbox, const std::vector<std::string>& programs)
 {
     for (const char* name : {"/disk", "/volume", "/home", "/bin", "/run"}) {
         fs::create_directory(sandbox.path() + name);
     }
     fs::permissions(sandbox.path() + "/run", fs::perms::owner_all);
     // Where the program was built, an ordinary user may have no way in.
-    fs::copy_file(archiver, sandbox.archiver());
+    for (const std::string& program : programs) {
+        fs::copy_file(program, fs::path(sandbox.path() + "/bin") / fs::path(program).filename());
+    }
 }
 
 void giveTo(const User& user, const Sandbox& sandbox)
@@ -146,13 +148,13 @@ int run(std::vector<std::string>& arguments, const std::optional<User>& user)
 
 } // namespace
 
-int runInSandbox(std::vector<std::string> arguments, const std::string& archiver)
+int runInSandbox(std::vector<std::string> arguments, const std::vector<std::string>& programs)
 {
     const TempTree tree;
     OwnMounts mounts;
     const Sandbox sandbox(tree.path());
     const std::optional<User> user = ordinaryUser();
-    makeFolders(sandbox, archiver);
+    makeFolders(sandbox, programs);
     for (const char* variable : {"ASAN_OPTIONS", "LSAN_OPTIONS", "TSAN_OPTIONS"}) {
         copySuppressions(variable, sandbox);
     }

@@ -29,6 +29,8 @@ public:
     ChildProcess& operator=(const ChildProcess&) = delete;
     ~ChildProcess();
 
+    pid_t id() const { return m_id; }
+
     /// The status it exited with, or -1 when a signal ended it; nothing while it runs.
     std::optional<int> exitStatus();
     int waitForExit();

@@ -2,6 +2,7 @@
 #include "Platform/Linux/LinuxFileReader.h"
 
 #include "Platform/Linux/FileDescriptor.h"
+#include "Platform/Linux/LinuxReadableFile.h"
 #include "Platform/Linux/LongPath.h"
 
 #include <fcntl.h>
@@ -108,27 +109,6 @@ FileDescription describe(const FileDescriptor& place)
     }
     return description;
 }
-
-class LinuxReadableFile final : public ReadableFile {
-public:
-    explicit LinuxReadableFile(FileDescriptor file)
-        : m_file(std::move(file))
-    {
-    }
-
-    [[nodiscard]] std::optional<std::size_t> readAt(
-        std::uint64_t offset, std::span<char> into) override
-    {
-        ssize_t count = 0;
-        do {
-            count = ::pread(m_file.number(), into.data(), into.size(), static_cast<off_t>(offset));
-        } while (count < 0 && errno == EINTR);
-        return count < 0 ? std::nullopt : std::optional(static_cast<std::size_t>(count));
-    }
-
-private:
-    FileDescriptor m_file;
-};
 
 /// Opens what `place` stands for, whatever has taken its name meanwhile.
 Place openContent(const FileDescriptor& place)

@@ -2,6 +2,7 @@
 #include "Platform/PlatformServices.h"
 
 #include "Platform/Linux/ChildProcessTask.h"
+#include "Platform/Linux/ChildRasterDecoder.h"
 #include "Platform/Linux/DBusRunningInstance.h"
 #include "Platform/Linux/DBusWorkspace.h"
 #include "Platform/Linux/DesktopColorSchemePreference.h"
@@ -85,6 +86,8 @@ PlatformServices makePlatformServices(Session session)
     services.mountedVolumes = std::make_unique<LinuxMountedVolumes>(prompt);
     services.fileAccess = std::make_unique<LinuxFileAccess>();
     services.fileReader = std::make_shared<LinuxFileReader>();
+    services.rasterDecoder
+        = std::make_shared<ChildRasterDecoder>(executableFolder() + "/tessera-preview");
     services.standardFolders = std::make_unique<LinuxStandardFolders>();
     services.userAccount = std::make_unique<LinuxUserAccount>();
     services.userDefaults

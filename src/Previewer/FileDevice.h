@@ -4,20 +4,18 @@
 #include <QByteArray>
 #include <QIODevice>
 
-#include <atomic>
 #include <cstdint>
 
 namespace tessera {
 
 class ReadableFile;
 
-/// A readable file as a device for Qt's decoders. From the moment that `isCancelled` is set every
-/// read fails, which brings a decoder to its end.
+/// A readable file as a device for Qt's decoders.
 class FileDevice final : public QIODevice {
 public:
-    /// Both are not owned and must outlive the device; `length` is where the file ends, even if it
+    /// The file is not owned and must outlive the device; `length` is where it ends, even if it
     /// goes on growing.
-    FileDevice(ReadableFile& file, std::uint64_t length, const std::atomic<bool>& isCancelled);
+    FileDevice(ReadableFile& file, std::uint64_t length);
 
     bool isSequential() const override { return false; }
     qint64 size() const override { return m_length; }
@@ -33,7 +31,6 @@ private:
 
     ReadableFile& m_file;
     qint64 m_length;
-    const std::atomic<bool>& m_isCancelled;
     qint64 m_position = 0;
     QByteArray m_piece; ///< of the file, so that a decoder's many small reads cost one call
     qint64 m_pieceStart = 0;

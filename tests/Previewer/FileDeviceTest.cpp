@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "QuickLook/FileDevice.h"
+#include "Previewer/FileDevice.h"
 
 #include "QuickLook/FakeFileReader.h"
 
@@ -27,14 +27,13 @@ protected:
     std::string content;
     test::FakeFileReader files;
     std::unique_ptr<ReadableFile> file;
-    std::atomic<bool> isCancelled{false};
 };
 
 } // namespace
 
 TEST_F(FileDeviceTest, OneReadBringsAllThatIsAskedFor)
 {
-    FileDevice device(*file, kBytes, isCancelled);
+    FileDevice device(*file, kBytes);
 
     EXPECT_EQ(device.read(kBytes).toStdString(), content);
     EXPECT_TRUE(device.atEnd());
@@ -42,7 +41,7 @@ TEST_F(FileDeviceTest, OneReadBringsAllThatIsAskedFor)
 
 TEST_F(FileDeviceTest, ReadsFromAnywhereAlsoAfterAPeek)
 {
-    FileDevice device(*file, kBytes, isCancelled);
+    FileDevice device(*file, kBytes);
 
     EXPECT_EQ(device.peek(4000).toStdString(), content.substr(0, 4000));
     EXPECT_TRUE(device.seek(200'000));
@@ -53,7 +52,7 @@ TEST_F(FileDeviceTest, ReadsFromAnywhereAlsoAfterAPeek)
 
 TEST_F(FileDeviceTest, SmallReadsCostFewReadsOfTheFile)
 {
-    FileDevice device(*file, kBytes, isCancelled);
+    FileDevice device(*file, kBytes);
     for (int i = 0; i < 1000; ++i) {
         (void)device.read(1);
     }
@@ -65,33 +64,23 @@ TEST_F(FileDeviceTest, AFileThatGoesOnEndsAtItsLength)
 {
     files.addEndlessFile("/endless", 'x', 10);
     file = files.open("/endless").content;
-    FileDevice device(*file, 10, isCancelled);
+    FileDevice device(*file, 10);
 
     EXPECT_EQ(device.readAll(), QByteArray(10, 'x'));
 }
 
 TEST_F(FileDeviceTest, AFileThatWasCutEndsWhereItEnds)
 {
-    FileDevice device(*file, kBytes + 1000, isCancelled);
+    FileDevice device(*file, kBytes + 1000);
 
     EXPECT_EQ(device.read(kBytes + 1000).size(), static_cast<qsizetype>(kBytes));
-}
-
-TEST_F(FileDeviceTest, EveryReadFailsOnceItIsCancelled)
-{
-    FileDevice device(*file, kBytes, isCancelled);
-    (void)device.read(10);
-
-    isCancelled = true;
-
-    EXPECT_EQ(device.read(10), QByteArray());
 }
 
 TEST_F(FileDeviceTest, AReadThatFailsFails)
 {
     files.addBrokenFile("/broken", 100);
     file = files.open("/broken").content;
-    FileDevice device(*file, 100, isCancelled);
+    FileDevice device(*file, 100);
     char byte = 'x';
 
     EXPECT_EQ(device.read(&byte, 1), -1);

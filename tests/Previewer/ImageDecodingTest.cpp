@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "QuickLook/ImageDecoding.h"
+#include "Previewer/ImageDecoding.h"
 
 #include "QuickLook/sampleFiles.h"
 
@@ -12,12 +12,21 @@ namespace {
 
 constexpr QSize kLimit{100, 100};
 
+struct DecodedImage {
+    QSize pixelSize;
+    QImage image;
+};
+
 DecodedImage decoded(const std::string& bytes, const QSize& limit = kLimit)
 {
     QBuffer device;
     device.setData(QByteArray::fromStdString(bytes));
     device.open(QIODevice::ReadOnly);
-    return decodedImage(device, limit);
+    ImageDecoding decoding(device);
+    if (!decoding.pixelSize().isValid()) {
+        return {};
+    }
+    return {decoding.pixelSize(), decoding.read(limit)};
 }
 
 TEST(ImageDecoding, SmallImagesAreNotEnlarged)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "QuickLook/FileDevice.h"
+#include "Previewer/FileDevice.h"
 
 #include "QuickLook/FileReader.h"
 
@@ -22,11 +22,9 @@ qint64 signedLength(std::uint64_t length)
 
 } // namespace
 
-FileDevice::FileDevice(
-    ReadableFile& file, std::uint64_t length, const std::atomic<bool>& isCancelled)
+FileDevice::FileDevice(ReadableFile& file, std::uint64_t length)
     : m_file(file)
     , m_length(signedLength(length))
-    , m_isCancelled(isCancelled)
 {
     // The base's own buffer would move the position on its own.
     (void)open(QIODevice::ReadOnly | QIODevice::Unbuffered);
@@ -61,7 +59,7 @@ qint64 FileDevice::readData(char* into, qint64 maxSize)
 qint64 FileDevice::readFromPiece(char* into, qint64 maxSize)
 {
     const bool isInPiece = m_position >= m_pieceStart && m_position < m_pieceStart + m_piece.size();
-    if (m_isCancelled.load(std::memory_order_relaxed) || (!isInPiece && !fillPiece())) {
+    if (!isInPiece && !fillPiece()) {
         return -1;
     }
     const qint64 offset = m_position - m_pieceStart;

@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "QuickLook/ImageDecoding.h"
+#include "Previewer/ImageDecoding.h"
 
 #include <QByteArray>
 #include <QImageIOHandler>
-#include <QImageReader>
 
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <mutex>
 #include <string_view>
 
 namespace tessera {
@@ -27,12 +25,6 @@ bool isPlainPixels(const QByteArray& format)
         "jxl",  "pbm", "pgm", "png", "pnm",  "ppm",  "qoi",  "tif", "tiff", "webp"};
     const std::string_view name(format.constData(), static_cast<std::size_t>(format.size()));
     return std::ranges::find(kFormats, name) != kFormats.end();
-}
-
-void raiseAllocationLimit()
-{
-    static std::once_flag once;
-    std::call_once(once, [] { QImageReader::setAllocationLimit(kMostMegabytes); });
 }
 
 /// An icon file holds the same picture in several sizes.
@@ -65,34 +57,38 @@ QSize shownSize(const QSize& size, const QSize& limit)
 
 } // namespace
 
-DecodedImage decodedImage(QIODevice& device, const QSize& limit)
+ImageDecoding::ImageDecoding(QIODevice& device)
+    : m_reader(&device)
 {
-    raiseAllocationLimit();
-    QImageReader reader(&device);
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
-    if (!isPlainPixels(reader.format())) {
+    QImageReader::setAllocationLimit(kMostMegabytes);
+    m_reader.setDecideFormatFromContent(true);
+    m_reader.setAutoTransform(true);
+    if (!isPlainPixels(m_reader.format())) {
+        return;
+    }
+    goToLargestImage(m_reader);
+    const QSize stored = m_reader.size();
+    if (stored.isValid() && !stored.isEmpty()) {
+        m_pixelSize = liesOnItsSide() ? stored.transposed() : stored;
+    }
+}
+
+QImage ImageDecoding::read(const QSize& limit)
+{
+    if (std::int64_t{m_pixelSize.width()} * m_pixelSize.height() > kMostPixels) {
         return {};
     }
-    goToLargestImage(reader);
-    const QSize stored = reader.size();
-    if (!stored.isValid() || stored.isEmpty()) {
-        return {};
-    }
-    const bool liesOnItsSide
-        = reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
-    DecodedImage decoded;
-    decoded.pixelSize = liesOnItsSide ? stored.transposed() : stored;
-    if (std::int64_t{stored.width()} * stored.height() > kMostPixels) {
-        return decoded;
-    }
-    const QSize wanted = shownSize(decoded.pixelSize, limit);
-    if (wanted != decoded.pixelSize) {
+    const QSize wanted = shownSize(m_pixelSize, limit);
+    if (wanted != m_pixelSize) {
         // The size asked for is that before the turn.
-        reader.setScaledSize(liesOnItsSide ? wanted.transposed() : wanted);
+        m_reader.setScaledSize(liesOnItsSide() ? wanted.transposed() : wanted);
     }
-    decoded.image = reader.read();
-    return decoded;
+    return m_reader.read();
+}
+
+bool ImageDecoding::liesOnItsSide() const
+{
+    return m_reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
 }
 
 } // namespace tessera
