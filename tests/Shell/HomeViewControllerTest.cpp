@@ -270,6 +270,15 @@ TEST_F(HomeViewControllerTest, SelectingARecentScanDeselectsTheGrid)
     EXPECT_THAT(scanned, ElementsAre("file:///home/eve/two/"));
 }
 
+TEST_F(HomeViewControllerTest, WhatIsScannedIsLogged)
+{
+    show();
+    click(5);
+    testing::internal::CaptureStderr();
+    QTest::mouseClick(&home->scanButton(), Qt::LeftButton);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "scanning file:///home/eve/Music/\n");
+}
+
 TEST_F(HomeViewControllerTest, ALocationIsScanned)
 {
     show();
