@@ -543,7 +543,9 @@ TEST_F(ScannerTest, AScanCancelledDuringTheCountReadsNothingMore)
     std::vector<std::string> counted;
     files->onItem([&](const std::string& path) {
         counted.push_back(path);
-        mainThread.performAndWait([&] { scanner.cancel(); });
+        if (counted.size() == 1) {
+            mainThread.performAndWait([&] { scanner.cancel(); });
+        }
     });
     scanner.scan(Url("/data", true));
     mainThread.runUntil([this] { return !delegate.calls.empty(); });
@@ -746,6 +748,7 @@ TEST_F(ScannerTest, SizesThatNoDiskHasDoNotWrapRound)
     // Three times 2^63 bytes and three more would be 2^63 + 3 again.
     TopFolder& root
         = scanToEnd("f/ ( a:9223372036854775808 b:9223372036854775808 c:9223372036854775808 ) d:3");
+    EXPECT_EQ(test::at(root, "f/a").totalAllocation(), 9223372036854775807U);
     EXPECT_EQ(test::at(root, "f").totalAllocation(), 9223372036854775807U);
     EXPECT_EQ(root.totalAllocation(), 9223372036854775807U);
     EXPECT_EQ(root.children()[0]->name(), "f");
