@@ -174,6 +174,7 @@ TEST_F(TreeViewControllerCommandsTest, CompressesTheSelectedItem)
     EXPECT_EQ(
         services.archiver.arguments,
         (std::vector<std::string>{"-c", "-k", "--sequesterRsrc", "/data/docs", "/data/docs.zip"}));
+    services.archiver.output = "1 2\n"; // the file that it made
     services.archiver.onTerminated(1);
     QTRY_COMPARE(services.workspace.recycled.size(), 1U);
     ASSERT_TRUE(services.workspace.finishRecycling({}));
@@ -199,6 +200,7 @@ TEST_F(TreeViewControllerCommandsTest, AnArchiveOfAScanOverALinkIsMadeWhereTheIt
     EXPECT_EQ(
         services.archiver.arguments,
         (std::vector<std::string>{"-c", "-k", "--sequesterRsrc", "/disk/docs", "/disk/docs.zip"}));
+    services.archiver.output = "1 2\n"; // the file that it made
     services.archiver.onTerminated(1);
     QTRY_COMPARE(services.workspace.recycled.size(), 1U);
     ASSERT_TRUE(services.workspace.finishRecycling({}));
