@@ -49,7 +49,8 @@ double peakBytes()
 std::uint64_t buildTree(const char* path, TopFolder& top)
 {
     const tessera::LinuxFileManager fileManager;
-    const auto enumerator = fileManager.enumerator(path, tessera::ItemKeys::SizeAndHidden);
+    const auto enumerator = fileManager.enumerator(
+        path, tessera::ItemKeys::SizeAndHidden, tessera::LinksToStart::Follow);
     std::vector<std::unique_ptr<Folder>> open;
     const auto current = [&]() -> Folder& { return open.empty() ? top : *open.back(); };
     const auto closeDownTo = [&](std::size_t depth) {

@@ -209,7 +209,8 @@ bool measure(
           *services.workspace,
           *services.prompt.resourceValues,
           icons,
-          targetsInUse},
+          targetsInUse,
+          alert},
          motion,
          [](const std::string&) { return std::error_code(); }});
     QCoreApplication::processEvents();
