@@ -44,8 +44,10 @@ BrokenRenames::~BrokenRenames()
 
 } // namespace tessera::test
 
-// What a program defines itself goes before what the C library has.
+// What a program defines itself goes before what the C library has. The names that the library
+// gives the parameters are reserved.
 
+// NOLINTNEXTLINE(readability-inconsistent-declaration-parameter-name)
 extern "C" int renameat2(
     int fromFolder, const char* from, int toFolder, const char* to, unsigned flags) noexcept
 {
@@ -56,6 +58,7 @@ extern "C" int renameat2(
     return tessera::test::rename(fromFolder, from, toFolder, to, flags);
 }
 
+// NOLINTNEXTLINE(readability-inconsistent-declaration-parameter-name)
 extern "C" int renameat(int fromFolder, const char* from, int toFolder, const char* to) noexcept
 {
     return tessera::test::rename(fromFolder, from, toFolder, to, 0);
