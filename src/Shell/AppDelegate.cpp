@@ -65,6 +65,8 @@ AppDelegate::~AppDelegate() = default;
 
 void AppDelegate::applicationDidFinishLaunching()
 {
+    // Which end of which window ends the program is decided here, and not by how many there are.
+    QApplication::setQuitOnLastWindowClosed(false);
     RootModel& model = m_services.mainWindow.model;
     if (Util::realUserName(m_services.userAccount) == "root") {
         model.setIsRunningAsRoot(true);
@@ -154,6 +156,10 @@ bool AppDelegate::mayCloseMainWindow()
 
 void AppDelegate::mainWindowClosed() const
 {
+    // Another start may have brought the window back before its end was heard of.
+    if (m_mainWindow->window().isVisible()) {
+        return;
+    }
     if (m_isFinishing) {
         quitIfFinished();
     } else {

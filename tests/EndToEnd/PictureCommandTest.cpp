@@ -75,11 +75,16 @@ TEST_F(PictureCommand, ThePictureShowsTheFolder)
     EXPECT_NE(image.pixelColor(20, 190), QColor(Qt::black));
 }
 
-TEST_F(PictureCommand, AnEmptyFolderGivesABlackPicture)
+TEST_F(PictureCommand, AnEmptyFolderGivesABlackPictureWithALineInItsMiddle)
 {
     tree.makeFolder("empty");
     EXPECT_EQ(tessera({"--picture", picture, tree.pathOf("empty")}).exitStatus, 0);
-    EXPECT_EQ(pictureAt(picture).pixelColor(800, 500), QColor(Qt::black));
+    const QImage image = pictureAt(picture);
+    QImage black(image.size(), image.format());
+    black.fill(Qt::black);
+    EXPECT_NE(image, black);
+    EXPECT_EQ(image.copy(0, 0, 1600, 480), black.copy(0, 0, 1600, 480));
+    EXPECT_EQ(image.copy(0, 520, 1600, 480), black.copy(0, 520, 1600, 480));
 }
 
 TEST_F(PictureCommand, NamesOfAnyBytesWork)

@@ -24,9 +24,9 @@ class TreeWindowPreview : public TreeWindow {
 protected:
     void preview(const std::string& item, const std::string& content)
     {
-        tree.writeFile(item, content);
         desk().click(placeOf(item));
         ASSERT_TRUE(shows({}, item));
+        tree.writeFile(item, content);
         desk().typeKey(key::kSpace);
         ASSERT_TRUE(opens(XWindow::Kind::Panel));
     }

@@ -259,6 +259,14 @@ protected:
         services.treeScreen.targetsInUse = {"/data/X.zip"};
     }
 
+    /// An end that was asked for twice must not end the next test's event loop.
+    ~AppDelegateWhileCompressing() override
+    {
+        QCoreApplication::removePostedEvents(qApp, QEvent::MetaCall);
+    }
+    AppDelegateWhileCompressing(const AppDelegateWhileCompressing&) = delete;
+    AppDelegateWhileCompressing& operator=(const AppDelegateWhileCompressing&) = delete;
+
     void closeAnswering(int button)
     {
         services.treeScreen.alert.answer = Alert::kFirstButton + button;
