@@ -356,7 +356,7 @@ std::vector<Url> XbelRecentDocuments::recentDocumentUrls() const
     std::vector<Url> urls = listedUrls();
     const auto deadline = m_questions->deadline();
     std::erase_if(urls, [this, deadline](const Url& url) {
-        const std::string path = url.path();
+        const std::string& path = url.path();
         const std::optional<bool> gone = m_questions->ask<bool>(
             path, LinkMode::Keep, [path] { return std::optional(isGone(path)); }, deadline);
         // A server that is down for an hour has lost nothing.

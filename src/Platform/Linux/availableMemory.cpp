@@ -56,7 +56,8 @@ std::uint64_t leftOfGroups(const std::string& root)
     std::uint64_t left = kNoLimit;
     std::string group = ownGroup(root);
     while (!group.empty()) {
-        const std::string folder = root + "/sys/fs/cgroup" + group;
+        std::string folder = root;
+        folder.append("/sys/fs/cgroup").append(group);
         const std::uint64_t limit = numberIn(folder + "/memory.max");
         const std::uint64_t used = numberIn(folder + "/memory.current");
         if (limit != kNoLimit && used != kNoLimit) {
