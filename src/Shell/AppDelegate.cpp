@@ -170,7 +170,7 @@ void AppDelegate::mainWindowClosed() const
 void AppDelegate::quitIfFinished() const
 {
     if (m_isFinishing && !isCompressing()) {
-        QMetaObject::invokeMethod(qApp, &QApplication::quit, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(qApp, "quit", Qt::QueuedConnection);
     }
 }
 

@@ -61,7 +61,9 @@ void MainActions::fill(QMenu& menu, MainMenu entries) const
 
 std::optional<MainCommand> MainActions::disabledCommand(const QKeyEvent& pressed) const
 {
-    const QKeySequence keys(pressed.key() | (pressed.modifiers() & ~Qt::KeypadModifier));
+    Qt::KeyboardModifiers modifiers = pressed.modifiers();
+    modifiers.setFlag(Qt::KeypadModifier, false);
+    const QKeySequence keys(QKeyCombination(modifiers, static_cast<Qt::Key>(pressed.key())));
     const auto found = std::ranges::find_if(m_actions, [&keys](const auto& entry) {
         return !entry.second->isEnabled() && entry.second->shortcuts().contains(keys);
     });

@@ -16,6 +16,7 @@
 #include "Utils/Util.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QMainWindow>
 #include <QMenuBar>

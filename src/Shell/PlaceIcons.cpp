@@ -89,7 +89,7 @@ QPixmap pixmapIn(const QSize& box, const QIcon& icon, qreal pixelRatio, QIcon::M
     const int least = std::max(pixels.width(), pixels.height());
     const auto* const size = std::ranges::lower_bound(kThemeSizes, least);
     const int asked = size == kThemeSizes.end() ? least : *size;
-    const QPixmap drawn = icon.pixmap(QSize(asked, asked), 1, mode);
+    QPixmap drawn = icon.pixmap(QSize(asked, asked), 1, mode);
     if (drawn.isNull()) {
         return drawn;
     }

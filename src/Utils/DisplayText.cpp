@@ -43,7 +43,7 @@ bool isPrintableAscii(char byte)
 
 QString displayText(std::string_view bytes)
 {
-    const QString text = QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    QString text = QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
     // Most names are.
     if (std::all_of(bytes.begin(), bytes.end(), isPrintableAscii)) {
         return text;

@@ -12,6 +12,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <string>
 
@@ -48,13 +49,11 @@ protected:
     bool hasChild() const
     {
         const std::string parent = "\nPPid:\t" + std::to_string(program->process().id()) + "\n";
-        for (const auto& entry : std::filesystem::directory_iterator("/proc")) {
-            const std::string status = fileContent((entry.path() / "status").string());
-            if (status.find(parent) != std::string::npos) {
-                return true;
-            }
-        }
-        return false;
+        const std::filesystem::directory_iterator processes("/proc");
+        return std::any_of(begin(processes), end(processes), [&parent](const auto& entry) {
+            return fileContent((entry.path() / "status").string()).find(parent)
+                != std::string::npos;
+        });
     }
 };
 
