@@ -260,12 +260,7 @@ protected:
     }
 
     /// An end that was asked for twice must not end the next test's event loop.
-    ~AppDelegateWhileCompressing() override
-    {
-        QCoreApplication::removePostedEvents(qApp, QEvent::MetaCall);
-    }
-    AppDelegateWhileCompressing(const AppDelegateWhileCompressing&) = delete;
-    AppDelegateWhileCompressing& operator=(const AppDelegateWhileCompressing&) = delete;
+    void TearDown() override { QCoreApplication::removePostedEvents(qApp, QEvent::MetaCall); }
 
     void closeAnswering(int button)
     {

@@ -82,7 +82,7 @@ protected:
     }
 
     /// The picture of one box that has nothing but its label inside `inner`, in points.
-    static Ink labelInk(File& node, long level, const Rect& rect, const Rect& inner) const
+    static Ink labelInk(File& node, long level, const Rect& rect, const Rect& inner)
     {
         return inkIn(pictureOf(node, level, rect).image(), pixels(inner));
     }
