@@ -20,6 +20,7 @@ struct WorkedOutLevel {
     std::vector<Rect> rects;
 };
 
+// NOLINTNEXTLINE(readability-identifier-naming): GoogleTest looks for this name
 void PrintTo(const WorkedOutLevel& level, std::ostream* out)
 {
     *out << level.sizes.size() << " boxes in " << level.area.width << " x " << level.area.height;

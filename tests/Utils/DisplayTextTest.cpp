@@ -38,10 +38,10 @@ TEST(DisplayText, DoesNotObeyLineSeparatorsOrDirectionOverrides)
 
 TEST(DisplayText, ShowsInvisibleLetters)
 {
-    for (const std::uint32_t letter :
+    for (const int letter :
          {0x00AD, 0x034F, 0x061C, 0x115F, 0x1160, 0x180E,  0x200B,  0x2060,  0x2064,  0x206A,
           0x206F, 0x3164, 0xFEFF, 0xFFA0, 0xFFFB, 0x1BCA0, 0xE0001, 0xE0020, 0xE0065, 0xE007F}) {
-        const std::u32string name{U'a', U'b', char32_t{letter}, U'c', U'd'};
+        const std::u32string name{U'a', U'b', static_cast<char32_t>(letter), U'c', U'd'};
         EXPECT_EQ(
             displayText(QString::fromStdU32String(name).toStdString()),
             QStringLiteral(u"ab\uFFFDcd"))
