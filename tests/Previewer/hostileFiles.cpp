@@ -46,9 +46,11 @@ std::string pdfThatTakesAllMemory()
     std::vector<std::string> objects
         = onePage("/X Do", "/XObject<</X " + std::to_string(kFirstForm) + " 0 R>>");
     for (std::size_t level = 1; level < kLevels; ++level) {
-        const std::string next = std::to_string(kFirstForm + level);
-        objects.push_back(pdfStream(
-            repeated("/X Do ", kTimes), form + "/Resources<</XObject<</X " + next + " 0 R>>>>"));
+        std::string nested = form;
+        nested.append("/Resources<</XObject<</X ")
+            .append(std::to_string(kFirstForm + level))
+            .append(" 0 R>>>>");
+        objects.push_back(pdfStream(repeated("/X Do ", kTimes), nested));
     }
     objects.push_back(pdfStream("0 0 10 10 re f", form));
     return pdfOf(objects);

@@ -139,8 +139,10 @@ TEST(ReadRasterAnswer, SizesArePositive)
         EXPECT_TRUE(isRefused(kPicture, pictureSize(5, side) + kEnd)) << side;
         EXPECT_TRUE(isRefused(kPages, pageCount(side) + kEnd)) << side;
         const std::string size = pictureSize(100, 100);
-        EXPECT_TRUE(isRefused(kPicture, size + frame(Kind::Raster, side, 5) + kEnd)) << side;
-        EXPECT_TRUE(isRefused(kPicture, size + frame(Kind::Raster, 5, side) + kEnd)) << side;
+        const std::string wide = frame(Kind::Raster, side, 5) + kEnd;
+        const std::string high = frame(Kind::Raster, 5, side) + kEnd;
+        EXPECT_TRUE(isRefused(kPicture, size + wide)) << side;
+        EXPECT_TRUE(isRefused(kPicture, size + high)) << side;
     }
 }
 

@@ -26,7 +26,7 @@ protected:
     }
 
     /// What has arrived is told by the event loop.
-    void runEvents(int wanted)
+    void runEvents(int wanted) const
     {
         const QDeadlineTimer limit(20'000);
         while (heard < wanted && !limit.hasExpired()) {
