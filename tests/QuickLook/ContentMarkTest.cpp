@@ -3,12 +3,20 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace tessera {
 namespace {
 
 using namespace std::string_literals;
+
+std::string afterSpaces(std::size_t spaces, std::string_view rest)
+{
+    std::string bytes(spaces, ' ');
+    return bytes.append(rest);
+}
 
 TEST(ContentMark, KnowsThePicturesByTheirFirstBytes)
 {
@@ -50,8 +58,8 @@ TEST(ContentMark, ADrawingThatMayNameOtherFilesIsNoPicture)
 TEST(ContentMark, APdfMayHaveOtherBytesBeforeItsMark)
 {
     EXPECT_EQ(contentMark("%PDF-1.7"), ContentMark::Pages);
-    EXPECT_EQ(contentMark(std::string(1019, ' ') + "%PDF-1.7"), ContentMark::Pages);
-    EXPECT_EQ(contentMark(std::string(1020, ' ') + "%PDF-1.7"), ContentMark::None);
+    EXPECT_EQ(contentMark(afterSpaces(1019, "%PDF-1.7")), ContentMark::Pages);
+    EXPECT_EQ(contentMark(afterSpaces(1020, "%PDF-1.7")), ContentMark::None);
 }
 
 TEST(ContentMark, APictureThatMentionsAPdfIsAPicture)
