@@ -44,6 +44,7 @@ struct Preview {
 /// What is to be looked at, and how much of it can be shown.
 struct PreviewRequest {
     std::string path; ///< absolute, as bytes
+    bool isFolder = false; ///< what it was when it was scanned
     QSize pictureLimit; ///< pixels of the screen that an image can take at the most
     int pageWidth = 0; ///< pixels of the screen that a page takes
 };

@@ -147,6 +147,12 @@ void showContent(
     preview.kind = contentKind(request.path, *beginning, shownContent(preview));
 }
 
+/// A folder in a document's place, or the reverse, is something else of the same name.
+bool isAsScanned(const FileDescription& found, const PreviewRequest& request)
+{
+    return found.error || (found.kind == FileKind::Folder) == request.isFolder;
+}
+
 } // namespace
 
 Preview readPreview(
@@ -157,6 +163,10 @@ Preview readPreview(
 {
     OpenedFile opened = files.open(request.path);
     Preview preview;
+    if (!isAsScanned(opened.description, request)) {
+        preview.file.error = std::make_error_code(std::errc::no_such_file_or_directory);
+        return preview;
+    }
     preview.file = opened.description;
     preview.contentError = opened.contentError;
     if (preview.file.error) {

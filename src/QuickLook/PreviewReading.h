@@ -15,8 +15,9 @@ class RasterDecoder;
 inline constexpr std::size_t kPreviewTextBytes = std::size_t{64} * 1024;
 
 /// Looks at the file and makes of it what can be shown: a picture, pages, the beginning of a text,
-/// or no more than its description. It may block for as long as the file system does, hence runs
-/// on workers only; once `stop` is requested it ends soon, with whatever it has.
+/// or no more than its description. What is no folder any more, or has become one, counts as gone.
+/// It may block for as long as the file system does, hence runs on workers only; once `stop` is
+/// requested it ends soon, with whatever it has.
 Preview readPreview(
     const FileReader& files,
     const RasterDecoder& decoder,

@@ -202,7 +202,11 @@ void QuickLookPanel::load()
     }
     const double scale = devicePixelRatioF();
     const QSize most = PanelBody::mostContentSize(availableGeometry().size() * kMostOfScreen);
-    m_loader->load({m_facts->path, most * scale, static_cast<int>(kPageWidth * scale)});
+    m_loader->load(
+        {m_facts->path,
+         m_facts->itemCount.has_value(),
+         most * scale,
+         static_cast<int>(kPageWidth * scale)});
 }
 
 void QuickLookPanel::showPreview(const Preview& preview)

@@ -42,7 +42,7 @@ protected:
 
     static std::string path(int number) { return "/" + std::to_string(number); }
 
-    void load(int number) const { loader->load({path(number), QSize(10, 10), 10}); }
+    void load(int number) const { loader->load({path(number), false, QSize(10, 10), 10}); }
 
     void holdUp(int number) const
     {

@@ -16,9 +16,10 @@ class PreviewReadingTest : public testing::Test {
 protected:
     Preview read(const std::string& path, const std::stop_token& stop = {}) const
     {
-        return readPreview(files, decoder, {path, QSize(120, 90), 100}, stop);
+        return readPreview(files, decoder, {path, isFolder, QSize(120, 90), 100}, stop);
     }
 
+    bool isFolder = false; ///< when it was scanned
     test::FakeFileReader files;
     test::FakeRasterDecoder decoder;
 };
@@ -194,16 +195,44 @@ TEST_F(PreviewReadingTest, OfAHugeFileOfZerosNoMoreThanItsBeginningIsRead)
     EXPECT_LE(files.bytesRead(), kPreviewTextBytes + 1);
 }
 
-TEST_F(PreviewReadingTest, ItemsWithoutContentAreDescribed)
+TEST_F(PreviewReadingTest, AFolderIsDescribed)
 {
     files.addSpecial("/folder", FileKind::Folder);
+    isFolder = true;
+
+    const Preview preview = read("/folder");
+
+    EXPECT_TRUE(hasNoContent(preview));
+    EXPECT_EQ(preview.kind, QStringLiteral("folder"));
+}
+
+TEST_F(PreviewReadingTest, AFileThatTookAFoldersPlaceIsNotShown)
+{
+    files.addFile("/folder", "somebody else's text");
+    isFolder = true;
+
+    const Preview preview = read("/folder");
+
+    EXPECT_EQ(preview.file.error, std::errc::no_such_file_or_directory);
+    EXPECT_TRUE(hasNoContent(preview));
+    EXPECT_EQ(files.bytesRead(), 0U);
+}
+
+TEST_F(PreviewReadingTest, AFolderThatTookAFilesPlaceIsNotShown)
+{
+    files.addSpecial("/a.png", FileKind::Folder);
+
+    EXPECT_EQ(read("/a.png").file.error, std::errc::no_such_file_or_directory);
+}
+
+TEST_F(PreviewReadingTest, ItemsWithoutContentAreDescribed)
+{
     files.addSpecial("/pipe", FileKind::Fifo);
     files.addSpecial("/socket", FileKind::Socket);
     files.addSpecial("/dev/zero", FileKind::CharacterDevice);
     files.addSpecial("/dev/sda", FileKind::BlockDevice);
     for (const auto& [path, kind] :
-         {std::pair("/folder", "folder"),
-          std::pair("/pipe", "pipe"),
+         {std::pair("/pipe", "pipe"),
           std::pair("/socket", "socket"),
           std::pair("/dev/zero", "character device"),
           std::pair("/dev/sda", "block device")}) {
