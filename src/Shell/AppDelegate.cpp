@@ -91,7 +91,7 @@ void AppDelegate::applicationDidFinishLaunching()
     m_compressObservation = NotificationCenter::defaultCenter().addObserver(
         "ItemCompressed", [this](const NotificationObject&) { quitIfFinished(); });
     m_folderDrop = std::make_unique<FolderDrop>(
-        mainWindow.window(), m_services.mainWindow.treeScreen.scanEnvironment.resourceValues);
+        mainWindow.window(), m_services.mainWindow.treeScreen.resourceValues);
     connect(m_folderDrop.get(), &FolderDrop::dropped, this, &AppDelegate::openFile);
     mainWindow.showWindow();
 }

@@ -19,6 +19,10 @@ public:
     /// that its file system is slow or dead.
     [[nodiscard]] virtual std::error_code checkFolder(const std::string& path) const = 0;
 
+    /// The same of an absolute path of which no part may be a link, the folder itself neither.
+    [[nodiscard]] virtual std::error_code checkFolderWithoutLinks(
+        const std::string& path) const = 0;
+
     /// The path from the root, with symbolic links resolved as far as that works.
     [[nodiscard]] virtual std::string absolutePath(const std::string& path) const = 0;
 

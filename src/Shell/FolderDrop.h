@@ -20,7 +20,8 @@ class FolderDrop final : public QObject {
     Q_OBJECT
 
 public:
-    /// Both must outlive this object.
+    /// Both must outlive this object. The values are asked by the main thread, so they give up
+    /// before anybody notices: a folder that does not answer is refused.
     FolderDrop(QWidget& window, const ResourceValues& resourceValues);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -111,9 +111,6 @@ WindowedProgram::~WindowedProgram()
 MainWindowServices WindowedProgram::mainWindowServices(
     const LaunchServices& services, RootModel& model) const
 {
-    const auto checkFolder = [&files = services.promptFiles](const std::string& path) {
-        return files.checkFolder(path);
-    };
     const TreeViewServices treeScreen{
         services.scanEnvironment,
         services.promptResourceValues,
@@ -129,13 +126,17 @@ MainWindowServices WindowedProgram::mainWindowServices(
          m_desktop->targetsInUse,
          m_desktop->alert},
         services.motion,
-        checkFolder};
+        [&files = services.promptFiles](const std::string& path) {
+            return files.checkFolderWithoutLinks(path);
+        }};
     const ScanningServices scanScreen{
         services.scanEnvironment,
         m_desktop->dockTile,
         m_desktop->alert,
         [desktop = m_desktop.get()](const Url& folder) { return desktop->places.look(folder); },
-        checkFolder};
+        [&files = services.promptFiles](const std::string& path) {
+            return files.checkFolder(path);
+        }};
     return {
         model,
         treeScreen,

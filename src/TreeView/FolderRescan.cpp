@@ -18,6 +18,14 @@ namespace {
 
 constexpr int kPercentDecimals = 6;
 
+/// Whether nothing, or no folder, stands there now. A link that has taken the place of a folder may
+/// lead to one, but not to the one that was scanned.
+bool isGone(const std::error_code& problem)
+{
+    return problem == std::errc::no_such_file_or_directory || problem == std::errc::not_a_directory
+        || problem == std::errc::too_many_symbolic_link_levels;
+}
+
 } // namespace
 
 FolderRescan::FolderRescan(
@@ -131,15 +139,18 @@ void FolderRescan::noteChange(const File& node)
 /// the change. In the order of the set a folder comes before what is in it.
 void FolderRescan::applyChanges(TopFolder& scanned)
 {
+    // First what was read: what is brought afterwards may be on the way to another of the paths.
+    for (const std::string& path : m_changedPaths) {
+        if (File* const read = nodeAtPath(scanned, path)) {
+            read->parent()->removeChild(*read);
+        }
+    }
     File* root = m_rescanFolder;
     while (root->parent() != nullptr) {
         root = root->parent();
     }
     auto& shown = *nodeCast<TopFolder>(root);
     for (const std::string& path : m_changedPaths) {
-        if (File* const read = nodeAtPath(scanned, path)) {
-            read->parent()->removeChild(*read);
-        }
         File* const known = nodeAtPath(shown, path);
         auto* const parent = nodeCast<Folder>(nodeAtPath(scanned, path.substr(0, path.rfind('/'))));
         if (known != nullptr && parent != nullptr) {
@@ -176,8 +187,9 @@ void FolderRescan::scanEnded(Scanner& scanner)
     Folder& folder = *m_rescanFolder;
     std::unique_ptr<TopFolder> scanned = m_homePass.takeTree(scanner);
     // A scan passes over what it cannot read, the folder itself as well.
-    const std::error_code problem
-        = scanned->children().empty() ? m_checkFolder(folder.absolutePath()) : std::error_code{};
+    const std::error_code problem = scanned->children().empty()
+        ? m_checkFolder(placeOnDisk(folder).path())
+        : std::error_code{};
     if (problem) {
         end();
         giveUp(folder, problem);
@@ -206,10 +218,8 @@ void FolderRescan::replace(Folder& folder, std::unique_ptr<TopFolder> scanned)
 /// none.
 void FolderRescan::giveUp(Folder& folder, const std::error_code& problem)
 {
-    const bool isGone
-        = problem == std::errc::no_such_file_or_directory || problem == std::errc::not_a_directory;
     std::unique_ptr<File> old; // lives until nothing on screen stands for it any more
-    if (isGone) {
+    if (isGone(problem)) {
         m_screen.nodeWillLeave(folder);
         old = folder.parent()->removeChild(folder);
         m_screen.objectTreeRefreshed();

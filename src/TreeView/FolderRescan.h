@@ -29,7 +29,8 @@ class TreeScreen;
 /// One rescan runs at a time. Main thread only.
 class FolderRescan final : private ScannerDelegate {
 public:
-    /// Why the folder of that path cannot be read; no error when it can. Answers at once.
+    /// Why the folder of that path cannot be read; no error when it can. No part of the path may be
+    /// a link. Answers at once.
     using FolderCheck = std::function<std::error_code(const std::string& path)>;
 
     /// All must outlive it. The indicator is put on the view.

@@ -27,7 +27,8 @@ struct TreeViewServices {
     Alert& alert;
     CompressServices compressing;
     const MotionPreference& motion;
-    /// Why the folder of that path cannot be read; no error when it can. Answers at once.
+    /// Why the folder of that path cannot be read; no error when it can. No part of the path is a
+    /// link. Answers at once.
     std::function<std::error_code(const std::string& path)> checkFolder;
     ZoomAnimation::Clock zoomClock = ZoomAnimation::steadyClock; ///< what zooms go by
 };

@@ -221,7 +221,7 @@ TEST_F(ScanningViewControllerTest, AFractionAboveOneGoesToTheBarAsItIs)
 {
     makeScanner("a:900 b:400 c:300");
     // A volume of which 700 bytes are in use.
-    system->resourceValues.volumes.insert("/disk");
+    system->scanResourceValues.volumes.insert("/disk");
     controller->startScanning(Url("/disk", true));
     runUntil([this] { return tile.displayed.size() == 2; });
 
@@ -458,7 +458,7 @@ protected:
     {
         userHome = home;
         makeScanner(items);
-        system->resourceValues.volumes.insert("/Users/me");
+        system->scanResourceValues.volumes.insert("/Users/me");
         controller->startScanning(Url("/Users", true));
     }
 };
@@ -479,7 +479,7 @@ TEST_F(EncryptedHomeTest, TheSecondPassBeginsWithoutARateAgain)
 {
     const std::size_t reports = 27; // a pass meets the home folder and its files
     makeScanner("me/ ( " + filesText(26) + ")");
-    system->resourceValues.volumes.insert("/Users/me");
+    system->scanResourceValues.volumes.insert("/Users/me");
     controller->startScanning(Url("/Users", true));
     runToEnd();
 
@@ -536,7 +536,7 @@ TEST_F(EncryptedHomeTest, ASiblingWhoseNameTheHomesBeginsWithDoesNotHideIt)
 TEST_F(EncryptedHomeTest, AMountedFolderOfTheUsersNameInTheHomeStartsNoThirdPass)
 {
     makeScanner("me/ ( a:300 )");
-    system->resourceValues.volumes = {"/Users/me", "/Users/me/me"};
+    system->scanResourceValues.volumes = {"/Users/me", "/Users/me/me"};
     controller->startScanning(Url("/Users", true));
     runToEnd();
     EXPECT_EQ(model.topFolder()->origin(), "/Users");

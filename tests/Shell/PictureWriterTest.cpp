@@ -25,6 +25,10 @@ public:
     {
         return {};
     }
+    [[nodiscard]] std::error_code checkFolderWithoutLinks(const std::string& path) const override
+    {
+        return checkFolder(path);
+    }
     [[nodiscard]] std::string absolutePath(const std::string& path) const override { return path; }
     [[nodiscard]] std::error_code writeFile(
         const std::string& /*path*/, std::string_view bytes) const override
@@ -85,7 +89,7 @@ protected:
 
 TEST_F(PictureWriterTest, AnEncryptedHomeIsScannedAfterWhatIsAroundIt)
 {
-    services.resourceValues.volumes = {"/Users/me"};
+    services.scanResourceValues.volumes = {"/Users/me"};
     EXPECT_EQ(write("/Users"), "");
     EXPECT_THAT(
         services.files.enumeratedPaths(),

@@ -85,6 +85,19 @@ TEST_F(FolderRescanChanges, WhatMovesIntoTheFolderMeanwhileIsInTheNewTreeAndStay
     EXPECT_EQ(controller->selectedFile(), &node("docs/o 2"));
 }
 
+TEST_F(FolderRescanChanges, WhatMovesIntoAFolderThatCameMeanwhileComesAlongWithIt)
+{
+    rescan("docs");
+    trashTo("other/o", "/data/docs/.Trash-7/files/o");
+    trashTo("tiny/t", "/data/docs/.Trash-7/files/t");
+    controller->setSelectedFile(&node("docs/.Trash-7/files/t"));
+    finish();
+    EXPECT_EQ(node("docs/.Trash-7/files/o").totalAllocation(), 600U);
+    EXPECT_EQ(node("docs/.Trash-7/files/t").totalAllocation(), 1U);
+    EXPECT_EQ(controller->selectedFile(), &node("docs/.Trash-7/files/t"));
+    EXPECT_EQ(model.topFolder()->totalAllocation(), 1601U);
+}
+
 TEST_F(FolderRescanChanges, TheNextRescanKnowsNothingOfWhatLeftDuringTheOneBefore)
 {
     rescan("docs");
@@ -227,7 +240,9 @@ TEST_F(EmptyRescanTest, AnEmptyFolderIsShownEmpty)
 TEST_F(EmptyRescanTest, AFolderThatIsGoneLeavesTheTreeWithoutAWord)
 {
     for (const std::errc problem :
-         {std::errc::no_such_file_or_directory, std::errc::not_a_directory}) {
+         {std::errc::no_such_file_or_directory,
+          std::errc::not_a_directory,
+          std::errc::too_many_symbolic_link_levels}) {
         model.setTopFolder(test::makeTree("/data", "docs/ ( a:500 ) other/ ( o:600 )"));
         controller = std::make_unique<TreeViewController>(model, view, services.get());
         services.folderProblem = std::make_error_code(problem);
@@ -238,6 +253,13 @@ TEST_F(EmptyRescanTest, AFolderThatIsGoneLeavesTheTreeWithoutAWord)
         EXPECT_TRUE(services.alert.told.empty());
         EXPECT_EQ(services.checkedFolder, "/data/docs");
     }
+}
+
+TEST_F(EmptyRescanTest, AnEmptyFolderIsAskedForByThePathWithoutLinks)
+{
+    model.topFolder()->setRealOrigin("/disk");
+    rescanDocs();
+    EXPECT_EQ(services.checkedFolder, "/disk/docs");
 }
 
 TEST_F(EmptyRescanTest, WhenTheFolderInViewIsGoneTheOneAroundItIsShown)

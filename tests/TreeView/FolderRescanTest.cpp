@@ -23,7 +23,7 @@ TEST_F(FolderRescanTest, PutsTheNewTreeInTheFoldersPlace)
 
 TEST_F(FolderRescanTest, AFolderOnWhichADiskIsMountedNowHoldsNothingAndIsNoDisk)
 {
-    services.resourceValues.volumes = {"/data/docs"};
+    services.scanResourceValues.volumes = {"/data/docs"};
     rescan("docs");
     finish();
     EXPECT_EQ(node("docs").type(), NodeType::TopFolder);
@@ -38,7 +38,7 @@ protected:
     HomeRescanTest()
         : FolderRescanTest("/data/docs/new")
     {
-        services.resourceValues.volumes = {"/data/docs/new"};
+        services.scanResourceValues.volumes = {"/data/docs/new"};
     }
 };
 

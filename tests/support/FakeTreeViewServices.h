@@ -39,6 +39,7 @@ struct FakeTreeViewServices {
     }
 
     FakeFileManager files;
+    FakeResourceValues scanResourceValues; ///< of rescans, which may take as long as they like
     FakeResourceValues resourceValues;
     FixedFileSystem fileSystem{FileSystemSizes{1000, 300}};
     FakeMainThread mainThread;
@@ -67,7 +68,7 @@ struct FakeTreeViewServices {
     {
         return {
             {files,
-             resourceValues,
+             scanResourceValues,
              fileSystem,
              mainThread,
              [this] { return scanClock.load(); },

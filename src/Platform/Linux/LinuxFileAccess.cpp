@@ -2,6 +2,8 @@
 #include "Platform/Linux/LinuxFileAccess.h"
 
 #include "Platform/Linux/FileDescriptor.h"
+#include "Platform/Linux/LongPath.h"
+#include "Platform/Linux/lastError.h"
 #include "Platform/Linux/realPath.h"
 #include "Platform/Linux/writeWholeFile.h"
 
@@ -18,14 +20,20 @@ namespace tessera {
 
 namespace {
 
-std::error_code lastError()
-{
-    return {errno, std::generic_category()};
-}
-
 std::error_code tryToOpenFolder(const std::string& path)
 {
     const FileDescriptor folder(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    return folder.isOpen() ? std::error_code{} : lastError();
+}
+
+std::error_code tryToOpenFolderWithoutLinks(const std::string& path)
+{
+    const NamedPlace place = openFolderOfWithoutLinks(path);
+    if (place.error != 0) {
+        return {place.error, std::generic_category()};
+    }
+    constexpr int kFlags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+    const FileDescriptor folder(::openat(place.folder.number(), place.name.c_str(), kFlags));
     return folder.isOpen() ? std::error_code{} : lastError();
 }
 
@@ -36,15 +44,28 @@ LinuxFileAccess::LinuxFileAccess(std::shared_ptr<const FileSystemQuestions> ques
 {
 }
 
-std::error_code LinuxFileAccess::checkFolder(const std::string& path) const
+std::error_code LinuxFileAccess::answer(
+    const std::string& path,
+    LinkMode linkMode,
+    std::error_code (*question)(const std::string&)) const
 {
     if (m_questions == nullptr) {
-        return tryToOpenFolder(path);
+        return question(path);
     }
     return m_questions
         ->ask<std::error_code>(
-            path, LinkMode::Follow, [path] { return std::optional(tryToOpenFolder(path)); })
+            path, linkMode, [path, question] { return std::optional(question(path)); })
         .value_or(std::make_error_code(std::errc::timed_out));
+}
+
+std::error_code LinuxFileAccess::checkFolder(const std::string& path) const
+{
+    return answer(path, LinkMode::Follow, tryToOpenFolder);
+}
+
+std::error_code LinuxFileAccess::checkFolderWithoutLinks(const std::string& path) const
+{
+    return answer(path, LinkMode::Keep, tryToOpenFolderWithoutLinks);
 }
 
 std::string LinuxFileAccess::absolutePath(const std::string& path) const

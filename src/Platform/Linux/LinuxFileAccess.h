@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Platform/Linux/FileStatus.h"
 #include "Platform/Linux/FileSystemQuestions.h"
 #include "Shell/FileAccess.h"
 
@@ -16,11 +17,17 @@ public:
     explicit LinuxFileAccess(std::shared_ptr<const FileSystemQuestions> questions);
 
     [[nodiscard]] std::error_code checkFolder(const std::string& path) const override;
+    [[nodiscard]] std::error_code checkFolderWithoutLinks(const std::string& path) const override;
     [[nodiscard]] std::string absolutePath(const std::string& path) const override;
     [[nodiscard]] std::error_code writeFile(
         const std::string& path, std::string_view bytes) const override;
 
 private:
+    std::error_code answer(
+        const std::string& path,
+        LinkMode linkMode,
+        std::error_code (*question)(const std::string&)) const;
+
     std::shared_ptr<const FileSystemQuestions> m_questions; ///< null when there is no hurry
 };
 

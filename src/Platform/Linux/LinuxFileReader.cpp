@@ -4,6 +4,7 @@
 #include "Platform/Linux/FileDescriptor.h"
 #include "Platform/Linux/LinuxReadableFile.h"
 #include "Platform/Linux/LongPath.h"
+#include "Platform/Linux/lastError.h"
 
 #include <fcntl.h>
 #include <linux/stat.h>
@@ -27,22 +28,22 @@ constexpr int kPlaceFlags = O_PATH | O_CLOEXEC;
 /// become ours.
 constexpr int kContentFlags = O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
 
-using Place = std::variant<FileDescriptor, std::error_code>;
+using Opened = std::variant<FileDescriptor, std::error_code>;
 
-Place openAt(int directory, const std::string& name, int flags)
+Opened openAt(int directory, const std::string& name, int flags)
 {
     int number = -1;
     do {
         number = ::openat(directory, name.c_str(), flags);
     } while (number < 0 && errno == EINTR);
     if (number < 0) {
-        return std::error_code(errno, std::generic_category());
+        return lastError();
     }
     return FileDescriptor(number);
 }
 
 /// A link that is met on the way was put there after the scan, and may lead to anything.
-Place openPlace(const std::string& path)
+Opened openPlace(const std::string& path)
 {
     const NamedPlace place = openFolderOfWithoutLinks(path);
     if (place.error != 0) {
@@ -96,7 +97,7 @@ FileDescription describe(const FileDescriptor& place)
     FileDescription description;
     struct stat values { };
     if (::fstat(place.number(), &values) != 0) {
-        description.error = {errno, std::generic_category()};
+        description.error = lastError();
         return description;
     }
     description.kind = kindOf(values.st_mode);
@@ -111,11 +112,11 @@ FileDescription describe(const FileDescriptor& place)
 }
 
 /// Opens what `place` stands for, whatever has taken its name meanwhile.
-Place openContent(const FileDescriptor& place)
+Opened openContent(const FileDescriptor& place)
 {
     const std::string link = "/proc/self/fd/" + std::to_string(place.number());
     // A look at a file should not count as use of it, but only its owner may ask for that.
-    Place content = openAt(AT_FDCWD, link, kContentFlags | O_NOATIME);
+    Opened content = openAt(AT_FDCWD, link, kContentFlags | O_NOATIME);
     const auto* error = std::get_if<std::error_code>(&content);
     if (error != nullptr && *error == std::errc::operation_not_permitted) {
         return openAt(AT_FDCWD, link, kContentFlags);
@@ -128,7 +129,7 @@ Place openContent(const FileDescriptor& place)
 OpenedFile LinuxFileReader::open(const std::string& path) const
 {
     OpenedFile opened;
-    const Place place = openPlace(path);
+    const Opened place = openPlace(path);
     if (const auto* error = std::get_if<std::error_code>(&place)) {
         opened.description.error = *error;
         return opened;
@@ -138,7 +139,7 @@ OpenedFile LinuxFileReader::open(const std::string& path) const
     if (opened.description.kind != FileKind::Regular) {
         return opened;
     }
-    Place content = openContent(found);
+    Opened content = openContent(found);
     if (const auto* error = std::get_if<std::error_code>(&content)) {
         opened.contentError = *error;
     } else {

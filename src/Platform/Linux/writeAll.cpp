@@ -1,20 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/writeAll.h"
 
+#include "Platform/Linux/lastError.h"
+
 #include <unistd.h>
 
-#include <cerrno>
-
 namespace tessera {
-
-namespace {
-
-std::error_code lastError()
-{
-    return {errno, std::generic_category()};
-}
-
-} // namespace
 
 std::error_code writeBytes(const FileDescriptor& file, std::string_view bytes)
 {

@@ -2,6 +2,7 @@
 #include "Platform/Linux/writeWholeFile.h"
 
 #include "Platform/Linux/FileDescriptor.h"
+#include "Platform/Linux/lastError.h"
 #include "Platform/Linux/renameWithoutReplacing.h"
 #include "Platform/Linux/writeAll.h"
 
@@ -28,20 +29,15 @@ namespace tessera {
 namespace {
 
 constexpr mode_t kNewFileMode = 0666; // of which the system takes what the user's umask says
-constexpr mode_t kPrivateMode = 0600;
+constexpr mode_t kTemporaryMode = 0600;
 constexpr mode_t kPermissions = 0777;
 constexpr const char* kAccessList = "system.posix_acl_access";
 constexpr int kMostTries = 100;
 
 using Status = struct stat;
 
-std::error_code lastError()
-{
-    return {errno, std::generic_category()};
-}
-
 /// An open folder and the name of a file in it.
-struct Place {
+struct Target {
     FileDescriptor folder;
     std::string name;
 };
@@ -53,7 +49,7 @@ bool isOnProc(const FileDescriptor& folder)
 }
 
 /// One step from `base`, an open folder or AT_FDCWD.
-std::optional<Place> placeOf(int base, const std::string& path)
+std::optional<Target> placeOf(int base, const std::string& path)
 {
     const std::size_t slash = path.rfind('/');
     const std::string folder = slash == std::string::npos ? "." : path.substr(0, slash + 1);
@@ -62,17 +58,17 @@ std::optional<Place> placeOf(int base, const std::string& path)
     if (!opened.isOpen()) {
         return std::nullopt;
     }
-    return Place{std::move(opened), name};
+    return Target{std::move(opened), name};
 }
 
 /// Where the links at the path's end lead to, also when nothing is there yet. None, with errno,
 /// when that is no place in a folder: the standard output's link in /proc has a path as its text,
 /// but leads to what is open, which others go on writing to.
-std::optional<Place> followLinks(const std::string& path)
+std::optional<Target> followLinks(const std::string& path)
 {
     constexpr int kMostLinks = 40; // as the kernel's limit
     std::array<char, PATH_MAX> text{};
-    std::optional<Place> place = placeOf(AT_FDCWD, path);
+    std::optional<Target> place = placeOf(AT_FDCWD, path);
     for (int links = 0; place && links < kMostLinks; ++links) {
         const ssize_t length
             = ::readlinkat(place->folder.number(), place->name.c_str(), text.data(), text.size());
@@ -89,7 +85,7 @@ std::optional<Place> followLinks(const std::string& path)
     return place ? std::nullopt : std::move(place);
 }
 
-bool isSameFile(const Place& place, const Status& file)
+bool isSameFile(const Target& place, const Status& file)
 {
     Status found{};
     return ::fstatat(place.folder.number(), place.name.c_str(), &found, AT_SYMLINK_NOFOLLOW) == 0
@@ -125,7 +121,7 @@ public:
     const FileDescriptor& file() const { return m_file; }
 
     /// 0, or errno.
-    int replace(const Place& place)
+    int replace(const Target& place)
     {
         m_isMoved
             = ::renameat(
@@ -134,7 +130,7 @@ public:
         return m_isMoved ? 0 : errno;
     }
 
-    int moveTo(const Place& place)
+    int moveTo(const Target& place)
     {
         const int error = renameWithoutReplacing({m_folder, m_name}, {place.folder, place.name});
         m_isMoved = error == 0;
@@ -184,11 +180,11 @@ std::optional<std::error_code> replace(
     const Status& status,
     std::string_view bytes)
 {
-    const std::optional<Place> place = followLinks(path);
+    const std::optional<Target> place = followLinks(path);
     if (!place || status.st_nlink != 1 || !isSameFile(*place, status)) {
         return std::nullopt;
     }
-    Temporary temporary(place->folder, kPrivateMode);
+    Temporary temporary(place->folder, kTemporaryMode);
     const int error = temporary.error();
     if (error == EACCES || error == EPERM || error == EROFS) {
         return std::nullopt;
@@ -260,7 +256,7 @@ std::error_code writeExisting(
 /// EEXIST when something has come to be there meanwhile.
 std::error_code writeNew(const std::string& path, std::string_view bytes)
 {
-    const std::optional<Place> place = followLinks(path);
+    const std::optional<Target> place = followLinks(path);
     if (!place) {
         return lastError();
     }

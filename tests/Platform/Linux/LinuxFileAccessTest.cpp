@@ -47,6 +47,33 @@ TEST(LinuxFileAccess, SaysThatAFileOrAFifoIsNoFolder)
     EXPECT_EQ(LinuxFileAccess().checkFolder(tree.pathOf("fifo")), std::errc::not_a_directory);
 }
 
+TEST(LinuxFileAccess, AFolderIsReadableThroughALinkOnlyWhereLinksAreFollowed)
+{
+    const test::TempTree tree;
+    tree.makeFolder("real");
+    tree.makeFolder("real/inner");
+    tree.makeSymbolicLink("link", "real");
+    const std::string root = LinuxFileAccess().absolutePath(tree.path());
+
+    EXPECT_FALSE(LinuxFileAccess().checkFolder(root + "/link"));
+    EXPECT_EQ(
+        LinuxFileAccess().checkFolderWithoutLinks(root + "/link"), std::errc::not_a_directory);
+    EXPECT_EQ(
+        LinuxFileAccess().checkFolderWithoutLinks(root + "/link/inner"),
+        std::errc::too_many_symbolic_link_levels);
+    EXPECT_FALSE(LinuxFileAccess().checkFolderWithoutLinks(root + "/real/inner"));
+}
+
+TEST(LinuxFileAccess, SaysWithoutFollowingLinksThatAFolderIsNotThere)
+{
+    const test::TempTree tree;
+    const std::string root = LinuxFileAccess().absolutePath(tree.path());
+
+    EXPECT_EQ(
+        LinuxFileAccess().checkFolderWithoutLinks(root + "/none"),
+        std::errc::no_such_file_or_directory);
+}
+
 TEST(LinuxFileAccess, ResolvesSymbolicLinksInPaths)
 {
     const test::TempTree tree;
@@ -105,6 +132,15 @@ TEST(LinuxFileAccess, InAHurryADeadFolderIsTimedOutAndKeepsItsPath)
     const LinuxFileAccess files(questions);
     EXPECT_EQ(files.checkFolder("/proc/self"), std::errc::timed_out);
     EXPECT_EQ(files.absolutePath("/proc/self"), "/proc/self");
+}
+
+TEST(LinuxFileAccess, InAHurryADeadFolderIsTimedOutWithoutFollowingLinksToo)
+{
+    const auto questions = std::make_shared<const FileSystemQuestions>(std::chrono::minutes(1));
+    const test::DeadFileSystem dead;
+    dead.swallow(*questions, "/proc/sys", LinkMode::Keep);
+    EXPECT_EQ(
+        LinuxFileAccess(questions).checkFolderWithoutLinks("/proc/sys"), std::errc::timed_out);
 }
 
 TEST(LinuxFileAccess, AFileThatCannotBeWrittenLeavesNothingBehind)
