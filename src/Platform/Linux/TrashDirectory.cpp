@@ -2,6 +2,7 @@
 #include "Platform/Linux/TrashDirectory.h"
 
 #include "Platform/Linux/TrashItem.h"
+#include "Utils/Log.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -89,6 +90,15 @@ int openParts(TrashDirectory& trash, const FileDescriptor& folder)
     }
     trash.path = pathOf(folder);
     return trash.path.empty() ? ENOENT : 0;
+}
+
+/// The administrator made one for all users, and should learn why it is passed over.
+void logUnsafeTrash(const std::string& topDirectory)
+{
+    logLine(
+        "%s/%s is not used as a trash: it is no folder, or others may remove what is in it",
+        topDirectory == "/" ? "" : topDirectory.c_str(),
+        kSharedName.data());
 }
 
 TrashDirectoryResult openOwnTrash(const FileDescriptor& parent, const std::string& name, uid_t user)
@@ -185,10 +195,13 @@ TrashDirectoryResult openTopTrash(const std::string& topDirectory, uid_t user)
     const std::string number = std::to_string(user);
     const FileDescriptor top = enter(FileDescriptor(), topDirectory);
     const FileDescriptor shared = enter(top, std::string(kSharedName), O_NOFOLLOW);
+    const bool isThere = shared.isOpen() || errno != ENOENT;
     TrashDirectoryResult result;
     result.error = EPERM;
     if (shared.isOpen() && isForAllUsers(shared)) {
         result = openOwnTrash(shared, number, user);
+    } else if (isThere) {
+        logUnsafeTrash(topDirectory);
     }
     if (!result) {
         result = openOwnTrash(top, std::string(kSharedName) + '-' + number, user);

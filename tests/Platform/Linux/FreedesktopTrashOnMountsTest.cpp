@@ -81,6 +81,28 @@ TEST_F(TrashOnAMount, OneThatIsALinkIsNot)
     EXPECT_THAT(namesIn(m_disk + "/elsewhere"), IsEmpty());
 }
 
+TEST_F(TrashOnAMount, WhyATrashForAllIsPassedOverIsLogged)
+{
+    m_tree.makeFolder("disk/.Trash");
+    m_tree.setMode("disk/.Trash", 0777);
+    m_tree.makeFile("disk/a");
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(move("disk/a"), "");
+    EXPECT_EQ(
+        testing::internal::GetCapturedStderr(),
+        m_disk
+            + "/.Trash is not used as a trash: it is no folder, or others may remove what is in "
+              "it\n");
+}
+
+TEST_F(TrashOnAMount, WithoutATrashForAllNothingIsLogged)
+{
+    m_tree.makeFile("disk/a");
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(move("disk/a"), "");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
 TEST_F(TrashOnAMount, AUsersPartOfItThatIsALinkIsNot)
 {
     m_tree.makeFolder("disk/.Trash");
