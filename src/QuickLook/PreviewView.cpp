@@ -26,14 +26,14 @@ constexpr QSize kLeastPictureSize{360, 200};
 constexpr int kPagesHeight = 900;
 constexpr int kPageGap = 12;
 constexpr int kTextMargin = 10;
-constexpr int kTextPixels = 12;
+constexpr int kContentTextPixels = 12;
 
 // NOLINTBEGIN(cppcoreguidelines-owning-memory): their parents own them
 QPlainTextEdit* makeTextView(QWidget* parent)
 {
     auto* const view = new QPlainTextEdit(parent);
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    font.setPixelSize(kTextPixels);
+    font.setPixelSize(kContentTextPixels);
     view->setFont(font);
     view->setReadOnly(true);
     view->setUndoRedoEnabled(false);

@@ -12,7 +12,7 @@ namespace tessera {
 namespace {
 
 constexpr double kInset = 2;
-constexpr double kRadius = 4;
+constexpr double kCornerRadius = 4;
 constexpr double kOutlineWidth = 2;
 constexpr double kAroundIcon = 1;
 
@@ -20,7 +20,8 @@ QPainterPath roundedInside(const QRectF& frame, double inset)
 {
     const QRectF inside = frame.adjusted(inset, inset, -inset, -inset);
     QPainterPath path;
-    addRoundedRectToPath(path, {inside.x(), inside.y(), inside.width(), inside.height()}, kRadius);
+    addRoundedRectToPath(
+        path, {inside.x(), inside.y(), inside.width(), inside.height()}, kCornerRadius);
     return path;
 }
 

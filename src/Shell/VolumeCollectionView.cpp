@@ -16,7 +16,7 @@ namespace tessera {
 
 namespace {
 
-constexpr double kDisabledAlpha = 0.7;
+constexpr double kDisabledDiskAlpha = 0.7;
 
 float filledShare(const FileSystemSizes& sizes)
 {
@@ -91,7 +91,7 @@ void VolumeCollectionView::updateAlphaValue()
 {
     // A volume that was disabled once stays pale, unlike a folder.
     if (disabled()) {
-        setAlphaValue(kDisabledAlpha);
+        setAlphaValue(kDisabledDiskAlpha);
     }
 }
 

@@ -34,12 +34,12 @@ constexpr double kTextLeft = 19.0;
 constexpr double kTextTop = 4.0;
 constexpr double kTextMargins = 32.0;
 constexpr double kMinTextWidth = 4.0;
-constexpr double kShadowDrop = 1.0;
+constexpr double kTitleShadowDrop = 1.0;
 
 constexpr double kLeastHeight = 18.0;
 
 constexpr std::uint32_t kTextHex = 0x000000;
-constexpr std::uint32_t kShadowHexA = 0xFFFFFF7F;
+constexpr std::uint32_t kShadowOnLightHexA = 0xFFFFFF7F;
 constexpr std::uint32_t kShadowOnDarkHexA = 0x0000007F;
 constexpr std::uint32_t kDarkGrayHex = 0x555555;
 constexpr std::uint32_t kLightGrayHex = 0xAAAAAA;
@@ -92,7 +92,7 @@ TextAttributes CenteredPathComponentCell::foreground(const QPalette& palette) co
 
 TextAttributes CenteredPathComponentCell::background(const QPalette& palette) const
 {
-    return textAttributes(colorWithHexA(isDark(palette) ? kShadowOnDarkHexA : kShadowHexA));
+    return textAttributes(colorWithHexA(isDark(palette) ? kShadowOnDarkHexA : kShadowOnLightHexA));
 }
 
 TextAttributes CenteredPathComponentCell::textAttributes(const QColor& color) const
@@ -128,7 +128,7 @@ void CenteredPathComponentCell::drawInteriorWithFrame(
         cellFrame.height};
     if (text.width > kMinTextWidth) {
         drawTitle(text, inView, background(palette));
-        drawTitle(text.translated(0, -kShadowDrop), inView, foreground(palette));
+        drawTitle(text.translated(0, -kTitleShadowDrop), inView, foreground(palette));
     }
 }
 

@@ -7,20 +7,16 @@
 
 namespace tessera {
 
-namespace {
-
-struct Block {
-    // Left uninitialised on purpose: painting writes every pixel.
-    // NOLINTNEXTLINE(modernize-avoid-c-arrays): the one owner of a run of raw bytes
-    std::unique_ptr<std::byte[]> bytes;
-    std::size_t size = 0;
-};
-
-} // namespace
-
 /// Keeps the last released block: a view holds one picture while the next is painted.
 class PixelMemory::Pool {
 public:
+    struct Block {
+        // Left uninitialised on purpose: painting writes every pixel.
+        // NOLINTNEXTLINE(modernize-avoid-c-arrays): the one owner of a run of raw bytes
+        std::unique_ptr<std::byte[]> bytes;
+        std::size_t size = 0;
+    };
+
     Block take(std::size_t size)
     {
         const std::lock_guard lock(m_mutex);
@@ -47,7 +43,7 @@ private:
 /// An image's hold on its block. The pool lives on while an image does.
 struct PixelMemory::Lease {
     std::shared_ptr<Pool> pool;
-    Block block;
+    Pool::Block block;
 };
 
 PixelMemory::PixelMemory()

@@ -12,7 +12,7 @@ namespace tessera {
 namespace {
 
 /// Frames are placed to a 64th of a pixel; finer differences would only multiply the masks.
-constexpr int kSubpixels = 64;
+constexpr int kEdgeSubpixels = 64;
 constexpr std::size_t kMaxMasks = 4096;
 
 /// Pixels around a frame that a stroke along its edge, or the antialiasing, may touch.
@@ -30,9 +30,9 @@ int pixels(double points, double scale)
 struct Edge {
     explicit Edge(double position)
     {
-        const long fine = std::lround(position * kSubpixels);
+        const long fine = std::lround(position * kEdgeSubpixels);
         whole = static_cast<int>(fine >> 6);
-        part = static_cast<int>(fine & (kSubpixels - 1));
+        part = static_cast<int>(fine & (kEdgeSubpixels - 1));
     }
 
     int whole;
@@ -151,8 +151,9 @@ StretchMask StretchMaskCache::makeMask(const Key& key)
     const StretchMask::Axis across = makeAxis(key.width, other, fold);
     const StretchMask::Axis down = makeAxis(key.height, fold, other);
     const QSize size(length(across), length(down));
-    const auto partOf
-        = [&](std::size_t edge) { return static_cast<double>(key.edges.at(edge)) / kSubpixels; };
+    const auto partOf = [&](std::size_t edge) {
+        return static_cast<double>(key.edges.at(edge)) / kEdgeSubpixels;
+    };
     const double left = pad + partOf(0);
     const double top = pad + partOf(1);
     const double right = size.width() - pad - 1 + partOf(2);

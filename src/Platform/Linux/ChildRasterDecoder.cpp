@@ -64,11 +64,11 @@ public:
         // What decoders complain of may be the file's own words.
         ::posix_spawn_file_actions_addopen(&m_files, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
         ::posix_spawnattr_init(&m_attributes);
-        sigset_t signals{};
-        ::sigemptyset(&signals);
-        ::posix_spawnattr_setsigmask(&m_attributes, &signals);
-        ::sigfillset(&signals);
-        ::posix_spawnattr_setsigdefault(&m_attributes, &signals);
+        sigset_t signalSet{};
+        ::sigemptyset(&signalSet);
+        ::posix_spawnattr_setsigmask(&m_attributes, &signalSet);
+        ::sigfillset(&signalSet);
+        ::posix_spawnattr_setsigdefault(&m_attributes, &signalSet);
         ::posix_spawnattr_setflags(&m_attributes, POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
     }
     SpawnPlan(const SpawnPlan&) = delete;

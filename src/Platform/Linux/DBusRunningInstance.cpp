@@ -16,7 +16,7 @@ namespace tessera {
 
 namespace {
 
-const QString kInterface = QStringLiteral("org.freedesktop.Application");
+const QString kApplicationInterface = QStringLiteral("org.freedesktop.Application");
 const QString kActivationToken = QStringLiteral("activation-token");
 constexpr const char* kTokenVariable = "XDG_ACTIVATION_TOKEN";
 constexpr qsizetype kLongestToken = 256;
@@ -122,7 +122,7 @@ bool DBusRunningInstance::callOwner(const Url& folder)
     QDBusMessage call = QDBusMessage::createMethodCall(
         QString::fromLatin1(kBusName),
         QString::fromLatin1(kObjectPath),
-        kInterface,
+        kApplicationInterface,
         names ? QStringLiteral("Open") : QStringLiteral("Activate"));
     if (names) {
         call << QStringList{QString::fromStdString(folder.absoluteString())};
@@ -158,7 +158,7 @@ bool DBusRunningInstance::handleMessage(
     const QDBusMessage& message, const QDBusConnection& connection)
 {
     // A call that was on its way when the name was given up is for the next start.
-    if (message.interface() != kInterface || !m_bus.isConnected()) {
+    if (message.interface() != kApplicationInterface || !m_bus.isConnected()) {
         return false;
     }
     const QVariantList arguments = message.arguments();

@@ -17,7 +17,7 @@ namespace {
 
 const QString kService = QStringLiteral("org.freedesktop.portal.Desktop");
 const QString kPath = QStringLiteral("/org/freedesktop/portal/desktop");
-const QString kInterface = QStringLiteral("org.freedesktop.portal.Settings");
+const QString kSettingsInterface = QStringLiteral("org.freedesktop.portal.Settings");
 const QString kGroup = QStringLiteral("org.freedesktop.appearance");
 const QString kKey = QStringLiteral("color-scheme");
 
@@ -60,14 +60,14 @@ void PortalColorScheme::ask()
     m_bus.connect(
         kService,
         kPath,
-        kInterface,
+        kSettingsInterface,
         QStringLiteral("SettingChanged"),
         {kGroup, kKey},
         QString(),
         this,
         SLOT(settingChanged(QString, QString, QDBusVariant)));
-    QDBusMessage read
-        = QDBusMessage::createMethodCall(kService, kPath, kInterface, QStringLiteral("Read"));
+    QDBusMessage read = QDBusMessage::createMethodCall(
+        kService, kPath, kSettingsInterface, QStringLiteral("Read"));
     read << kGroup << kKey;
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the parent owns it
     auto* const watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(read), this);

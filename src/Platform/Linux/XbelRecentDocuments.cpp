@@ -51,7 +51,7 @@ using DateTime = std::unique_ptr<GDateTime, Releaser<g_date_time_unref>>;
 using Strings = std::unique_ptr<gchar*, Releaser<g_strfreev>>;
 using Text = std::unique_ptr<gchar, Releaser<g_free>>;
 
-struct Entry {
+struct RecentEntry {
     std::string uri; ///< as the file has it
     Url url;
     microseconds stamp{};
@@ -108,9 +108,9 @@ std::optional<microseconds> ownStamp(GBookmarkFile* bookmarks, const char* uri)
 }
 
 /// What is registered under our name, newest first.
-std::vector<Entry> ownEntries(GBookmarkFile* bookmarks)
+std::vector<RecentEntry> ownEntries(GBookmarkFile* bookmarks)
 {
-    std::vector<Entry> entries;
+    std::vector<RecentEntry> entries;
     gsize count = 0;
     const Strings uris(g_bookmark_file_get_uris(bookmarks, &count));
     for (gsize i = 0; i < count; ++i) {
@@ -121,9 +121,10 @@ std::vector<Entry> ownEntries(GBookmarkFile* bookmarks)
             entries.push_back({uri, *std::move(url), *stamp});
         }
     }
-    std::stable_sort(entries.begin(), entries.end(), [](const Entry& a, const Entry& b) {
-        return a.stamp > b.stamp;
-    });
+    std::stable_sort(
+        entries.begin(), entries.end(), [](const RecentEntry& a, const RecentEntry& b) {
+            return a.stamp > b.stamp;
+        });
     return entries;
 }
 
@@ -211,12 +212,12 @@ void note(const std::string& path, const Url& url, microseconds now)
     if (bookmarks == nullptr) {
         return;
     }
-    const std::vector<Entry> entries = ownEntries(bookmarks.get());
+    const std::vector<RecentEntry> entries = ownEntries(bookmarks.get());
     // The newest has the largest stamp also after the clock was set back, or did not move on.
     const microseconds stamp
         = entries.empty() ? now : std::max(now, entries.front().stamp + microseconds(1));
     std::size_t kept = 1;
-    for (const Entry& entry : entries) {
+    for (const RecentEntry& entry : entries) {
         // An entry may spell the same file's URL in another way, so not the text is compared.
         const bool isSame = entry.url.path() == url.path();
         if ((isSame && entry.uri != url.absoluteString())
@@ -236,11 +237,11 @@ void clear(const std::string& path)
     if (bookmarks == nullptr) {
         return;
     }
-    const std::vector<Entry> entries = ownEntries(bookmarks.get());
+    const std::vector<RecentEntry> entries = ownEntries(bookmarks.get());
     if (entries.empty()) {
         return;
     }
-    for (const Entry& entry : entries) {
+    for (const RecentEntry& entry : entries) {
         forget(bookmarks.get(), entry.uri);
     }
     store(bookmarks.get(), path);
@@ -338,7 +339,7 @@ std::vector<Url> XbelRecentDocuments::listedUrls() const
 {
     std::vector<Url> urls;
     if (const BookmarkFile bookmarks = load(m_filePath)) {
-        for (Entry& entry : ownEntries(bookmarks.get())) {
+        for (RecentEntry& entry : ownEntries(bookmarks.get())) {
             urls.push_back(std::move(entry.url));
         }
     } else {

@@ -32,7 +32,7 @@ struct Placeholder {
     bool hasText = false; ///< the disk may have been too full for it
 };
 
-enum class Content : bool { Placeholders, Others };
+enum class ContentOwner : bool { Placeholders, Others };
 
 bool isAt(const FolderEntry& place, const FileIdentity& identity)
 {
@@ -95,14 +95,14 @@ int makeFile(const FolderEntry& place, Placeholder& placeholder)
 }
 
 /// What a file holds that has the placeholder's name; nothing when that cannot be found out.
-std::optional<Content> contentAt(const FolderEntry& place)
+std::optional<ContentOwner> contentAt(const FolderEntry& place)
 {
     constexpr int kFlags = O_RDONLY | O_NONBLOCK | O_NOCTTY | O_NOFOLLOW | O_CLOEXEC;
     const FileDescriptor file(::openat(place.folder.number(), place.name.c_str(), kFlags));
     if (!file.isOpen()) {
         // The placeholder is its maker's to read, and no link.
         const bool isOther = errno == EACCES || errno == EPERM || errno == ELOOP;
-        return isOther ? std::optional(Content::Others) : std::nullopt;
+        return isOther ? std::optional(ContentOwner::Others) : std::nullopt;
     }
     std::array<char, kPlaceholderText.size() + 1> bytes{};
     const ssize_t count = ::pread(file.number(), bytes.data(), bytes.size(), 0);
@@ -110,7 +110,7 @@ std::optional<Content> contentAt(const FolderEntry& place)
         return std::nullopt;
     }
     const std::string_view text(bytes.data(), static_cast<std::size_t>(count));
-    return text == kPlaceholderText ? Content::Placeholders : Content::Others;
+    return text == kPlaceholderText ? ContentOwner::Placeholders : ContentOwner::Others;
 }
 
 /// What a folder that was to be moved shows in its old place.
@@ -162,8 +162,8 @@ std::optional<bool> takeFolderAway(int error, const FolderEntry& from, const Fol
 /// The same for a file's placeholder, which holds its text.
 std::optional<bool> takeFileAway(const FolderEntry& to)
 {
-    const std::optional<Content> content = contentAt(to);
-    if (content != Content::Placeholders) {
+    const std::optional<ContentOwner> content = contentAt(to);
+    if (content != ContentOwner::Placeholders) {
         return content ? std::optional(false) : std::nullopt;
     }
     const int result = ::unlinkat(to.folder.number(), to.name.c_str(), 0);

@@ -14,11 +14,6 @@ namespace tessera {
 
 namespace {
 
-struct Job {
-    std::function<void()> work;
-    bool done = false;
-};
-
 QEvent::Type wakeEvent()
 {
     static const auto kType = static_cast<QEvent::Type>(QEvent::registerEventType());
@@ -31,6 +26,11 @@ QEvent::Type wakeEvent()
 /// only that there is work, so that no work is lost or run twice when the loop ends.
 class QtMainThread::Queue {
 public:
+    struct Job {
+        std::function<void()> work;
+        bool done = false;
+    };
+
     Queue()
         : m_receiver(*this)
     {
@@ -136,7 +136,7 @@ void QtMainThread::perform(std::function<void()> work)
 
 void QtMainThread::performAndWait(std::function<void()> work)
 {
-    const std::shared_ptr<Job> job = m_queue->add(std::move(work));
+    const std::shared_ptr<Queue::Job> job = m_queue->add(std::move(work));
     m_queue->waitFor(*job);
 }
 
