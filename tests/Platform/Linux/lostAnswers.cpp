@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "lostAnswers.h"
 
+#include "meanwhile.h"
+
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -16,6 +18,7 @@ thread_local bool knowsNoReplaceNow = true;
 
 int rename(int fromFolder, const char* from, int toFolder, const char* to, unsigned flags)
 {
+    aboutTo(Call::Rename);
     if (renamesNow == Renames::Fail) {
         errno = EIO;
         return -1;
