@@ -1,14 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/renameWithoutReplacing.h"
 
+#include "lostAnswers.h"
+#include "meanwhile.h"
 #include "support/TrashFixture.h"
+#include "support/failingCalls.h"
 
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/syscall.h>
 
 #include <cerrno>
+#include <cstdlib>
 #include <string>
+#include <system_error>
 
 namespace tessera::test {
 namespace {
@@ -18,25 +24,36 @@ using testing::IsEmpty;
 
 using Rename = int (*)(const FolderEntry& from, const FolderEntry& to);
 
-/// Both ways to move an item, which keep the same promise.
-class RenameBy : public testing::TestWithParam<Rename> {
+/// The folders "from" and "to".
+class RenameTest : public testing::Test {
 protected:
-    RenameBy()
+    RenameTest()
     {
         m_tree.makeFolder("from");
         m_tree.makeFolder("to");
     }
 
-    int rename(const std::string& name, const std::string& newName) const
+    int renameBy(Rename way, const std::string& name, const std::string& newName) const
     {
         const FileDescriptor from(::open(m_from.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
         const FileDescriptor to(::open(m_to.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
-        return GetParam()({from, name}, {to, newName});
+        return way({from, name}, {to, newName});
     }
 
     const TempTree m_tree;
     const std::string m_from = m_tree.pathOf("from");
     const std::string m_to = m_tree.pathOf("to");
+};
+
+using RenameOntoPlaceholder = RenameTest;
+
+/// Both ways to move an item, which keep the same promise.
+class RenameBy : public RenameTest, public testing::WithParamInterface<Rename> {
+protected:
+    int rename(const std::string& name, const std::string& newName) const
+    {
+        return renameBy(GetParam(), name, newName);
+    }
 };
 
 TEST_P(RenameBy, MovesAFile)
@@ -87,6 +104,27 @@ TEST_P(RenameBy, LeavesNothingBehindWhenTheItemIsNotThere)
     EXPECT_THAT(namesIn(m_to), IsEmpty());
 }
 
+TEST_P(RenameBy, LeavesNothingBehindWhenTheItemVanishesMeanwhile)
+{
+    m_tree.makeFile("from/a");
+    const Meanwhile other(Call::Rename, [this] { m_tree.removeFile("from/a"); });
+    EXPECT_EQ(rename("a", "b"), ENOENT);
+    EXPECT_THAT(namesIn(m_to), IsEmpty());
+}
+
+TEST_P(RenameBy, WhatAnotherProgramPutsInThePlaceMeanwhileStays)
+{
+    m_tree.makeFile("from/a");
+    const Meanwhile other(Call::Rename, [this] {
+        m_tree.rename("from/a", "from/aside");
+        m_tree.makeFolder("from/a"); // no folder takes a file's place
+        m_tree.writeFile("to/new", "another's");
+        m_tree.rename("to/new", "to/b");
+    });
+    EXPECT_NE(rename("a", "b"), 0);
+    EXPECT_EQ(fileContent(m_to + "/b"), "another's");
+}
+
 TEST_P(RenameBy, LeavesNothingBehindWhenTheItemIsOnAnotherMount)
 {
     if (!OwnMounts::enter()) {
@@ -110,6 +148,50 @@ TEST_P(RenameBy, AFolderDoesNotMoveIntoItself)
     const FileDescriptor to(::open((m_to + "/a").c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
     EXPECT_EQ(GetParam()({from, "a"}, {to, "b"}), EINVAL);
     EXPECT_THAT(namesIn(m_to + "/a"), ElementsAre("inner"));
+}
+
+TEST_F(RenameTest, WithSomethingElseInTheNewPlaceAndNothingInTheOldOneNobodyCanTell)
+{
+    m_tree.makeFile("from/a");
+    const BrokenRenames broken(Renames::Fail);
+    const Meanwhile other(Call::Rename, [this] {
+        m_tree.rename("from/a", "aside");
+        m_tree.makeFile("to/b");
+    });
+    EXPECT_EQ(renameBy(renameWithoutReplacing, "a", "b"), kMoveUncertain);
+}
+
+TEST_F(RenameOntoPlaceholder, AFolderThatVanishesMeanwhileHasNotMoved)
+{
+    m_tree.makeFolder("from/a");
+    const Meanwhile other(Call::Rename, [this] { m_tree.removeFolder("from/a"); });
+    EXPECT_EQ(renameBy(renameOntoPlaceholder, "a", "b"), kMoveUncertain);
+}
+
+TEST_F(RenameOntoPlaceholder, OnAFullDiskThatBreaksOffNobodyCanTell)
+{
+    if (!OwnMounts::enter()) {
+        GTEST_SKIP() << "this process may not mount";
+    }
+    OwnMounts mounts;
+    mounts.mountMemory(m_from, "size=64k");
+    mounts.bind(m_from, m_to);
+    m_tree.makeFile("from/a");
+    EXPECT_THROW(m_tree.makeFile("from/rest", 100'000), std::system_error);
+    const BrokenRenames broken(Renames::Fail);
+    EXPECT_EQ(renameBy(renameOntoPlaceholder, "a", "b"), kMoveUncertain);
+}
+
+TEST_F(RenameOntoPlaceholder, WhenTheDiskDoesNotSayWhatBecameOfThePlaceholderNobodyCanTell)
+{
+    m_tree.makeFolder("from/a");
+    m_tree.makeFile("from/a/file");
+    const BrokenRenames broken(Renames::Fail);
+    const auto isUncertain = [this] {
+        return makeCallFail({SYS_unlinkat, EIO, {}})
+            && renameBy(renameOntoPlaceholder, "a", "b") == kMoveUncertain;
+    };
+    EXPECT_EXIT(std::_Exit(isUncertain() ? 0 : 1), testing::ExitedWithCode(0), "");
 }
 
 INSTANTIATE_TEST_SUITE_P(
