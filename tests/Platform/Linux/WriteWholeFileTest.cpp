@@ -2,27 +2,35 @@
 #include "Platform/Linux/writeWholeFile.h"
 
 #include "Platform/Linux/FileDescriptor.h"
+#include "meanwhile.h"
 #include "support/OwnMounts.h"
 #include "support/TempTree.h"
+#include "support/failingCalls.h"
 #include "support/fileContent.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/fsuid.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/xattr.h>
 #include <unistd.h>
 
 #include <array>
+#include <cerrno>
 #include <cstdint>
+#include <cstdlib>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <thread>
 
 namespace tessera {
 namespace {
 
+using test::Call;
 using test::fileContent;
+using test::Meanwhile;
 using test::TempTree;
 
 constexpr uid_t kNobody = 65534;
@@ -87,6 +95,18 @@ struct AccessList {
          {0x10, 4, 0xFFFFFFFF},
          {0x20, 0, 0xFFFFFFFF}}};
 };
+
+/// Of the file beside it in which new content is gathered.
+std::optional<mode_t> permissionsOfTheNewOneBeside(const std::string& path)
+{
+    const std::filesystem::path old(path);
+    for (const auto& entry : std::filesystem::directory_iterator(old.parent_path())) {
+        if (entry.path() != old) {
+            return permissionsOf(entry.path());
+        }
+    }
+    return std::nullopt;
+}
 
 bool giveAccessList(const std::string& path, const char* kind)
 {
@@ -216,6 +236,65 @@ TEST_F(WriteWholeFile, OnAFullDiskTheOldContentStays)
     EXPECT_EQ(write("disk/file", std::string(200'000, 'x')), std::errc::no_space_on_device);
     EXPECT_EQ(contentOf("disk/file"), "old");
     EXPECT_EQ(entriesIn(tree.pathOf("disk")), 1U);
+}
+
+TEST_F(WriteWholeFile, WhatDoesNotReachTheDiskTakesNoFilesPlace)
+{
+    tree.writeFile("file", "old");
+    const auto isOldKept = [this] {
+        return test::makeCallFail({SYS_fsync, EIO, {}}) && write("file") == std::errc::io_error
+            && contentOf("file") == "old";
+    };
+    EXPECT_EXIT(std::_Exit(isOldKept() ? 0 : 1), testing::ExitedWithCode(0), "");
+}
+
+TEST_F(WriteWholeFile, WhatTakesTheFilesPlaceMeanwhileStays)
+{
+    tree.writeFile("file", "old");
+    const Meanwhile other(Call::Sync, [this] {
+        tree.writeFile("another's", "precious");
+        tree.rename("another's", "file");
+    });
+    EXPECT_FALSE(write("file"));
+    EXPECT_EQ(contentOf("file"), "precious");
+}
+
+TEST_F(WriteWholeFile, AFileThatComesMeanwhileIsWrittenUnderAllItsNames)
+{
+    const Meanwhile other(Call::Rename, [this] {
+        tree.writeFile("file", "another's");
+        tree.makeHardLink("other", "file");
+    });
+    EXPECT_FALSE(write("file"));
+    EXPECT_EQ(contentOf("other"), "new");
+}
+
+TEST_F(WriteWholeFile, UntilItHasTheOldFilesRightsTheNewOneIsItsMakersAlone)
+{
+    tree.writeFile("file", "old");
+    tree.setMode("file", 0600);
+    std::optional<mode_t> found;
+    const Meanwhile other(Call::ChangeMode, [this, &found] {
+        found = permissionsOfTheNewOneBeside(tree.pathOf("file"));
+    });
+    EXPECT_FALSE(write("file"));
+    EXPECT_EQ(found, 0600U);
+}
+
+TEST_F(WriteWholeFile, AFileMountedInAReadOnlyFolderIsWrittenWhereItIs)
+{
+    if (!test::OwnMounts::enter()) {
+        GTEST_SKIP() << "this process may not mount";
+    }
+    tree.makeFolder("disk");
+    tree.writeFile("mounted", "a longer old content");
+    test::OwnMounts mounts;
+    mounts.mountMemory(tree.pathOf("disk"));
+    tree.makeFile("disk/file");
+    mounts.bind(tree.pathOf("mounted"), tree.pathOf("disk/file"));
+    test::OwnMounts::makeReadOnly(tree.pathOf("disk"));
+    EXPECT_FALSE(write("disk/file"));
+    EXPECT_EQ(contentOf("mounted"), "new");
 }
 
 TEST_F(WriteWholeFile, AFileOfTwoNamesHasTheContentUnderBoth)
