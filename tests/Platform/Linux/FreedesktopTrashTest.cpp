@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/FileStatus.h"
+#include "Platform/Linux/TrashItem.h"
 #include "support/TrashFixture.h"
 
 #include <fcntl.h>
@@ -441,6 +442,26 @@ TEST_F(FreedesktopTrashTest, APathThatIsTooLongIsTold)
         name += "/" + std::string(200, 'x');
     }
     EXPECT_THAT(moveInVain(name), HasSubstr("because its path is too long."));
+}
+
+TEST_F(FreedesktopTrashTest, APathThatLeavesNoRoomForItsEndIsTooLong)
+{
+    constexpr std::size_t kLimit = 4096; // bytes, the zero behind the path included
+    std::string name = "work/" + std::string(kLimit - m_tree.pathOf("work/").size(), 'x');
+    for (std::size_t i = 100; i + 1 < name.size(); i += 100) {
+        name[i] = '/';
+    }
+    EXPECT_THAT(moveInVain(name), HasSubstr("because its path is too long."));
+}
+
+TEST_F(FreedesktopTrashTest, AFolderThatWasRemovedHasNoPathThoughAnotherIsCalledLikeIt)
+{
+    m_tree.makeFolder("folder");
+    const FileDescriptor opened(
+        ::open(m_tree.pathOf("folder").c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+    m_tree.removeFolder("folder");
+    m_tree.makeFolder("folder (deleted)");
+    EXPECT_EQ(pathOf(opened), "");
 }
 
 TEST_F(FreedesktopTrashTest, NothingMovesWhileNobodyKnowsWhatIsMounted)
