@@ -2,6 +2,7 @@
 #include "Platform/Linux/LinuxSourceWalk.h"
 
 #include "Archiver/ArchiverSystem.h"
+#include "meanwhile.h"
 #include "support/TempTree.h"
 
 #include <fcntl.h>
@@ -144,6 +145,31 @@ TEST_F(LinuxSourceWalkOfX, ASourceThatVanishesIsAFailure)
     const auto walk = open();
     tree.removeFolder("X");
     EXPECT_THAT(remainingPaths(*walk), ElementsAre("!X"));
+}
+
+TEST_F(LinuxSourceWalkOfX, AFileThatBecomesALinkMeanwhileIsAFailure)
+{
+    tree.writeFile("secret", "not in X");
+    tree.makeFile("X/a");
+    const auto walk = open();
+    advanceTo(*walk, "X");
+    const Meanwhile other(Call::Open, [this] {
+        tree.removeFile("X/a");
+        tree.makeSymbolicLink("X/a", "../secret");
+    });
+    EXPECT_THAT(remainingPaths(*walk), ElementsAre("!X/a"));
+}
+
+TEST_F(LinuxSourceWalkOfX, AFileThatBecomesAPipeMeanwhileIsAFailureAndNotWaitedFor)
+{
+    tree.makeFile("X/a");
+    const auto walk = open();
+    advanceTo(*walk, "X");
+    const Meanwhile other(Call::Open, [this] {
+        tree.removeFile("X/a");
+        tree.makeFifo("X/a");
+    });
+    EXPECT_THAT(remainingPaths(*walk), ElementsAre("!X/a"));
 }
 
 TEST_F(LinuxSourceWalkOfX, TheArchiveIsMadeInTheFolderThatTheSourceWasFoundIn)
