@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/Linux/LinuxArchiveOutput.h"
+
+#include "Platform/Linux/FileStatus.h"
+#include "support/TempTree.h"
+#include "support/failingCalls.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/syscall.h>
+
+#include <cerrno>
+#include <cstdlib>
+
+namespace tessera::test {
+namespace {
+
+/// An archive "X.zip" that is still called "X.zip.part".
+class LinuxArchiveOutputOfX : public testing::Test {
+protected:
+    FileDescriptor openPart() const
+    {
+        return FileDescriptor(
+            ::open(tree.pathOf("X.zip.part").c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600));
+    }
+
+    TempTree tree;
+    LinuxArchiveOutput output{
+        openPart(),
+        statusOf(openPart().number()).status.identity,
+        openFolderOf(tree.pathOf("X.zip")),
+        "X.zip.part"};
+};
+
+TEST_F(LinuxArchiveOutputOfX, AnotherFileOfThatNameIsNotTakenForTheArchive)
+{
+    tree.makeFile("X.zip");
+    EXPECT_EQ(output.publish(), EEXIST);
+}
+
+TEST_F(LinuxArchiveOutputOfX, WhatHasTheNameAlreadyIsPublishedThoughItsOldNameIsStillShown)
+{
+    tree.makeHardLink("X.zip", "X.zip.part");
+    EXPECT_EQ(output.publish(), 0);
+}
+
+TEST_F(LinuxArchiveOutputOfX, WhatOnlyClosingTellsIsAFailure)
+{
+    const auto isTold = [this] {
+        return makeCallFail({SYS_close, EIO, {}}) && output.close() == EIO;
+    };
+    EXPECT_EXIT(std::_Exit(isTold() ? 0 : 1), testing::ExitedWithCode(0), "");
+}
+
+} // namespace
+} // namespace tessera::test
