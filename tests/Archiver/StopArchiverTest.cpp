@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Ending the archiver while it works.
+#include "Utils/FileIdentity.h"
 #include "support/ChildProcess.h"
 #include "support/TempTree.h"
 #include "support/fileContent.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/inotify.h>
 #include <unistd.h>
@@ -12,6 +14,7 @@
 #include <cerrno>
 #include <climits>
 #include <csignal>
+#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -40,14 +43,76 @@ private:
     sigset_t m_former{};
 };
 
+/// From now on this process's standard output is a pipe that nobody reads any more.
+void writeToNobody()
+{
+    std::array<int, 2> ends{};
+    EXPECT_EQ(::pipe(ends.data()), 0);
+    EXPECT_GE(::dup2(ends[1], STDOUT_FILENO), 0);
+    ::close(ends[0]);
+    ::close(ends[1]);
+}
+
+/// What happens in a folder from now on.
+class Watch {
+public:
+    Watch(const std::string& path, std::uint32_t events)
+        : m_watch(::inotify_init1(IN_CLOEXEC))
+    {
+        ::inotify_add_watch(m_watch, path.c_str(), events);
+    }
+    Watch(const Watch&) = delete;
+    Watch& operator=(const Watch&) = delete;
+    ~Watch() { ::close(m_watch); }
+
+    /// Until one of the events has come.
+    void wait() const
+    {
+        std::array<char, sizeof(inotify_event) + NAME_MAX + 1> event{};
+        while (::read(m_watch, event.data(), event.size()) < 0 && errno == EINTR) { }
+    }
+
+private:
+    int m_watch;
+};
+
+/// A pipe with a name, and so full that whoever writes to it waits.
+class FullPipe {
+public:
+    explicit FullPipe(const std::string& path)
+        : m_pipe(::open(path.c_str(), O_RDWR | O_NONBLOCK | O_CLOEXEC))
+    {
+        const std::array<char, PIPE_BUF> filling{};
+        while (::write(m_pipe, filling.data(), filling.size()) > 0) { }
+        while (::write(m_pipe, filling.data(), 1) > 0) { }
+    }
+    FullPipe(const FullPipe&) = delete;
+    FullPipe& operator=(const FullPipe&) = delete;
+    ~FullPipe() { ::close(m_pipe); }
+
+    /// Makes room and returns what has been written by others.
+    std::string take() const
+    {
+        std::string text;
+        std::array<char, PIPE_BUF> bytes{};
+        for (ssize_t count = 0; (count = ::read(m_pipe, bytes.data(), bytes.size())) > 0;) {
+            text.append(bytes.data(), static_cast<std::size_t>(count));
+        }
+        std::erase(text, '\0');
+        return text;
+    }
+
+private:
+    int m_pipe;
+};
+
 /// An archiver at work. The constructor returns when it has written to the archive.
 class WorkingArchiver {
 public:
     WorkingArchiver(const std::string& source, const TempTree& out)
         : m_errorPath(m_texts.pathOf("stderr"))
     {
-        const int watch = ::inotify_init1(IN_CLOEXEC);
-        ::inotify_add_watch(watch, out.path().c_str(), IN_MODIFY);
+        const Watch archive(out.path(), IN_MODIFY);
         const BlockedTermination blocked;
         m_process = std::make_unique<ChildProcess>(ChildProcessSetup{
             TESSERA_ARCHIVER,
@@ -55,9 +120,7 @@ public:
             {},
             m_texts.pathOf("stdout"),
             m_errorPath});
-        std::array<char, sizeof(inotify_event) + NAME_MAX + 1> event{};
-        while (::read(watch, event.data(), event.size()) < 0 && errno == EINTR) { }
-        ::close(watch);
+        archive.wait();
     }
 
     /// The status that it exits with, or -1 when it is killed.
@@ -135,6 +198,37 @@ TEST_F(StopArchiver, StoppedBeforeItHasMadeAnythingItSaysSo)
          [] { ::raise(SIGTERM); }});
     EXPECT_EQ(archiver.waitForExit(), 3);
     EXPECT_EQ(fileContent(out.pathOf("stdout")), "");
+}
+
+TEST_F(StopArchiver, StoppedWhenItHasJustMadeItsFileItSaysWhichOne)
+{
+    tree.makeFifo("stdout");
+    const FullPipe output(tree.pathOf("stdout"));
+    const Watch made(out.path(), IN_CREATE);
+    ChildProcess archiver(
+        {TESSERA_ARCHIVER,
+         {"-c", "-k", "--sequesterRsrc", source, out.pathOf("X.zip")},
+         {},
+         tree.pathOf("stdout"),
+         tree.pathOf("stderr")});
+    made.wait();
+    archiver.signal(SIGTERM);
+    std::string told = output.take();
+    EXPECT_EQ(archiver.waitForExit(), 1);
+    told += output.take();
+    EXPECT_TRUE(readFileIdentityLine(told).has_value());
+}
+
+TEST_F(StopArchiver, WhoeverReadsWhatItTellsMayLeaveAndItGoesOn)
+{
+    ChildProcess archiver(
+        {TESSERA_ARCHIVER,
+         {"-c", "-k", "--sequesterRsrc", tree.pathOf("X/a"), out.pathOf("a.zip")},
+         {},
+         out.pathOf("stdout"),
+         out.pathOf("stderr"),
+         writeToNobody});
+    EXPECT_EQ(archiver.waitForExit(), 0);
 }
 
 TEST_F(StopArchiver, TheFragmentIsLeftToWhoeverStartedIt)
