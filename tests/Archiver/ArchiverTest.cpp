@@ -21,6 +21,16 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using Step = SourceWalk::Step;
 
+/// A path of that length, of short names.
+std::string pathOfLength(std::size_t length)
+{
+    std::string path(length, 'p');
+    for (std::size_t i = 100; i + 1 < length; i += 100) {
+        path[i] = '/';
+    }
+    return path;
+}
+
 class ArchiverOfPreparedItems : public testing::Test {
 protected:
     ArchiveReport run() { return Archiver(source, output).run(); }
@@ -201,6 +211,20 @@ TEST_F(ArchiverOfPreparedItems, AttributesWhoseOwnPathIsTooLongAreAFailure)
     source.add(prepared);
     EXPECT_EQ(run().firstFailure.code, ENAMETOOLONG);
     EXPECT_EQ(lines().size(), 1U);
+}
+
+TEST_F(ArchiverOfPreparedItems, AttributesMayHaveTheLongestPathAndNoLongerOne)
+{
+    // "__MACOSX/" and "._" come to the item's own path.
+    for (const auto& [length, failures] : {std::pair(65523U, 0U), std::pair(65524U, 1U)}) {
+        FakeSourceWalk::Prepared prepared;
+        prepared.item.path = pathOfLength(length);
+        prepared.item.attributes = {{"name", "value"}};
+        FakeSourceWalk walk;
+        walk.add(prepared);
+        FakeArchiveOutput archive;
+        EXPECT_EQ(Archiver(walk, archive).run().failureCount, failures) << length;
+    }
 }
 
 TEST_F(ArchiverOfPreparedItems, TimesAreSecondsSince1970)
