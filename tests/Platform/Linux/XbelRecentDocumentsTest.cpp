@@ -3,6 +3,7 @@
 
 #include "support/DeadFileSystem.h"
 #include "support/FakeUserDefaults.h"
+#include "support/OwnMounts.h"
 
 #include <QProcess>
 #include <QStandardPaths>
@@ -174,6 +175,16 @@ TEST_F(XbelRecentDocumentsOnDisk, DropsItemsThatNoLongerExist)
     EXPECT_THAT(documents().recentDocumentUrls(), ElementsAre(a));
 }
 
+TEST_F(XbelRecentDocumentsOnDisk, DropsItemsWhoseFolderIsAFileNow)
+{
+    makeFolder("folder");
+    const Url gone = makeFolder("folder/gone");
+    documents().noteNewRecentDocumentUrl(gone);
+    fs::remove_all(m_folder / "folder");
+    std::ofstream(m_folder / "folder") << "a file";
+    EXPECT_THAT(documents().recentDocumentUrls(), IsEmpty());
+}
+
 TEST_F(XbelRecentDocumentsOnDisk, KeepsItemsOfADiskThatDoesNotAnswer)
 {
     const Url gone = makeFolder("gone");
@@ -331,6 +342,20 @@ TEST_F(XbelRecentDocumentsOnDisk, AListThatTheUserProtectedIsLeftAlone)
     EXPECT_EQ(fs::status(m_file).permissions(), fs::perms::owner_read);
 }
 
+TEST_F(XbelRecentDocumentsOnDisk, AListThatNobodyMayWriteGivesWayToTheSettings)
+{
+    if (!test::OwnMounts::enter()) {
+        GTEST_SKIP() << "this process may not mount";
+    }
+    writeFile(kHead + foreignEntry("file:///other") + "</xbel>");
+    test::OwnMounts mounts;
+    mounts.bind(m_file.string(), m_file.string());
+    test::OwnMounts::makeReadOnly(m_file.string());
+    const Url a = makeFolder("a");
+    m_settings.records["recents"] = {{a.path(), 5, {}}};
+    EXPECT_THAT(documents().recentDocumentUrls(), ElementsAre(a));
+}
+
 TEST_F(XbelRecentDocumentsOnDisk, AListOfMegabytesIsLeftAlone)
 {
     std::string list = kHead + foreignEntry("file:///other") + "</xbel>";
@@ -399,6 +424,12 @@ TEST_F(XbelRecentDocumentsOnDisk, OnlyTheUserMayReadTheList)
 {
     documents().noteNewRecentDocumentUrl(makeFolder("a"));
     EXPECT_EQ(fs::status(m_file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+TEST_F(XbelRecentDocumentsOnDisk, OnlyTheUserMayEnterTheFolderThatIsMadeForIt)
+{
+    documents().noteNewRecentDocumentUrl(makeFolder("a"));
+    EXPECT_EQ(fs::status(m_file.parent_path()).permissions(), fs::perms::owner_all);
 }
 
 TEST_F(XbelRecentDocumentsOnDisk, AnotherReaderSeesTheSame)
