@@ -177,6 +177,14 @@ TEST_F(WriteWholeFile, AFileKeepsItsMode)
     }
 }
 
+TEST_F(WriteWholeFile, WhatAProgramMayDoForItsOwnerIsNotForNewContent)
+{
+    tree.writeFile("file", "old");
+    tree.setMode("file", 06755);
+    EXPECT_FALSE(write("file"));
+    EXPECT_EQ(permissionsOf(tree.pathOf("file")), 0755U);
+}
+
 TEST_F(WriteWholeFile, AFileKeepsItsOwner)
 {
     if (!isSuperUser()) {
