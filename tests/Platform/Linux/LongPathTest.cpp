@@ -96,6 +96,20 @@ TEST(LongPath, PathsLongerThanTheSystemTakesAreOpened)
     EXPECT_EQ(identityOf(place.folder), statusAt(deepest.folder.number(), "d").status.identity);
 }
 
+TEST(LongPath, PathsAreCutAtWholeNamesWhereverThoseEnd)
+{
+    constexpr std::size_t kDepth = 2200; // more than one call takes
+    const TempTree tree;
+    tree.makeChain(kDepth);
+    std::string below;
+    for (std::size_t i = 1; i < kDepth; ++i) {
+        below += "/d";
+    }
+    EXPECT_EQ(openFolderOf(tree.pathOf("d") + below + "/item").error, 0);
+    tree.rename("d", "dd");
+    EXPECT_EQ(openFolderOf(tree.pathOf("dd") + below + "/item").error, 0);
+}
+
 TEST(LongPathWithoutLinks, OpensTheFolderThatHoldsTheItem)
 {
     const TempTree tree;
