@@ -2,13 +2,16 @@
 #include "Platform/Linux/SparseFileReader.h"
 
 #include "support/TempTree.h"
+#include "support/failingCalls.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 #include <array>
 #include <cerrno>
+#include <cstdlib>
 #include <string>
 
 namespace tessera::test {
@@ -64,6 +67,17 @@ TEST(SparseFileReader, HolesGiveZeros)
     expected.replace(500'000, 4, "data");
     SparseFileReader reader(openFile(tree.pathOf("file")), expected.size());
     EXPECT_EQ(readAll(reader), expected);
+}
+
+TEST(SparseFileReader, WhereTheDiskDoesNotTellItsHolesAllIsRead)
+{
+    const TempTree tree;
+    tree.writeFile("file", "content");
+    SparseFileReader reader(openFile(tree.pathOf("file")), 7);
+    const auto isRead = [&reader] {
+        return makeCallFail({SYS_lseek, EINVAL, SEEK_DATA}) && readAll(reader) == "content";
+    };
+    EXPECT_EXIT(std::_Exit(isRead() ? 0 : 1), testing::ExitedWithCode(0), "");
 }
 
 TEST(SparseFileReader, WhatWasAppendedIsNotRead)
