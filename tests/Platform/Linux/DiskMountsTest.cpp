@@ -137,6 +137,15 @@ TEST(DiskMounts, AMountedFileIsNone)
         ElementsAre("/srv/b"));
 }
 
+TEST(DiskMounts, AShareOfWhichAllIsMountedIsNotAskedForAtAll)
+{
+    bool isAsked = false;
+    const MountTable mounts("1 0 0:30 / /mnt/share rw - nfs4 server:/export rw\n");
+    EXPECT_EQ(
+        diskMounts(mounts, {}, [&isAsked](const auto&) { return isAsked = true; }).size(), 1U);
+    EXPECT_FALSE(isAsked);
+}
+
 TEST(DiskMounts, OfTwoAtOnePointTheLaterCounts)
 {
     EXPECT_THAT(

@@ -3,6 +3,7 @@
 
 #include "Platform/Linux/FileDescriptor.h"
 #include "Platform/Linux/LinuxFileManager.h"
+#include "support/OwnMounts.h"
 #include "support/TempTree.h"
 
 #include <fcntl.h>
@@ -39,6 +40,20 @@ TEST(RealPath, WhereTheTextOfALinkSaysSomethingElseThereIsNone)
     tree.removeFolder("folder");
     const std::string link = "/proc/self/fd/" + std::to_string(folder.number());
     EXPECT_EQ(realPath(link), std::nullopt);
+}
+
+TEST(RealPath, WhereTheTextOfALinkLeadsToAnotherMountThereIsNone)
+{
+    if (!OwnMounts::enter()) {
+        GTEST_SKIP() << "this process may not mount";
+    }
+    const TempTree tree;
+    tree.makeFolder("folder");
+    const std::string path = tree.pathOf("folder");
+    const FileDescriptor below(::open(path.c_str(), O_PATH | O_CLOEXEC));
+    OwnMounts mounts;
+    mounts.bind(path, path);
+    EXPECT_EQ(realPath("/proc/self/fd/" + std::to_string(below.number())), std::nullopt);
 }
 
 TEST(RealPath, AScansStartWithoutOneKeepsItsOwn)
