@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/LinuxFileReader.h"
 
+#include "Platform/Linux/FileDescriptor.h"
 #include "support/TempTree.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/fsuid.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <array>
+#include <csignal>
 #include <filesystem>
 #include <string>
 
@@ -155,6 +158,39 @@ TEST(LinuxFileReader, DescribesAFileThatMayNotBeRead)
         = ::faccessat(AT_FDCWD, tree.pathOf("secret").c_str(), R_OK, AT_EACCESS) == 0;
     EXPECT_EQ(opened.content != nullptr, mayRead);
     EXPECT_EQ(opened.contentError == std::errc::permission_denied, !mayRead);
+}
+
+TEST(LinuxFileReader, ReadsAnotherUsersFile)
+{
+    constexpr uid_t kNobody = 65534;
+    if (::geteuid() != 0) {
+        GTEST_SKIP() << "a plain user cannot make another one's file";
+    }
+    const test::TempTree tree;
+    tree.setMode(".", 0755);
+    tree.writeFile("file", "content");
+    ::setfsuid(kNobody); // only the owner may ask that the time of last use stays
+
+    const OpenedFile opened = LinuxFileReader().open(tree.pathOf("file"));
+    ::setfsuid(0);
+
+    EXPECT_NE(opened.content, nullptr);
+}
+
+TEST(LinuxFileReader, DoesNotWaitForWhoeverMustFirstFinishWithTheFile)
+{
+    const test::TempTree tree;
+    tree.makeFile("file");
+    const FileDescriptor holder(::open(tree.pathOf("file").c_str(), O_RDWR | O_CLOEXEC));
+    if (::fcntl(holder.number(), F_SETLEASE, F_WRLCK) != 0) {
+        GTEST_SKIP() << "there are no leases here";
+    }
+    auto* const before = std::signal(SIGIO, SIG_IGN); // says that somebody waits for the lease
+
+    const OpenedFile opened = LinuxFileReader().open(tree.pathOf("file"));
+    (void)std::signal(SIGIO, before);
+
+    EXPECT_EQ(opened.contentError, std::errc::resource_unavailable_try_again);
 }
 
 TEST(LinuxFileReader, TakesThePartOfAHugeFileThatIsAskedFor)
