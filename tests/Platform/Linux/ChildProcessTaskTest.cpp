@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/ChildProcessTask.h"
 
+#include "Platform/Linux/FileDescriptor.h"
 #include "support/TempTree.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/types.h>
 #include <sys/wait.h>
@@ -137,6 +139,17 @@ TEST_F(ChildProcessTaskTest, TheProcessReadsNothingAndPrintsNothing)
     startShell("echo printed; read -r line && exit 1; exit 0");
     EXPECT_EQ(statusAtEnd(), 0);
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+}
+
+TEST_F(ChildProcessTaskTest, WhatIsTypedForThisProgramIsNotForTheProcess)
+{
+    tree.writeFile("typed", "line\n");
+    const FileDescriptor before(::dup(STDIN_FILENO));
+    const FileDescriptor typed(::open(tree.pathOf("typed").c_str(), O_RDONLY | O_CLOEXEC));
+    ASSERT_EQ(::dup2(typed.number(), STDIN_FILENO), STDIN_FILENO);
+    startShell("read -r line && exit 1; exit 0");
+    ::dup2(before.number(), STDIN_FILENO);
+    EXPECT_EQ(statusAtEnd(), 0);
 }
 
 TEST_F(ChildProcessTaskTest, WhatTheProcessHasPrintedIsKept)

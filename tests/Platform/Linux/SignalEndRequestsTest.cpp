@@ -75,6 +75,7 @@ TEST_F(SignalEndRequestsTest, WhatIsIgnoredFromTheStartStaysSo)
     (void)std::signal(SIGHUP, SIG_IGN);
     hear();
     (void)std::raise(SIGHUP);
+    QCoreApplication::processEvents();
     (void)std::raise(SIGTERM);
     runEvents(1);
     EXPECT_EQ(heard, 1);
