@@ -194,6 +194,59 @@ TEST_F(RenameOntoPlaceholder, WhenTheDiskDoesNotSayWhatBecameOfThePlaceholderNob
     EXPECT_EXIT(std::_Exit(isUncertain() ? 0 : 1), testing::ExitedWithCode(0), "");
 }
 
+TEST_F(RenameOntoPlaceholder, ARefusalLeavesNothingBehindOfAnEmptyFolder)
+{
+    m_tree.makeFolder("from/a");
+    for (const int error :
+         {EACCES,
+          EPERM,
+          EROFS,
+          EXDEV,
+          ENOSPC,
+          EDQUOT,
+          EBUSY,
+          EINVAL,
+          ENOSYS,
+          EEXIST,
+          EISDIR,
+          ENOTDIR,
+          ELOOP,
+          ENAMETOOLONG,
+          EMLINK,
+          EOPNOTSUPP,
+          ENOTEMPTY}) {
+        const auto isClean = [this, error] {
+            return makeCallFail({SYS_renameat2, error, {}})
+                && renameBy(renameOntoPlaceholder, "a", "b") == error && namesIn(m_to).empty();
+        };
+        EXPECT_EXIT(std::_Exit(isClean() ? 0 : 1), testing::ExitedWithCode(0), "") << error;
+    }
+}
+
+TEST_F(RenameOntoPlaceholder, APipeThatTookThePlaceMeanwhileIsNotWaitedFor)
+{
+    m_tree.makeFile("from/a");
+    const BrokenRenames broken(Renames::Fail);
+    const Meanwhile other(Call::Rename, [this] {
+        m_tree.removeFile("to/b");
+        m_tree.makeFifo("to/b");
+    });
+    EXPECT_EQ(renameBy(renameOntoPlaceholder, "a", "b"), kMoveUncertain);
+}
+
+TEST_F(RenameOntoPlaceholder, WithoutRoomForAPlaceholderTheItemStays)
+{
+    if (!OwnMounts::enter()) {
+        GTEST_SKIP() << "this process may not mount";
+    }
+    OwnMounts mounts;
+    mounts.mountMemory(m_from, "nr_inodes=2"); // the folder and the item
+    mounts.bind(m_from, m_to);
+    m_tree.makeFile("from/a");
+    EXPECT_EQ(renameBy(renameOntoPlaceholder, "a", "b"), ENOSPC);
+    EXPECT_THAT(namesIn(m_from), ElementsAre("a"));
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Ways,
     RenameBy,
