@@ -389,6 +389,14 @@ TEST_F(ItemTrasherTest, AnItemOnItsWayIsNotAskedForAgain)
     EXPECT_EQ(workspace.recycled.size(), 1U);
 }
 
+TEST_F(ItemTrasherTest, AnItemBesideOneOnItsWayIsAskedForThoughItIsCalledAlike)
+{
+    model.setTopFolder(test::makeTree("/Users/me", "docs/ ( a:500 ) docs2:5"));
+    trash("docs");
+    trash("docs2");
+    EXPECT_EQ(workspace.recycled.size(), 2U);
+}
+
 TEST_F(ItemTrasherTest, AfterAFailureItCanBeAskedForAgain)
 {
     trash("docs");
@@ -404,6 +412,15 @@ TEST_F(ItemTrasherTest, AnotherTreeOfTheSamePlaceLosesTheItemToo)
     model.setTopFolder(test::makeTree("/Users/me", "docs/ ( a:600 )"));
     moveEnds(url, "a");
     EXPECT_EQ(node("docs").totalAllocation(), 0U);
+}
+
+TEST_F(ItemTrasherTest, ATreeThatBeginsWithTheItemStaysAsItIs)
+{
+    const Url url = node("docs").url();
+    trash("docs");
+    model.setTopFolder(test::makeTree("/Users/me/docs", "a:600"));
+    moveEnds(url, "docs");
+    EXPECT_EQ(model.topFolder()->totalAllocation(), 600U);
 }
 
 TEST_F(ItemTrasherTest, ATreeWithoutTheItemStaysAsItIs)
