@@ -21,6 +21,11 @@ TEST(BeginningOfName, EndsBeforeACharacterThatDoesNotFit)
     EXPECT_EQ(beginningOfName("a\u00fcb", 2), "a");
 }
 
+TEST(BeginningOfName, EndsBeforeTheLargestCharactersToo)
+{
+    EXPECT_EQ(beginningOfName("a\U0001F600", 4), "a");
+}
+
 TEST(BeginningOfName, KeepsACharacterThatJustFits)
 {
     EXPECT_EQ(beginningOfName("a\u00fcb", 3), "a\u00fc");
