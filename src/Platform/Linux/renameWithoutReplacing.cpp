@@ -13,6 +13,8 @@
 #include <cstdint>
 #include <cstdio>
 #include <optional>
+#include <random>
+#include <string>
 #include <string_view>
 
 namespace tessera {
@@ -24,12 +26,12 @@ constexpr mode_t kPlaceholderFolderMode = 0700;
 
 /// After an answer that got lost, some file systems go on showing what they remember of a name,
 /// inode number and length included. What an opened file holds comes from where it is kept.
-constexpr std::string_view kPlaceholderText = "Something is being moved here.\n";
+constexpr std::string_view kPlaceholderText = "Something is being moved here: ";
 
 struct Placeholder {
     FileIdentity identity;
     bool isDirectory = false;
-    bool hasText = false; ///< the disk may have been too full for it
+    std::string text; ///< empty when the disk was too full for it
 };
 
 enum class ContentOwner : bool { Placeholders, Others };
@@ -77,7 +79,16 @@ int makeFolder(const FolderEntry& place, Placeholder& placeholder)
     }
     const StatusResult made = statusAt(place.folder.number(), place.name.c_str());
     placeholder.identity = made.status.identity;
-    return made.error;
+    return made ? 0 : kMoveUncertain;
+}
+
+/// No other file begins like it: after a break a disk may show another's content only as far as it
+/// remembers the placeholder to be long.
+std::string newPlaceholderText()
+{
+    std::random_device random;
+    return std::string(kPlaceholderText) + std::to_string(random()) + '-' + std::to_string(random())
+        + '\n';
 }
 
 int makeFile(const FolderEntry& place, Placeholder& placeholder)
@@ -90,12 +101,14 @@ int makeFile(const FolderEntry& place, Placeholder& placeholder)
     }
     const StatusResult made = statusOf(file.number());
     placeholder.identity = made.status.identity;
-    placeholder.hasText = !writeAll(file, kPlaceholderText);
-    return made.error;
+    const std::string text = newPlaceholderText();
+    placeholder.text = writeAll(file, text) ? std::string() : text;
+    return made ? 0 : kMoveUncertain;
 }
 
-/// What a file holds that has the placeholder's name; nothing when that cannot be found out.
-std::optional<ContentOwner> contentAt(const FolderEntry& place)
+/// Whether the file that has the placeholder's name holds the placeholder's text; nothing when that
+/// cannot be found out.
+std::optional<ContentOwner> contentAt(const FolderEntry& place, const std::string& placeholderText)
 {
     constexpr int kFlags = O_RDONLY | O_NONBLOCK | O_NOCTTY | O_NOFOLLOW | O_CLOEXEC;
     const FileDescriptor file(::openat(place.folder.number(), place.name.c_str(), kFlags));
@@ -104,13 +117,13 @@ std::optional<ContentOwner> contentAt(const FolderEntry& place)
         const bool isOther = errno == EACCES || errno == EPERM || errno == ELOOP;
         return isOther ? std::optional(ContentOwner::Others) : std::nullopt;
     }
-    std::array<char, kPlaceholderText.size() + 1> bytes{};
+    std::string bytes(placeholderText.size() + 1, '\0');
     const ssize_t count = ::pread(file.number(), bytes.data(), bytes.size(), 0);
     if (count < 0) {
         return std::nullopt;
     }
     const std::string_view text(bytes.data(), static_cast<std::size_t>(count));
-    return text == kPlaceholderText ? ContentOwner::Placeholders : ContentOwner::Others;
+    return text == placeholderText ? ContentOwner::Placeholders : ContentOwner::Others;
 }
 
 /// What a folder that was to be moved shows in its old place.
@@ -160,9 +173,9 @@ std::optional<bool> takeFolderAway(int error, const FolderEntry& from, const Fol
 }
 
 /// The same for a file's placeholder, which holds its text.
-std::optional<bool> takeFileAway(const FolderEntry& to)
+std::optional<bool> takeFileAway(const FolderEntry& to, const std::string& placeholderText)
 {
-    const std::optional<ContentOwner> content = contentAt(to);
+    const std::optional<ContentOwner> content = contentAt(to, placeholderText);
     if (content != ContentOwner::Placeholders) {
         return content ? std::optional(false) : std::nullopt;
     }
@@ -193,8 +206,8 @@ int settled(
         return isAt(from, item) || isNothingAt(to) ? error : kMoveUncertain;
     }
     const std::optional<bool> wasThere = placeholder->isDirectory ? takeFolderAway(error, from, to)
-        : placeholder->hasText                                    ? takeFileAway(to)
-                                                                  : std::nullopt;
+        : !placeholder->text.empty() ? takeFileAway(to, placeholder->text)
+                                     : std::nullopt;
     if (!wasThere) {
         return kMoveUncertain;
     }

@@ -247,6 +247,21 @@ TEST_F(RenameOntoPlaceholder, WithoutRoomForAPlaceholderTheItemStays)
     EXPECT_THAT(namesIn(m_from), ElementsAre("a"));
 }
 
+TEST_F(RenameOntoPlaceholder, APlaceholderThatCannotBeToldFromOtherFilesStays)
+{
+    m_tree.makeFile("from/a");
+    const auto isUncertain = [this] {
+        bool isArranged = false;
+        const Meanwhile breaks(Call::Open, [&isArranged] {
+            isArranged = makeCallFail({SYS_statx, EIO, {}});
+        });
+        return renameBy(renameOntoPlaceholder, "a", "b") == kMoveUncertain && isArranged;
+    };
+    EXPECT_EXIT(std::_Exit(isUncertain() ? 0 : 1), testing::ExitedWithCode(0), "");
+    EXPECT_TRUE(exists(m_from + "/a"));
+    EXPECT_TRUE(exists(m_to + "/b"));
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Ways,
     RenameBy,

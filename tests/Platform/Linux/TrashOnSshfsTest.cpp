@@ -84,6 +84,18 @@ TEST_F(TrashOnSshfs, AnEmptyFileWhoseMoveGotNoAnswerIsInTheTrash)
     EXPECT_THAT(infoFiles(), ElementsAre("a.trashinfo"));
 }
 
+/// Of a file the disk shows no more than it remembers the length of, which is the placeholder's.
+TEST_F(TrashOnSshfs, AFileThatBeginsLikeAPlaceholderIsInTheTrash)
+{
+    const std::string text = "Something is being moved here.\nIt is the cellar.\n";
+    const std::string other = "Something is being moved here: 1-2\nIt is the attic.\n";
+    for (const std::string& content : {text, other}) {
+        m_tree.writeFile("server/a", content);
+        EXPECT_EQ(moveOverABreakingLine("a"), "");
+        EXPECT_EQ(fileContent(m_newPath), content);
+    }
+}
+
 TEST_F(TrashOnSshfs, AFolderWhoseMoveGotNoAnswerIsInTheTrash)
 {
     m_tree.makeFolder("server/folder");
