@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "TreeView/ItemTrasher.h"
 
+#include "Model/NotificationCenter.h"
 #include "Model/RootModel.h"
 #include "Model/UserDefaults.h"
 #include "Model/nodeLookup.h"
@@ -106,17 +107,20 @@ void ItemTrasher::trash(const File& item)
     if (!isItem(item)) {
         return;
     }
+    // The item may be released while a question about it is open: a rescan ends, for instance.
     const Url place = placeOnDisk(item);
+    const std::string path = item.absolutePath();
     if (isOnItsWay(place.path()) || !mayTrash(item)) {
         return;
     }
     m_onTheirWay.insert(place.path());
     m_workspace.recycleURLs(
-        {place},
-        [self = QPointer<ItemTrasher>(this), place, path = item.absolutePath()](
-            const RecycleResult& result) {
+        {place}, [self = QPointer<ItemTrasher>(this), place, path](const RecycleResult& result) {
             if (self != nullptr) {
                 self->recycled(place, path, result);
+            } else if (result.error.empty()) {
+                // The tree is another one by now, or is still being read.
+                NotificationCenter::defaultCenter().post("ItemGone", place);
             }
         });
 }

@@ -481,5 +481,16 @@ TEST_F(ItemTrasherOverLinks, TheNodeGoesUnderTheScannedTrash)
     EXPECT_EQ(node(".local/Trash/files/a 2").totalAllocation(), 500U);
 }
 
+TEST_F(ItemTrasherTest, AnItemThatIsReleasedWhileItIsAskedForIsMovedAllTheSame)
+{
+    hide(".cfg");
+    alert.meanwhile = [this] { model.setTopFolder(test::makeTree("/Users/me", ".cfg/ ( x:10 )")); };
+    trash(".cfg/x");
+    ASSERT_EQ(workspace.recycled.size(), 1U);
+    EXPECT_EQ(workspace.recycled[0], (std::vector<Url>{Url("/Users/me/.cfg/x", false)}));
+    moveEnds(Url("/Users/me/.cfg/x", false), "x");
+    EXPECT_EQ(test::at(*model.topFolder(), ".cfg").totalAllocation(), 0U);
+}
+
 } // namespace
 } // namespace tessera

@@ -3,6 +3,7 @@
 
 #include "Utils/Alert.h"
 
+#include <functional>
 #include <vector>
 
 namespace tessera::test {
@@ -13,11 +14,15 @@ public:
     [[nodiscard]] int runModal(const AlertText& text) override
     {
         asked.push_back(text);
+        if (meanwhile) {
+            meanwhile();
+        }
         return answer;
     }
     void beginSheet(const AlertText& text) override { told.push_back(text); }
 
     int answer = kFirstButton;
+    std::function<void()> meanwhile; ///< what happens while a question is open
     std::vector<AlertText> asked;
     std::vector<AlertText> told;
 };
