@@ -15,7 +15,7 @@ public:
     virtual ~EndRequests() = default;
 
     /// From now on a request is handed to the handler, on the main thread, instead of ending the
-    /// program on the spot; the same request once more ends it, whatever it is busy with.
+    /// program on the spot; one that comes a while later ends it, whatever it is busy with.
     virtual void setHandler(std::function<void()> handler) = 0;
 };
 

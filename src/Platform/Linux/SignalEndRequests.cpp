@@ -10,6 +10,8 @@
 #include <atomic>
 #include <cerrno>
 #include <csignal>
+#include <cstdint>
+#include <ctime>
 #include <utility>
 
 namespace tessera {
@@ -21,11 +23,33 @@ constexpr int kNone = -1;
 
 // What the signal handler needs, which no argument can bring it.
 std::atomic<int> sender{kNone};
-static_assert(std::atomic<int>::is_always_lock_free);
+constexpr std::int64_t kNotYet = -1;
+std::atomic<std::int64_t> firstArrival{kNotYet};
+static_assert(
+    std::atomic<int>::is_always_lock_free && std::atomic<std::int64_t>::is_always_lock_free);
 
-extern "C" void passOn(int /*signal*/)
+/// A terminal that closes may say so twice, through the shell and by itself.
+constexpr std::int64_t kNanosecondsOfOneRequest = 1'000'000'000;
+
+std::int64_t nanosecondsNow()
+{
+    constexpr std::int64_t kNanosecondsPerSecond = 1'000'000'000;
+    timespec now{};
+    ::clock_gettime(CLOCK_MONOTONIC, &now);
+    return now.tv_sec * kNanosecondsPerSecond + now.tv_nsec;
+}
+
+extern "C" void passOn(int signal)
 {
     const int error = errno;
+    std::int64_t first = kNotYet;
+    const std::int64_t now = nanosecondsNow();
+    if (!firstArrival.compare_exchange_strong(first, now)
+        && now - first >= kNanosecondsOfOneRequest) {
+        // The program has not got to the first.
+        (void)std::signal(signal, SIG_DFL);
+        (void)::raise(signal);
+    }
     const char byte = 0;
     // A pipe that is full has been told already.
     [[maybe_unused]] const ssize_t written = ::write(sender.load(), &byte, sizeof(byte));
@@ -41,8 +65,7 @@ void hear(int signal)
     }
     struct sigaction action { };
     action.sa_handler = passOn;
-    // The next one ends a program that has not got to the first.
-    action.sa_flags = static_cast<int>(SA_RESETHAND | SA_RESTART);
+    action.sa_flags = SA_RESTART;
     ::sigaction(signal, &action, nullptr);
 }
 
@@ -63,6 +86,7 @@ SignalEndRequests::~SignalEndRequests()
         }
     }
     sender = kNone;
+    firstArrival = kNotYet;
 }
 
 void SignalEndRequests::setHandler(std::function<void()> handler)

@@ -11,7 +11,8 @@ class QSocketNotifier;
 namespace tessera {
 
 /// SIGTERM, SIGINT and SIGHUP, which the event loop hears of through a pipe. One that whoever
-/// started the program has it ignore stays ignored. There is one object in a process.
+/// started the program has it ignore stays ignored. One that comes a second or more after the first
+/// ends a program that has not got to that. There is one object in a process.
 class SignalEndRequests final : public EndRequests {
 public:
     SignalEndRequests();

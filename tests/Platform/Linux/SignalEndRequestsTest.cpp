@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <cstdlib>
 
 namespace tessera {
 namespace {
@@ -41,9 +42,10 @@ protected:
 
 TEST_F(SignalEndRequestsTest, EachOfThemReachesTheHandler)
 {
-    hear();
     int wanted = 0;
     for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+        SignalEndRequests fresh;
+        fresh.setHandler([this] { ++heard; });
         (void)std::raise(signal);
         runEvents(++wanted);
         EXPECT_EQ(heard, wanted) << signal;
@@ -58,13 +60,28 @@ TEST_F(SignalEndRequestsTest, TheHandlerIsCalledByTheEventLoopAlone)
     runEvents(1);
 }
 
-TEST_F(SignalEndRequestsTest, TheSameOnceMoreEndsTheProgram)
+TEST_F(SignalEndRequestsTest, TwoAtOnceAreOneRequest)
 {
     EXPECT_EXIT(
         {
             hear();
+            (void)std::raise(SIGHUP);
+            (void)std::raise(SIGHUP);
             (void)std::raise(SIGTERM);
-            (void)std::raise(SIGTERM);
+            std::_Exit(0);
+        },
+        testing::ExitedWithCode(0),
+        "");
+}
+
+TEST_F(SignalEndRequestsTest, WhoAsksOnAndOnEndsAProgramThatDoesNotGetToIt)
+{
+    EXPECT_EXIT(
+        {
+            hear();
+            for (;;) {
+                (void)std::raise(SIGTERM);
+            }
         },
         testing::KilledBySignal(SIGTERM),
         "");
