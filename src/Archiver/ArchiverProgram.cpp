@@ -74,7 +74,7 @@ int finish(const ArchiveReport& report, const std::string& path, ArchiveOutput& 
 
 int runArchiver(const ArchiverCommandLine& commandLine, ArchiverSystem& system)
 {
-    auto opened = system.openSource(commandLine.source);
+    auto opened = system.openSource(commandLine.source, commandLine.kind);
     if (const auto* failure = std::get_if<ArchiveFailure>(&opened)) {
         return fail(*failure, archiver_status::kNothingMade);
     }

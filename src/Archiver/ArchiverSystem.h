@@ -3,6 +3,7 @@
 
 #include "Archiver/ArchiveFailure.h"
 #include "Archiver/ArchiveOutput.h"
+#include "Archiver/SourceKind.h"
 #include "Archiver/SourceWalk.h"
 
 #include <memory>
@@ -24,8 +25,10 @@ public:
     ArchiverSystem& operator=(const ArchiverSystem&) = delete;
     virtual ~ArchiverSystem() = default;
 
-    /// Opens a folder, a file or a link for archiving, whatever slashes the path ends in.
-    [[nodiscard]] virtual Result<SourceWalk> openSource(const std::string& path) = 0;
+    /// Opens a folder, a file or a link for archiving, whatever slashes the path ends in. Fails
+    /// when it is of another kind.
+    [[nodiscard]] virtual Result<SourceWalk> openSource(const std::string& path, SourceKind kind)
+        = 0;
 
     /// Makes a new file that its owner alone may read, which will become the archive at `path`,
     /// and tells its identity on standard output. Fails when anything has the one's name or the

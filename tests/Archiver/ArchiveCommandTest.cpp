@@ -114,7 +114,9 @@ TEST_F(ArchiveCommand, BadUsageIsSaidInOneLine)
 {
     const ProgramResult result = runProgram(TESSERA_ARCHIVER, {"-x", source});
     EXPECT_EQ(result.exitStatus, 2);
-    EXPECT_EQ(result.standardError, "usage: tessera-ditto -c -k --sequesterRsrc SOURCE TARGET\n");
+    EXPECT_EQ(
+        result.standardError,
+        "usage: tessera-ditto -c -k --sequesterRsrc [--folder | --file] SOURCE TARGET\n");
 }
 
 TEST_F(ArchiveCommand, AnExistingFileStaysAsItIs)

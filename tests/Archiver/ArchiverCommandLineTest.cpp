@@ -17,6 +17,21 @@ TEST(ArchiverCommandLine, TakesSourceAndTarget)
     ASSERT_TRUE(commandLine);
     EXPECT_EQ(commandLine->source, "/a/source");
     EXPECT_EQ(commandLine->target, "/a/target.zip");
+    EXPECT_EQ(commandLine->kind, SourceKind::Any);
+}
+
+TEST(ArchiverCommandLine, TakesTheKindOfTheSource)
+{
+    const auto folder = parseArchiverCommandLine(
+        Arguments{"-c", "-k", "--sequesterRsrc", "--folder", "source", "target"});
+    ASSERT_TRUE(folder);
+    EXPECT_EQ(folder->kind, SourceKind::Folder);
+    EXPECT_EQ(folder->source, "source");
+    EXPECT_EQ(folder->target, "target");
+    const auto file = parseArchiverCommandLine(
+        Arguments{"-c", "-k", "--sequesterRsrc", "--file", "source", "target"});
+    ASSERT_TRUE(file);
+    EXPECT_EQ(file->kind, SourceKind::File);
 }
 
 TEST(ArchiverCommandLine, PathsMayLookLikeOptions)
@@ -43,6 +58,7 @@ INSTANTIATE_TEST_SUITE_P(
         Arguments{"--help"},
         Arguments{"-c", "-k", "--sequesterRsrc", "source"},
         Arguments{"-c", "-k", "--sequesterRsrc", "source", "target", "more"},
+        Arguments{"-c", "-k", "--sequesterRsrc", "--folder", "--file", "source", "target"},
         Arguments{"-k", "-c", "--sequesterRsrc", "source", "target"},
         Arguments{"-x", "-k", "--sequesterRsrc", "source", "target"},
         Arguments{"-c", "-k", "source", "target", "--sequesterRsrc"},

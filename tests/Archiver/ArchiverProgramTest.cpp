@@ -18,7 +18,8 @@ namespace {
 /// Opens the prepared source, once.
 class PreparedSystem final : public ArchiverSystem {
 public:
-    [[nodiscard]] Result<SourceWalk> openSource(const std::string& /*path*/) override
+    [[nodiscard]] Result<SourceWalk> openSource(
+        const std::string& /*path*/, SourceKind /*kind*/) override
     {
         return std::move(source);
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/LinuxArchiveOutput.h"
 
+#include "Platform/Linux/EndLater.h"
 #include "Platform/Linux/FileStatus.h"
 #include "Platform/Linux/renameWithoutReplacing.h"
 
@@ -46,6 +47,8 @@ int LinuxArchiveOutput::close()
 
 int LinuxArchiveOutput::publish()
 {
+    // It may take two steps, between which something that is no archive has the name.
+    const EndLater endLater;
     const int error
         = renameWithoutReplacing({m_target.folder, m_partName}, {m_target.folder, m_target.name});
     if (error == 0) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Archiver/ArchiverSystem.h"
 #include "FileOps/archivePaths.h"
+#include "Platform/Linux/EndLater.h"
 #include "Platform/Linux/LinuxArchiveOutput.h"
 #include "Platform/Linux/LinuxSourceWalk.h"
 #include "Platform/Linux/LongPath.h"
@@ -9,7 +10,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <array>
 #include <atomic>
 #include <cerrno>
 #include <csignal>
@@ -21,8 +21,6 @@
 namespace tessera {
 
 namespace {
-
-constexpr std::array kRequestsToEnd{SIGTERM, SIGINT, SIGHUP};
 
 bool canBeArchived(const FileStatus& status)
 {
@@ -45,31 +43,6 @@ extern "C" void endProcess(int /*signal*/)
         = ::write(STDERR_FILENO, endLine.load(), endLineLength.load());
     ::_exit(endStatus.load());
 }
-
-/// While it lives, requests to end the process wait.
-class EndLater {
-public:
-    EndLater() { ::pthread_sigmask(SIG_BLOCK, &requests(), &m_former); }
-    EndLater(const EndLater&) = delete;
-    EndLater& operator=(const EndLater&) = delete;
-    ~EndLater() { ::pthread_sigmask(SIG_SETMASK, &m_former, nullptr); }
-
-    static const sigset_t& requests()
-    {
-        static const sigset_t signals = [] {
-            sigset_t set{};
-            ::sigemptyset(&set);
-            for (const int signal : kRequestsToEnd) {
-                ::sigaddset(&set, signal);
-            }
-            return set;
-        }();
-        return signals;
-    }
-
-private:
-    sigset_t m_former{};
-};
 
 /// Whoever started the archiver learns which file is its work, however it ends.
 void announce(const FileIdentity& identity)
@@ -117,7 +90,7 @@ NamedPlace openPlace(const std::string& path)
 
 class LinuxArchiverSystem final : public ArchiverSystem {
 public:
-    [[nodiscard]] Result<SourceWalk> openSource(const std::string& path) override
+    [[nodiscard]] Result<SourceWalk> openSource(const std::string& path, SourceKind kind) override
     {
         NamedPlace place = openPlace(path);
         if (place.error != 0) {
@@ -129,6 +102,9 @@ public:
         }
         if (!canBeArchived(found.status)) {
             return ArchiveFailure{ENOTSUP, "read", path};
+        }
+        if (kind != SourceKind::Any && found.status.isDirectory != (kind == SourceKind::Folder)) {
+            return ArchiveFailure{found.status.isDirectory ? EISDIR : ENOTDIR, "read", path};
         }
         m_sourcePath = path;
         m_sourceFolder = duplicate(place.folder);
@@ -204,11 +180,12 @@ void endOnTerminationSignals(const char* line, StoppedStatus status)
     endStatusWithFragment = status.fragmentMade;
     struct sigaction action { };
     action.sa_handler = endProcess;
-    for (const int signal : kRequestsToEnd) {
+    for (const int signal : EndLater::kRequests) {
         ::sigaction(signal, &action, nullptr);
     }
     // Whoever started the process may have left them blocked.
-    ::pthread_sigmask(SIG_UNBLOCK, &EndLater::requests(), nullptr);
+    const sigset_t requests = EndLater::requests();
+    ::pthread_sigmask(SIG_UNBLOCK, &requests, nullptr);
     // A limit on the size of files is a failed write like others, and so is a reader of standard
     // output that is gone: no reasons to be killed.
     action.sa_handler = SIG_IGN;

@@ -1,16 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/LinuxArchiveOutput.h"
 
+#include "Archiver/ArchiverSystem.h"
 #include "Platform/Linux/FileStatus.h"
+#include "Platform/Linux/meanwhile.h"
 #include "support/TempTree.h"
 #include "support/failingCalls.h"
+#include "support/fileContent.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/syscall.h>
 
 #include <cerrno>
+#include <csignal>
 #include <cstdlib>
+#include <filesystem>
 
 namespace tessera::test {
 namespace {
@@ -50,6 +55,18 @@ TEST_F(LinuxArchiveOutputOfX, WhatOnlyClosingTellsIsAFailure)
         return makeCallFail({SYS_close, EIO, {}}) && output.close() == EIO;
     };
     EXPECT_EXIT(std::_Exit(isTold() ? 0 : 1), testing::ExitedWithCode(0), "");
+}
+
+TEST_F(LinuxArchiveOutputOfX, ARequestToEndWaitsUntilTheNameIsTheArchives)
+{
+    const auto publishSlowly = [this] {
+        endOnTerminationSignals("", {7, 8});
+        const Meanwhile asked(Call::Sync, [] { (void)std::raise(SIGTERM); });
+        return makeCallFail({SYS_renameat2, EINVAL, {}}) && output.publish() == 0;
+    };
+    EXPECT_EXIT(std::_Exit(publishSlowly() ? 0 : 2), testing::ExitedWithCode(7), "");
+    EXPECT_FALSE(std::filesystem::exists(tree.pathOf("X.zip.part")));
+    EXPECT_EQ(fileContent(tree.pathOf("X.zip")), "");
 }
 
 } // namespace

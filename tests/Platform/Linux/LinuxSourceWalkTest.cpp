@@ -26,7 +26,7 @@ constexpr std::size_t kBufferSize = 4096;
 
 std::unique_ptr<SourceWalk> openSource(const std::string& path)
 {
-    auto opened = makeArchiverSystem()->openSource(path);
+    auto opened = makeArchiverSystem()->openSource(path, SourceKind::Any);
     return std::move(std::get<std::unique_ptr<SourceWalk>>(opened));
 }
 
@@ -178,7 +178,7 @@ TEST_F(LinuxSourceWalkOfX, TheArchiveIsMadeInTheFolderThatTheSourceWasFoundIn)
     const std::string target = tree.pathOf("pub/X.zip");
     tree.makeFolder("pub");
     tree.rename("X", "pub/X");
-    ASSERT_EQ(system->openSource(tree.pathOf("pub/X")).index(), 0U);
+    ASSERT_EQ(system->openSource(tree.pathOf("pub/X"), SourceKind::Any).index(), 0U);
     tree.rename("pub", "priv");
     tree.makeFolder("pub");
     testing::internal::CaptureStdout();
@@ -186,6 +186,23 @@ TEST_F(LinuxSourceWalkOfX, TheArchiveIsMadeInTheFolderThatTheSourceWasFoundIn)
     testing::internal::GetCapturedStdout();
     EXPECT_TRUE(statusAt(AT_FDCWD, tree.pathOf("priv/X.zip.part").c_str()));
     EXPECT_FALSE(statusAt(AT_FDCWD, tree.pathOf("pub/X.zip.part").c_str()));
+}
+
+TEST_F(LinuxSourceWalkOfX, WhatIsOfAnotherKindThanWasMeantIsRefused)
+{
+    tree.makeFile("file");
+    tree.makeSymbolicLink("link", "X");
+    const auto errorOf = [this](const std::string& name, SourceKind kind) {
+        const auto opened = makeArchiverSystem()->openSource(tree.pathOf(name), kind);
+        const auto* const failure = std::get_if<ArchiveFailure>(&opened);
+        return failure == nullptr ? 0 : failure->code;
+    };
+    EXPECT_EQ(errorOf("X", SourceKind::Folder), 0);
+    EXPECT_EQ(errorOf("X", SourceKind::File), EISDIR);
+    EXPECT_EQ(errorOf("file", SourceKind::File), 0);
+    EXPECT_EQ(errorOf("file", SourceKind::Folder), ENOTDIR);
+    EXPECT_EQ(errorOf("link", SourceKind::File), 0);
+    EXPECT_EQ(errorOf("link", SourceKind::Folder), ENOTDIR);
 }
 
 TEST_F(LinuxSourceWalkOfX, WhatIsPassedOverIsNotDelivered)
