@@ -401,12 +401,17 @@ TEST_F(XbelRecentDocumentsOnDisk, AnEmptyFileIsAnEmptyList)
     EXPECT_FALSE(fs::exists(m_file.string() + ".corrupt-1"));
 }
 
-TEST_F(XbelRecentDocumentsOnDisk, AListThatWasReplacedByADeviceIsLeftAlone)
+/// Some people let it lead to the null device. Where this fails it is no device of the machine's
+/// that is replaced.
+TEST_F(XbelRecentDocumentsOnDisk, AListThatLeadsToNoRegularFileIsLeftAlone)
 {
     fs::create_directories(m_file.parent_path());
-    fs::create_symlink("/dev/null", m_file);
+    const fs::path pipe = m_folder / "pipe";
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    fs::create_symlink(pipe, m_file);
     documents().noteNewRecentDocumentUrl(makeFolder("a"));
-    EXPECT_EQ(fs::read_symlink(m_file), "/dev/null");
+    EXPECT_EQ(fs::read_symlink(m_file), pipe);
+    EXPECT_TRUE(fs::is_fifo(pipe));
     EXPECT_THAT(documents().recentDocumentUrls(), IsEmpty());
 }
 
