@@ -119,16 +119,17 @@ void CompressWindowController::compressURL(const Url& url, std::uint64_t withSiz
     m_services.targetsInUse.insert(m_targetPath);
     setOutputText(tr("Creating '%1'").arg(displayText(archive().lastPathComponent())));
     m_updateTimer.start();
-    startArchiver();
+    startArchiver(url.isDirectory());
     m_state = State::Running;
 }
 
-void CompressWindowController::startArchiver()
+void CompressWindowController::startArchiver(bool isFolder)
 {
+    const std::string kindOption = isFolder ? "--folder" : "--file";
     m_backupTask = m_services.makeTask();
     m_backupTask->start(
         m_services.archiver,
-        {"-c", "-k", "--sequesterRsrc", m_sourcePath, m_targetPath},
+        {"-c", "-k", "--sequesterRsrc", kindOption, m_sourcePath, m_targetPath},
         [this](int status) { checkATaskStatus(status); });
 }
 
@@ -211,28 +212,40 @@ void CompressWindowController::finishLater(const std::optional<Url>& archive)
 
 void CompressWindowController::compressFinished(const std::optional<Url>& archive)
 {
+    if (m_isDiskFull) {
+        sayThatTheDiskIsFull(archive.has_value());
+        if (m_self == nullptr) {
+            return; // the program ended instead of an answer
+        }
+    }
+    const Url part(partPath(m_targetPath), false);
     m_services.targetsInUse.erase(m_targetPath);
     m_sourcePath.clear();
     m_targetPath.clear();
     m_progress->reset();
+    if (archive) {
+        NotificationCenter::defaultCenter().post("ItemGone", part);
+    }
     NotificationCenter::defaultCenter().post(
         "ItemCompressed", archive ? NotificationObject(*archive) : NotificationObject());
     release();
-    if (m_isDiskFull) {
-        sayThatTheDiskIsFull();
-    }
 }
 
-void CompressWindowController::sayThatTheDiskIsFull() const
+/// The program may be waiting for this archive to end, so this is said before the end.
+void CompressWindowController::sayThatTheDiskIsFull(bool isInTrash)
 {
-    // Over another window than this one, which is about to go.
-    m_callLater(std::chrono::milliseconds(0), [&alert = m_services.alert] {
-        alert.beginSheet(
-            {tr("The archive cannot be made"),
-             tr("The disk is full. Nothing is left of the incomplete archive but an empty file in "
-                "the trash."),
-             {tr("OK")}});
-    });
+    QString text = tr("The disk is full.");
+    if (isInTrash) {
+        text = tr("The disk is full. Nothing is left of the incomplete archive but an empty file "
+                  "in the trash.");
+    } else if (m_made) {
+        text = tr("The disk is full. Of the incomplete archive an empty file is left, which could "
+                  "not be moved to the trash: '%1'.")
+                   .arg(displayText(lastPathComponent(partPath(m_targetPath))));
+    }
+    // The box belongs over another window than this one, which is about to go.
+    m_window->hide();
+    (void)m_services.alert.runModal({tr("The archive cannot be made"), text, {tr("OK")}});
 }
 
 void CompressWindowController::breakOffAtExit()

@@ -49,6 +49,8 @@ using CallLater = std::function<void(std::chrono::milliseconds, std::function<vo
 /// Makes a zip archive of an item beside the item, in a small window of its own. The progress is
 /// estimated from the archive's growing size. Whatever the end, the notification "ItemCompressed"
 /// is posted: with the URL of the archive, or of the incomplete archive in the trash, or of none.
+/// With the former two "ItemGone" is posted right before, with the URL that the archive had while
+/// it was incomplete: a scan may have met it there.
 ///
 /// Until it is complete the archive has another name (partPath()). What goes to the trash is the
 /// very file that the archiving program said it made, under whichever of the two names.
@@ -72,7 +74,8 @@ public:
     /// Shows the window in the middle of `above`, or of the screen.
     void showWindow(const QWidget* above = nullptr);
 
-    /// Starts; to be called once. `withSize` is what the item allocates, in bytes.
+    /// Starts; to be called once. `withSize` is what the item allocates, in bytes. Where a folder
+    /// has become something else meanwhile, or the reverse, it fails.
     void compressURL(const Url& url, std::uint64_t withSize);
 
     /// What the timer does, ten times a second: shows the progress and ends what has ended.
@@ -89,7 +92,7 @@ public:
 private:
     explicit CompressWindowController(CompressServices services, CallLater callLater);
 
-    void startArchiver();
+    void startArchiver(bool isFolder);
     void checkATaskStatus(int status);
     void compressFinished(const std::optional<Url>& archive);
     void trashIncompleteArchive();
@@ -97,7 +100,7 @@ private:
     void breakOffAtExit();
     void noteWhatWasMade();
     void release();
-    void sayThatTheDiskIsFull() const;
+    void sayThatTheDiskIsFull(bool isInTrash);
 
     void setOutputText(const QString& text);
     void showIcon();

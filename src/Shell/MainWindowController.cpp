@@ -213,6 +213,7 @@ void MainWindowController::slideScanIn(const Url& url)
 /// taken for the new one's.
 void MainWindowController::startScan(const Url& url)
 {
+    m_changes.scanBegins();
     m_scanVC.reset();
     m_scanVC = m_services.makeScanScreen();
     QWidget& panel = m_scanVC->view();
@@ -266,6 +267,7 @@ void MainWindowController::displayTree()
     // A rescan has begun or ended, perhaps.
     connect(m_treeVC.get(), &TreeViewController::pictureRebuilt, m_actions, &MainActions::validate);
     m_ignoreMenu.setTreeViewController(m_treeVC.get());
+    m_changes.tellAgain();
     m_treeView->show();
     m_treeView->setFocus();
 }

@@ -4,6 +4,7 @@
 #include "FileOps/IgnoreMenu.h"
 #include "Model/Observation.h"
 #include "Shell/ActionTable.h"
+#include "Shell/ChangesDuringScan.h"
 #include "Shell/MainToolbar.h"
 #include "Shell/MainWindowServices.h"
 #include "Shell/MenuValidation.h"
@@ -117,6 +118,7 @@ private:
     /// released from the event loop.
     std::vector<std::variant<std::unique_ptr<HomeScreen>, std::unique_ptr<ScanScreen>>> m_retired;
     QTimer m_release;
+    ChangesDuringScan m_changes;
     std::array<Observation, 4> m_observations;
 };
 

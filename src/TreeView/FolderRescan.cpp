@@ -123,6 +123,13 @@ void FolderRescan::nodeWillLeave(const File& node)
     }
 }
 
+void FolderRescan::pathWentAway(const std::string& path)
+{
+    if (m_rescanFolder != nullptr) {
+        m_changedPaths.insert(path);
+    }
+}
+
 void FolderRescan::nodeCame(const File& node)
 {
     noteChange(node);

@@ -61,6 +61,9 @@ public:
     /// an effect. What lies inside may have been read already: it is taken out of the new tree too.
     void nodeWillLeave(const File& node);
 
+    /// The same of a path that this tree has no node for, though the scanner may have met one.
+    void pathWentAway(const std::string& path);
+
     /// The node has come to its place. If that is inside the folder, it joins the new tree too.
     void nodeCame(const File& node);
 

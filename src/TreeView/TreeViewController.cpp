@@ -68,6 +68,11 @@ void TreeViewController::observe()
                   itemCompressed(*archive);
               }
           });
+    m_goneObservation = center.addObserver("ItemGone", [this](const NotificationObject& object) {
+        if (const Url* place = std::get_if<Url>(&object)) {
+            itemGone(*place);
+        }
+    });
 }
 
 void TreeViewController::doubleClickTreeItem()
@@ -224,6 +229,20 @@ void TreeViewController::compressItem()
     compressing->compressURL(placeOnDisk(*m_selectedFile), m_selectedFile->totalAllocation());
 }
 
+void TreeViewController::itemGone(const Url& place)
+{
+    const TopFolder* const top = m_model.topFolder();
+    if (top == nullptr) {
+        return;
+    }
+    const std::string path = pathInTree(*top, place.path());
+    m_rescan.pathWentAway(path);
+    if (path != top->absolutePath() && removeNodeAt(Url(path, false))) {
+        objectTreeRefreshed();
+        renderTree();
+    }
+}
+
 void TreeViewController::itemCompressed(const Url& archive)
 {
     auto document = makeNode<Document>(archive.lastPathComponent());
@@ -232,6 +251,7 @@ void TreeViewController::itemCompressed(const Url& archive)
     const TopFolder* const top = m_model.topFolder();
     const Url inTree(top == nullptr ? "" : pathInTree(*top, archive.path()), false);
     if (Folder* const parent = locateParent(inTree)) {
+        // A rescan meanwhile may have met it.
         removeNodeAt(inTree);
         nodeCame(parent->insertChild(std::move(document)));
     }
@@ -389,13 +409,15 @@ bool TreeViewController::eventFilter(QObject* watched, QEvent* event)
     return QObject::eventFilter(watched, event);
 }
 
-void TreeViewController::removeNodeAt(const Url& url)
+bool TreeViewController::removeNodeAt(const Url& url)
 {
-    // A rescan meanwhile may have met what is about to be added.
-    if (File* const found = nodeAtPath(*m_model.topFolder(), url.path())) {
-        nodeWillLeave(*found);
-        found->parent()->removeChild(*found);
+    File* const found = nodeAtPath(*m_model.topFolder(), url.path());
+    if (found == nullptr) {
+        return false;
     }
+    nodeWillLeave(*found);
+    found->parent()->removeChild(*found);
+    return true;
 }
 
 void TreeViewController::nodeWillLeave(File& node)

@@ -134,7 +134,8 @@ private:
     void observe();
     void doubleClickTreeItem();
     void itemCompressed(const Url& archive);
-    void removeNodeAt(const Url& url);
+    void itemGone(const Url& place);
+    bool removeNodeAt(const Url& url);
     void sayThatThereIsNoFileManager(const QString& itemName);
     void select(File* file);
     RescanObstacle rescanObstacle() const;
@@ -157,6 +158,7 @@ private:
     Observation m_clickObservation;
     Observation m_doubleClickObservation;
     Observation m_compressObservation;
+    Observation m_goneObservation;
 };
 
 } // namespace tessera

@@ -233,5 +233,43 @@ TEST_F(MainWindowScreensTest, WithReducedMotionNothingSlides)
     EXPECT_EQ(scanFrame().top(), area().height() - 230);
 }
 
+TEST_F(MainWindowScreensTest, WhatLeavesItsPlaceDuringAScanIsNotInTheNewTree)
+{
+    requestScan();
+    NotificationCenter::defaultCenter().post("ItemGone", Url("/data/docs/a", false));
+    finishScan();
+    EXPECT_EQ(services.model.topFolder()->totalAllocation(), 250U);
+}
+
+TEST_F(MainWindowScreensTest, AnArchiveThatComesDuringAScanIsInTheNewTree)
+{
+    services.treeScreen.resourceValues.size = 4096;
+    requestScan();
+    NotificationCenter::defaultCenter().post("ItemCompressed", Url("/data/docs/x.zip", false));
+    finishScan();
+    EXPECT_EQ(services.model.topFolder()->totalAllocation(), 950U + 4096U);
+}
+
+TEST_F(MainWindowScreensTest, WhatLeftBeforeTheScanMayBeBack)
+{
+    NotificationCenter::defaultCenter().post("ItemGone", Url("/data/docs/a", false));
+    requestScan();
+    finishScan();
+    EXPECT_EQ(services.model.topFolder()->totalAllocation(), 950U);
+}
+
+TEST_F(MainWindowScreensTest, AnItemWhoseMoveEndsDuringTheNextScanIsNotInTheNewTree)
+{
+    showTree();
+    select("docs/a");
+    controller->perform(MainCommand::MoveToTrash);
+    requestScan();
+    RecycleResult result;
+    result.newUrls["file:///data/docs/a"] = Url("/trash/a", false);
+    ASSERT_TRUE(services.treeScreen.workspace.finishRecycling(result));
+    finishScan();
+    EXPECT_EQ(services.model.topFolder()->totalAllocation(), 250U);
+}
+
 } // namespace
 } // namespace tessera

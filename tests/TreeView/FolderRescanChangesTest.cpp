@@ -61,6 +61,30 @@ TEST_F(FolderRescanChanges, AnArchiveThatWasReadHalfWrittenHasItsWholeSize)
     EXPECT_EQ(node("docs").totalAllocation(), 4196U);
 }
 
+TEST_F(FolderRescanChanges, WhatHasLeftItsPlaceIsInTheTreeNoMore)
+{
+    controller->setSelectedFile(&node("docs/a"));
+    NotificationCenter::defaultCenter().post("ItemGone", Url("/data/docs/a", false));
+    EXPECT_FALSE(has("docs/a"));
+    EXPECT_EQ(controller->selectedFile(), nullptr);
+    EXPECT_EQ(model.topFolder()->totalAllocation(), 801U);
+}
+
+TEST_F(FolderRescanChanges, WhatAScanMetBeforeItLeftIsNotInTheNewTree)
+{
+    rescan("docs");
+    NotificationCenter::defaultCenter().post("ItemGone", Url("/data/docs/new/b", false));
+    finish();
+    EXPECT_FALSE(has("docs/new/b"));
+    EXPECT_EQ(node("docs").totalAllocation(), 900U);
+}
+
+TEST_F(FolderRescanChanges, TheScannedFolderItselfStaysInView)
+{
+    NotificationCenter::defaultCenter().post("ItemGone", Url("/data", true));
+    EXPECT_EQ(model.topFolder()->totalAllocation(), 1301U);
+}
+
 TEST_F(FolderRescanChanges, AnArchiveInAFolderThatVanishedIsInNoTree)
 {
     services.resourceValues.size = 4096;

@@ -173,7 +173,8 @@ TEST_F(TreeViewControllerCommandsTest, CompressesTheSelectedItem)
     EXPECT_EQ(services.archiver.program, "/archiver");
     EXPECT_EQ(
         services.archiver.arguments,
-        (std::vector<std::string>{"-c", "-k", "--sequesterRsrc", "/data/docs", "/data/docs.zip"}));
+        (std::vector<std::string>{
+            "-c", "-k", "--sequesterRsrc", "--folder", "/data/docs", "/data/docs.zip"}));
     services.archiver.output = "1 2\n"; // the file that it made
     services.archiver.onTerminated(1);
     QTRY_COMPARE(services.workspace.recycled.size(), 1U);
@@ -199,7 +200,8 @@ TEST_F(TreeViewControllerCommandsTest, AnArchiveOfAScanOverALinkIsMadeWhereTheIt
     controller->perform(TreeCommand::Compress);
     EXPECT_EQ(
         services.archiver.arguments,
-        (std::vector<std::string>{"-c", "-k", "--sequesterRsrc", "/disk/docs", "/disk/docs.zip"}));
+        (std::vector<std::string>{
+            "-c", "-k", "--sequesterRsrc", "--folder", "/disk/docs", "/disk/docs.zip"}));
     services.archiver.output = "1 2\n"; // the file that it made
     services.archiver.onTerminated(1);
     QTRY_COMPARE(services.workspace.recycled.size(), 1U);
