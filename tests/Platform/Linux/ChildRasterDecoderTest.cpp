@@ -266,6 +266,68 @@ TEST_F(ChildRasterDecoderTest, TheProgramGetsTheFileAndNeitherItsNameNorTheEnvir
     EXPECT_EQ(fileContent(tree.pathOf("environment")), expected);
 }
 
+/// What a program sees of itself.
+class StartedProgram : public ChildRasterDecoderTest {
+protected:
+    /// What the shell's words write into "report".
+    std::string report(const std::string& words) const
+    {
+        const std::string path = tree.pathOf("report");
+        const ChildRasterDecoder decoder(programThat("{ " + words + "; } > '" + path + "'"));
+        (void)decoder.decode(*fileOf("x"), kPicture, {});
+        return fileContent(path);
+    }
+};
+
+TEST_F(StartedProgram, HoldsOneEndOfThePipe)
+{
+    const ChildRasterDecoder decoder(programThat(
+        "cd '" + tree.path() + "'\n"
+        + "pipe=$(readlink /proc/$$/fd/1); ls -l /proc/$$/fd > list\n"
+          "grep -cF \"$pipe\" list > report"));
+
+    (void)decoder.decode(*fileOf("x"), kPicture, {});
+
+    EXPECT_EQ(fileContent(tree.pathOf("report")), "1\n");
+}
+
+TEST_F(StartedProgram, ComplainsToNobody)
+{
+    EXPECT_EQ(report("readlink /proc/$$/fd/2"), "/dev/null\n");
+}
+
+TEST_F(StartedProgram, IsDeafToNoSignal)
+{
+    sigset_t blocked{};
+    ::sigemptyset(&blocked);
+    ::sigaddset(&blocked, SIGTERM);
+    sigset_t before{};
+    ASSERT_EQ(::pthread_sigmask(SIG_BLOCK, &blocked, &before), 0);
+
+    // Shells let all signals through.
+    tree.writeFile(
+        "awk",
+        "#!/usr/bin/awk -f\n"
+        "BEGIN { while ((getline < \"/proc/self/status\") > 0)"
+        " if ($1 == \"SigBlk:\") print $2 > \""
+            + tree.pathOf("report") + "\"; exit }\n");
+    tree.setMode("awk", 0700);
+    (void)ChildRasterDecoder(tree.pathOf("awk")).decode(*fileOf("x"), kPicture, {});
+
+    ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
+    EXPECT_EQ(fileContent(tree.pathOf("report")), "0000000000000000\n");
+}
+
+TEST_F(StartedProgram, IgnoresNoSignalThatTheProgramIgnores)
+{
+    const auto before = std::signal(SIGXCPU, SIG_IGN);
+
+    const std::string ignored = report("sed -n 's/^SigIgn:.//p' /proc/self/status");
+
+    (void)std::signal(SIGXCPU, before);
+    EXPECT_EQ(std::stoull(ignored, nullptr, 16) >> (SIGXCPU - 1U) & 1U, 0U);
+}
+
 /// A decoding that goes on until it is stopped.
 class EndlessDecoding : public ChildRasterDecoderTest {
 protected:
