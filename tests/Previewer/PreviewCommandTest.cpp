@@ -9,8 +9,11 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <linux/filter.h>
+#include <linux/landlock.h>
 #include <linux/seccomp.h>
 #include <sys/prctl.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -19,8 +22,12 @@
 #include <cerrno>
 #include <csignal>
 #include <cstddef>
+#include <cstdint>
+#include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
+#include <set>
 #include <sstream>
 #include <string>
 #include <thread>
@@ -82,10 +89,11 @@ public:
         return filled;
     }
 
-    /// The system's word for it: a file in /proc.
+    /// What the system tells of it.
+    std::string folderInProc() const { return "/proc/" + std::to_string(m_process->id()); }
     std::string told(const std::string& file) const
     {
-        return fileContent("/proc/" + std::to_string(m_process->id()) + "/" + file);
+        return fileContent(folderInProc() + "/" + file);
     }
 
     ChildProcess& process() const { return *m_process; }
@@ -189,6 +197,13 @@ void answerNo(std::vector<sock_filter>& program, std::uint32_t call)
     program.push_back(BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | ENOSYS));
 }
 
+void install(std::vector<sock_filter>& program)
+{
+    const sock_fprog filter{static_cast<unsigned short>(program.size()), program.data()};
+    ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
+    ::prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &filter);
+}
+
 /// A kernel without the means to close the disk and to filter system calls.
 void forgetConfinement()
 {
@@ -201,9 +216,7 @@ void forgetConfinement()
     program.push_back(BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, args)));
     answerNo(program, PR_SET_SECCOMP);
     program.push_back(BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW));
-    const sock_fprog filter{static_cast<unsigned short>(program.size()), program.data()};
-    ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
-    ::prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &filter);
+    install(program);
 }
 
 TEST(PreviewCommandOnAnOldKernel, HasItsLimitsAndDecodes)
@@ -217,6 +230,85 @@ TEST(PreviewCommandOnAnOldKernel, HasItsLimitsAndDecodes)
     EXPECT_EQ(wordsBehind(previewer.told("limits"), "Max file size").at(0), "0");
     EXPECT_EQ(previewer.read(kFrameBytes + std::size_t{300} * 300 * 4), 360016U);
 }
+
+TEST(PreviewCommandWithLessThanItTakes, DoesNotTakeMore)
+{
+    const WorkingPreviewer previewer([] {
+        const rlimit few{32, 32};
+        ::setrlimit(RLIMIT_NOFILE, &few);
+    });
+
+    ASSERT_TRUE(previewer.hasBegun());
+    EXPECT_EQ(wordsBehind(previewer.told("limits"), "Max open files").at(1), "32");
+}
+
+TEST(PreviewCommandWithAnotherFileOpen, KeepsTheStandardStreamsOnly)
+{
+    const WorkingPreviewer previewer([] { ::dup2(STDIN_FILENO, 9); });
+
+    ASSERT_TRUE(previewer.hasBegun());
+    std::set<std::string> open;
+    for (const auto& entry :
+         std::filesystem::directory_iterator(previewer.folderInProc() + "/fd")) {
+        open.insert(entry.path().filename());
+    }
+    EXPECT_EQ(open, (std::set<std::string>{"0", "1", "2"}));
+}
+
+TEST(PreviewCommandOfAnyUser, ShowsItsMemoryToNobody)
+{
+    constexpr uid_t kNobody = 65534;
+    const WorkingPreviewer previewer([] {
+        if (::getuid() == 0) {
+            (void)::setresuid(kNobody, kNobody, kNobody);
+        }
+    });
+    if (!previewer.hasBegun()) {
+        GTEST_SKIP() << "the user without rights cannot start it here";
+    }
+    struct stat own { };
+    ASSERT_EQ(::stat((previewer.folderInProc() + "/status").c_str(), &own), 0);
+    // What the system tells of a process is its user's, unless nobody may look into it.
+    EXPECT_EQ(own.st_uid, 0U);
+}
+
+/// A kernel that ends the process at a system call, and at one of its numbers only if one is named.
+std::function<void()> endingAt(std::uint32_t call, std::optional<std::uint32_t> number = {})
+{
+    return [call, number] {
+        std::vector<sock_filter> program{
+            BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
+            BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, call, 1, 0),
+            BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW)};
+        if (number) {
+            program.push_back(BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, args)));
+            program.push_back(BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, *number, 1, 0));
+            program.push_back(BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW));
+        }
+        program.push_back(BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_KILL_PROCESS));
+        install(program);
+    };
+}
+
+TEST(PreviewCommandWithTheDiskOpen, ClosesIt)
+{
+    constexpr auto kAsk = LANDLOCK_CREATE_RULESET_VERSION;
+    if (::prctl(PR_GET_SECCOMP) < 0
+        || ::syscall(SYS_landlock_create_ruleset, nullptr, std::size_t{0}, kAsk) < 1) {
+        GTEST_SKIP() << "this kernel cannot do it";
+    }
+    EXPECT_FALSE(WorkingPreviewer(endingAt(SYS_landlock_restrict_self)).hasBegun());
+}
+
+#ifdef SYS_alarm
+TEST(PreviewCommandThatWaits, IsEndedAfterAMinute)
+{
+    if (::prctl(PR_GET_SECCOMP) < 0) {
+        GTEST_SKIP() << "this kernel filters no system calls";
+    }
+    EXPECT_FALSE(WorkingPreviewer(endingAt(SYS_alarm, 60)).hasBegun());
+}
+#endif
 
 TEST(PreviewCommandOfACrashedProgram, EndsWithIt)
 {
