@@ -7,13 +7,18 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <linux/landlock.h>
+#include <netinet/in.h>
 #include <sys/prctl.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
 #include <array>
 #include <cerrno>
+#include <cstring>
+#include <span>
+#include <string>
 
 namespace tessera::test {
 namespace {
@@ -22,8 +27,7 @@ class DiskFence : public testing::Test {
 protected:
     void SetUp() override
     {
-        constexpr auto kAsk = LANDLOCK_CREATE_RULESET_VERSION;
-        if (::syscall(SYS_landlock_create_ruleset, nullptr, std::size_t{0}, kAsk) < 1) {
+        if (version() < 1) {
             GTEST_SKIP() << "this kernel cannot do it";
         }
         tree.makeFolder("open");
@@ -31,12 +35,23 @@ protected:
         tree.makeFile("closed", 1);
     }
 
+    static long version()
+    {
+        constexpr auto kAsk = LANDLOCK_CREATE_RULESET_VERSION;
+        return ::syscall(SYS_landlock_create_ruleset, nullptr, std::size_t{0}, kAsk);
+    }
+
     /// The error of what is tried behind the fence around "open"; 0 for none.
     int behind(const std::function<bool()>& attempt) const
     {
-        return inChild([this, &attempt] {
-            const std::string folder = tree.pathOf("open");
-            const std::array folders{folder.c_str(), "/no/such/folder"};
+        const std::string folder = tree.pathOf("open");
+        return behindFenceAround(std::array{folder.c_str(), "/no/such/folder"}, attempt);
+    }
+
+    static int behindFenceAround(
+        std::span<const char* const> folders, const std::function<bool()>& attempt)
+    {
+        return inChild([&folders, &attempt] {
             ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
             if (!keepToFolders(folders)) {
                 return 127;
@@ -77,7 +92,38 @@ TEST_F(DiskFence, NothingCanBeChanged)
 
 TEST_F(DiskFence, NothingCanBeExecuted)
 {
-    EXPECT_EQ(behind([] { return ::execl("/bin/true", "true", nullptr) == 0; }), EACCES);
+    const auto execute = [] { return ::execl("/bin/true", "true", nullptr) == 0; };
+
+    EXPECT_EQ(behind(execute), EACCES);
+    EXPECT_EQ(behindFenceAround(std::array{"/"}, execute), EACCES);
+}
+
+TEST_F(DiskFence, NothingCanBeCutShort)
+{
+    if (version() < 3) {
+        GTEST_SKIP() << "this kernel cannot do it";
+    }
+    EXPECT_EQ(
+        behind([this] { return ::truncate(tree.pathOf("open/file").c_str(), 0) == 0; }), EACCES);
+}
+
+TEST_F(DiskFence, NobodyIsCalledOverTheNetwork)
+{
+    if (version() < 4) {
+        GTEST_SKIP() << "this kernel cannot do it";
+    }
+    EXPECT_EQ(
+        behind([] {
+            sockaddr_in own{};
+            own.sin_family = AF_INET;
+            own.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+            own.sin_port = htons(1);
+            const int caller = ::socket(AF_INET, SOCK_STREAM, 0);
+            sockaddr general{};
+            std::memcpy(&general, &own, sizeof(own));
+            return ::connect(caller, &general, sizeof(own)) == 0;
+        }),
+        EACCES);
 }
 
 TEST_F(DiskFence, WhatIsOpenStaysOpen)

@@ -79,6 +79,31 @@ TEST_F(SystemCallFilter, LimitsCannotBeChanged)
     EXPECT_EQ(behind([&none] { return ::setrlimit(RLIMIT_CORE, &none) == 0; }), ENOSYS);
 }
 
+TEST_F(SystemCallFilter, AThreadsNameIsAllThatCanBeSetOfTheProcess)
+{
+    EXPECT_EQ(behind([] { return ::prctl(PR_SET_NAME, "decoder") == 0; }), 0);
+    EXPECT_EQ(behind([] { return ::prctl(PR_SET_DUMPABLE, 1) == 0; }), ENOSYS);
+}
+
+#ifdef __x86_64__
+/// Asks in the way of programs of 32 bits, where numbers mean other calls.
+bool knowsProcessByOldCall()
+{
+    constexpr long kGetPid = 20;
+    long answer = kGetPid;
+    asm volatile("int $0x80" : "+a"(answer) : : "memory", "r8", "r9", "r10", "r11");
+    return answer > 0;
+}
+
+TEST_F(SystemCallFilter, CallsOfAnotherKindOfMachineEndTheProcess)
+{
+    if (inChild([] { return knowsProcessByOldCall() ? 0 : 1; }) != 0) {
+        GTEST_SKIP() << "this kernel has none";
+    }
+    EXPECT_EQ(behind(knowsProcessByOldCall), 128 + SIGSYS);
+}
+#endif
+
 TEST_F(SystemCallFilter, AThreadCanBeStarted)
 {
     EXPECT_EQ(
