@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <string>
 
 namespace tessera {
@@ -67,6 +68,14 @@ TEST_F(FileDeviceTest, AFileThatGoesOnEndsAtItsLength)
     FileDevice device(*file, 10);
 
     EXPECT_EQ(device.readAll(), QByteArray(10, 'x'));
+}
+
+TEST_F(FileDeviceTest, AReadBeyondTheLengthEndsThereThoughTheFileHasGrown)
+{
+    FileDevice device(*file, 10);
+    std::array<char, 100> room{};
+
+    EXPECT_EQ(device.read(room.data(), room.size()), 10);
 }
 
 TEST_F(FileDeviceTest, AFileThatWasCutEndsWhereItEnds)

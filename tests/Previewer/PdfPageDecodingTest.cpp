@@ -57,6 +57,16 @@ TEST_F(PdfPageDecoding, CutsAPageThatIsHigherThanTheLimit)
     EXPECT_EQ(open(test::pdfFile(1))->paint(0, QSize(kWidth, 120)).size(), QSize(kWidth, 120));
 }
 
+TEST_F(PdfPageDecoding, APageLikeALineKeepsAPixelOfHeight)
+{
+    const std::string line = test::pdfOf(
+        {"<</Type/Catalog/Pages 2 0 R>>",
+         "<</Type/Pages/Kids[3 0 R]/Count 1>>",
+         "<</Type/Page/Parent 2 0 R/MediaBox[0 0 5000 2]>>"});
+
+    EXPECT_EQ(open(line)->paint(0, kLimit).size(), QSize(kWidth, 1));
+}
+
 TEST_F(PdfPageDecoding, KnowsHowManyPagesThereAre)
 {
     EXPECT_EQ(open(test::pdfFile(12))->pageCount(), 12);
