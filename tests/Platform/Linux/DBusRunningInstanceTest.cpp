@@ -23,6 +23,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 constexpr int kPatienceMs = 10000;
+const QString kApplication = QStringLiteral("org.freedesktop.Application");
 
 class DBusRunningInstanceOnABus : public testing::Test {
 protected:
@@ -59,16 +60,21 @@ protected:
         EXPECT_EQ(callFirst(QStringLiteral("Activate"), {data}).type(), QDBusMessage::ReplyMessage);
     }
 
-    QDBusMessage callFirst(
-        const QString& member,
-        const QVariantList& arguments,
-        const QString& interface = QStringLiteral("org.freedesktop.Application"))
+    static QDBusMessage callOfFirst(const QString& member, const QString& interface)
     {
-        QDBusMessage call = QDBusMessage::createMethodCall(
+        return QDBusMessage::createMethodCall(
             QString::fromLatin1(DBusRunningInstance::kBusName),
             QString::fromLatin1(DBusRunningInstance::kObjectPath),
             interface,
             member);
+    }
+
+    QDBusMessage callFirst(
+        const QString& member,
+        const QVariantList& arguments,
+        const QString& interface = kApplication)
+    {
+        QDBusMessage call = callOfFirst(member, interface);
         call.setArguments(arguments);
         QDBusConnection caller = bus.connection(QStringLiteral("tessera-test-caller"));
         QDBusPendingCall pending = caller.asyncCall(call);
@@ -112,6 +118,17 @@ TEST_F(DBusRunningInstanceOnABus, WhatComesBeforeThereIsAHandlerIsKeptForIt)
     EXPECT_THAT(handled, ElementsAre("/data"));
 }
 
+TEST_F(DBusRunningInstanceOnABus, ALaterStartPassesOnWhatLetsTheWindowComeToTheFront)
+{
+    (void)first->handOver(Url());
+    listen();
+    const QByteArray before = qgetenv("XDG_ACTIVATION_TOKEN");
+    qputenv("XDG_ACTIVATION_TOKEN", "shell_7");
+    EXPECT_TRUE(startSecond(Url()));
+    qputenv("XDG_ACTIVATION_TOKEN", before);
+    EXPECT_THAT(tokens, ElementsAre("shell_7"));
+}
+
 TEST_F(DBusRunningInstanceOnABus, AProcessThatDoesNotAnswerCountsAsNone)
 {
     (void)first->handOver(Url());
@@ -137,6 +154,24 @@ TEST_F(DBusRunningInstanceOnABus, OfSeveralFoldersTheLastIsOpened)
         callFirst(QStringLiteral("Open"), {uris, QVariantMap()}).type(),
         QDBusMessage::ReplyMessage);
     EXPECT_THAT(handled, ElementsAre("/b c"));
+}
+
+TEST_F(DBusRunningInstanceOnABus, OpeningNoFolderAsksForTheWindow)
+{
+    (void)first->handOver(Url());
+    listen();
+    callFirst(QStringLiteral("Open"), {QStringList(), QVariantMap()});
+    EXPECT_THAT(handled, ElementsAre("the window"));
+}
+
+TEST_F(DBusRunningInstanceOnABus, CallsOfOtherInterfacesAreAnsweredWithAnError)
+{
+    (void)first->handOver(Url());
+    listen();
+    const QDBusMessage reply = callFirst(
+        QStringLiteral("Activate"), {QVariantMap()}, QStringLiteral("org.example.Application"));
+    EXPECT_EQ(reply.type(), QDBusMessage::ErrorMessage);
+    EXPECT_THAT(handled, IsEmpty());
 }
 
 TEST_F(DBusRunningInstanceOnABus, CallsThatMakeNoSenseAreAnsweredWithAnError)
@@ -211,6 +246,23 @@ TEST_F(DBusRunningInstanceOnABus, WhenTheFirstHasGivenUpTheNextOneIsTheFirst)
     listen();
     first->giveUp();
     EXPECT_FALSE(startSecond(Url("/data", true)));
+    EXPECT_THAT(handled, IsEmpty());
+}
+
+TEST_F(DBusRunningInstanceOnABus, ACallOnItsWayWhenItGivesUpIsForTheNextStart)
+{
+    (void)first->handOver(Url());
+    listen();
+    QDBusConnection caller = bus.connection(QStringLiteral("tessera-test-caller"));
+    QDBusMessage activate = callOfFirst(QStringLiteral("Activate"), kApplication);
+    activate << QVariantMap();
+    QDBusPendingCall pending = caller.asyncCall(activate);
+    // Answered by the bus's own thread, which has taken the call before by then.
+    (void)caller.call(
+        callOfFirst(QStringLiteral("Ping"), QStringLiteral("org.freedesktop.DBus.Peer")));
+    first->giveUp();
+    test::SessionBus::runEventsUntil([&] { return pending.isFinished(); });
+    EXPECT_TRUE(pending.isError());
     EXPECT_THAT(handled, IsEmpty());
 }
 
