@@ -161,6 +161,25 @@ TEST_F(DBusWorkspaceOnABus, AWorkspaceMayGoBeforeItsCallIsAnswered)
     EXPECT_FALSE(isHeard);
 }
 
+TEST_F(DBusWorkspaceOnABus, AWorkspaceMayGoBeforeItsOpenerAnswers)
+{
+    OpenCompletion answer;
+    bool isHeard = false;
+    {
+        DBusWorkspace workspace(
+            *m_bus,
+            [&answer](const std::string&, const OpenCompletion& completionHandler) {
+                answer = completionHandler;
+            },
+            m_mainThread,
+            [](const std::vector<Url>&) { return RecycleResult(); },
+            [](const FileIdentity&, const std::vector<Url>&) { return RecycleResult(); });
+        workspace.openUrl("file:///home/", [&isHeard](bool) { isHeard = true; });
+    }
+    answer(true);
+    EXPECT_FALSE(isHeard);
+}
+
 /// Whose opener answers at once.
 class DBusWorkspaceWithoutABus : public testing::Test {
 protected:

@@ -50,6 +50,21 @@ TEST_F(ExternalOpenerTest, AProgramThatCrashesHasNot)
     EXPECT_EQ(answerOf(ExternalOpener(program("kill -9 $$"))), false);
 }
 
+TEST_F(ExternalOpenerTest, AProgramThatCrashesIsAnsweredForOnce)
+{
+    int answers = 0;
+    ExternalOpener(program("kill -9 $$"))("file:///a/", [&answers](bool) { ++answers; });
+    test::SessionBus::runEventsUntil([&answers] { return answers > 0; });
+    EXPECT_EQ(answers, 1);
+}
+
+TEST_F(ExternalOpenerTest, TheProgramHasNothingToRead)
+{
+    const std::string out = m_folder.pathOf("out");
+    ASSERT_EQ(answerOf(ExternalOpener(program("readlink /proc/$$/fd/0 >" + out))), true);
+    EXPECT_EQ(test::fileContent(out), "/dev/null\n");
+}
+
 TEST_F(ExternalOpenerTest, AProgramThatIsNotThereHasNot)
 {
     EXPECT_EQ(answerOf(ExternalOpener("/no/such/program")), false);
