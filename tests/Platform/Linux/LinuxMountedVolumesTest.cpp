@@ -2,6 +2,7 @@
 #include "Platform/Linux/LinuxMountedVolumes.h"
 
 #include "support/ChildProcess.h"
+#include "support/DeadFileSystem.h"
 #include "support/OwnMounts.h"
 #include "support/TempTree.h"
 
@@ -79,6 +80,26 @@ TEST_F(LinuxMountedVolumesTest, AFileOnWhichAnotherIsMountedIsNoDisk)
     EXPECT_THAT(
         volumes.mountedVolumes(),
         ElementsAre(MountedVolume{Url(m_tree.pathOf("folder"), true), MountedVolume::Kind::Disk}));
+}
+
+TEST_F(LinuxMountedVolumesTest, APartThatCannotBeLookedAtIsADisk)
+{
+    const std::string table = write("parts", "1 0 8:1 /a /no/such/point rw - ext4 /dev/sda1 rw\n");
+    EXPECT_THAT(
+        LinuxMountedVolumes(questions(), table, "/no/such/fstab").mountedVolumes(),
+        ElementsAre(MountedVolume{Url("/no/such/point", true), MountedVolume::Kind::Disk}));
+}
+
+TEST_F(LinuxMountedVolumesTest, APartThatDoesNotAnswerIsADisk)
+{
+    const auto asked = std::make_shared<const FileSystemQuestions>(
+        std::chrono::milliseconds(1), [](const std::string& path) { return path; });
+    const DeadFileSystem dead;
+    dead.swallow(*asked, "/", LinkMode::Keep);
+    const std::string table = write("parts", "1 0 8:1 /a / rw - ext4 /dev/sda1 rw\n");
+    EXPECT_THAT(
+        LinuxMountedVolumes(asked, table, "/no/such/fstab").mountedVolumes(),
+        ElementsAre(MountedVolume{Url("/", true), MountedVolume::Kind::Disk}));
 }
 
 TEST_F(LinuxMountedVolumesTest, WhatIsMountedLaterIsSeen)
