@@ -18,7 +18,7 @@ public:
     [[nodiscard]] std::optional<std::size_t> readAt(
         std::uint64_t offset, std::span<char> into) override
     {
-        if (m_item.isBroken) {
+        if (m_item.isBroken && offset >= m_item.content.size()) {
             return std::nullopt;
         }
         std::size_t count = into.size();
@@ -90,9 +90,11 @@ void FakeFileReader::addUnreadableFile(const std::string& path, std::uint64_t le
     add(path, std::move(item));
 }
 
-void FakeFileReader::addBrokenFile(const std::string& path, std::uint64_t length)
+void FakeFileReader::addBrokenFile(
+    const std::string& path, std::uint64_t length, const std::string& readable)
 {
     Item item = regularItem(length);
+    item.content = readable;
     item.isBroken = true;
     add(path, std::move(item));
 }

@@ -27,8 +27,9 @@ public:
     /// Gives the file, which is there already, these bytes at its begin.
     void setBeginning(const std::string& path, const std::string& beginning);
     void addUnreadableFile(const std::string& path, std::uint64_t length);
-    /// It can be opened, but reading it fails.
-    void addBrokenFile(const std::string& path, std::uint64_t length);
+    /// It can be opened, but reading it fails behind what is readable of it.
+    void addBrokenFile(
+        const std::string& path, std::uint64_t length, const std::string& readable = {});
     void addSpecial(const std::string& path, FileKind kind, const std::string& linkTarget = {});
 
     void holdUp(const std::string& path);

@@ -266,6 +266,14 @@ TEST_F(PreviewReadingTest, AnImageThatCannotBeDecodedIsDescribed)
     EXPECT_EQ(preview.kind, QStringLiteral("PNG image"));
 }
 
+TEST_F(PreviewReadingTest, AnImageWrittenInDigitsThatCannotBeDecodedIsNotShownAsText)
+{
+    files.addFile("/a.ppm", "P3\n300 200\n255\n1 2 3");
+    decoder.setAnswer({RasterOutcome::Whole, PixelSize{300, 200}, 0, {}});
+
+    EXPECT_TRUE(hasNoContent(read("/a.ppm")));
+}
+
 TEST_F(PreviewReadingTest, ABinaryFileIsDescribed)
 {
     files.addFile(
@@ -317,6 +325,16 @@ TEST_F(PreviewReadingTest, SaysWhyAFileCannotBeRead)
     EXPECT_EQ(read("/secret.txt").contentError, std::errc::permission_denied);
     EXPECT_EQ(read("/secret.txt").kind, QStringLiteral("plain text document"));
     EXPECT_EQ(read("/damaged.txt").contentError, std::errc::io_error);
+}
+
+TEST_F(PreviewReadingTest, OfADamagedFileTheReadableBeginningIsShown)
+{
+    files.addBrokenFile("/damaged.txt", 100, "readable");
+
+    const Preview preview = read("/damaged.txt");
+
+    ASSERT_TRUE(std::holds_alternative<PreviewText>(preview.content));
+    EXPECT_EQ(std::get<PreviewText>(preview.content).text, QStringLiteral("readable"));
 }
 
 TEST_F(PreviewReadingTest, SaysThatAFileHasVanished)

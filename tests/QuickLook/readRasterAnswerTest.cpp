@@ -154,6 +154,7 @@ TEST(ReadRasterAnswer, HugeSizesAreNotMultiplied)
     EXPECT_TRUE(
         isRefused(all, pictureSize(kMost, kMost) + frame(Kind::Raster, kMost, kMost) + kEnd));
     EXPECT_TRUE(isRefused(all, pictureSize(kMost, kMost) + frame(Kind::Raster, 32769, 1) + kEnd));
+    EXPECT_TRUE(isRefused(all, pictureSize(kMost, kMost) + frame(Kind::Raster, 1, 32769) + kEnd));
 }
 
 TEST(ReadRasterAnswer, RastersTogetherTakeBoundedMemory)
