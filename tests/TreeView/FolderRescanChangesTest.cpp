@@ -212,6 +212,15 @@ TEST_F(FolderRescanChanges, TrashingTheFolderEndsIt)
     EXPECT_TRUE(controller->validate(TreeCommand::Rescan));
 }
 
+TEST_F(FolderRescanChanges, TrashingAFolderAroundItEndsIt)
+{
+    rescan("docs/gone");
+    trash("docs");
+    endWorkers();
+    EXPECT_FALSE(isRescanning());
+    EXPECT_EQ(model.topFolder()->totalAllocation(), 601U);
+}
+
 TEST_F(FolderRescanChanges, TrashingSomethingElseDoesNot)
 {
     rescan("docs");
@@ -284,6 +293,15 @@ TEST_F(EmptyRescanTest, AnEmptyFolderIsAskedForByThePathWithoutLinks)
     model.topFolder()->setRealOrigin("/disk");
     rescanDocs();
     EXPECT_EQ(services.checkedFolder, "/disk/docs");
+}
+
+TEST_F(EmptyRescanTest, TheRestOfTheWindowHearsThatAFolderIsGone)
+{
+    int changes = 0;
+    QObject::connect(controller.get(), &TreeViewController::treeChanged, [&changes] { ++changes; });
+    services.folderProblem = std::make_error_code(std::errc::no_such_file_or_directory);
+    rescanDocs();
+    EXPECT_EQ(changes, 1);
 }
 
 TEST_F(EmptyRescanTest, WhenTheFolderInViewIsGoneTheOneAroundItIsShown)

@@ -21,6 +21,15 @@ TEST_F(FolderRescanTest, PutsTheNewTreeInTheFoldersPlace)
     EXPECT_TRUE(view.findRectForFile(node("docs")).has_value());
 }
 
+TEST_F(FolderRescanTest, TheRestOfTheWindowHearsOfTheNewTree)
+{
+    int changes = 0;
+    QObject::connect(controller.get(), &TreeViewController::treeChanged, [&changes] { ++changes; });
+    rescan("docs");
+    finish();
+    EXPECT_EQ(changes, 1);
+}
+
 TEST_F(FolderRescanTest, AFolderOnWhichADiskIsMountedNowHoldsNothingAndIsNoDisk)
 {
     services.scanResourceValues.volumes = {"/data/docs"};
@@ -79,6 +88,32 @@ TEST_F(HomeRescanTest, TheBarStaysUntilTheEndOfTheSecondScan)
     EXPECT_TRUE(isRescanning());
     finish();
     EXPECT_EQ(indicator(), nullptr);
+}
+
+TEST_F(HomeRescanTest, OneThatEndsEarlyLeavesNothingToTheNext)
+{
+    bool isInHome = false;
+    services.files.onItem([&](const std::string& /*path*/) {
+        if (services.files.enumeratedPaths().size() == 3) {
+            services.mainThread.performAndWait([&isInHome] { isInHome = true; });
+        }
+    });
+    rescan("docs");
+    services.mainThread.runUntil([&isInHome] { return isInHome; });
+    trash("docs");
+    rescan("other");
+    services.mainThread.runUntil([this] { return !isRescanning(); });
+    EXPECT_TRUE(has("other/new/b"));
+}
+
+TEST_F(HomeRescanTest, AnotherVolumeOfTheUsersNameHasNoSpaceThatNoFileTakes)
+{
+    services.home = "/elsewhere/new";
+    controller = std::make_unique<TreeViewController>(model, view, services.get());
+    services.fileSystem.setSizes(FileSystemSizes{5000, 1000});
+    rescan("docs");
+    finish();
+    EXPECT_EQ(node("docs/new").totalAllocation(), 1000U);
 }
 
 TEST_F(FolderRescanTest, FollowsNoLinkThatWasPutInTheFoldersPlace)
