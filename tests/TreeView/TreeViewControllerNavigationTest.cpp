@@ -3,6 +3,7 @@
 #include "Model/RootModel.h"
 #include "Model/Url.h"
 #include "Model/Volume.h"
+#include "Model/nodeLookup.h"
 #include "TreeView/TreeMapView.h"
 #include "TreeView/TreeViewController.h"
 #include "support/FakeRootModelServices.h"
@@ -10,12 +11,14 @@
 #include "support/FakeUserDefaults.h"
 #include "support/makeTree.h"
 
+#include <QKeyEvent>
 #include <QSignalSpy>
 
 #include <gtest/gtest.h>
 
 #include <memory>
 #include <utility>
+#include <vector>
 
 namespace tessera {
 namespace {
@@ -39,6 +42,15 @@ protected:
         controller->renderTree();
     }
 
+    /// What ends it is "recycled".
+    void beginToTrashDocs()
+    {
+        const Url url = node("docs").url();
+        controller->setSelectedFile(&node("docs"));
+        controller->trashItem();
+        recycled.newUrls[url.absoluteString()] = Url("/trash/docs", true);
+    }
+
     static void doubleClick() { NotificationCenter::defaultCenter().post("DoubleClickTreeItem"); }
 
     void showVolume()
@@ -54,6 +66,7 @@ protected:
     RootModel model{services.get()};
     test::FakeUserDefaults defaults;
     test::FakeTreeViewServices viewServices;
+    RecycleResult recycled;
     TreeMapView view{defaults};
     std::unique_ptr<TreeViewController> controller;
 };
@@ -88,6 +101,46 @@ TEST_F(TreeViewControllerNavigationTest, AtTheRootZoomingOutDoesNothing)
     controller->zoomOut();
     EXPECT_EQ(controller->currentFolder(), model.topFolder());
     EXPECT_EQ(controller->selectedFile(), &node("docs"));
+}
+
+TEST_F(TreeViewControllerNavigationTest, AnArrowDuringAZoomMovesInTheFolderThatComesIntoView)
+{
+    controller->zoomInFolder(folder("docs"));
+    ASSERT_TRUE(view.isZooming());
+    (void)controller->keyDown(QKeyEvent(QEvent::KeyPress, Qt::Key_Right, Qt::NoModifier));
+    ASSERT_NE(controller->selectedFile(), nullptr);
+    EXPECT_EQ(controller->selectedFile()->parent(), &node("docs"));
+}
+
+TEST_F(TreeViewControllerNavigationTest, WhoKnowsANodeHearsThatItLeaves)
+{
+    std::vector<File*> leaving;
+    QObject::connect(controller.get(), &TreeViewController::nodeLeaving, [&leaving](File* file) {
+        leaving.push_back(file);
+    });
+    File* const trashed = &node("docs");
+    beginToTrashDocs();
+    ASSERT_TRUE(viewServices.workspace.finishRecycling(recycled));
+    EXPECT_EQ(leaving, std::vector<File*>{trashed});
+}
+
+TEST_F(TreeViewControllerNavigationTest, WhatIsInViewEndsWhenAFolderAroundItIsTrashed)
+{
+    beginToTrashDocs();
+    goTo(folder("docs/deep"));
+    ASSERT_TRUE(viewServices.workspace.finishRecycling(recycled));
+    EXPECT_EQ(controller->currentFolder(), model.topFolder());
+}
+
+TEST_F(TreeViewControllerNavigationTest, ASelectionEndsBeforeAnArchiveTakesItsFoldersPlace)
+{
+    controller->setSelectedFile(&node("docs/deep/a"));
+    bool wasThere = false;
+    QObject::connect(controller.get(), &TreeViewController::selectionChanged, [this, &wasThere] {
+        wasThere = wasThere || nodeAtPath(*model.topFolder(), "/data/docs/deep/a") != nullptr;
+    });
+    NotificationCenter::defaultCenter().post("ItemCompressed", Url("/data/docs/deep", false));
+    EXPECT_TRUE(wasThere);
 }
 
 TEST_F(TreeViewControllerNavigationTest, WithoutATreeZoomingDoesNothing)
