@@ -242,6 +242,22 @@ TEST_F(AppDelegateTest, HelpThatCannotBeShownIsSaidSo)
         services.treeScreen.alert.told[0].messageText, QStringLiteral("The help cannot be shown"));
 }
 
+TEST_F(AppDelegateTest, NobodyIsToldOfHelpWhenTheProgramHasEndedByThen)
+{
+    services.treeScreen.workspace.answersLater = true;
+    auto ended = std::make_unique<AppDelegate>(appServices());
+    ended->showHelpItem(62);
+    ended.reset();
+    services.treeScreen.workspace.lateAnswer(false);
+    EXPECT_THAT(services.treeScreen.alert.told, IsEmpty());
+}
+
+TEST_F(AppDelegateTest, TheLastWindowsEndIsNotTheProgramsByItself)
+{
+    delegate.applicationDidFinishLaunching();
+    EXPECT_FALSE(QApplication::quitOnLastWindowClosed());
+}
+
 TEST_F(AppDelegateTest, ClosingTheMainWindowQuitsAlsoWhenAnotherWindowIsOpen)
 {
     delegate.applicationDidFinishLaunching();

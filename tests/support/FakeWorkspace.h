@@ -17,17 +17,13 @@ public:
     void openUrl(const std::string& absoluteUrl, OpenCompletion completionHandler) override
     {
         opened.push_back(absoluteUrl);
-        completionHandler(answer);
+        complete(std::move(completionHandler));
     }
 
     void reveal(const Url& item, OpenCompletion completionHandler) override
     {
         revealed.push_back(item.path());
-        if (answersLater) {
-            lateAnswer = std::move(completionHandler);
-        } else {
-            completionHandler(answer);
-        }
+        complete(std::move(completionHandler));
     }
 
     void recycleURLs(std::vector<Url> urls, RecycleCompletion completionHandler) override
@@ -58,7 +54,7 @@ public:
     }
 
     bool answer = true;
-    bool answersLater = false; ///< by lateAnswer, when an item is to be shown
+    bool answersLater = false; ///< by lateAnswer, when something is to be opened or shown
     OpenCompletion lateAnswer;
     std::vector<std::string> opened;
     std::vector<std::string> revealed;
@@ -66,6 +62,15 @@ public:
     FileIdentity recycledFile; ///< the last one that was recycled by its identity
 
 private:
+    void complete(OpenCompletion completionHandler)
+    {
+        if (answersLater) {
+            lateAnswer = std::move(completionHandler);
+        } else {
+            completionHandler(answer);
+        }
+    }
+
     std::deque<RecycleCompletion> m_completions;
 };
 
