@@ -31,6 +31,12 @@ TEST(ScanPanelPlace, AHigherPanelCoversNoMoreOfTheHomeScreen)
     EXPECT_EQ(place.slidOut().panelFrame(kWidth, kHeight), (Rect{0, 600, 1000, 300}));
 }
 
+TEST(ScanPanelPlace, OnItsWayThePanelIsAsHighAsWhereItGoes)
+{
+    const ScanPanelPlace place = ScanPanelPlace::before().toward(ScanPanelPlace::slidIn(300), 0.5);
+    EXPECT_EQ(place.panelFrame(kWidth, kHeight).height, 300);
+}
+
 TEST(ScanPanelPlace, SlidOutEverythingIsAsBefore)
 {
     EXPECT_EQ(ScanPanelPlace::slidIn().slidOut(), ScanPanelPlace::before());
