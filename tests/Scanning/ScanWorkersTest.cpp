@@ -32,6 +32,19 @@ TEST(ScanWorkers, OneThatIsStuckIsWaitedForNoLongerThanAllowed)
     EXPECT_TRUE(workers->waitForNone(kShort));
 }
 
+TEST(ScanWorkers, WhatOneHeldOnToIsGoneWhenItCountsAsEnded)
+{
+    std::vector<ScanWorkers::Work> started;
+    const auto workers = std::make_shared<ScanWorkers>(
+        [&started](ScanWorkers::Work work) { started.push_back(std::move(work)); });
+    auto held = std::make_shared<int>();
+    const std::weak_ptr<int> alive = held;
+    EXPECT_FALSE(workers->start([held = std::move(held)] {}));
+    started[0]();
+    ASSERT_TRUE(workers->waitForNone(kShort));
+    EXPECT_TRUE(alive.expired());
+}
+
 TEST(ScanWorkers, OneThatCouldNotBeStartedIsNotWaitedFor)
 {
     const auto workers = std::make_shared<ScanWorkers>([](const ScanWorkers::Work& /*work*/) {

@@ -339,6 +339,14 @@ TEST_F(ScannerTest, OfAVolumeWhoseLinksAddUpToMoreThanIsInUseTheBackupsAreEmpty)
     EXPECT_EQ(root.totalAllocation(), 700U);
 }
 
+TEST_F(ScannerTest, OfAVolumeWithMoreFreeThanItHasTheBackupsAreEmpty)
+{
+    resourceValues.volumes = {"/data"};
+    fileSystem.setSizes(FileSystemSizes{300, 1000});
+    TopFolder& root = scanToEnd("Backups.backupdb/ ( ) b:200");
+    EXPECT_EQ(test::at(root, "Time Machine").totalAllocation(), 0U);
+}
+
 TEST_F(ScannerTest, ABackupStoreInAFolderIsWalkedLikeAnyFolder)
 {
     TopFolder& root = scanToEnd("Backups.backupdb/ ( old/ ( a:50 ) ) b:200");
