@@ -249,6 +249,16 @@ TEST(Folder, ANodeInsertedLaterGetsTheSlotThatAScanWouldHaveGivenIt)
     EXPECT_EQ(huesOf(*grown), huesOf(*scanned));
 }
 
+TEST(Folder, ANodeInsertedLaterChangesNoOthersSlot)
+{
+    const auto top = test::makeTree("/t", "a:9 b:8 c:7");
+    const std::vector<int> before = huesOf(*top);
+    top->insertChild(document("largest", 10));
+    std::vector<int> after = huesOf(*top);
+    after.erase(after.begin());
+    EXPECT_EQ(after, before);
+}
+
 TEST(Folder, ChildrenOfEqualSizeAreAllKept)
 {
     const auto top = test::makeTree("/t", "a:5 b:5 c:5 d:9");

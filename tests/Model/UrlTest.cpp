@@ -96,6 +96,11 @@ TEST(Url, WordsStartTextsInEitherCaseOfTheirLettersAlone)
     EXPECT_FALSE(startsWithWord("[", "{"));
 }
 
+TEST(Url, ATextThatEndsWithinAWordDoesNotStartWithIt)
+{
+    EXPECT_FALSE(startsWithWord(std::string_view("file:").substr(0, 3), "file:"));
+}
+
 TEST(Url, LastPathComponentIsTheNameWithoutSlashes)
 {
     EXPECT_EQ(lastPathComponent("/home/me/"), "me");

@@ -106,6 +106,11 @@ TEST(DisplayText, ShowsJoinersThatNoScriptNeeds)
     EXPECT_FALSE(isKept(U"\u0645\u200C\u200C\u0645"));
 }
 
+TEST(DisplayText, ShowsOtherSelectorsThanThatOfPicturesOnAKeycap)
+{
+    EXPECT_FALSE(isKept(U"1\uFE00\u20E3"));
+}
+
 TEST(DisplayText, KeepsVariationSelectorsWhereThereIsAChoice)
 {
     EXPECT_TRUE(isKept(U"\u2764\uFE0F"));
