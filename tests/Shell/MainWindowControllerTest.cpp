@@ -205,6 +205,16 @@ TEST_F(MainWindowControllerTest, TheShortcutsOfDisabledCommandsSayWhyTheyDoNothi
     EXPECT_TRUE(said().startsWith(QStringLiteral("'data' is all that was scanned.")));
 }
 
+TEST_F(MainWindowControllerTest, AShortcutThatIsHeldDownSaysItOnce)
+{
+    showTree();
+    select("c");
+    controller->treeVC()->renderTree();
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_F5, Qt::NoModifier, QString(), true);
+    QApplication::sendEvent(&controller->window(), &held);
+    EXPECT_EQ(said(), QString());
+}
+
 TEST_F(MainWindowControllerTest, TheWayHomeIsDisabledOnTheHomeScreen)
 {
     EXPECT_FALSE(isEnabled(MainCommand::Home));

@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "Shell/WindowFrame.h"
 
+#include "support/FakeUserDefaults.h"
+
+#include <QMainWindow>
+#include <QScreen>
+
 #include <gtest/gtest.h>
 
 namespace tessera {
@@ -34,6 +39,22 @@ TEST(PlaceOnScreen, StaysOnAScreenBesideTheFirst)
 {
     EXPECT_EQ(
         placeOnScreen({1500, 100, 900, 600}, {1600, 0, 1280, 1024}), QRect(1604, 100, 900, 600));
+}
+
+TEST(RestoreFrame, OnAScreenSmallerThanTheLeastWindowThatGivesWay)
+{
+    QMainWindow window;
+    window.setMinimumSize(9000, 8000);
+    restoreFrame(window, test::FakeUserDefaults());
+    const QSize available = window.screen()->availableSize();
+    EXPECT_EQ(window.size(), available - QSize(8, 44));
+}
+
+TEST(RestoreFrame, TheFirstWindowIsPlacedByTheDesktop)
+{
+    QMainWindow window;
+    restoreFrame(window, test::FakeUserDefaults());
+    EXPECT_FALSE(window.testAttribute(Qt::WA_Moved));
 }
 
 } // namespace
