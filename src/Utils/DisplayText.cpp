@@ -4,6 +4,7 @@
 #include "Utils/CharacterKinds.h"
 #include "Utils/ScriptNeeds.h"
 
+#include <QStringDecoder>
 #include <QTextDocument>
 
 #include <algorithm>
@@ -34,6 +35,15 @@ char32_t shown(std::u32string_view text, std::size_t index)
         : character;
 }
 
+/// As QString::fromUtf8(), which takes an invisible mark in front for the file's byte order.
+QString decoded(QByteArrayView bytes)
+{
+    QStringDecoder decoder(
+        QStringDecoder::Utf8,
+        QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
+    return decoder(bytes);
+}
+
 bool isPrintableAscii(char byte)
 {
     return byte >= ' ' && byte < static_cast<char>(kDelete);
@@ -43,12 +53,12 @@ bool isPrintableAscii(char byte)
 
 QString displayText(std::string_view bytes)
 {
-    QString text = QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    const auto length = static_cast<qsizetype>(bytes.size());
     // Most names are.
     if (std::all_of(bytes.begin(), bytes.end(), isPrintableAscii)) {
-        return text;
+        return QString::fromLatin1(bytes.data(), length);
     }
-    const std::u32string characters = text.toStdU32String();
+    const std::u32string characters = decoded({bytes.data(), length}).toStdU32String();
     std::u32string replaced = characters;
     for (std::size_t i = 0; i < characters.size(); ++i) {
         replaced[i] = shown(characters, i);
