@@ -14,6 +14,7 @@ namespace {
 
 constexpr char32_t kZeroWidthJoiner = 0x200D;
 constexpr char32_t kFirstCommonSelector = 0xFE00;
+constexpr char32_t kLastAscii = 0x7F;
 constexpr char32_t kEmojiLook = 0xFE0F;
 constexpr char32_t kKeycap = 0x20E3;
 constexpr char32_t kInformationSource = 0x2139;
@@ -78,8 +79,11 @@ bool isPicture(char32_t character)
     // Pictures newer than Qt's tables are of no category there yet.
     constexpr char32_t kFirstPicture = 0x1F000;
     constexpr char32_t kLastPicture = 0x1FBFF;
+    const QChar::Category category = QChar::category(character);
+    // Some arrows are mathematical signs.
     return (character >= kFirstPicture && character <= kLastPicture)
-        || QChar::category(character) == QChar::Symbol_Other;
+        || category == QChar::Symbol_Other
+        || (category == QChar::Symbol_Math && character > kLastAscii);
 }
 
 bool isJoinerNeeded(std::u32string_view text, std::size_t index)
@@ -100,7 +104,6 @@ bool isJoinerNeeded(std::u32string_view text, std::size_t index)
 
 bool hasSeveralLooks(char32_t character)
 {
-    constexpr char32_t kLastAscii = 0x7F;
     const bool isSign = QChar::isSymbol(character) || QChar::isPunct(character);
     return (isSign && character > kLastAscii) || isPicture(character)
         || character == kInformationSource || QChar::script(character) == QChar::Script_Han

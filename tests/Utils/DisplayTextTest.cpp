@@ -49,6 +49,24 @@ TEST(DisplayText, ShowsInvisibleLetters)
     }
 }
 
+TEST(DisplayText, ShowsAnInvisibleLetterInFront)
+{
+    EXPECT_EQ(
+        displayText("\xEF\xBB\xBF"
+                    "abcd"),
+        QStringLiteral(u"\uFFFDabcd"));
+}
+
+TEST(DisplayText, ANameOfAByteOrderMarkAloneIsSeen)
+{
+    EXPECT_EQ(displayText("\xEF\xBB\xBF"), QStringLiteral(u"\uFFFD"));
+}
+
+TEST(DisplayText, ShowsTheBeginningOfACharacterThatEndsTooSoon)
+{
+    EXPECT_EQ(displayText("ab\xE6\x96"), QStringLiteral(u"ab\uFFFD\uFFFD"));
+}
+
 TEST(DisplayText, ANameOfInvisibleLettersAloneIsSeen)
 {
     EXPECT_EQ(displayText("\xE3\x85\xA4"), QStringLiteral(u"\uFFFD"));
@@ -86,7 +104,9 @@ TEST(DisplayText, KeepsJoinersOfPictures)
     EXPECT_TRUE(isKept(U"\U0001F468\u200D\U0001F469\u200D\U0001F467")); // family
     EXPECT_TRUE(isKept(U"\U0001F469\U0001F3FD\u200D\u2695\uFE0F")); // doctor
     EXPECT_TRUE(isKept(U"\u2764\uFE0F\u200D\U0001F525")); // heart on fire
+    EXPECT_TRUE(isKept(U"\U0001F642\u200D\u2194\uFE0F")); // shaking head
     EXPECT_FALSE(isKept(U"\U0001F525\u200D"));
+    EXPECT_FALSE(isKept(U"\U0001F525\u200D+"));
     EXPECT_FALSE(isKept(U"a\u200D\U0001F525"));
 }
 
