@@ -4,6 +4,7 @@
 #include <sys/resource.h>
 
 #include <algorithm>
+#include <array>
 #include <fstream>
 #include <limits>
 #include <string_view>
@@ -38,6 +39,24 @@ std::uint64_t numberIn(const std::string& path)
     return file >> number ? number : kNoLimit;
 }
 
+/// What a group holds only until somebody needs the room: the content of files, after a build most
+/// of what it may have, and what the system knows of them.
+std::uint64_t reclaimableIn(const std::string& path)
+{
+    constexpr std::array<std::string_view, 3> kKinds{
+        "inactive_file", "active_file", "slab_reclaimable"};
+    std::ifstream file(path);
+    std::string kind;
+    std::uint64_t bytes = 0;
+    std::uint64_t sum = 0;
+    while (file >> kind >> bytes) {
+        if (std::find(kKinds.begin(), kKinds.end(), kind) != kKinds.end()) {
+            sum += bytes;
+        }
+    }
+    return sum;
+}
+
 /// The group of the second version of control groups, as a path below their mount.
 std::string ownGroup(const std::string& root)
 {
@@ -61,7 +80,9 @@ std::uint64_t leftOfGroups(const std::string& root)
         const std::uint64_t limit = numberIn(folder + "/memory.max");
         const std::uint64_t used = numberIn(folder + "/memory.current");
         if (limit != kNoLimit && used != kNoLimit) {
-            left = std::min(left, limit - std::min(limit, used));
+            const std::uint64_t reclaimable = reclaimableIn(folder + "/memory.stat");
+            const std::uint64_t needed = used - std::min(used, reclaimable);
+            left = std::min(left, limit - std::min(limit, needed));
         }
         group.resize(group.rfind('/'));
     }

@@ -47,6 +47,15 @@ protected:
         tree.writeFile("sys/fs/cgroup/" + group + "/memory.current", used + '\n');
     }
 
+    void haveReclaimable(const std::string& group, const std::string& bytesOfFiles) const
+    {
+        tree.writeFile(
+            "sys/fs/cgroup/" + group + "/memory.stat",
+            "anon 70000\nfile 900000\ninactive_file " + bytesOfFiles
+                + "\nactive_file 2000\nunevictable 5000\nslab_reclaimable 300\n"
+                  "slab_unreclaimable 40000\nslab 40300\n");
+    }
+
     std::uint64_t available() const { return availableMemory(tree.path()); }
 
     test::TempTree tree;
@@ -83,6 +92,22 @@ TEST_F(AvailableMemory, IsNothingInAGroupThatHasMoreThanItMay)
     haveMachine();
     haveGroup("outer/inner", "1000000", "1000001");
     EXPECT_EQ(available(), 0U);
+}
+
+TEST_F(AvailableMemory, HoldsWhatAGroupKeepsOfFiles)
+{
+    haveMachine();
+    haveGroup("outer/inner", "3000000", "3000000");
+    haveReclaimable("outer/inner", "1000000");
+    EXPECT_EQ(available(), 1'002'300U);
+}
+
+TEST_F(AvailableMemory, IsNoMoreThanAGroupsLimitHoweverMuchItSaysItKeeps)
+{
+    haveMachine();
+    haveGroup("outer/inner", "1000000", "500000");
+    haveReclaimable("outer/inner", "600000");
+    EXPECT_EQ(available(), 1'000'000U);
 }
 
 TEST_F(AvailableMemory, IsNoMoreThanTheProcessMayHave)
