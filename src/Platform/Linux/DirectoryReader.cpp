@@ -67,7 +67,7 @@ void markHidden(int directory, DirectoryListing& listing)
 {
     std::optional<HiddenList> hiddenList;
     if (hasHiddenList(listing)) {
-        hiddenList.emplace(directory, listing.size());
+        hiddenList.emplace(directory, listing);
     }
     for (std::size_t i = 0; i < listing.size(); ++i) {
         const std::string_view name = listing.name(listing[i]);

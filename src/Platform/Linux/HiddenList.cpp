@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/HiddenList.h"
 
+#include "Platform/Linux/DirectoryListing.h"
 #include "Platform/Linux/FileStatus.h"
 
 #include <fcntl.h>
@@ -13,7 +14,7 @@ namespace tessera {
 
 namespace {
 
-/// Sorting the lines of the longest list costs about as much as searching it so many times.
+/// Searching the longest list so many times costs about as much as looking at each of its lines.
 constexpr std::size_t kFewLookups = 32;
 
 FileDescriptor openRegularFile(int directory, const char* name)
@@ -50,33 +51,41 @@ std::string readUpTo(int file, std::size_t maxBytes)
 
 } // namespace
 
-HiddenList::HiddenList(int directory, std::size_t lookups)
+HiddenList::HiddenList(int directory, const DirectoryListing& listing)
 {
     const FileDescriptor file = openRegularFile(directory, kFileName.data());
     if (!file.isOpen()) {
         return;
     }
     m_text = '\n' + readUpTo(file.number(), kMaxBytes) + '\n';
-    if (lookups > kFewLookups) {
-        sortLines();
+    if (listing.size() > kFewLookups) {
+        collectNames(listing);
     }
 }
 
-void HiddenList::sortLines()
+void HiddenList::collectNames(const DirectoryListing& listing)
 {
-    std::string_view rest = m_text;
-    while (!rest.empty()) {
-        const std::size_t end = rest.find('\n');
-        m_names.push_back(rest.substr(0, end));
-        rest.remove_prefix(end + 1);
+    // What is fewer is kept to be compared with: a long list in each of many small folders costs
+    // a look at its lines, and a short one in a folder of a million items none at the items here.
+    const auto lines = static_cast<std::size_t>(std::count(m_text.begin(), m_text.end(), '\n'));
+    const bool areNamesFewer = listing.size() < lines;
+    std::unordered_set<std::string_view> items;
+    for (std::size_t i = 0; areNamesFewer && i < listing.size(); ++i) {
+        items.insert(listing.name(listing[i]));
     }
-    std::sort(m_names.begin(), m_names.end());
+    m_names.emplace();
+    for (std::string_view rest = m_text; !rest.empty();) {
+        const std::string_view line = rest.substr(0, rest.find('\n'));
+        if (!areNamesFewer || items.contains(line)) {
+            m_names->insert(line);
+        }
+        rest.remove_prefix(line.size() + 1);
+    }
 }
 
 bool HiddenList::contains(std::string_view name) const
 {
-    return m_names.empty() ? isLine(name)
-                           : std::binary_search(m_names.begin(), m_names.end(), name);
+    return m_names ? m_names->contains(name) : isLine(name);
 }
 
 /// Searches the text as a whole, which memmem(3) does in a time that grows with its length alone,

@@ -2,16 +2,19 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
+#include <unordered_set>
 
 namespace tessera {
 
+class DirectoryListing;
+
 /// The names in a folder's `.hidden` file, one a line: file managers do not show these items.
 ///
-/// Every folder may have a long list, and all of them the same one. Of a folder with few items the
-/// lines are therefore not looked at one by one.
+/// Every folder may have a long list, and all of them the same one. The lines are therefore never
+/// sorted, and of a folder with few items not even looked at one by one.
 class HiddenList {
 public:
     static constexpr std::string_view kFileName = ".hidden";
@@ -22,9 +25,9 @@ public:
     /// Lists nothing.
     HiddenList() = default;
 
-    /// Reads the list of the open directory, in which about so many names will be looked up.
+    /// Reads the list of the open directory, to look up the names of its items and no others.
     /// Anything but a regular file lists nothing, and neither does one that cannot be read.
-    HiddenList(int directory, std::size_t lookups);
+    HiddenList(int directory, const DirectoryListing& listing);
 
     HiddenList(const HiddenList&) = delete;
     HiddenList& operator=(const HiddenList&) = delete;
@@ -33,10 +36,11 @@ public:
 
 private:
     bool isLine(std::string_view name) const;
-    void sortLines();
+    void collectNames(const DirectoryListing& listing);
 
     std::string m_text; ///< each line with its end before and behind it
-    std::vector<std::string_view> m_names; ///< sorted; into the text; none when names are few
+    /// Into the text; none when the folder has few items, whose names are then searched in it.
+    std::optional<std::unordered_set<std::string_view>> m_names;
 };
 
 } // namespace tessera

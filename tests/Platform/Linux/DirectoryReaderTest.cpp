@@ -175,22 +175,80 @@ double processorTimeOf(Work work)
     return now() - begin;
 }
 
-TEST_F(DirectoryReaderTest, ALongHiddenFileCostsASmallFolderLessThanSortingItsLines)
-{
-    std::vector<std::string> lines(32768, "x");
-    std::string text;
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        lines[i][0] = static_cast<char>('a' + i % 26);
-        text += lines[i] + '\n';
+/// How much longer the lines of the longest list take to sort than such a folder to list.
+class LongHiddenFile : public DirectoryReaderTest {
+protected:
+    double sortingOverListing(int files)
+    {
+        std::vector<std::string> lines(32768, "x");
+        std::string text;
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+            lines[i][0] = static_cast<char>('a' + i % 26);
+            text += lines[i] + '\n';
+        }
+        for (int i = 0; i < files; ++i) {
+            tree().makeFile("file" + std::to_string(i));
+        }
+        tree().writeFile(".hidden", text);
+        const double sorting = processorTimeOf([lines] {
+            std::vector<std::string> sorted = lines;
+            std::sort(sorted.begin(), sorted.end());
+            EXPECT_EQ(sorted.front(), "a");
+        });
+        return sorting / processorTimeOf([this] { EXPECT_EQ(hidden().size(), 1U); });
     }
-    tree().makeFile("file");
-    tree().writeFile(".hidden", text);
-    const double sorting = processorTimeOf([lines] {
-        std::vector<std::string> sorted = lines;
-        std::sort(sorted.begin(), sorted.end());
-        EXPECT_EQ(sorted.front(), "a");
-    });
-    EXPECT_LT(processorTimeOf([this] { EXPECT_EQ(hidden().size(), 1U); }), sorting / 4);
+};
+
+TEST_F(LongHiddenFile, CostsASmallFolderLessThanSortingItsLines)
+{
+    EXPECT_GT(sortingOverListing(1), 4);
+}
+
+TEST_F(LongHiddenFile, CostsAFolderOfFortyFilesLessThanSortingItsLines)
+{
+    EXPECT_GT(sortingOverListing(40), 4);
+}
+
+/// The names from "file1" to "file<last>" that a list of "file<from>" to "file<to>" hides.
+class NumberedFiles : public DirectoryReaderTest {
+protected:
+    std::vector<std::string> hiddenOf(int last, int from, int to)
+    {
+        std::string lines = "\n\nfile\n";
+        for (int i = from; i <= to; ++i) {
+            lines += "file" + std::to_string(i) + "\n";
+            lines += "file" + std::to_string(i) + "\n";
+        }
+        lines.pop_back();
+        tree().writeFile(".hidden", lines);
+        for (int i = 1; i <= last; ++i) {
+            tree().makeFile("file" + std::to_string(i));
+        }
+        return hidden();
+    }
+};
+
+TEST_F(NumberedFiles, OfTheLinesOfALongListAreHidden)
+{
+    for (const int count : {31, 32, 33, 100}) {
+        EXPECT_THAT(
+            hiddenOf(count, 30, 9000),
+            testing::AllOf(
+                testing::SizeIs(static_cast<std::size_t>(count - 28)),
+                testing::Contains("file30"),
+                testing::Contains("file" + std::to_string(count))))
+            << count;
+    }
+}
+
+TEST_F(NumberedFiles, OfTheLinesOfAShortListAreHiddenInALargeFolder)
+{
+    EXPECT_THAT(hiddenOf(1000, 999, 1001), ElementsAre(".hidden", "file1000", "file999"));
+}
+
+TEST_F(NumberedFiles, AreSeenWhereALongListNamesOthersOnly)
+{
+    EXPECT_THAT(hiddenOf(100, 101, 9000), ElementsAre(".hidden"));
 }
 
 TEST_F(DirectoryReaderTest, TheHiddenFilesLastLineNeedsNoEnd)
