@@ -19,8 +19,8 @@ public:
     /// Newest first; empty when the list cannot be read.
     [[nodiscard]] virtual std::vector<Url> recentDocumentUrls() const = 0;
 
-    /// Enters the URL as the newest, or moves it there. A list that cannot be written stays as it
-    /// is.
+    /// Enters the URL as the newest, or moves it there. Where the list cannot be written it stays
+    /// as it is, and the URL counts as listed until it can be.
     virtual void noteNewRecentDocumentUrl(const Url& url) = 0;
 
     /// Forgets everything that this program entered.

@@ -27,6 +27,8 @@ namespace {
 
 using std::chrono::microseconds;
 
+constexpr std::string_view kUnlistedKey = "unlistedRecents";
+
 constexpr const char* kApplication = "tessera";
 constexpr const char* kCommandLine = "tessera %u";
 constexpr const char* kFolderMimeType = "inode/directory";
@@ -162,21 +164,22 @@ std::string linkTarget(const std::string& path)
     return error ? path : target.string();
 }
 
-void store(GBookmarkFile* bookmarks, const std::string& path)
+[[nodiscard]] bool store(GBookmarkFile* bookmarks, const std::string& path)
 {
     gsize length = 0;
     const Text data(g_bookmark_file_to_data(bookmarks, &length, nullptr));
     const Text folder(g_path_get_dirname(path.c_str()));
     if (data == nullptr || g_mkdir_with_parents(folder.get(), kFolderMode) != 0) {
-        return;
+        return false;
     }
-    (void)g_file_set_contents_full(
+    const gboolean isStored = g_file_set_contents_full(
         linkTarget(path).c_str(),
         data.get(),
         static_cast<gssize>(length),
         G_FILE_SET_CONTENTS_CONSISTENT,
         kFileMode,
         nullptr);
+    return isStored != FALSE;
 }
 
 /// The list as it is now; null when it must be left alone.
@@ -206,13 +209,10 @@ BookmarkFile load(const std::string& path)
     return isSame ? std::move(bookmarks) : nullptr;
 }
 
-void note(const std::string& path, const Url& url, microseconds now)
+/// Makes the URL the newest that is registered under our name.
+void enter(GBookmarkFile* bookmarks, const Url& url, microseconds now)
 {
-    const BookmarkFile bookmarks = load(path);
-    if (bookmarks == nullptr) {
-        return;
-    }
-    const std::vector<RecentEntry> entries = ownEntries(bookmarks.get());
+    const std::vector<RecentEntry> entries = ownEntries(bookmarks);
     // The newest has the largest stamp also after the clock was set back, or did not move on.
     const microseconds stamp
         = entries.empty() ? now : std::max(now, entries.front().stamp + microseconds(1));
@@ -222,13 +222,25 @@ void note(const std::string& path, const Url& url, microseconds now)
         const bool isSame = entry.url.path() == url.path();
         if ((isSame && entry.uri != url.absoluteString())
             || (!isSame && kept == XbelRecentDocuments::kMaxDocuments)) {
-            forget(bookmarks.get(), entry.uri);
+            forget(bookmarks, entry.uri);
         } else if (!isSame) {
             ++kept;
         }
     }
-    registerUse(bookmarks.get(), url, stamp);
-    store(bookmarks.get(), path);
+    registerUse(bookmarks, url, stamp);
+}
+
+/// Whether the list on disk has the URLs, the newest of which comes first.
+bool note(const std::string& path, const std::vector<Url>& urls, microseconds now)
+{
+    const BookmarkFile bookmarks = load(path);
+    if (bookmarks == nullptr) {
+        return false;
+    }
+    for (auto url = urls.rbegin(); url != urls.rend(); ++url) {
+        enter(bookmarks.get(), *url, now);
+    }
+    return store(bookmarks.get(), path);
 }
 
 void clear(const std::string& path)
@@ -244,7 +256,43 @@ void clear(const std::string& path)
     for (const RecentEntry& entry : entries) {
         forget(bookmarks.get(), entry.uri);
     }
-    store(bookmarks.get(), path);
+    // Where it cannot be written it is as if it could not be read: nobody is troubled with it.
+    (void)store(bookmarks.get(), path);
+}
+
+void removePath(std::vector<Url>& urls, const std::string& path)
+{
+    std::erase_if(urls, [&path](const Url& url) { return url.path() == path; });
+}
+
+/// `newer` and then what only `older` has, as many as the list may hold.
+std::vector<Url> joined(std::vector<Url> newer, std::vector<Url> older)
+{
+    for (const Url& url : newer) {
+        removePath(older, url.path());
+    }
+    newer.insert(newer.end(), older.begin(), older.end());
+    newer.resize(std::min(newer.size(), XbelRecentDocuments::kMaxDocuments));
+    return newer;
+}
+
+std::vector<Url> urlsOf(const std::vector<RecentRecord>& records)
+{
+    std::vector<Url> urls;
+    for (const RecentRecord& record : records) {
+        urls.emplace_back(record.path, true);
+    }
+    return urls;
+}
+
+/// Only the paths count.
+std::vector<RecentRecord> recordsOf(const std::vector<Url>& urls)
+{
+    std::vector<RecentRecord> records;
+    for (const Url& url : urls) {
+        records.push_back({url.path(), 0, {}});
+    }
+    return records;
 }
 
 bool isGone(const std::string& path)
@@ -256,9 +304,35 @@ bool isGone(const std::string& path)
 } // namespace
 
 /// One after the other, on a thread that lives as long as there are some: the user's home may be on
-/// a server, and others' lists are long.
+/// a server, and others' lists are long. Knows what was noted and is not in the list yet.
 class XbelRecentDocuments::Changes {
 public:
+    explicit Changes(std::vector<Url> unlisted)
+        : m_unlisted(std::move(unlisted))
+    {
+    }
+
+    /// Newest first.
+    std::vector<Url> unlisted() const
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_unlisted;
+    }
+
+    void addUnlisted(const Url& url)
+    {
+        const std::lock_guard lock(m_mutex);
+        m_unlisted = joined({url}, std::move(m_unlisted));
+    }
+
+    void removeUnlisted(const std::vector<Url>& urls)
+    {
+        const std::lock_guard lock(m_mutex);
+        for (const Url& url : urls) {
+            removePath(m_unlisted, url.path());
+        }
+    }
+
     static void add(const std::shared_ptr<Changes>& changes, std::function<void()> change)
     {
         const std::lock_guard lock(changes->m_mutex);
@@ -269,7 +343,7 @@ public:
         try {
             std::thread([changes] { changes->work(); }).detach();
         } catch (const std::system_error&) {
-            // As little is lost as where the list cannot be written.
+            // It is as where the list cannot be written.
             changes->m_waiting.clear();
             changes->m_isAtWork = false;
         }
@@ -296,9 +370,10 @@ private:
         m_isDone.notify_all();
     }
 
-    std::mutex m_mutex;
+    mutable std::mutex m_mutex;
     std::condition_variable m_isDone;
     std::deque<std::function<void()>> m_waiting;
+    std::vector<Url> m_unlisted;
     bool m_isAtWork = false;
 };
 
@@ -309,7 +384,7 @@ std::string XbelRecentDocuments::defaultFilePath()
 
 XbelRecentDocuments::XbelRecentDocuments(
     std::string filePath,
-    const UserDefaults& settings,
+    UserDefaults& settings,
     std::shared_ptr<const FileSystemQuestions> questions)
     : XbelRecentDocuments(std::move(filePath), settings, std::move(questions), [] {
         return microseconds(g_get_real_time());
@@ -319,42 +394,54 @@ XbelRecentDocuments::XbelRecentDocuments(
 
 XbelRecentDocuments::XbelRecentDocuments(
     std::string filePath,
-    const UserDefaults& settings,
+    UserDefaults& settings,
     std::shared_ptr<const FileSystemQuestions> questions,
     Clock clock)
     : m_filePath(std::move(filePath))
     , m_settings(settings)
     , m_questions(std::move(questions))
     , m_clock(std::move(clock))
-    , m_changes(std::make_shared<Changes>())
+    , m_changes(std::make_shared<Changes>(urlsOf(settings.recentRecords(kUnlistedKey))))
 {
+    if (!m_changes->unlisted().empty()) {
+        enterUnlisted();
+    }
 }
 
 XbelRecentDocuments::~XbelRecentDocuments()
 {
     m_changes->wait(kWorkerPatience);
+    m_settings.setRecentRecords(kUnlistedKey, recordsOf(m_changes->unlisted()));
+}
+
+void XbelRecentDocuments::enterUnlisted()
+{
+    Changes::add(m_changes, [changes = m_changes, path = m_filePath, clock = m_clock] {
+        const std::vector<Url> urls = changes->unlisted();
+        // What was noted twice in a moment is entered by the first change already.
+        if (!urls.empty() && note(path, urls, clock())) {
+            changes->removeUnlisted(urls);
+        }
+    });
 }
 
 std::vector<Url> XbelRecentDocuments::listedUrls() const
 {
-    std::vector<Url> urls;
-    if (const BookmarkFile bookmarks = load(m_filePath)) {
-        for (RecentEntry& entry : ownEntries(bookmarks.get())) {
-            urls.push_back(std::move(entry.url));
-        }
-    } else {
-        for (const RecentRecord& record : m_settings.recentRecords(kRecentsKey)) {
-            urls.emplace_back(record.path, true);
-        }
+    const BookmarkFile bookmarks = load(m_filePath);
+    if (bookmarks == nullptr) {
+        return urlsOf(m_settings.recentRecords(kRecentsKey));
     }
-    urls.resize(std::min(urls.size(), kMaxDocuments));
+    std::vector<Url> urls;
+    for (RecentEntry& entry : ownEntries(bookmarks.get())) {
+        urls.push_back(std::move(entry.url));
+    }
     return urls;
 }
 
 std::vector<Url> XbelRecentDocuments::recentDocumentUrls() const
 {
     m_changes->wait(kWorkerPatience);
-    std::vector<Url> urls = listedUrls();
+    std::vector<Url> urls = joined(m_changes->unlisted(), listedUrls());
     const auto deadline = m_questions->deadline();
     std::erase_if(urls, [this, deadline](const Url& url) {
         const std::string& path = url.path();
@@ -368,12 +455,14 @@ std::vector<Url> XbelRecentDocuments::recentDocumentUrls() const
 
 void XbelRecentDocuments::noteNewRecentDocumentUrl(const Url& url)
 {
-    Changes::add(
-        m_changes, [path = m_filePath, url, clock = m_clock] { note(path, url, clock()); });
+    m_changes->addUnlisted(url);
+    enterUnlisted();
 }
 
 void XbelRecentDocuments::clearRecentDocuments()
 {
+    m_changes->removeUnlisted(m_changes->unlisted());
+    m_settings.setRecentRecords(kUnlistedKey, {});
     Changes::add(m_changes, [path = m_filePath] { clear(path); });
 }
 

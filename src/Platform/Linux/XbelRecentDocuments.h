@@ -22,7 +22,9 @@ class UserDefaults;
 ///
 /// A file that would lose something by being written anew is left alone: one that GLib does not
 /// understand or cannot reproduce, that the user may not write, that is no regular file, or that is
-/// too large to be looked through. Then the list is what our own settings remember.
+/// too large to be looked through. Then the list is what our own settings remember. What was noted
+/// meanwhile, or could not be stored, stays listed and in the settings, and is entered with the
+/// next URL or at the next start, once the file can be written.
 class XbelRecentDocuments final : public RecentDocuments {
 public:
     /// Called on the thread that makes the changes.
@@ -38,13 +40,13 @@ public:
     /// The settings, with the stored list of recent scans, must outlive this object.
     XbelRecentDocuments(
         std::string filePath,
-        const UserDefaults& settings,
+        UserDefaults& settings,
         std::shared_ptr<const FileSystemQuestions> questions);
 
     /// `clock` gives the time since 1970-01-01 00:00 UTC.
     XbelRecentDocuments(
         std::string filePath,
-        const UserDefaults& settings,
+        UserDefaults& settings,
         std::shared_ptr<const FileSystemQuestions> questions,
         Clock clock);
 
@@ -60,10 +62,11 @@ public:
 private:
     class Changes;
 
+    void enterUnlisted();
     std::vector<Url> listedUrls() const;
 
     std::string m_filePath;
-    const UserDefaults& m_settings;
+    UserDefaults& m_settings;
     std::shared_ptr<const FileSystemQuestions> m_questions;
     Clock m_clock;
     std::shared_ptr<Changes> m_changes; ///< shared with the thread that makes them

@@ -25,6 +25,7 @@ namespace {
 namespace fs = std::filesystem;
 
 using std::chrono::microseconds;
+using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -356,6 +357,69 @@ TEST_F(XbelRecentDocumentsOnDisk, AListThatNobodyMayWriteGivesWayToTheSettings)
     EXPECT_THAT(documents().recentDocumentUrls(), ElementsAre(a));
 }
 
+TEST_F(XbelRecentDocumentsOnDisk, WhatWasNotedBesideAProtectedListStaysListedWhenItIsOpenAgain)
+{
+    writeFile(kHead + foreignEntry("file:///other") + "</xbel>");
+    const Url before = makeFolder("before");
+    documents().noteNewRecentDocumentUrl(before);
+    fs::permissions(m_file, fs::perms::owner_read);
+    const Url a = makeFolder("a");
+    const Url b = makeFolder("b");
+    documents().noteNewRecentDocumentUrl(a);
+    XbelRecentDocuments recent = documents();
+    recent.noteNewRecentDocumentUrl(b);
+    EXPECT_THAT(recent.recentDocumentUrls(), ElementsAre(b, a));
+    fs::permissions(m_file, fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_THAT(recent.recentDocumentUrls(), ElementsAre(b, a, before));
+}
+
+TEST_F(XbelRecentDocumentsOnDisk, WhatWasNotedBesideAProtectedListIsEnteredWhenItIsOpenAgain)
+{
+    writeFile(kHead + foreignEntry("file:///other") + "</xbel>");
+    fs::permissions(m_file, fs::perms::owner_read);
+    const Url a = makeFolder("a");
+    const Url b = makeFolder("b");
+    documents().noteNewRecentDocumentUrl(a);
+    documents().noteNewRecentDocumentUrl(b);
+    fs::permissions(m_file, fs::perms::owner_read | fs::perms::owner_write);
+    (void)documents();
+    EXPECT_THAT(readFile(m_file), AllOf(HasSubstr(a.path()), HasSubstr(b.path())));
+    EXPECT_THAT(m_settings.records["unlistedRecents"], IsEmpty());
+    EXPECT_THAT(documents().recentDocumentUrls(), ElementsAre(b, a));
+}
+
+/// A folder for the list that cannot be made: a link to nowhere has its name.
+class XbelRecentDocumentsInNoFolder : public XbelRecentDocumentsOnDisk {
+protected:
+    void SetUp() override
+    {
+        XbelRecentDocumentsOnDisk::SetUp();
+        fs::create_directory_symlink("nowhere", m_file.parent_path());
+    }
+};
+
+TEST_F(XbelRecentDocumentsInNoFolder, WhatWasNotedIsListedAtTheNextStart)
+{
+    const Url a = makeFolder("a");
+    documents().noteNewRecentDocumentUrl(a);
+    EXPECT_THAT(documents().recentDocumentUrls(), ElementsAre(a));
+}
+
+TEST_F(XbelRecentDocumentsInNoFolder, WhatWasNotedIsForgottenWhenCleared)
+{
+    documents().noteNewRecentDocumentUrl(makeFolder("a"));
+    documents().clearRecentDocuments();
+    EXPECT_THAT(documents().recentDocumentUrls(), IsEmpty());
+}
+
+TEST_F(XbelRecentDocumentsInNoFolder, TwentyAtMostAreRemembered)
+{
+    for (int i = 0; i < 25; ++i) {
+        documents().noteNewRecentDocumentUrl(makeFolder(std::to_string(i)));
+    }
+    EXPECT_EQ(documents().recentDocumentUrls().size(), 20U);
+}
+
 TEST_F(XbelRecentDocumentsOnDisk, AListOfMegabytesIsLeftAlone)
 {
     std::string list = kHead + foreignEntry("file:///other") + "</xbel>";
@@ -413,6 +477,11 @@ TEST_F(XbelRecentDocumentsOnDisk, AListThatLeadsToNoRegularFileIsLeftAlone)
     EXPECT_EQ(fs::read_symlink(m_file), pipe);
     EXPECT_TRUE(fs::is_fifo(pipe));
     EXPECT_THAT(documents().recentDocumentUrls(), IsEmpty());
+    fs::create_symlink("/dev/null", m_file);
+    const Url a = makeFolder("a");
+    documents().noteNewRecentDocumentUrl(a);
+    EXPECT_EQ(fs::read_symlink(m_file), "/dev/null");
+    EXPECT_THAT(documents().recentDocumentUrls(), ElementsAre(a));
 }
 
 TEST_F(XbelRecentDocumentsOnDisk, ALinkToTheListStaysALink)
