@@ -47,12 +47,24 @@ void removeEmptyLock(const QString& filePath)
     }
 }
 
+/// Whether the path leads to a device or the like. Some have a link to /dev/null there, to be rid
+/// of the file. Qt would read it without an end, or replace it by a file.
+bool leadsToNoFile(const std::filesystem::path& path)
+{
+    std::error_code error;
+    const std::filesystem::file_status status = std::filesystem::status(path, error);
+    return std::filesystem::exists(status) && !std::filesystem::is_regular_file(status);
+}
+
 /// Which folders somebody scanned is nobody else's business. Qt gives a new file the mode that the
 /// old one had, so there is one from the first setting on.
 void makePrivate(const QString& filePath)
 {
     namespace fs = std::filesystem;
     const fs::path path = QFile::encodeName(filePath).toStdString();
+    if (leadsToNoFile(path)) {
+        return;
+    }
     std::error_code error;
     if (!fs::exists(path, error)) {
         fs::create_directories(path.parent_path(), error);
@@ -64,6 +76,11 @@ void makePrivate(const QString& filePath)
 
 std::unique_ptr<QSettings> openSettings(const QString& filePath)
 {
+    if (leadsToNoFile(QFile::encodeName(filePath).toStdString())) {
+        // Below what is no folder Qt can neither read nor write, and remembers what it is given.
+        return std::make_unique<QSettings>(
+            QStringLiteral("/dev/null/tessera.ini"), QSettings::IniFormat);
+    }
     removeEmptyLock(filePath);
     auto settings = std::make_unique<QSettings>(filePath, QSettings::IniFormat);
     if (!isMalformed(*settings)) {

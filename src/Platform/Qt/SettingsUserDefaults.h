@@ -11,7 +11,9 @@
 namespace tessera {
 
 /// Settings in an INI file. The file is replaced as a whole, so a process that is killed leaves
-/// the old or the new one. A file that is none is moved aside and reads as empty.
+/// the old or the new one. A file that is none is moved aside and reads as empty. What is no
+/// regular file, also behind a link, stays as it is: then values last as long as this object, and
+/// synchronize() fails.
 ///
 /// Values set are on disk after synchronize(), or when the event loop next runs. Times are written
 /// as ISO 8601 in UTC, paths percent-encoded, since they are bytes and need not be text.

@@ -9,6 +9,8 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <optional>
 #include <vector>
@@ -193,6 +195,55 @@ TEST_F(SettingsUserDefaultsOnDisk, AFolderThatCannotBeWrittenIsReported)
     defaults.setInteger("number", 4);
     EXPECT_FALSE(defaults.synchronize());
     EXPECT_EQ(defaults.integer("number"), 4);
+}
+
+/// The settings' path is a link to a node that is no file.
+class SettingsUserDefaultsBesideANode : public SettingsUserDefaultsOnDisk {
+protected:
+    static constexpr mode_t kMode = S_IFIFO | 0666;
+
+    SettingsUserDefaultsBesideANode()
+    {
+        QDir().mkpath(m_folder.filePath(QStringLiteral("tessera")));
+        EXPECT_EQ(::mkfifo(m_node.constData(), 0600), 0);
+        EXPECT_EQ(::chmod(m_node.constData(), kMode & ~S_IFMT), 0); // whatever the umask is
+        EXPECT_EQ(::symlink(m_node.constData(), QFile::encodeName(path()).constData()), 0);
+    }
+
+    static mode_t modeOf(const QByteArray& path)
+    {
+        struct stat status { };
+        return ::lstat(path.constData(), &status) == 0 ? status.st_mode : 0;
+    }
+
+    const QByteArray m_node = QFile::encodeName(m_folder.filePath(QStringLiteral("node")));
+};
+
+TEST_F(SettingsUserDefaultsBesideANode, RememberAsLongAsTheyLast)
+{
+    SettingsUserDefaults defaults(path());
+    defaults.setInteger("number", 7);
+    defaults.setRecentRecords("recents", {{"/data", 5, kDate}});
+    EXPECT_FALSE(defaults.synchronize());
+    EXPECT_EQ(defaults.integer("number"), 7);
+    EXPECT_THAT(defaults.recentRecords("recents"), ElementsAre(RecentRecord{"/data", 5, kDate}));
+}
+
+TEST_F(SettingsUserDefaultsBesideANode, LeaveTheNodeAndTheLinkAsTheyAre)
+{
+    {
+        SettingsUserDefaults defaults(path());
+        defaults.setInteger("number", 7);
+        (void)defaults.synchronize();
+    }
+    EXPECT_EQ(modeOf(m_node), kMode);
+    EXPECT_TRUE(S_ISLNK(modeOf(QFile::encodeName(path()))));
+}
+
+TEST_F(SettingsUserDefaultsBesideANode, NothingIsLeftForTheNextStart)
+{
+    SettingsUserDefaults(path()).setInteger("number", 7);
+    EXPECT_EQ(SettingsUserDefaults(path()).integer("number"), 0);
 }
 
 TEST_F(SettingsUserDefaultsOnDisk, AnEmptyLockOfAKilledProcessIsRemoved)
