@@ -17,8 +17,16 @@ class InstalledProgram : public TreeWindow {
 protected:
     InstalledProgram()
     {
+        // Of one component, which is all there is: so the list of what the user installed from this
+        // build stays as it is.
         const ProgramResult installing = runProgram(
-            TESSERA_CMAKE, {"--install", TESSERA_BUILD, "--prefix", m_places.pathOf("usr")});
+            TESSERA_CMAKE,
+            {"--install",
+             TESSERA_BUILD,
+             "--prefix",
+             m_places.pathOf("usr"),
+             "--component",
+             "Unspecified"});
         if (installing.exitStatus != 0) {
             throw std::runtime_error(installing.standardError);
         }

@@ -1,9 +1,25 @@
 # Installs a build into an empty folder and checks what is there and that the program runs.
 #   cmake -D BUILD=... -D PREFIX=... -D DESKTOP_FILE_VALIDATE=... -P checkInstallation.cmake
 file(REMOVE_RECURSE "${PREFIX}")
+
+# The list of what the user installed from the build says what there is to uninstall, and may be
+# root's. An installation of one component, which all is part of, writes a list of its own.
+function(read_manifest variable)
+    set(text "none\n")
+    if(EXISTS "${BUILD}/install_manifest.txt")
+        file(READ "${BUILD}/install_manifest.txt" text)
+    endif()
+    set(${variable} "${text}" PARENT_SCOPE)
+endfunction()
+
+read_manifest(manifest_before)
 execute_process(
-    COMMAND "${CMAKE_COMMAND}" --install "${BUILD}" --prefix "${PREFIX}" OUTPUT_QUIET
-            COMMAND_ERROR_IS_FATAL ANY)
+    COMMAND "${CMAKE_COMMAND}" --install "${BUILD}" --prefix "${PREFIX}" --component Unspecified
+            OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
+read_manifest(manifest)
+if(NOT manifest STREQUAL manifest_before)
+    message(FATAL_ERROR "What was installed before is forgotten; the list says: ${manifest}")
+endif()
 
 set(expected
     bin/tessera
