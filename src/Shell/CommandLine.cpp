@@ -32,26 +32,10 @@ std::optional<Number> parsePositive(std::string_view text)
 }
 
 /// Formats that a picture's name may ask for, and in which none is written.
-constexpr std::array<std::string_view, 19> kOtherFormats{
-    ".avif",
-    ".bmp",
-    ".eps",
-    ".gif",
-    ".heic",
-    ".ico",
-    ".jp2",
-    ".jpe",
-    ".jpeg",
-    ".jpg",
-    ".jxl",
-    ".pdf",
-    ".pgm",
-    ".ppm",
-    ".svg",
-    ".svgz",
-    ".tif",
-    ".tiff",
-    ".webp"};
+constexpr std::array<std::string_view, 31> kOtherFormats{
+    ".avif", ".bmp",  ".cur", ".eps", ".gif",  ".heic", ".heif", ".icns", ".ico", ".jfif", ".jp2",
+    ".jpe",  ".jpeg", ".jpg", ".jxl", ".pbm",  ".pdf",  ".pgm",  ".pnm",  ".ppm", ".ps",   ".psd",
+    ".svg",  ".svgz", ".tga", ".tif", ".tiff", ".wbmp", ".webp", ".xbm",  ".xpm"};
 
 bool isOfOtherFormat(std::string_view file)
 {
@@ -253,7 +237,8 @@ std::string commandLineHelp()
            "  --version           print the version\n"
            "\n"
            "Exit status: 0 done, 1 the folder cannot be read or the picture cannot be written,\n"
-           "2 the command line makes no sense.\n";
+           "2 the command line makes no sense. Where the standard error is no terminal, a window\n"
+           "opens to say that the folder cannot be read, and the status is the window's: 0.\n";
 }
 
 } // namespace tessera

@@ -126,7 +126,23 @@ TEST(CommandLine, RefusesPicturesWhoseNameAsksForAnotherFormat)
     EXPECT_EQ(
         refusal({"--picture", "a/x.jpg", "/usr"}),
         "pictures are written as PNG, and 'a/x.jpg' is the name of another format");
-    for (const char* name : {"x.JPEG", "x.webp", "x.png.tiff", ".gif"}) {
+    for (const char* name :
+         {"x.JPEG",
+          "x.webp",
+          "x.png.tiff",
+          ".gif",
+          "x.xpm",
+          "x.xbm",
+          "x.pbm",
+          "x.pnm",
+          "x.wbmp",
+          "x.cur",
+          "x.icns",
+          "x.jfif",
+          "x.HEIF",
+          "x.tga",
+          "x.psd",
+          "x.ps"}) {
         EXPECT_NE(refusal({"--picture", name, "/usr"}).find(name), std::string::npos);
     }
 }
@@ -209,6 +225,11 @@ TEST(CommandLine, TheHelpNamesEveryOption)
          {"--picture", "--size", "--scale", "  -- ", "--help", "--version", "FOLDER"}) {
         EXPECT_NE(help.find(option), std::string::npos);
     }
+}
+
+TEST(CommandLine, TheHelpTellsHowAFolderThatCannotBeReadEndsWithoutATerminal)
+{
+    EXPECT_NE(commandLineHelp().find("is no terminal"), std::string::npos);
 }
 
 } // namespace
