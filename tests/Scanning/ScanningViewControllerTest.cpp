@@ -1,20 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "Scanning/ScanningViewController.h"
-
-#include "Model/NotificationCenter.h"
-#include "Model/RootModel.h"
-#include "Model/Volume.h"
-#include "Model/nodeLookup.h"
-#include "Scanning/PathLabel.h"
-#include "Utils/DisplayText.h"
-#include "support/FakeDockTile.h"
-#include "support/FakeRootModelServices.h"
-#include "support/FakeTreeViewServices.h"
+#include "ScanningViewControllerFixture.h"
 #include "support/makeTree.h"
 
 #include <QApplication>
 #include <QFontInfo>
-#include <QLabel>
 #include <QLocale>
 #include <QProgressBar>
 #include <QPushButton>
@@ -23,13 +12,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <memory>
-#include <string>
-#include <thread>
-#include <variant>
-#include <vector>
-
 namespace tessera {
 namespace {
 
@@ -37,133 +19,7 @@ using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// One file after the other, each of 1000 bytes.
-std::string filesText(int count)
-{
-    std::string text;
-    for (int i = 0; i < count; ++i) {
-        text += "f" + std::to_string(i) + ":1000 ";
-    }
-    return text;
-}
-
-/// A place that is called by its path in brackets.
-PlaceLook redPlace(const Url& folder)
-{
-    QPixmap picture(64, 64);
-    picture.fill(Qt::red);
-    return {picture, displayText('[' + folder.path() + ']')};
-}
-
-class ScanningViewControllerTest : public testing::Test {
-protected:
-    ~ScanningViewControllerTest() override
-    {
-        controller.reset();
-        system->workers->waitForNone();
-    }
-
-    /// Time passes before each item of a scan, and every report is shown before the next.
-    void makeScanner(std::string_view items)
-    {
-        system = std::make_unique<test::FakeTreeViewServices>(items);
-        system->home = userHome;
-        system->files.onItem([this](const std::string& path) {
-            if (beforeItem) {
-                beforeItem(path);
-            }
-            system->mainThread.performAndWait([] {});
-            system->scanClock = system->scanClock.load() + secondsPerItem;
-        });
-        controller = std::make_unique<ScanningViewController>(
-            model,
-            ScanningServices{
-                system->get().scanEnvironment,
-                tile,
-                system->alert,
-                redPlace,
-                [this](const std::string& path) {
-                    checked.push_back(path);
-                    return problem;
-                }});
-    }
-
-    void start(std::string_view items, std::string_view path = "/Users/me/Documents")
-    {
-        makeScanner(items);
-        controller->startScanning(Url(path, true));
-    }
-
-    /// Runs until `done`, and notes what was shown after each report.
-    template <typename Condition>
-    void runUntil(Condition done)
-    {
-        system->mainThread.runUntil([&] {
-            if (tile.displayed.size() > paths.size()) {
-                paths.push_back(outlet<PathLabel>("scanLabel")->text().toStdString());
-                rates.push_back(text("readRate"));
-                amounts.push_back(text("totalRead"));
-            }
-            return done();
-        });
-    }
-
-    void runToEnd()
-    {
-        runUntil([this] { return !posted.empty(); });
-    }
-
-    /// Until the scanner's worker has ended.
-    void runUntilIdle()
-    {
-        bool isIdle = false;
-        std::thread waiter([this, &isIdle] {
-            system->workers->waitForNone();
-            system->mainThread.perform([&isIdle] { isIdle = true; });
-        });
-        system->mainThread.runUntil([&isIdle] { return isIdle; });
-        waiter.join();
-    }
-
-    void scanToEnd(std::string_view items, std::string_view path = "/Users/me/Documents")
-    {
-        start(items, path);
-        runToEnd();
-    }
-
-    template <typename View>
-    View* outlet(const char* name) const
-    {
-        return controller->view().findChild<View*>(QString::fromLatin1(name));
-    }
-
-    std::string text(const char* name) const { return outlet<QLabel>(name)->text().toStdString(); }
-
-    void note(const char* name, const NotificationObject& object)
-    {
-        posted.emplace_back(name);
-        EXPECT_EQ(std::get<const void*>(object), controller.get());
-    }
-
-    test::FakeDockTile tile;
-    test::FakeRootModelServices modelServices;
-    RootModel model{modelServices.get()};
-    std::unique_ptr<test::FakeTreeViewServices> system;
-    std::unique_ptr<ScanningViewController> controller;
-    std::string userHome = "/me";
-    std::function<void(const std::string&)> beforeItem;
-    double secondsPerItem = 0.5;
-    std::error_code problem; ///< of every folder
-    std::vector<std::string> checked; ///< the folders that were asked about
-    std::vector<std::string> posted;
-    std::vector<std::string> paths;
-    std::vector<std::string> rates;
-    std::vector<std::string> amounts;
-    Observation complete = NotificationCenter::defaultCenter().addObserver(
-        "ScanComplete", [this](const NotificationObject& object) { note("complete", object); });
-    Observation cancelled = NotificationCenter::defaultCenter().addObserver(
-        "ScanCancelled", [this](const NotificationObject& object) { note("cancelled", object); });
-};
+class ScanningViewControllerTest : public test::ScanningViewControllerFixture { };
 
 TEST_F(ScanningViewControllerTest, ShowsWhatItStartsOn)
 {
@@ -203,13 +59,13 @@ TEST_F(ScanningViewControllerTest, ThePathBelowTheRootIsWhole)
 
 TEST_F(ScanningViewControllerTest, ShowsTheAmountRead)
 {
-    scanToEnd(filesText(3));
+    scanToEnd(test::filesText(3));
     EXPECT_THAT(amounts, ElementsAre("1 KB", "2 KB", "3 KB"));
 }
 
 TEST_F(ScanningViewControllerTest, TheIndicatorAndTheDockTileShowTheSameFraction)
 {
-    start(filesText(4));
+    start(test::filesText(4));
     runUntil([this] { return tile.displayed.size() == 2; });
     EXPECT_EQ(tile.displayed.back(), 0.5);
     const auto* indicator = outlet<QProgressBar>("indicator");
@@ -234,7 +90,7 @@ TEST_F(ScanningViewControllerTest, AFractionAboveOneGoesToTheBarAsItIs)
 
 TEST_F(ScanningViewControllerTest, ThereIsNoRateUntilTheTwentiethReport)
 {
-    scanToEnd(filesText(26));
+    scanToEnd(test::filesText(26));
 
     ASSERT_EQ(rates.size(), 26U);
     EXPECT_THAT(std::vector(rates.begin(), rates.begin() + 19), Each(std::string()));
@@ -247,7 +103,7 @@ TEST_F(ScanningViewControllerTest, ARateOfThousandsHasItsDigitsGrouped)
     secondsPerItem = 0.0005;
     const QLocale usual;
     QLocale::setDefault(QLocale(QLocale::German));
-    scanToEnd(filesText(5000));
+    scanToEnd(test::filesText(5000));
     QLocale::setDefault(usual);
     EXPECT_THAT(rates.back(), testing::ContainsRegex("^[12][.][0-9][0-9][0-9] files/sec$"));
 }
@@ -257,7 +113,7 @@ TEST_F(ScanningViewControllerTest, DigitsAreGroupedInTheLanguageOfNoneToo)
     secondsPerItem = 0.0005;
     const QLocale usual;
     QLocale::setDefault(QLocale::c());
-    scanToEnd(filesText(5000));
+    scanToEnd(test::filesText(5000));
     QLocale::setDefault(usual);
     EXPECT_THAT(rates.back(), testing::ContainsRegex("^[12],[0-9][0-9][0-9] files/sec$"));
 }
@@ -271,7 +127,7 @@ TEST_F(ScanningViewControllerTest, TheRateChangesAtEveryFifthReport)
             system->scanClock = system->scanClock.load() + 2.0;
         }
     };
-    scanToEnd(filesText(26));
+    scanToEnd(test::filesText(26));
 
     EXPECT_THAT(
         std::vector(rates.begin() + 19, rates.begin() + 24), Each(std::string("2 files/sec")));
@@ -319,7 +175,7 @@ TEST_F(ScanningViewControllerTest, WhoHearsOfTheEndMayDestroyIt)
 
 TEST_F(ScanningViewControllerTest, AScanCancelledAtOnceIsNeverComplete)
 {
-    start(filesText(50));
+    start(test::filesText(50));
     controller->stopScan();
     EXPECT_THAT(posted, ElementsAre("cancelled"));
     runUntilIdle();
@@ -447,116 +303,6 @@ TEST_F(ScanningViewControllerTest, InALargeFontThePanelAsksForTheHeightThatAllOf
         QFontInfo(outlet<PathLabel>("folderName")->font()).pixelSize(),
         QFontInfo(outlet<PathLabel>("scanLabel")->font()).pixelSize());
     QApplication::setFont(usual);
-}
-
-/// Scans of /Users where /Users/me is an encrypted home, a volume of its own.
-class EncryptedHomeTest : public ScanningViewControllerTest {
-protected:
-    void scanHome(
-        std::string_view items = "me/ ( a:300 b:100 ) other/ ( c:200 )",
-        const std::string& home = "/me")
-    {
-        userHome = home;
-        makeScanner(items);
-        system->scanResourceValues.volumes.insert("/Users/me");
-        controller->startScanning(Url("/Users", true));
-    }
-};
-
-TEST_F(EncryptedHomeTest, TheHomeIsScannedInASecondPass)
-{
-    scanHome();
-    runUntil([this] { return controller->fileVault() != nullptr; });
-    EXPECT_THAT(posted, IsEmpty());
-    EXPECT_EQ(controller->rootURL(), Url("/Users/me", true));
-    EXPECT_EQ(text("readRate"), "");
-    runToEnd();
-    EXPECT_THAT(posted, ElementsAre("complete"));
-    EXPECT_TRUE(controller->rootURL().empty());
-}
-
-TEST_F(EncryptedHomeTest, TheSecondPassBeginsWithoutARateAgain)
-{
-    const std::size_t reports = 27; // a pass meets the home folder and its files
-    makeScanner("me/ ( " + filesText(26) + ")");
-    system->scanResourceValues.volumes.insert("/Users/me");
-    controller->startScanning(Url("/Users", true));
-    runToEnd();
-
-    ASSERT_EQ(rates.size(), 2 * reports);
-    EXPECT_EQ(rates.at(reports - 1), "2 files/sec");
-    EXPECT_THAT(
-        std::vector(rates.begin() + reports, rates.begin() + reports + 19), Each(std::string()));
-    EXPECT_EQ(rates.at(reports + 19), "2 files/sec");
-}
-
-TEST_F(EncryptedHomeTest, ASecondPassThatIsCancelledLeavesNoTree)
-{
-    scanHome();
-    runUntil([this] { return controller->fileVault() != nullptr; });
-    controller->stopScan();
-    runUntilIdle();
-    EXPECT_THAT(posted, ElementsAre("cancelled"));
-    EXPECT_EQ(model.topFolder(), nullptr);
-}
-
-TEST_F(EncryptedHomeTest, WhatTheSecondPassFoundStandsInTheHomesPlace)
-{
-    scanHome();
-    runToEnd();
-    TopFolder& top = *model.topFolder();
-    EXPECT_EQ(top.origin(), "/Users");
-    const File& home = test::at(top, "me");
-
-    EXPECT_EQ(home.type(), NodeType::Folder);
-    EXPECT_NE(nodeAtPath(top, "/Users/me/other/c"), nullptr);
-    EXPECT_EQ(nodeAtPath(top, "/Users/other/c")->totalAllocation(), 200U);
-}
-
-TEST_F(EncryptedHomeTest, TheUsersOwnHomeIsAFolderOfWhatWasFoundInIt)
-{
-    scanHome("me/ ( a:300 b:100 ) other/ ( c:200 )", "/Users/me");
-    runToEnd();
-    const auto& home = static_cast<const Folder&>(test::at(*model.topFolder(), "me"));
-    // The second scan meets the same items once more: 300, 100 and 200 bytes.
-    EXPECT_EQ(home.totalAllocation(), 600U);
-    EXPECT_EQ(home.children().size(), 2U) << "no free space and no restricted files";
-    EXPECT_EQ(model.topFolder()->totalAllocation(), 800U);
-}
-
-TEST_F(EncryptedHomeTest, ASiblingWhoseNameTheHomesBeginsWithDoesNotHideIt)
-{
-    scanHome("m/ ( large:5000 ) me/ ( a:300 )", "/Users/me");
-    system->files.makeUnreadable("me");
-    runToEnd();
-    EXPECT_EQ(nodeAtPath(*model.topFolder(), "/Users/me/m/large")->totalAllocation(), 5000U);
-    EXPECT_EQ(model.topFolder()->totalAllocation(), 10000U);
-}
-
-TEST_F(EncryptedHomeTest, AMountedFolderOfTheUsersNameInTheHomeStartsNoThirdPass)
-{
-    makeScanner("me/ ( a:300 )");
-    system->scanResourceValues.volumes = {"/Users/me", "/Users/me/me"};
-    controller->startScanning(Url("/Users", true));
-    runToEnd();
-    EXPECT_EQ(model.topFolder()->origin(), "/Users");
-    EXPECT_THAT(
-        system->files.enumeratedPaths(),
-        testing::Not(testing::Contains(std::string("/Users/me/me"))));
-}
-
-TEST_F(EncryptedHomeTest, TheHomesFreeSpaceIsLeftOut)
-{
-    scanHome();
-    runToEnd();
-    const auto& home = static_cast<const Folder&>(test::at(*model.topFolder(), "me"));
-
-    for (const File* child : home.children()) {
-        EXPECT_NE(child->type(), NodeType::FreeSpace);
-    }
-    // The home's volume has 700 of its 1000 bytes in use.
-    EXPECT_EQ(home.totalAllocation(), 700U);
-    EXPECT_EQ(model.topFolder()->totalAllocation(), 900U);
 }
 
 } // namespace
