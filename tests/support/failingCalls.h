@@ -13,7 +13,8 @@ struct FailingCall {
     std::optional<std::uint32_t> thirdArgument; ///< only with this one
 };
 
-/// From now on this process, and whatever program it becomes, gets the error for every such call.
+/// From now on the calling thread, with all that it starts and the program it becomes, gets the
+/// error for every such call.
 /// False when the system does not let it be arranged.
 [[nodiscard]] bool makeCallFail(const FailingCall& call);
 

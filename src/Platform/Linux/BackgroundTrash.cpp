@@ -3,28 +3,45 @@
 
 #include "Platform/Linux/FileSystemQuestions.h"
 #include "Scanning/MainThread.h"
+#include "Utils/startThread.h"
 
 #include <algorithm>
 #include <mutex>
-#include <thread>
 #include <utility>
 
 namespace tessera {
 
+namespace {
+
+/// Neither the items nor their disks are to blame.
+constexpr const char* kNoThread
+    = "Nothing was moved to the trash, because the system is too busy to begin with it. Close some "
+      "programs and try again.";
+
+} // namespace
+
 /// The way back to the main thread, closed once the owner is gone: a worker may end much later.
-class BackgroundTrash::Delivery {
+class BackgroundTrash::Delivery : public std::enable_shared_from_this<Delivery> {
 public:
     explicit Delivery(MainThread& mainThread)
         : m_mainThread(&mainThread)
     {
     }
 
-    void perform(std::function<void()> work)
+    void tell(RecycleCompletion completion, RecycleResult result)
     {
         const std::lock_guard lock(m_mutex);
-        if (m_mainThread != nullptr) {
-            m_mainThread->perform(std::move(work));
+        if (m_mainThread == nullptr) {
+            return;
         }
+        m_mainThread->perform([self = shared_from_this(),
+                               completion = std::move(completion),
+                               result = std::move(result)] {
+            // The owner may have gone while this was waiting for its turn.
+            if (self->isOpen()) {
+                completion(result);
+            }
+        });
     }
 
     void close()
@@ -33,13 +50,13 @@ public:
         m_mainThread = nullptr;
     }
 
+private:
     bool isOpen() const
     {
         const std::lock_guard lock(m_mutex);
         return m_mainThread != nullptr;
     }
 
-private:
     mutable std::mutex m_mutex;
     MainThread* m_mainThread;
 };
@@ -69,22 +86,20 @@ void BackgroundTrash::recycle(std::vector<Url> urls, RecycleCompletion completio
 void BackgroundTrash::perform(Move move, RecycleCompletion completionHandler)
 {
     forgetEndedMoves();
-    std::promise<void> ended;
-    m_moves.push_back(ended.get_future());
-    std::thread([move = std::move(move),
-                 delivery = m_delivery,
-                 completion = std::move(completionHandler),
-                 ended = std::move(ended)]() mutable {
-        RecycleResult result = move();
-        delivery->perform(
-            [delivery, completion = std::move(completion), result = std::move(result)] {
-                // The owner may have gone while this was waiting for its turn.
-                if (delivery->isOpen()) {
-                    completion(result);
-                }
-            });
-        ended.set_value();
-    }).detach();
+    const auto ended = std::make_shared<std::promise<void>>();
+    std::future<void> end = ended->get_future();
+    const std::error_code error = startThread([move = std::move(move),
+                                               delivery = m_delivery,
+                                               completion = completionHandler,
+                                               ended]() mutable {
+        delivery->tell(std::move(completion), move());
+        ended->set_value();
+    });
+    if (error) {
+        m_delivery->tell(std::move(completionHandler), {{}, kNoThread});
+    } else {
+        m_moves.push_back(std::move(end));
+    }
 }
 
 void BackgroundTrash::forgetEndedMoves()

@@ -32,7 +32,7 @@ public:
     ~BackgroundTrash();
 
     /// Returns at once; the completion handler is called on the main thread, or never when this
-    /// object is gone by then.
+    /// object is gone by then. Where the system has no thread left it hears that nothing was moved.
     void recycle(std::vector<Url> urls, RecycleCompletion completionHandler);
 
     /// The same for a move of the caller's own.

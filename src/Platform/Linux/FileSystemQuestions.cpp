@@ -2,12 +2,12 @@
 #include "Platform/Linux/FileSystemQuestions.h"
 
 #include "Platform/Linux/MountTable.h"
+#include "Utils/startThread.h"
 
 #include <algorithm>
 #include <condition_variable>
 #include <map>
 #include <mutex>
-#include <thread>
 
 namespace tessera {
 
@@ -105,12 +105,14 @@ bool FileSystemQuestions::perform(
         return false;
     }
     const auto question = std::make_shared<Desk::Question>();
-    std::thread([desk = m_desk, question, work = std::move(work)]() mutable {
-        work();
-        work = nullptr; // with what it held, before anybody hears of the answer
-        desk->answered(*question);
-    }).detach();
-    return m_desk->waitFor(*question, path, linkMode, until);
+    const std::error_code error
+        = startThread([desk = m_desk, question, work = std::move(work)]() mutable {
+              work();
+              work = nullptr; // with what it held, before anybody hears of the answer
+              desk->answered(*question);
+          });
+    // That says nothing about the file system, which is asked again the next time.
+    return !error && m_desk->waitFor(*question, path, linkMode, until);
 }
 
 } // namespace tessera

@@ -26,7 +26,8 @@ inline constexpr std::chrono::milliseconds kMainThreadPatience{80};
 ///
 /// A question that is stuck in the kernel cannot be taken back. Until it returns, others about the
 /// same mount are not asked at all, so that neither the waiting nor the threads add up; and when
-/// kMaxStuck of them are stuck, none is asked. Callable from any thread.
+/// kMaxStuck of them are stuck, none is asked. Where the system has no thread left, a question
+/// counts as not answered this once. Callable from any thread.
 class FileSystemQuestions {
 public:
     using Clock = std::chrono::steady_clock;

@@ -3,6 +3,7 @@
 
 #include "Model/UserDefaults.h"
 #include "Platform/Linux/XbelContent.h"
+#include "Utils/startThread.h"
 
 #include <glib.h>
 #include <sys/stat.h>
@@ -17,8 +18,6 @@
 #include <mutex>
 #include <optional>
 #include <string_view>
-#include <system_error>
-#include <thread>
 #include <utility>
 
 namespace tessera {
@@ -340,9 +339,7 @@ public:
         if (std::exchange(changes->m_isAtWork, true)) {
             return;
         }
-        try {
-            std::thread([changes] { changes->work(); }).detach();
-        } catch (const std::system_error&) {
+        if (startThread([changes] { changes->work(); })) {
             // It is as where the list cannot be written.
             changes->m_waiting.clear();
             changes->m_isAtWork = false;

@@ -2,6 +2,7 @@
 #include "Platform/Linux/BackgroundTrash.h"
 
 #include "support/FakeMainThread.h"
+#include "support/withoutThreads.h"
 
 #include <gtest/gtest.h>
 
@@ -139,6 +140,26 @@ TEST(BackgroundTrash, TheEndWaitsForAMoveUnderWay)
         begun.get_future().wait();
     }
     EXPECT_TRUE(hasEnded);
+}
+
+TEST(BackgroundTrash, WhereThereIsNoThreadTellsThatNothingWasMoved)
+{
+    test::FakeMainThread mainThread;
+    BackgroundTrash trash(mainThread, [](const std::vector<Url>& urls) {
+        ADD_FAILURE() << "moved";
+        return movedTo("/trash", urls);
+    });
+    RecycleResult told;
+    const bool isDone = test::withoutThreads([&] {
+        trash.recycle({Url("/a", false)}, [&](const RecycleResult& result) { told = result; });
+    });
+    ASSERT_TRUE(isDone);
+    EXPECT_EQ(told.error, "") << "not before the call has returned";
+    mainThread.runUntil([&] { return !told.error.empty(); });
+    EXPECT_EQ(
+        told.error,
+        "Nothing was moved to the trash, because the system is too busy to begin with it. Close "
+        "some programs and try again.");
 }
 
 TEST(BackgroundTrash, AHandlerMayMoveMoreOrTakeTheTrashAway)

@@ -2,6 +2,7 @@
 #include "Platform/Linux/FileSystemQuestions.h"
 
 #include "support/DeadFileSystem.h"
+#include "support/withoutThreads.h"
 
 #include <gtest/gtest.h>
 
@@ -99,6 +100,21 @@ TEST_F(FileSystemQuestionsTest, ManyStuckThreadsAreNotJoinedByMore)
         m_dead.swallow(m_questions, "/dead" + std::to_string(i), LinkMode::Follow);
     }
     EXPECT_FALSE(isAnswered(m_questions, "/healthy", LinkMode::Keep));
+}
+
+TEST_F(FileSystemQuestionsTest, WhereThereIsNoThreadNothingIsAnswered)
+{
+    const bool isDone = test::withoutThreads(
+        [this] { EXPECT_FALSE(isAnswered(m_questions, "/mnt/a", LinkMode::Keep)); });
+    EXPECT_TRUE(isDone);
+}
+
+TEST_F(FileSystemQuestionsTest, WhatCouldNotBeAskedForWantOfAThreadIsNotStuck)
+{
+    const bool isDone
+        = test::withoutThreads([this] { (void)isAnswered(m_questions, "/mnt/a", LinkMode::Keep); });
+    EXPECT_TRUE(isDone);
+    EXPECT_TRUE(isAnswered(m_questions, "/mnt/a", LinkMode::Keep));
 }
 
 TEST_F(FileSystemQuestionsTest, TheKernelsTableTellsTheMounts)
