@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "Shell/BackgroundQuestions.h"
 
+#include "Utils/startThread.h"
+
 #include <QCoreApplication>
 #include <QEvent>
 
 #include <condition_variable>
 #include <mutex>
-#include <thread>
 #include <vector>
 
 namespace tessera {
@@ -34,6 +35,13 @@ public:
     {
         const std::lock_guard lock(m_mutex);
         ++m_open;
+    }
+
+    /// Of a question that nobody will answer.
+    void removeOpen()
+    {
+        const std::lock_guard lock(m_mutex);
+        --m_open;
     }
 
     void addArrived(int number)
@@ -90,11 +98,16 @@ void BackgroundQuestions::start(std::function<void()> question, std::function<vo
     m_answered.emplace(number, std::move(answered));
     m_desk->addOpen();
     // A thread that is stuck in the system can neither be ended nor waited for.
-    std::thread([desk = m_desk, number, question = std::move(question)]() mutable {
-        question();
-        question = nullptr; // with what it held, before anybody hears of the answer
-        desk->addArrived(number);
-    }).detach();
+    const std::error_code error
+        = startThread([desk = m_desk, number, question = std::move(question)]() mutable {
+              question();
+              question = nullptr; // with what it held, before anybody hears of the answer
+              desk->addArrived(number);
+          });
+    if (error) {
+        m_desk->removeOpen();
+        m_answered.erase(number);
+    }
 }
 
 void BackgroundQuestions::waitBriefly(std::chrono::milliseconds patience)

@@ -22,7 +22,8 @@ public:
     BackgroundQuestions();
     ~BackgroundQuestions() override;
 
-    /// Asks, and hands the answer to `answered` later, on the main thread.
+    /// Asks, and hands the answer to `answered` later, on the main thread. Where the system has no
+    /// thread left it is like a file system that never answers, only that nobody waits for it.
     template <typename Answer>
     void ask(std::function<Answer()> question, std::function<void(const Answer&)> answered)
     {
