@@ -49,7 +49,8 @@ public:
     {
     }
 
-    /// Starts the look, or has it wait for a thread; one that waited already is dropped.
+    /// Starts the look, or has it wait for a thread; one that waited already is dropped. Where the
+    /// system has no thread left, that is what the look brings.
     void add(std::shared_ptr<Look> look)
     {
         const std::lock_guard lock(m_mutex);
@@ -58,7 +59,12 @@ public:
             return;
         }
         ++m_threads;
-        m_pool->start([crew = shared_from_this(), first = std::move(look)] { crew->run(first); });
+        if (const std::error_code error
+            = m_pool->start([crew = shared_from_this(), look] { crew->run(look); })) {
+            --m_threads;
+            look->preview.file.error = error;
+            bring(std::move(look));
+        }
     }
 
     void dropWaiting()
@@ -102,15 +108,21 @@ private:
     {
         const std::lock_guard lock(m_mutex);
         if (m_receiver != nullptr && !done->cancelling.stop_requested()) {
-            m_arrived = std::move(done);
-            // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the event queue takes it over
-            QCoreApplication::postEvent(m_receiver, new QEvent(arrivalEvent()));
+            bring(std::move(done));
         }
         if (m_waiting == nullptr) {
             --m_threads;
             m_ended.notify_all();
         }
         return std::exchange(m_waiting, nullptr);
+    }
+
+    /// With the mutex held, and a receiver.
+    void bring(std::shared_ptr<Look> done)
+    {
+        m_arrived = std::move(done);
+        // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the event queue takes it over
+        QCoreApplication::postEvent(m_receiver, new QEvent(arrivalEvent()));
     }
 
     const std::shared_ptr<const FileReader> m_files;

@@ -17,19 +17,25 @@ PreviewThreads::~PreviewThreads()
     leaveAlone();
 }
 
-void PreviewThreads::start(std::function<void()> work)
+std::error_code PreviewThreads::start(std::function<void()> work)
 {
     const std::lock_guard lock(m_mutex);
     joinDone();
     Worker& worker = m_workers.emplace_back();
-    worker.thread
-        = std::thread([self = shared_from_this(), &worker, task = std::move(work)]() mutable {
-              task();
-              task = nullptr; // with what it held, while somebody still waits for this thread
-              const std::lock_guard ended(self->m_mutex);
-              worker.isDone = true;
-              self->m_changed.notify_all();
-          });
+    try {
+        worker.thread
+            = std::thread([self = shared_from_this(), &worker, task = std::move(work)]() mutable {
+                  task();
+                  task = nullptr; // with what it held, while somebody still waits for this thread
+                  const std::lock_guard ended(self->m_mutex);
+                  worker.isDone = true;
+                  self->m_changed.notify_all();
+              });
+    } catch (const std::system_error& error) {
+        m_workers.pop_back();
+        return error.code();
+    }
+    return {};
 }
 
 bool PreviewThreads::waitForEnd(std::chrono::milliseconds timeLimit)

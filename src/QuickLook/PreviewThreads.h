@@ -7,6 +7,7 @@
 #include <list>
 #include <memory>
 #include <mutex>
+#include <system_error>
 #include <thread>
 
 namespace tessera {
@@ -24,7 +25,8 @@ public:
     /// Waits for none.
     ~PreviewThreads();
 
-    void start(std::function<void()> work);
+    /// Says why where the system has no thread left; then nothing is done.
+    [[nodiscard]] std::error_code start(std::function<void()> work);
 
     /// Waits until all have ended; false when some are stuck in the system beyond that time, which
     /// are then left alone.

@@ -4,6 +4,7 @@
 #include "QuickLook/FakeFileReader.h"
 #include "QuickLook/FakeRasterDecoder.h"
 #include "QuickLook/PreviewThreads.h"
+#include "support/withoutThreads.h"
 
 #include <QTest>
 
@@ -201,6 +202,31 @@ TEST_F(PreviewLoaderTest, ALoaderThatGoesAwayEndsItsDecoding)
     loader.reset();
 
     EXPECT_TRUE(threads->waitForEnd(60s));
+}
+
+TEST_F(PreviewLoaderTest, WhereThereIsNoThreadBringsThat)
+{
+    std::error_code brought;
+    const bool isDone = test::withoutThreads([&] {
+        PreviewLoader withoutThreads(files, decoder, threads, [&brought](const Preview& preview) {
+            brought = preview.file.error;
+        });
+        withoutThreads.load({path(1), false, QSize(10, 10), 10});
+        QCoreApplication::sendPostedEvents(&withoutThreads);
+        EXPECT_FALSE(withoutThreads.isLoading());
+    });
+    EXPECT_TRUE(isDone);
+    EXPECT_EQ(brought, std::errc::resource_unavailable_try_again);
+}
+
+TEST_F(PreviewLoaderTest, WhatThereWasNoThreadForIsNotWaitedFor)
+{
+    const bool isDone = test::withoutThreads([&] {
+        PreviewLoader withoutThreads(files, decoder, threads, [](const Preview&) {});
+        withoutThreads.load({path(1), false, QSize(10, 10), 10});
+        EXPECT_TRUE(withoutThreads.cancelAndWait(0ms));
+    });
+    EXPECT_TRUE(isDone);
 }
 
 } // namespace tessera
