@@ -12,6 +12,7 @@
 #include <array>
 #include <atomic>
 #include <cmath>
+#include <system_error>
 #include <thread>
 
 namespace tessera {
@@ -86,6 +87,16 @@ private:
     std::atomic<int> m_nextBand = 0;
 };
 
+/// Has a thread of its own paint too; none where the system has none left.
+std::jthread startHelper(BandedPainting& painting, StretchMaskCache& masks)
+{
+    try {
+        return std::jthread([&painting, &masks] { painting.run(masks); });
+    } catch (const std::system_error&) {
+        return {};
+    }
+}
+
 } // namespace
 
 /// The glyphs and corners of any picture serve the next.
@@ -116,7 +127,7 @@ QImage TreePainter::paint(const TreeBranch& top, QSizeF sizeInPoints, double sca
     BandedPainting painting(image, top, labels, scale);
     std::jthread helper;
     if (!painting.hasOneBand()) {
-        helper = std::jthread([&] { painting.run(m_caches->masks[1]); });
+        helper = startHelper(painting, m_caches->masks[1]);
     }
     painting.run(m_caches->masks[0]);
     if (helper.joinable()) {

@@ -24,8 +24,8 @@ public:
     ~TreePainter();
 
     /// Paints the branch and everything below it on black, into an opaque image whose device pixel
-    /// ratio is `scale`. Uses two threads and returns when done; null when the size or the scale
-    /// is not positive.
+    /// ratio is `scale`. Uses two threads, where the system has another one, and returns when done;
+    /// null when the size or the scale is not positive.
     QImage paint(const TreeBranch& top, QSizeF sizeInPoints, double scale);
 
 private:

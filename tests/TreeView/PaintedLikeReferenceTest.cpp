@@ -6,6 +6,7 @@
 #include "support/LevelPicture.h"
 #include "support/makeTree.h"
 #include "support/parameterNames.h"
+#include "support/withoutThreads.h"
 
 #include <QPainter>
 
@@ -140,6 +141,19 @@ TEST(TreePainter, LooksAsIfEveryLevelWasPaintedInFull)
         painter.end();
         EXPECT_LE(test::greatestDifference(picture, plain), 2) << "scale " << scale;
     }
+}
+
+TEST(TreePainter, PaintsTheSameWhereThereIsNoThreadToHelp)
+{
+    const auto top = test::makeTree("/disk", "a/ ( b/ ( c:50 d:9 ) e:40 ) f:30 g/ ( h:80 )");
+    const auto branch
+        = TreeBranch::make(LevelRenderer(false).renderTop(top.get(), {0, 0, 800, 600}), nullptr);
+    TreePainter treePainter;
+    const QImage usual = treePainter.paint(*branch, QSizeF(800, 600), 1.0);
+    QImage alone;
+    EXPECT_TRUE(
+        test::withoutThreads([&] { alone = treePainter.paint(*branch, QSizeF(800, 600), 1.0); }));
+    EXPECT_EQ(alone, usual);
 }
 
 } // namespace
