@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Shell/RecentsTableView.h"
 
+#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -19,6 +20,16 @@ void RecentsTableView::paintEvent(QPaintEvent* event)
     QPainter painter(viewport());
     painter.setPen(palette().color(QPalette::PlaceholderText));
     painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, tr("No scans yet"));
+}
+
+void RecentsTableView::focusInEvent(QFocusEvent* event)
+{
+    QListView::focusInEvent(event);
+    // Qt does so only while no row has ever been the current one.
+    const bool isByMouse = event->reason() == Qt::MouseFocusReason;
+    if (!isByMouse && !currentIndex().isValid() && model() != nullptr) {
+        selectionModel()->setCurrentIndex(model()->index(0, 0), QItemSelectionModel::NoUpdate);
+    }
 }
 
 void RecentsTableView::keyPressEvent(QKeyEvent* event)

@@ -31,7 +31,26 @@ int darkest(const QImage& image)
     return least;
 }
 
-class HomeViewControllerTest : public test::HomeViewControllerFixture { };
+class HomeViewControllerTest : public test::HomeViewControllerFixture {
+protected:
+    /// From the grid.
+    void tabToTheList() const
+    {
+        for (int key = 0; key < 3; ++key) {
+            QTest::keyClick(home->view().focusWidget(), Qt::Key_Tab);
+        }
+        ASSERT_EQ(home->view().focusWidget(), &table());
+    }
+
+    /// A line of two points lies two points inside the row.
+    bool hasOutline(int row) const
+    {
+        const QRect frame = table().visualRect(table().model()->index(row, 0));
+        const QImage image = table().viewport()->grab().toImage();
+        const QColor line = image.pixelColor(frame.left() + 2, frame.center().y());
+        return line != table().palette().color(QPalette::Base);
+    }
+};
 
 TEST_F(HomeViewControllerTest, ListsTheVolumesInTheSystemsOrder)
 {
@@ -206,5 +225,25 @@ TEST_F(HomeViewControllerTest, TheScreenIsLaidOutInFixedMeasures)
     EXPECT_EQ(item(4).height(), 104);
 }
 
+class HomeViewControllerTest : public test::HomeViewControllerFixture {
+protected:
+    /// From the grid.
+    void tabToTheList() const
+    {
+        for (int key = 0; key < 3; ++key) {
+            QTest::keyClick(home->view().focusWidget(), Qt::Key_Tab);
+        }
+        ASSERT_EQ(home->view().focusWidget(), &table());
+    }
+
+    /// A line of two points lies two points inside the row.
+    bool hasOutline(int row) const
+    {
+        const QRect frame = table().visualRect(table().model()->index(row, 0));
+        const QImage image = table().viewport()->grab().toImage();
+        const QColor line = image.pixelColor(frame.left() + 2, frame.center().y());
+        return line != table().palette().color(QPalette::Base);
+    }
+};
 } // namespace
 } // namespace tessera
