@@ -4,18 +4,22 @@
 #include "Platform/PlatformServices.h"
 #include "Shell/Launch.h"
 
+#include <string>
+
 namespace tessera {
 
 /// What the screens need of the platform; refers to `services`.
 inline LaunchServices launchServices(const PlatformServices& services)
 {
+    const std::string homeDirectory
+        = services.prompt.fileAccess->absolutePath(services.userAccount->homeDirectory());
     return {
         {*services.fileManager,
          *services.resourceValues,
          *services.fileSystemAttributes,
          *services.mainThread,
          services.clock,
-         services.prompt.fileAccess->absolutePath(services.userAccount->homeDirectory())},
+         homeDirectory},
         *services.prompt.resourceValues,
         *services.prompt.fileSystemAttributes,
         *services.prompt.fileAccess,
@@ -23,6 +27,7 @@ inline LaunchServices launchServices(const PlatformServices& services)
         {*services.mountedVolumes,
          *services.standardFolders,
          *services.userAccount,
+         homeDirectory,
          services.fileSystemAttributes,
          services.resourceValues},
         *services.fileAccess,

@@ -265,7 +265,7 @@ void HomeViewController::loadRecents()
     m_recents = new RecentsTableModel(m_model.recents(), m_view.get());
     auto* const cell = new RecentsTableCell(
         {m_services.volumes,
-         m_services.account.homeDirectory(),
+         m_services.homeDirectory,
          m_realHomeDirectory,
          [this](const Url& folder) { return m_places.look(folder).icon; },
          m_services.today},

@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <memory>
+#include <string>
 
 namespace tessera {
 
@@ -20,6 +21,7 @@ struct HomeViewServices {
     const MountedVolumes& volumes;
     const StandardFolders& standardFolders;
     const UserAccount& account;
+    std::string homeDirectory; ///< path of the process's, over no link
     /// Asked by threads that may be stuck with a dead file system for longer than anything lives.
     std::shared_ptr<const FileSystemAttributes> fileSystemAttributes;
     std::shared_ptr<const ResourceValues> resourceValues;

@@ -26,7 +26,7 @@ public:
     /// What the cell asks for; all of it must outlive the cell.
     struct Services {
         const MountedVolumes& volumes;
-        std::string homeDirectory; ///< of the process
+        std::string homeDirectory; ///< of the process; over no link, as scans are recorded
         std::string realHomeDirectory; ///< of the user who started it
         std::function<QIcon(const Url& folder)> icon;
         std::function<QDate()> today = QDate::currentDate;

@@ -70,7 +70,13 @@ protected:
         model->setIsRunningAsRoot(isRunningAsRoot);
         home = std::make_unique<HomeViewController>(
             *model,
-            HomeViewServices{volumes, modelServices.folders, account, attributes, resourceValues});
+            HomeViewServices{
+                volumes,
+                modelServices.folders,
+                account,
+                homeDirectory,
+                attributes,
+                resourceValues});
         home->view().resize(1080, 660);
         home->view().show();
     }
@@ -125,6 +131,7 @@ protected:
     FakeRootModelServices modelServices;
     FakeMountedVolumes volumes;
     FakeUserAccount account;
+    std::string homeDirectory = "/home/me"; ///< over no link
     std::shared_ptr<const FileSystemAttributes> attributes
         = std::make_shared<FixedFileSystem>(FileSystemSizes{1000, 250});
     std::shared_ptr<FakeResourceValues> resourceValues = std::make_shared<FakeResourceValues>();

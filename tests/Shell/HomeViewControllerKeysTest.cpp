@@ -1,15 +1,37 @@
 // SPDX-License-Identifier: MIT
 #include "HomeViewControllerFixture.h"
 #include "Shell/HiddenButtonCell.h"
+#include "support/becomesActive.h"
 
 #include <QAccessible>
+#include <QImage>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace tessera {
 namespace {
 
-class HomeViewControllerKeysTest : public test::HomeViewControllerFixture { };
+class HomeViewControllerKeysTest : public test::HomeViewControllerFixture {
+protected:
+    /// From the grid.
+    void tabToTheList() const
+    {
+        for (int key = 0; key < 3; ++key) {
+            QTest::keyClick(home->view().focusWidget(), Qt::Key_Tab);
+        }
+        ASSERT_EQ(home->view().focusWidget(), &table());
+    }
+
+    /// A line of two points lies two points inside the row.
+    bool hasOutline(int row) const
+    {
+        const QRect frame = table().visualRect(table().model()->index(row, 0));
+        const QImage image = table().viewport()->grab().toImage();
+        const QColor line = image.pixelColor(frame.left() + 2, frame.center().y());
+        return line != table().palette().color(QPalette::Base);
+    }
+};
 
 TEST_F(HomeViewControllerKeysTest, TabGoesFromTheGridToTheScanButton)
 {
@@ -24,6 +46,27 @@ TEST_F(HomeViewControllerKeysTest, TabGoesFromTheGridToTheScanButton)
     EXPECT_EQ(view.focusWidget(), &table());
     QTest::keyClick(&table(), Qt::Key_Tab);
     EXPECT_EQ(view.focusWidget(), &home->scanButton());
+}
+
+TEST_F(HomeViewControllerKeysTest, TabbedIntoTheListOutlinesItsFirstRow)
+{
+    show();
+    ASSERT_TRUE(test::becomesActive(home->view()));
+    click(2);
+    tabToTheList();
+    EXPECT_TRUE(hasOutline(0));
+    EXPECT_FALSE(hasOutline(1));
+    EXPECT_TRUE(table().selectionModel()->selectedIndexes().isEmpty());
+}
+
+TEST_F(HomeViewControllerKeysTest, TheFirstArrowInTheListTakesTheRowWithTheOutline)
+{
+    show();
+    click(2);
+    tabToTheList();
+    QTest::keyClick(&table(), Qt::Key_Down);
+    home->scanSelected();
+    EXPECT_THAT(scanned, testing::ElementsAre("file:///home/eve/one/"));
 }
 
 TEST_F(HomeViewControllerKeysTest, ScreenReadersLearnWhatIsSelected)

@@ -3,6 +3,7 @@
 #include "Shell/CollectionHeaderView.h"
 #include "Shell/HiddenButtonCell.h"
 #include "Shell/NonBlockingTextField.h"
+#include "Shell/RecentsTableCell.h"
 #include "TreeView/Bar.h"
 
 #include <QApplication>
@@ -31,26 +32,7 @@ int darkest(const QImage& image)
     return least;
 }
 
-class HomeViewControllerTest : public test::HomeViewControllerFixture {
-protected:
-    /// From the grid.
-    void tabToTheList() const
-    {
-        for (int key = 0; key < 3; ++key) {
-            QTest::keyClick(home->view().focusWidget(), Qt::Key_Tab);
-        }
-        ASSERT_EQ(home->view().focusWidget(), &table());
-    }
-
-    /// A line of two points lies two points inside the row.
-    bool hasOutline(int row) const
-    {
-        const QRect frame = table().visualRect(table().model()->index(row, 0));
-        const QImage image = table().viewport()->grab().toImage();
-        const QColor line = image.pixelColor(frame.left() + 2, frame.center().y());
-        return line != table().palette().color(QPalette::Base);
-    }
-};
+class HomeViewControllerTest : public test::HomeViewControllerFixture { };
 
 TEST_F(HomeViewControllerTest, ListsTheVolumesInTheSystemsOrder)
 {
@@ -67,6 +49,16 @@ TEST_F(HomeViewControllerTest, ListsOnlyTheLocationsThatThereAre)
     resourceValues->directories.erase("/home/eve/Public");
     show();
     EXPECT_THAT(locationPaths(), ElementsAre("/home/eve", "/home/eve/Music"));
+}
+
+TEST_F(HomeViewControllerTest, AHomeThatIsAVolumeIsCalledByThePathThatScansOfItHave)
+{
+    account.home = "/link";
+    homeDirectory = "/srv/eve";
+    volumes.list = {{Url("/srv/eve", true), MountedVolume::Kind::Disk}};
+    show();
+    const auto& cell = dynamic_cast<RecentsTableCell&>(*table().itemDelegate());
+    EXPECT_EQ(cell.title({"/srv/eve", 0, {}}), QStringLiteral("/srv/eve"));
 }
 
 TEST_F(HomeViewControllerTest, AnEquivalentTakesThePlaceOfAMissingLocation)
@@ -225,25 +217,5 @@ TEST_F(HomeViewControllerTest, TheScreenIsLaidOutInFixedMeasures)
     EXPECT_EQ(item(4).height(), 104);
 }
 
-class HomeViewControllerTest : public test::HomeViewControllerFixture {
-protected:
-    /// From the grid.
-    void tabToTheList() const
-    {
-        for (int key = 0; key < 3; ++key) {
-            QTest::keyClick(home->view().focusWidget(), Qt::Key_Tab);
-        }
-        ASSERT_EQ(home->view().focusWidget(), &table());
-    }
-
-    /// A line of two points lies two points inside the row.
-    bool hasOutline(int row) const
-    {
-        const QRect frame = table().visualRect(table().model()->index(row, 0));
-        const QImage image = table().viewport()->grab().toImage();
-        const QColor line = image.pixelColor(frame.left() + 2, frame.center().y());
-        return line != table().palette().color(QPalette::Base);
-    }
-};
 } // namespace
 } // namespace tessera
