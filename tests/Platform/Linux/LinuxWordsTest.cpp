@@ -18,6 +18,17 @@ TEST(LinuxWords, NameThePartsOfThisSystem)
     EXPECT_EQ(words.translate("any", "Time Machine Detected"), QStringLiteral("Backup Detected"));
 }
 
+TEST(LinuxWords, NameNoProductWhereABackupIsRefused)
+{
+    EXPECT_EQ(
+        LinuxWords().translate(
+            "MainWindowController",
+            "Tessera is unable to scan inside a Time Machine backup. To estimate the overall size "
+            "of Time Machine, please scan the disk labeled '%1'."),
+        QStringLiteral("Tessera is unable to scan inside a backup. To estimate the overall size of "
+                       "the backups, please scan the disk labeled '%1'."));
+}
+
 TEST(LinuxWords, LeaveAllOtherTextsAsTheyAre)
 {
     EXPECT_TRUE(LinuxWords().translate("TreeMenu", "Quick Look").isNull());
