@@ -88,7 +88,7 @@ public:
     void addSmall(File& file, std::uint64_t totalAllocation)
     {
         m_small->refs.push_back(&file);
-        m_smallAllocation += totalAllocation;
+        m_smallAllocation = saturatingSum(m_smallAllocation, totalAllocation);
     }
 
     /// A single small child becomes an ordinary box, but never one with a level inside.

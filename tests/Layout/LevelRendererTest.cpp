@@ -173,6 +173,17 @@ TEST(LevelRenderer, ChildrenWithoutBytesAreGrouped)
     EXPECT_EQ(level.layoutItems[0]->rect, (Rect{3, 3, 100, 100}));
 }
 
+TEST(LevelRenderer, AGroupOfMoreThanCanBeCountedHoldsTheMostThatCan)
+{
+    // A broken file system may give such sizes; in the smallest of windows none is worth a box.
+    const auto top = test::makeTree(
+        "/t",
+        "a:4611686018427387904 b:4611686018427387904 c:4611686018427387904 d:4611686018427387904");
+    const RenderedLevel level = render(*top, 16, 16);
+    ASSERT_THAT(namesOf(level), ElementsAre("(group)"));
+    EXPECT_EQ(level.layoutItems[0]->totalAllocation, 9223372036854775807.0);
+}
+
 TEST(LevelRenderer, ADeepChainIsShownAsFarAsThereIsRoom)
 {
     std::string items = "x:7 ";
