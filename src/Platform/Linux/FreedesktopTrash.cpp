@@ -26,7 +26,7 @@ namespace {
 
 std::string dataHome(const std::string& home)
 {
-    // NOLINTNEXTLINE(concurrency-mt-unsafe): the program never changes its environment
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): what is set while threads run has room already
     const char* const set = std::getenv("XDG_DATA_HOME");
     return set != nullptr && *set == '/' ? set : home + "/.local/share";
 }

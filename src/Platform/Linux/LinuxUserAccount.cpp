@@ -44,7 +44,7 @@ std::optional<PasswordEntry> LinuxUserAccount::realUser() const
 
 std::string LinuxUserAccount::homeDirectory() const
 {
-    // NOLINTNEXTLINE(concurrency-mt-unsafe): the program never changes its environment
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): what is set while threads run has room already
     const char* const home = std::getenv("HOME");
     if (home != nullptr && *home == '/') {
         return Url(home, true).path();
