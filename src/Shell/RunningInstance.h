@@ -32,6 +32,7 @@ public:
     virtual void setHandler(Handler handler) = 0;
 
     /// From now on this process is not the one any more, and the next start is the first again.
+    /// Once it is not, nothing happens.
     virtual void giveUp() = 0;
 };
 

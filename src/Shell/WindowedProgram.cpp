@@ -81,6 +81,7 @@ struct WindowedProgram::Desktop {
 WindowedProgram::WindowedProgram(const LaunchServices& services)
     : m_runningInstance(services.runningInstance)
 {
+    giveUpAtTheEnd();
     QGuiApplication::setDesktopFileName(QStringLiteral("tessera"));
     QGuiApplication::setWindowIcon(imageNamed("bullseye"));
     m_palette = std::make_unique<ApplicationPalette>(services.colorScheme);
@@ -104,8 +105,15 @@ WindowedProgram::WindowedProgram(const LaunchServices& services)
 
 WindowedProgram::~WindowedProgram()
 {
-    // First: what is left to do may take a while, and another start need not wait for it.
     m_runningInstance.giveUp();
+}
+
+/// Before everybody else that has something to do at the end of the event loop, for they are told
+/// in the order in which they asked: that may take seconds, and another start need not wait for it.
+void WindowedProgram::giveUpAtTheEnd()
+{
+    QObject::connect(
+        qApp, &QCoreApplication::aboutToQuit, &m_end, [this] { m_runningInstance.giveUp(); });
 }
 
 MainWindowServices WindowedProgram::mainWindowServices(

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QObject>
+
 #include <memory>
 
 namespace tessera {
@@ -30,7 +32,10 @@ private:
 
     MainWindowServices mainWindowServices(const LaunchServices& services, RootModel& model) const;
 
+    void giveUpAtTheEnd();
+
     RunningInstance& m_runningInstance;
+    QObject m_end; ///< hears of it
     std::unique_ptr<ApplicationPalette> m_palette;
     std::unique_ptr<Desktop> m_desktop;
     std::unique_ptr<AppDelegate> m_delegate;
