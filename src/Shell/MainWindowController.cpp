@@ -320,7 +320,8 @@ bool MainWindowController::validateMenuItem(int tag) const
     if (m_treeVC != nullptr) {
         context.isRootInView = m_treeVC->currentFolder() == m_services.model.topFolder();
         context.selectedFile = m_treeVC->selectedFile();
-        context.canRescan = m_treeVC->validate(TreeCommand::Rescan);
+        // Not for every entry: it takes a question to the system.
+        context.canRescan = tag == menu_tag::kRescan && m_treeVC->validate(TreeCommand::Rescan);
     }
     return tessera::validateMenuItem(tag, context);
 }

@@ -28,7 +28,7 @@ struct MenuContext {
     bool hasTreeScreen = false;
     bool isRootInView = true; ///< of the scanned tree; counts with a tree screen alone
     const File* selectedFile = nullptr; ///< the tree screen's
-    bool canRescan = false; ///< says the tree screen
+    bool canRescan = false; ///< says the tree screen; counts for kRescan alone
 };
 
 /// Whether a menu entry is enabled, by its tag alone.

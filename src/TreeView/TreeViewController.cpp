@@ -87,6 +87,7 @@ void TreeViewController::doubleClickTreeItem()
 void TreeViewController::setCurrentFolder(Folder* folder)
 {
     m_currentFolder = folder;
+    m_isMountPoint.reset();
     NotificationCenter::defaultCenter().post(
         "CurrentFolderChanged", static_cast<const void*>(this));
 }
@@ -97,6 +98,7 @@ void TreeViewController::setSelectedFile(File* file)
         m_selectedFile->setSelected(false);
     }
     m_selectedFile = file;
+    m_isMountPoint.reset();
     if (m_selectedFile != nullptr) {
         m_selectedFile->setSelected(true);
     }
@@ -167,12 +169,23 @@ RescanObstacle TreeViewController::rescanObstacle() const
     if (m_rescan.rescanFolder() != nullptr) {
         return RescanObstacle::AnotherRescan;
     }
-    // A scan leaves mount points empty. That with the user's home has what a second scan found.
     const Folder* const folder = folderToRescan();
-    const bool isMountPoint = folder != nullptr && folder->parent() != nullptr
-        && folder->children().empty()
-        && m_services.resourceValues.isMountPoint(folder->absolutePath());
-    return isMountPoint ? RescanObstacle::MountPoint : RescanObstacle::None;
+    return folder != nullptr && isMountPoint(*folder) ? RescanObstacle::MountPoint
+                                                      : RescanObstacle::None;
+}
+
+/// Asked once for each choice of the user's, and not whenever the picture is rebuilt, as all along
+/// while the window is resized.
+bool TreeViewController::isMountPoint(const Folder& toRescan) const
+{
+    // A scan leaves mount points empty. That with the user's home has what a second scan found.
+    if (toRescan.parent() == nullptr || !toRescan.children().empty()) {
+        return false;
+    }
+    if (!m_isMountPoint) {
+        m_isMountPoint = m_services.resourceValues.isMountPoint(toRescan.absolutePath());
+    }
+    return *m_isMountPoint;
 }
 
 void TreeViewController::refreshFolder()

@@ -139,6 +139,7 @@ private:
     void sayThatThereIsNoFileManager(const QString& itemName);
     void select(File* file);
     RescanObstacle rescanObstacle() const;
+    bool isMountPoint(const Folder& toRescan) const;
     bool moveSelection(Direction direction);
     bool openSelected();
     bool leaveFolder();
@@ -155,6 +156,8 @@ private:
     TreeNote m_note;
     Folder* m_currentFolder = nullptr;
     File* m_selectedFile = nullptr;
+    /// Of the folder to rescan, as far as the system was asked.
+    mutable std::optional<bool> m_isMountPoint;
     Observation m_clickObservation;
     Observation m_doubleClickObservation;
     Observation m_compressObservation;

@@ -44,15 +44,27 @@ protected:
         services.openPanel.choose({Url(folder, true)});
     }
 
-    bool isEnabled(MainCommand command) const
+    const QAction& action(MainCommand command) const
     {
-        for (const QAction* action : controller->window().actions()) {
-            if (action->text() == titleOf(rowOf(command))) {
-                return action->isEnabled();
-            }
-        }
-        ADD_FAILURE() << "no such action";
-        return false;
+        const QList<QAction*> actions = controller->window().actions();
+        return **std::ranges::find(actions, titleOf(rowOf(command)), &QAction::text);
+    }
+    bool isEnabled(MainCommand command) const { return action(command).isEnabled(); }
+
+    /// A tree in which a disk is mounted at "mnt".
+    void showTreeWithMountPoint()
+    {
+        requestScan();
+        services.model.setTopFolder(test::makeTree("/data", "mnt/ ( a:500 ) c:500"));
+        File& onlyOne = test::at(*services.model.topFolder(), "mnt/a");
+        onlyOne.parent()->removeChild(onlyOne);
+        services.treeScreen.resourceValues.mountPoints = {"/data/mnt"};
+        post("ScanComplete");
+        QCoreApplication::processEvents();
+    }
+    int mountPointQuestions() const
+    {
+        return services.treeScreen.resourceValues.mountPointQuestions;
     }
 
     void pressKeys(const char* keys) const
@@ -122,6 +134,34 @@ TEST_F(MainWindowControllerTest, TheCommandsFollowTheSelectionAtOnce)
     EXPECT_TRUE(isEnabled(MainCommand::QuickLook));
     EXPECT_FALSE(isEnabled(MainCommand::Rescan));
     select("docs");
+    EXPECT_TRUE(isEnabled(MainCommand::Rescan));
+}
+
+TEST_F(MainWindowControllerTest, ASelectionTakesOneQuestionToTheSystem)
+{
+    showTreeWithMountPoint();
+    const int before = mountPointQuestions();
+    select("mnt");
+    EXPECT_FALSE(isEnabled(MainCommand::Rescan));
+    EXPECT_EQ(mountPointQuestions(), before + 1);
+}
+
+TEST_F(MainWindowControllerTest, ResizingTheWindowTakesNoQuestionToTheSystem)
+{
+    showTreeWithMountPoint();
+    select("mnt");
+    const int before = mountPointQuestions();
+    controller->window().resize(controller->window().size() - QSize(50, 50));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(mountPointQuestions(), before);
+}
+
+TEST_F(MainWindowControllerTest, WhatIsMountedOrNotIsAskedAnewWithTheNextSelection)
+{
+    showTreeWithMountPoint();
+    select("mnt");
+    services.treeScreen.resourceValues.mountPoints.clear();
+    select("mnt");
     EXPECT_TRUE(isEnabled(MainCommand::Rescan));
 }
 

@@ -4,6 +4,7 @@
 #include "Model/FileSystemAttributes.h"
 #include "Scanning/ResourceValues.h"
 
+#include <atomic>
 #include <map>
 #include <set>
 #include <string>
@@ -43,6 +44,7 @@ public:
     std::map<std::string, std::uint64_t> sizes; ///< of single paths
     std::optional<std::uint64_t> size; ///< of all others
     std::optional<std::int64_t> modificationDate;
+    mutable std::atomic<int> mountPointQuestions = 0;
 
     [[nodiscard]] bool isVolume(const std::string& path) const override
     {
@@ -51,6 +53,7 @@ public:
 
     [[nodiscard]] bool isMountPoint(const std::string& path) const override
     {
+        ++mountPointQuestions;
         return mountPoints.contains(path) || isVolume(path);
     }
 
