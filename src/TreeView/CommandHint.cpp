@@ -44,6 +44,11 @@ QString whyNot(TreeCommand command, const Folder* toRescan, RescanObstacle obsta
     case TreeCommand::MoveToTrash:
         break;
     }
+    return nothingSelected();
+}
+
+QString nothingSelected()
+{
     return CommandHintTexts::tr("Select a file or a folder first.");
 }
 

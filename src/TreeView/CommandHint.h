@@ -21,6 +21,9 @@ namespace command_hint {
 /// For the way out of the folder in view, which is the scanned one.
 [[nodiscard]] QString nothingAround(const Folder& scanned);
 
+/// For what is done with an item.
+[[nodiscard]] QString nothingSelected();
+
 /// For a move of the selection.
 [[nodiscard]] QString noBoxThatWay();
 

@@ -382,21 +382,33 @@ void TreeMapView::contextMenuEvent(QContextMenuEvent* event)
         if (TreeBranch* const branch = branchAt(point)) {
             showMenu(*branch, point, event->globalPos());
         }
-    } else if (const std::optional<Box> box = selectedBox()) {
-        const QRectF rect(
-            box->inTreeView.x, box->inTreeView.y, box->inTreeView.width, box->inTreeView.height);
-        const QPointF centre = rect.center();
-        showMenu(*box->branch, toPoint(centre), mapToGlobal(centre).toPoint());
+        return;
+    }
+    if (!showMenuOfSelected()) {
+        emit menuKeyInVain();
     }
 }
 
-void TreeMapView::showMenu(TreeBranch& branch, Point point, QPoint onScreen)
+bool TreeMapView::showMenuOfSelected()
+{
+    const std::optional<Box> box = selectedBox();
+    if (!box) {
+        return false;
+    }
+    const QRectF rect(
+        box->inTreeView.x, box->inTreeView.y, box->inTreeView.width, box->inTreeView.height);
+    const QPointF centre = rect.center();
+    return showMenu(*box->branch, toPoint(centre), mapToGlobal(centre).toPoint());
+}
+
+bool TreeMapView::showMenu(TreeBranch& branch, Point point, QPoint onScreen)
 {
     const Dispatch dispatch(*this);
     m_menu = branch.menuForEvent(point, m_commandTarget);
     if (m_menu != nullptr) {
         m_menu->popup(onScreen);
     }
+    return m_menu != nullptr;
 }
 
 } // namespace tessera

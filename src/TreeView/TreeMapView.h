@@ -82,6 +82,8 @@ signals:
     /// The zoom came to its end, or a button was pressed meanwhile, whose press comes next. The
     /// map shows the zoom's last picture until its branches are removed.
     void zoomEnded();
+    /// The key of the context menu was pressed, and no box that has a menu is selected.
+    void menuKeyInVain();
 
 protected:
     bool event(QEvent* event) override;
@@ -108,7 +110,8 @@ private:
     void placeTooltip(QPointF pointerOnScreen, int tooltipType);
     void pressed(const QMouseEvent& event, int clickCount);
     std::optional<Box> selectedBox() const;
-    void showMenu(TreeBranch& branch, Point point, QPoint onScreen);
+    bool showMenu(TreeBranch& branch, Point point, QPoint onScreen);
+    bool showMenuOfSelected();
 
     const UserDefaults& m_defaults;
     TreeCommandTarget* m_commandTarget = nullptr;

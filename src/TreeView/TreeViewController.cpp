@@ -52,6 +52,9 @@ void TreeViewController::observe()
 {
     connect(&m_treeView, &TreeMapView::frameChanged, this, &TreeViewController::renderTree);
     connect(&m_treeView, &TreeMapView::zoomEnded, this, &TreeViewController::animationDidStop);
+    connect(&m_treeView, &TreeMapView::menuKeyInVain, this, [this] {
+        m_note.say(command_hint::nothingSelected());
+    });
     m_treeView.installEventFilter(this);
     m_treeView.setCommandTarget(this);
     NotificationCenter& center = NotificationCenter::defaultCenter();

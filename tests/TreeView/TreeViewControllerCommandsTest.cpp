@@ -52,6 +52,12 @@ protected:
         return controller->keyDown(QKeyEvent(QEvent::KeyPress, key, modifiers));
     }
 
+    void pressMenuKey()
+    {
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+        QApplication::sendEvent(&view, &event);
+    }
+
     bool canDo(TreeCommand command) const { return controller->validate(command); }
 
     /// What is said on the picture; empty while nothing is.
@@ -473,12 +479,28 @@ TEST_F(TreeViewControllerCommandsTest, TheMenuKeyOpensTheMenuOfTheSelectedBox)
 {
     select("docs");
     controller->renderTree();
-    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(), QPoint());
-    QApplication::sendEvent(&view, &event);
+    pressMenuKey();
     const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     ASSERT_NE(menu, nullptr);
     EXPECT_TRUE(menu->actions().front()->isEnabled());
     QApplication::activePopupWidget()->close();
+}
+
+TEST_F(TreeViewControllerCommandsTest, TheMenuKeySaysThatNothingIsSelected)
+{
+    pressMenuKey();
+    EXPECT_EQ(said(), QStringLiteral("Select a file or a folder first."));
+}
+
+TEST_F(TreeViewControllerCommandsTest, TheMenuKeySaysSoOfAnItemWithoutABoxOfItsOwn)
+{
+    model.setTopFolder(test::makeTree("/data", "large:10000000 small:1 tiny:1"));
+    controller->setCurrentFolder(model.topFolder());
+    select("tiny");
+    controller->renderTree();
+    ASSERT_EQ(controller->selectedFile(), &node("tiny"));
+    pressMenuKey();
+    EXPECT_EQ(said(), QStringLiteral("Select a file or a folder first."));
 }
 
 } // namespace
