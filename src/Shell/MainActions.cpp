@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Shell/MainActions.h"
 
+#include "Utils/DisplayText.h"
+
 #include <QAction>
 #include <QKeyEvent>
 #include <QKeySequence>
@@ -12,9 +14,10 @@
 
 namespace tessera {
 
-MainActions::MainActions(QWidget& window, Validator validator)
+MainActions::MainActions(QWidget& window, Validator validator, WhyNot whyNot)
     : QObject(&window)
     , m_validator(std::move(validator))
+    , m_whyNot(std::move(whyNot))
 {
     for (const ActionRow& row : actionTable()) {
         m_actions.emplace(row.command, makeAction(window, row));
@@ -56,6 +59,8 @@ void MainActions::fill(QMenu& menu, MainMenu entries) const
         }
         menu.addAction(&action(row.command));
     }
+    // Of disabled entries.
+    menu.setToolTipsVisible(true);
     connect(&menu, &QMenu::aboutToShow, this, &MainActions::validate);
 }
 
@@ -74,6 +79,7 @@ void MainActions::validate()
 {
     for (const auto& [command, action] : m_actions) {
         action->setEnabled(m_validator(action->data().toInt()));
+        action->setToolTip(action->isEnabled() ? QString() : plainTooltip(m_whyNot(command)));
     }
 }
 

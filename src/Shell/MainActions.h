@@ -25,9 +25,11 @@ class MainActions final : public QObject {
 public:
     /// Says by its tag whether an entry is enabled.
     using Validator = std::function<bool(int tag)>;
+    /// Says why the entry of a command is disabled, if there is anything to say.
+    using WhyNot = std::function<QString(MainCommand command)>;
 
     /// The shortcuts work in `window`, which owns this object.
-    MainActions(QWidget& window, Validator validator);
+    MainActions(QWidget& window, Validator validator, WhyNot whyNot);
     ~MainActions() override;
 
     QAction& action(MainCommand command) const { return *m_actions.at(command); }
@@ -41,7 +43,7 @@ public:
     void fill(QMenu& menu, MainMenu entries) const;
 
     /// To be called when what the validator goes by has changed: the shortcuts of disabled entries
-    /// do nothing, and the key press goes on to whatever has the keyboard.
+    /// do nothing, and the key press goes on to whatever has the keyboard. Their tooltips say why.
     void validate();
 
 signals:
@@ -51,6 +53,7 @@ private:
     QAction* makeAction(QWidget& window, const ActionRow& row);
 
     Validator m_validator;
+    WhyNot m_whyNot;
     std::map<MainCommand, QAction*> m_actions;
 };
 

@@ -81,7 +81,10 @@ MainWindowController::MainWindowController(const MainWindowServices& services)
     , m_window(Util::loadViewFromNib<QMainWindow>("MainWindowController"))
     , m_view(m_window->centralWidget())
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the window owns it
-    , m_actions(new MainActions(*m_window, [this](int tag) { return validateMenuItem(tag); }))
+    , m_actions(new MainActions(
+          *m_window,
+          [this](int tag) { return validateMenuItem(tag); },
+          [this](MainCommand command) { return whyNot(command); }))
     , m_ignoreMenu(services.model)
     , m_slide(services.treeScreen.motion, services.slideClock)
 {
@@ -409,16 +412,17 @@ void MainWindowController::rescan()
     }
 }
 
-void MainWindowController::sayWhyNot(MainCommand command)
+/// Without a tree nothing needs to be said: there is nothing that the commands could be about.
+QString MainWindowController::whyNot(MainCommand command) const
 {
     if (m_treeVC == nullptr) {
-        return;
+        return {};
     }
     if (command == MainCommand::ZoomOut) {
-        m_treeVC->sayNothingIsAround();
-    } else if (const std::optional<TreeCommand> onItem = treeCommandOf(command)) {
-        m_treeVC->sayWhyNot(*onItem);
+        return m_treeVC->whyNotOut();
     }
+    const std::optional<TreeCommand> onItem = treeCommandOf(command);
+    return onItem ? m_treeVC->whyNot(*onItem) : QString();
 }
 
 void MainWindowController::openFolder()
@@ -483,8 +487,8 @@ bool MainWindowController::eventFilter(QObject* watched, QEvent* event)
     } else if (watched == m_window.get() && event->type() == QEvent::KeyPress) {
         const auto& pressed = *static_cast<QKeyEvent*>(event);
         if (const auto command = m_actions->disabledCommand(pressed);
-            command && !pressed.isAutoRepeat()) {
-            sayWhyNot(*command);
+            command && !pressed.isAutoRepeat() && m_treeVC != nullptr) {
+            m_treeVC->say(whyNot(*command));
         }
     }
     return QObject::eventFilter(watched, event);

@@ -95,7 +95,7 @@ private:
     void placeScreens();
     void performOnTree(MainCommand command);
     void rescan();
-    void sayWhyNot(MainCommand command);
+    QString whyNot(MainCommand command) const;
     void folderChosen(const std::vector<Url>& urls);
     void refuseTimeMachine(const Url& url);
     void toggleFullScreen();

@@ -3,6 +3,7 @@
 
 #include "Model/File.h"
 #include "TreeView/TreeCommand.h"
+#include "Utils/DisplayText.h"
 
 #include <QCoreApplication>
 #include <QMenu>
@@ -64,7 +65,7 @@ void addEntry(QMenu& menu, const Entry& entry, TreeCommandTarget* target)
     QAction* action = menu.addAction(QCoreApplication::translate(kContext, entry.title));
     action->setEnabled(target != nullptr && target->validate(entry.command));
     if (target != nullptr) {
-        action->setToolTip(target->whyNot(entry.command));
+        action->setToolTip(plainTooltip(target->whyNot(entry.command)));
         QObject::connect(action, &QAction::triggered, &menu, [target, command = entry.command] {
             target->perform(command);
         });

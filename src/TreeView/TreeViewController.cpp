@@ -300,18 +300,17 @@ QString TreeViewController::whyNot(TreeCommand command) const
                              : command_hint::whyNot(command, folderToRescan(), rescanObstacle());
 }
 
-void TreeViewController::sayWhyNot(TreeCommand command)
+QString TreeViewController::whyNotOut() const
 {
-    const QString why = whyNot(command);
-    if (!why.isEmpty()) {
-        m_note.say(why);
-    }
+    return m_currentFolder == nullptr || m_currentFolder->parent() != nullptr
+        ? QString()
+        : command_hint::nothingAround(*m_currentFolder);
 }
 
-void TreeViewController::sayNothingIsAround()
+void TreeViewController::say(const QString& why)
 {
-    if (m_currentFolder != nullptr) {
-        m_note.say(command_hint::nothingAround(*m_currentFolder));
+    if (!why.isEmpty()) {
+        m_note.say(why);
     }
 }
 
@@ -377,13 +376,13 @@ bool TreeViewController::carryOut(const TreeKeyAction& action)
 void TreeViewController::sayWhyNot(const TreeKeyAction& action)
 {
     if (const auto* command = std::get_if<TreeCommand>(&action)) {
-        sayWhyNot(*command);
+        say(whyNot(*command));
     } else if (const auto* key = std::get_if<TreeKey>(&action); key == nullptr) {
         m_note.say(command_hint::noBoxThatWay());
     } else if (*key == TreeKey::Open) {
-        sayWhyNot(TreeCommand::QuickLook);
+        say(whyNot(TreeCommand::QuickLook));
     } else {
-        sayNothingIsAround();
+        say(whyNotOut());
     }
 }
 

@@ -92,10 +92,11 @@ public:
     /// the picture.
     bool keyDown(const QKeyEvent& event);
 
-    /// Says on the picture, for a while, why the command cannot be performed now.
-    void sayWhyNot(TreeCommand command);
-    /// Likewise, why there is no way out of the folder in view.
-    void sayNothingIsAround();
+    /// Why there is no way out of the folder in view; empty when there is.
+    QString whyNotOut() const;
+
+    /// Says on the picture, for a while, why something cannot be done; an empty text is nothing.
+    void say(const QString& why);
 
     /// To be called when the disk has changed under the tree: a volume reads its sizes anew,
     /// or keeps them when its file system does not answer at once.

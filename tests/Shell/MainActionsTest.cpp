@@ -10,6 +10,7 @@
 #include <QMenuBar>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTextDocumentFragment>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -52,10 +53,13 @@ protected:
     }
 
     std::set<int> disabledTags;
+    QString reason = QStringLiteral("Not now."); ///< for all
     QMainWindow window;
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the window owns it
-    MainActions* actions
-        = new MainActions(window, [this](int tag) { return !disabledTags.contains(tag); });
+    MainActions* actions = new MainActions(
+        window,
+        [this](int tag) { return !disabledTags.contains(tag); },
+        [this](MainCommand) { return reason; });
     QSignalSpy triggered{actions, &MainActions::triggered};
 };
 
@@ -78,6 +82,40 @@ TEST_F(MainActionsTest, TheMenuBarHoldsEveryCommand)
             "Move to &Trash"));
     EXPECT_THAT(titles(menu(2)), ElementsAre("Zoom &In", "Zoom &Out", "-", "&Full Screen"));
     EXPECT_THAT(titles(menu(3)), ElementsAre("What Tessera &Does", "Frequently Asked &Questions"));
+}
+
+TEST_F(MainActionsTest, ADisabledEntrySaysWhyInItsTooltip)
+{
+    disabledTags = {35};
+    actions->validate();
+    EXPECT_EQ(actions->action(MainCommand::Rescan).toolTip(), QStringLiteral("Not now."));
+    EXPECT_NE(actions->action(MainCommand::Ignore).toolTip(), QStringLiteral("Not now."));
+}
+
+TEST_F(MainActionsTest, AnEntryThatIsEnabledAgainSaysNothingOfTheKind)
+{
+    disabledTags = {35};
+    actions->validate();
+    disabledTags.clear();
+    actions->validate();
+    EXPECT_NE(actions->action(MainCommand::Rescan).toolTip(), QStringLiteral("Not now."));
+}
+
+TEST_F(MainActionsTest, TheTooltipsAreShownInTheMenus)
+{
+    EXPECT_TRUE(menu(1).toolTipsVisible());
+    EXPECT_TRUE(menu(2).toolTipsVisible());
+}
+
+TEST_F(MainActionsTest, ANameInAReasonIsNoMarkup)
+{
+    disabledTags = {35};
+    reason = QStringLiteral("A disk is mounted at '<img src=\"/a.png\">'.");
+    actions->validate();
+    EXPECT_EQ(
+        QTextDocumentFragment::fromHtml(actions->action(MainCommand::Rescan).toolTip())
+            .toPlainText(),
+        reason);
 }
 
 TEST_F(MainActionsTest, EachCommandHasItsTag)

@@ -165,6 +165,24 @@ TEST_F(MainWindowControllerTest, WhatIsMountedOrNotIsAskedAnewWithTheNextSelecti
     EXPECT_TRUE(isEnabled(MainCommand::Rescan));
 }
 
+TEST_F(MainWindowControllerTest, ADisabledEntryOfTheItemMenuSaysWhyInItsTooltip)
+{
+    showTreeWithMountPoint();
+    select("mnt");
+    EXPECT_EQ(
+        action(MainCommand::Rescan).toolTip(),
+        QStringLiteral("A disk is mounted at 'mnt'. It is not part of this scan; scan it by "
+                       "itself."));
+}
+
+TEST_F(MainWindowControllerTest, TheDisabledWayOutSaysWhyInItsTooltip)
+{
+    showTree();
+    EXPECT_EQ(
+        action(MainCommand::ZoomOut).toolTip(),
+        QStringLiteral("'data' is all that was scanned. There is no folder around it here."));
+}
+
 TEST_F(MainWindowControllerTest, RescanIsDisabledWhileOneRunsAndEnabledWhenItHasEnded)
 {
     showTree();

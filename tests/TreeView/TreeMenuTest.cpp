@@ -7,6 +7,7 @@
 #include "TreeView/TreeCommand.h"
 
 #include <QMenu>
+#include <QTextDocumentFragment>
 
 #include <gtest/gtest.h>
 
@@ -22,10 +23,11 @@ public:
     bool validate(TreeCommand command) const override { return command != TreeCommand::ZoomIn; }
     QString whyNot(TreeCommand command) const override
     {
-        return validate(command) ? QString() : QStringLiteral("Not now.");
+        return validate(command) ? QString() : reason;
     }
     void perform(TreeCommand command) override { performed = command; }
 
+    QString reason = QStringLiteral("Not now.");
     std::optional<TreeCommand> performed;
 };
 
@@ -96,6 +98,17 @@ TEST(TreeMenu, ADisabledEntrySaysWhyInItsTooltip)
     const auto menu = makeTreeMenu(*makeNode<Folder>("a"), &target);
     EXPECT_TRUE(menu->toolTipsVisible());
     EXPECT_EQ(action(*menu, QStringLiteral("Zoom In"))->toolTip(), QStringLiteral("Not now."));
+}
+
+TEST(TreeMenu, ANameInAReasonIsNoMarkup)
+{
+    FakeTarget target;
+    target.reason = QStringLiteral("A disk is mounted at '<img src=\"/a.png\">'.");
+    const auto menu = makeTreeMenu(*makeNode<Folder>("a"), &target);
+    EXPECT_EQ(
+        QTextDocumentFragment::fromHtml(action(*menu, QStringLiteral("Zoom In"))->toolTip())
+            .toPlainText(),
+        target.reason);
 }
 
 TEST(TreeMenu, PerformsTheCommandsOfItsEntries)
