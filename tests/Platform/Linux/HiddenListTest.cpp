@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/HiddenList.h"
 
+#include "Platform/Linux/DirectoryListing.h"
 #include "Platform/Linux/FileDescriptor.h"
 #include "support/TempTree.h"
 
@@ -17,7 +18,9 @@ namespace {
 bool isListed(const TempTree& tree, std::string_view name)
 {
     const FileDescriptor folder(::open(tree.path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    return HiddenList(folder.number(), 1).contains(name);
+    DirectoryListing listing;
+    listing.append(name, 1, DirectoryListing::Kind::Regular);
+    return HiddenList(folder.number(), listing).contains(name);
 }
 
 TEST(HiddenList, HasTheLinesOfTheFile)
