@@ -10,14 +10,12 @@
 #include "Model/nodeLookup.h"
 #include "Scanning/ResourceValues.h"
 #include "TreeView/TreeBranch.h"
-#include "TreeView/TreeKeys.h"
 #include "TreeView/TreeMapView.h"
 #include "TreeView/TreeViewServices.h"
 #include "Utils/Alert.h"
 #include "Utils/DisplayText.h"
 #include "Utils/Util.h"
 
-#include <QKeyEvent>
 #include <QPointer>
 
 #include <optional>
@@ -65,17 +63,15 @@ void TreeViewController::observe()
           });
     m_doubleClickObservation = center.addObserver(
         "DoubleClickTreeItem", [this](const NotificationObject&) { doubleClickTreeItem(); });
-    m_compressObservation
-        = center.addObserver("ItemCompressed", [this](const NotificationObject& object) {
-              if (const Url* archive = std::get_if<Url>(&object)) {
-                  itemCompressed(*archive);
-              }
-          });
-    m_goneObservation = center.addObserver("ItemGone", [this](const NotificationObject& object) {
-        if (const Url* place = std::get_if<Url>(&object)) {
-            itemGone(*place);
-        }
-    });
+    const auto observed = [&](const char* name, void (TreeViewController::*hear)(const Url&)) {
+        return center.addObserver(name, [this, hear](const NotificationObject& object) {
+            if (const Url* url = std::get_if<Url>(&object)) {
+                (this->*hear)(*url);
+            }
+        });
+    };
+    m_compressObservation = observed("ItemCompressed", &TreeViewController::itemCompressed);
+    m_goneObservation = observed("ItemGone", &TreeViewController::itemGone);
 }
 
 void TreeViewController::doubleClickTreeItem()
@@ -339,89 +335,6 @@ void TreeViewController::perform(TreeCommand command)
         emit ignoreRequested();
         break;
     }
-}
-
-bool TreeViewController::keyDown(const QKeyEvent& event)
-{
-    const std::optional<TreeKeyAction> action = treeKeyAction(event);
-    if (!action) {
-        return false;
-    }
-    // A key that is held down asks once, and is told once.
-    if (event.isAutoRepeat() && std::holds_alternative<TreeCommand>(*action)) {
-        return false;
-    }
-    const bool isDone = carryOut(*action);
-    if (!isDone && !event.isAutoRepeat()) {
-        sayWhyNot(*action);
-    }
-    return isDone;
-}
-
-bool TreeViewController::carryOut(const TreeKeyAction& action)
-{
-    if (const auto* direction = std::get_if<Direction>(&action)) {
-        return moveSelection(*direction);
-    }
-    if (const auto* command = std::get_if<TreeCommand>(&action)) {
-        if (!validate(*command)) {
-            return false;
-        }
-        perform(*command);
-        return true;
-    }
-    return std::get<TreeKey>(action) == TreeKey::Open ? openSelected() : leaveFolder();
-}
-
-void TreeViewController::sayWhyNot(const TreeKeyAction& action)
-{
-    if (const auto* command = std::get_if<TreeCommand>(&action)) {
-        say(whyNot(*command));
-    } else if (const auto* key = std::get_if<TreeKey>(&action); key == nullptr) {
-        m_note.say(command_hint::noBoxThatWay());
-    } else if (*key == TreeKey::Open) {
-        say(whyNot(TreeCommand::QuickLook));
-    } else {
-        say(whyNotOut());
-    }
-}
-
-bool TreeViewController::moveSelection(Direction direction)
-{
-    // While a zoom runs there is a second picture, of the folder that is being left.
-    m_zoom.endRunningZoom();
-    File* const next = nextSelection(*m_treeView.branches().front(), m_selectedFile, direction);
-    if (next == nullptr) {
-        return false;
-    }
-    select(next);
-    return true;
-}
-
-bool TreeViewController::openSelected()
-{
-    if (m_selectedFile == nullptr) {
-        return false;
-    }
-    doubleClickTreeItem();
-    return true;
-}
-
-bool TreeViewController::leaveFolder()
-{
-    if (m_currentFolder == nullptr || m_currentFolder->parent() == nullptr) {
-        return false;
-    }
-    zoomOut();
-    return true;
-}
-
-bool TreeViewController::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() == QEvent::KeyPress && keyDown(*static_cast<QKeyEvent*>(event))) {
-        return true;
-    }
-    return QObject::eventFilter(watched, event);
 }
 
 bool TreeViewController::removeNodeAt(const Url& url)
