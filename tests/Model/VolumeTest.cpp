@@ -158,7 +158,7 @@ TEST(Volume, AsksForItsMountPath)
 {
     const FixedFileSystem fileSystem(FileSystemSizes{1000, 300});
     volumeHolding(1)->refreshVolume(fileSystem);
-    EXPECT_EQ(fileSystem.askedFor, "/mnt/disk");
+    EXPECT_EQ(fileSystem.askedFor(), "/mnt/disk");
 }
 
 TEST(Volume, RefreshingLogsBothReports)

@@ -101,6 +101,7 @@ TEST_F(HomeRescanTest, OneThatEndsEarlyLeavesNothingToTheNext)
     rescan("docs");
     services.mainThread.runUntil([&isInHome] { return isInHome; });
     trash("docs");
+    endWorkers();
     rescan("other");
     services.mainThread.runUntil([this] { return !isRescanning(); });
     EXPECT_TRUE(has("other/new/b"));

@@ -233,7 +233,7 @@ TEST_F(TreeViewControllerNavigationTest, PathsAreComparedAsBytes)
 TEST_F(TreeViewControllerNavigationTest, AVolumeReadsItsSizesWhenTheScreenOpens)
 {
     showVolume();
-    EXPECT_EQ(viewServices.fileSystem.askedFor, "/");
+    EXPECT_EQ(viewServices.fileSystem.askedFor(), "/");
     EXPECT_EQ(static_cast<Volume&>(*model.topFolder()).freeSize(), 300U);
 }
 
@@ -249,7 +249,7 @@ TEST_F(TreeViewControllerNavigationTest, AVolumeThatDoesNotAnswerKeepsItsSizes)
 
 TEST_F(TreeViewControllerNavigationTest, AFolderAsksForNoSizes)
 {
-    EXPECT_EQ(viewServices.fileSystem.askedFor, "");
+    EXPECT_EQ(viewServices.fileSystem.askedFor(), "");
 }
 
 TEST_F(TreeViewControllerNavigationTest, TheFirstFolderIsAnnounced)

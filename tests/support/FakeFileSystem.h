@@ -6,12 +6,14 @@
 
 #include <atomic>
 #include <map>
+#include <mutex>
+#include <optional>
 #include <set>
 #include <string>
 
 namespace tessera::test {
 
-/// A file system of fixed sizes, or one that gives no answer.
+/// A file system of fixed sizes, or one that gives no answer. Callable from any thread.
 class FixedFileSystem final : public FileSystemAttributes {
 public:
     explicit FixedFileSystem(std::optional<FileSystemSizes> sizes)
@@ -22,15 +24,27 @@ public:
     [[nodiscard]] std::optional<FileSystemSizes> attributesOfFileSystem(
         const std::string& path) const override
     {
-        askedFor = path;
+        const std::lock_guard lock(m_mutex);
+        m_askedFor = path;
         return m_sizes;
     }
 
-    void setSizes(std::optional<FileSystemSizes> sizes) { m_sizes = sizes; }
+    /// The last path; empty before anybody asked.
+    std::string askedFor() const
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_askedFor;
+    }
 
-    mutable std::string askedFor;
+    void setSizes(std::optional<FileSystemSizes> sizes)
+    {
+        const std::lock_guard lock(m_mutex);
+        m_sizes = sizes;
+    }
 
 private:
+    mutable std::mutex m_mutex;
+    mutable std::string m_askedFor;
     std::optional<FileSystemSizes> m_sizes;
 };
 
