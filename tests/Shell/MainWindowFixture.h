@@ -5,6 +5,7 @@
 #include "Shell/MainWindowController.h"
 #include "TreeView/TreeViewController.h"
 #include "support/FakeMainWindowServices.h"
+#include "support/endWorkers.h"
 #include "support/makeTree.h"
 
 #include <QAction>
@@ -22,6 +23,11 @@ namespace tessera::test {
 class MainWindowFixture : public testing::Test {
 protected:
     MainWindowFixture() { controller->showWindow(); }
+    ~MainWindowFixture() override
+    {
+        controller.reset();
+        endWorkers(services.treeScreen);
+    }
 
     static void post(const char* name) { NotificationCenter::defaultCenter().post(name); }
     static void requestScan(const char* path = "/data")

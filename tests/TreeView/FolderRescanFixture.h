@@ -8,15 +8,14 @@
 #include "TreeView/TreeViewController.h"
 #include "support/FakeRootModelServices.h"
 #include "support/FakeTreeViewServices.h"
+#include "support/endWorkers.h"
 #include "support/makeTree.h"
 
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <memory>
 #include <string>
 #include <string_view>
-#include <thread>
 #include <utility>
 
 namespace tessera::test {
@@ -40,18 +39,7 @@ protected:
         endWorkers();
     }
 
-    /// A worker may wait for the main thread, so that has to turn meanwhile.
-    void endWorkers()
-    {
-        std::atomic<bool> isDone = false;
-        std::thread waiting([&] {
-            services.workers->waitForNone();
-            isDone = true;
-            services.mainThread.perform([] {});
-        });
-        services.mainThread.runUntil([&] { return isDone.load(); });
-        waiting.join();
-    }
+    void endWorkers() { test::endWorkers(services); }
 
     File& node(std::string_view path) { return at(*model.topFolder(), path); }
     Folder& folder(std::string_view path) { return static_cast<Folder&>(node(path)); }
