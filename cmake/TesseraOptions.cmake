@@ -40,8 +40,8 @@ if(NOT TESSERA_SANITIZE AND CMAKE_BUILD_TYPE MATCHES "^(Release|RelWithDebInfo|M
             target_compile_options(tessera_options INTERFACE -f${flag})
         endif()
     endforeach()
-    check_cxx_compiler_flag(-mbranch-protection=standard TESSERA_HAS_branch-protection)
-    if(TESSERA_HAS_branch-protection)
+    # Where it means nothing Clang takes it too, and complains.
+    if(CMAKE_SYSTEM_PROCESSOR MATCHES "^(aarch64|arm64)$")
         target_compile_options(tessera_options INTERFACE -mbranch-protection=standard)
     endif()
     # Distributions that fortify by themselves may have chosen another level.

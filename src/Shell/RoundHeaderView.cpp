@@ -10,11 +10,11 @@ namespace tessera {
 
 void RoundHeaderView::paintEvent(QPaintEvent* /*event*/)
 {
-    constexpr double kRadius = 8;
+    constexpr double kHeaderRadius = 8;
     const HomeColors colors(palette());
     QPainter painter(this);
     paintGradientPanel(
-        painter, rect(), kRadius, {colors.panelTop, colors.panelBottom, colors.outline});
+        painter, rect(), kHeaderRadius, {colors.panelTop, colors.panelBottom, colors.outline});
 }
 
 } // namespace tessera

@@ -28,15 +28,15 @@ std::atomic<std::int64_t> firstArrival{kNotYet};
 static_assert(
     std::atomic<int>::is_always_lock_free && std::atomic<std::int64_t>::is_always_lock_free);
 
+constexpr std::int64_t kSecond = 1'000'000'000; // in nanoseconds
 /// A terminal that closes may say so twice, through the shell and by itself.
-constexpr std::int64_t kNanosecondsOfOneRequest = 1'000'000'000;
+constexpr std::int64_t kTimeOfOneRequest = kSecond;
 
 std::int64_t nanosecondsNow()
 {
-    constexpr std::int64_t kNanosecondsPerSecond = 1'000'000'000;
     timespec now{};
     ::clock_gettime(CLOCK_MONOTONIC, &now);
-    return now.tv_sec * kNanosecondsPerSecond + now.tv_nsec;
+    return now.tv_sec * kSecond + now.tv_nsec;
 }
 
 extern "C" void passOn(int signal)
@@ -44,8 +44,7 @@ extern "C" void passOn(int signal)
     const int error = errno;
     std::int64_t first = kNotYet;
     const std::int64_t now = nanosecondsNow();
-    if (!firstArrival.compare_exchange_strong(first, now)
-        && now - first >= kNanosecondsOfOneRequest) {
+    if (!firstArrival.compare_exchange_strong(first, now) && now - first >= kTimeOfOneRequest) {
         // The program has not got to the first.
         (void)std::signal(signal, SIG_DFL);
         (void)::raise(signal);
