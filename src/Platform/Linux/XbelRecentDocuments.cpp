@@ -236,9 +236,8 @@ bool note(const std::string& path, const std::vector<Url>& urls, microseconds no
     if (bookmarks == nullptr) {
         return false;
     }
-    for (auto url = urls.rbegin(); url != urls.rend(); ++url) {
-        enter(bookmarks.get(), *url, now);
-    }
+    std::for_each(
+        urls.rbegin(), urls.rend(), [&](const Url& url) { enter(bookmarks.get(), url, now); });
     return store(bookmarks.get(), path);
 }
 
@@ -278,6 +277,7 @@ std::vector<Url> joined(std::vector<Url> newer, std::vector<Url> older)
 std::vector<Url> urlsOf(const std::vector<RecentRecord>& records)
 {
     std::vector<Url> urls;
+    urls.reserve(records.size());
     for (const RecentRecord& record : records) {
         urls.emplace_back(record.path, true);
     }
@@ -288,6 +288,7 @@ std::vector<Url> urlsOf(const std::vector<RecentRecord>& records)
 std::vector<RecentRecord> recordsOf(const std::vector<Url>& urls)
 {
     std::vector<RecentRecord> records;
+    records.reserve(urls.size());
     for (const Url& url : urls) {
         records.push_back({url.path(), 0, {}});
     }

@@ -200,13 +200,14 @@ TEST_F(SettingsUserDefaultsOnDisk, AFolderThatCannotBeWrittenIsReported)
 /// The settings' path is a link to a node that is no file.
 class SettingsUserDefaultsBesideANode : public SettingsUserDefaultsOnDisk {
 protected:
-    static constexpr mode_t kMode = S_IFIFO | 0666;
+    static constexpr mode_t kRights = 0666;
+    static constexpr mode_t kMode = S_IFIFO | kRights;
 
     SettingsUserDefaultsBesideANode()
     {
         QDir().mkpath(m_folder.filePath(QStringLiteral("tessera")));
         EXPECT_EQ(::mkfifo(m_node.constData(), 0600), 0);
-        EXPECT_EQ(::chmod(m_node.constData(), kMode & ~S_IFMT), 0); // whatever the umask is
+        EXPECT_EQ(::chmod(m_node.constData(), kRights), 0); // whatever the umask is
         EXPECT_EQ(::symlink(m_node.constData(), QFile::encodeName(path()).constData()), 0);
     }
 
