@@ -49,6 +49,22 @@ protected:
     {
         services.scanResourceValues.volumes = {"/data/docs/new"};
     }
+
+    /// Scans "docs" anew until the second scan, that of the home in it, is on its way.
+    void rescanUntilInHome()
+    {
+        services.files.onItem([this](const std::string& /*path*/) {
+            // Each scan counts before it walks.
+            if (services.files.enumeratedPaths().size() == 3) {
+                services.mainThread.performAndWait([this] { m_isInHome = true; });
+            }
+        });
+        rescan("docs");
+        services.mainThread.runUntil([this] { return m_isInHome; });
+    }
+
+private:
+    bool m_isInHome = false; ///< touched by the main thread alone
 };
 
 TEST_F(HomeRescanTest, TheHomeIsScannedAgainToo)
@@ -75,15 +91,7 @@ TEST_F(HomeRescanTest, BothAreReachedOverNoLink)
 
 TEST_F(HomeRescanTest, TheBarStaysUntilTheEndOfTheSecondScan)
 {
-    bool isInHome = false;
-    services.files.onItem([&](const std::string& /*path*/) {
-        // Each scan counts before it walks.
-        if (services.files.enumeratedPaths().size() == 3) {
-            services.mainThread.performAndWait([&isInHome] { isInHome = true; });
-        }
-    });
-    rescan("docs");
-    services.mainThread.runUntil([&isInHome] { return isInHome; });
+    rescanUntilInHome();
     EXPECT_NE(indicator(), nullptr);
     EXPECT_TRUE(isRescanning());
     finish();
@@ -92,14 +100,7 @@ TEST_F(HomeRescanTest, TheBarStaysUntilTheEndOfTheSecondScan)
 
 TEST_F(HomeRescanTest, OneThatEndsEarlyLeavesNothingToTheNext)
 {
-    bool isInHome = false;
-    services.files.onItem([&](const std::string& /*path*/) {
-        if (services.files.enumeratedPaths().size() == 3) {
-            services.mainThread.performAndWait([&isInHome] { isInHome = true; });
-        }
-    });
-    rescan("docs");
-    services.mainThread.runUntil([&isInHome] { return isInHome; });
+    rescanUntilInHome();
     trash("docs");
     endWorkers();
     rescan("other");
