@@ -90,8 +90,12 @@ TEST_F(EncryptedHomeTest, TheUsersOwnHomeIsAFolderOfWhatWasFoundInIt)
 
 TEST_F(EncryptedHomeTest, ASiblingWhoseNameTheHomesBeginsWithDoesNotHideIt)
 {
-    scanHome("m/ ( large:5000 ) me/ ( a:300 )", "/Users/me");
+    userHome = "/Users/me";
+    makeScanner("m/ ( large:5000 ) me/ ( a:300 )");
+    system->scanResourceValues.volumes.insert("/Users/me");
+    // Before the scan starts: its thread reads the same set.
     system->files.makeUnreadable("me");
+    controller->startScanning(Url("/Users", true));
     runToEnd();
     EXPECT_EQ(nodeAtPath(*model.topFolder(), "/Users/me/m/large")->totalAllocation(), 5000U);
     EXPECT_EQ(model.topFolder()->totalAllocation(), 10000U);
