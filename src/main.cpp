@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "Base/Log.h"
+#include "LaunchServices.h"
 #include "Platform/PlatformServices.h"
-#include "Shell/CommandLine.h"
-#include "Shell/Launch.h"
-#include "Utils/Log.h"
-#include "launchServices.h"
+#include "Start/CommandLine.h"
+#include "Start/Launch.h"
 
 #include <QApplication>
 

@@ -2,7 +2,7 @@
 // Times changes to a finished tree, and its release: TreeBench [ITEMS]
 #include "Model/Document.h"
 #include "Model/TopFolder.h"
-#include "support/generatedTree.h"
+#include "support/GeneratedTree.h"
 
 #include <chrono>
 #include <cstdio>

@@ -4,8 +4,8 @@
 
 #include "Model/Document.h"
 #include "Model/TopFolder.h"
-#include "Platform/Linux/HeapMemory.h"
-#include "Platform/Linux/LinuxFileManager.h"
+#include "Platform/Linux/Walk/HeapMemory.h"
+#include "Platform/Linux/Walk/LinuxFileManager.h"
 
 #include <sys/resource.h>
 #include <unistd.h>

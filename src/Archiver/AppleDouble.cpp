@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Archiver/AppleDouble.h"
 
-#include "Utils/FileNames.h"
+#include "Base/FileNames.h"
 
 #include <cstddef>
 #include <cstdint>

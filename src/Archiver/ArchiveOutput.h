@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Utils/FileIdentity.h"
+#include "Base/FileIdentity.h"
 
 #include <span>
 

@@ -2,8 +2,8 @@
 #include "Archiver/ArchiverProgram.h"
 
 #include "Archiver/Archiver.h"
-#include "FileOps/archiverStatus.h"
-#include "Utils/Log.h"
+#include "Base/Log.h"
+#include "Compress/ArchiverStatus.h"
 
 #include <cerrno>
 #include <cstddef>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Archiver/ArchiveItem.h"
-#include "Utils/FileIdentity.h"
+#include "Base/FileIdentity.h"
 
 #include <cstddef>
 #include <cstdint>

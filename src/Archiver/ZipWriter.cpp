@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Archiver/ZipWriter.h"
 
-#include "Utils/Utf8.h"
+#include "Base/Utf8.h"
 
 #include <archive.h>
 #include <archive_entry.h>

@@ -2,7 +2,7 @@
 #include "Archiver/ArchiverCommandLine.h"
 #include "Archiver/ArchiverProgram.h"
 #include "Archiver/ArchiverSystem.h"
-#include "FileOps/archiverStatus.h"
+#include "Compress/ArchiverStatus.h"
 
 #include <cstdio>
 #include <span>

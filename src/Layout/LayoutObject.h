@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Layout/Rect.h"
+#include "Base/Rect.h"
 
 namespace tessera {
 

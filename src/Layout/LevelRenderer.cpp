@@ -3,8 +3,8 @@
 
 #include "Layout/LayoutBuilder.h"
 #include "Layout/MultiLayoutObject.h"
+#include "Model/Allocation.h"
 #include "Model/Folder.h"
-#include "Model/allocation.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Base/Rect.h"
 #include "Layout/LayoutObject.h"
-#include "Layout/Rect.h"
 
 #include <memory>
 #include <vector>

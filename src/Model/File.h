@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Base/Url.h"
 #include "Model/NodePool.h"
 #include "Model/NodeType.h"
-#include "Model/Url.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Model/Folder.h"
 
-#include "Model/allocation.h"
+#include "Model/Allocation.h"
 
 #include <algorithm>
 #include <array>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Base/PathHash.h"
 #include "Model/ChildArray.h"
 #include "Model/File.h"
-#include "Model/PathHash.h"
 
 #include <memory>
 #include <vector>

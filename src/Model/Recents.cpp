@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Model/Recents.h"
 
-#include "Model/RecentDocuments.h"
+#include "Desktop/RecentDocuments.h"
 #include "Model/TopFolder.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Model/RootModel.h"
 
-#include "Model/StandardFolders.h"
+#include "Desktop/StandardFolders.h"
 #include "Model/Volume.h"
 
 #include <cassert>

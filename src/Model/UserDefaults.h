@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Model/Observation.h"
+#include "Base/Observation.h"
 
 #include <chrono>
 #include <cstdint>

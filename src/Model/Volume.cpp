@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "Model/Volume.h"
 
+#include "Base/Log.h"
+#include "Model/Allocation.h"
 #include "Model/FileSystemAttributes.h"
-#include "Model/allocation.h"
-#include "Utils/Log.h"
 
 #include <algorithm>
 #include <cinttypes>

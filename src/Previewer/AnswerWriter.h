@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "QuickLook/RasterFrame.h"
+#include "QuickLook/Reading/RasterFrame.h"
 
 #include <functional>
 #include <span>

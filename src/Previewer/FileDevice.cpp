@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Previewer/FileDevice.h"
 
-#include "QuickLook/FileReader.h"
+#include "QuickLook/Reading/FileReader.h"
 
 #include <algorithm>
 #include <cstring>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Previewer/AnswerWriter.h"
-#include "QuickLook/RasterDecoder.h"
+#include "QuickLook/Reading/RasterDecoder.h"
 
 class QIODevice;
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "QuickLook/FileReader.h"
+#include "QuickLook/Reading/FileReader.h"
 
 #include <cstdint>
 #include <memory>

@@ -3,7 +3,7 @@
 #include "Previewer/FileDevice.h"
 #include "Previewer/Previewer.h"
 #include "Previewer/PreviewerSystem.h"
-#include "QuickLook/rasterArguments.h"
+#include "QuickLook/Reading/RasterArguments.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "QuickLook/ItemFacts.h"
 
+#include "Base/DisplayText.h"
+#include "Base/Url.h"
 #include "Model/Folder.h"
-#include "Model/Url.h"
-#include "Model/nodeLookup.h"
+#include "Model/NodeLookup.h"
 #include "QuickLook/PreviewItem.h"
-#include "Utils/DisplayText.h"
 
 namespace tessera {
 

@@ -2,7 +2,7 @@
 #include "QuickLook/PanelBody.h"
 
 #include "QuickLook/PreviewView.h"
-#include "Resources/Images.h"
+#include "Widgets/Images.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

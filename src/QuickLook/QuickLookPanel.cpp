@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "QuickLook/QuickLookPanel.h"
 
+#include "Desktop/MotionPreference.h"
 #include "QuickLook/PanelBody.h"
 #include "QuickLook/PreviewItem.h"
-#include "QuickLook/PreviewLoader.h"
-#include "QuickLook/PreviewThreads.h"
 #include "QuickLook/PreviewView.h"
 #include "QuickLook/QuickLookPanelDataSource.h"
 #include "QuickLook/QuickLookPanelDelegate.h"
+#include "QuickLook/Reading/PreviewLoader.h"
+#include "QuickLook/Reading/PreviewThreads.h"
 #include "QuickLook/Summary.h"
 #include "QuickLook/SummaryView.h"
-#include "TreeView/IconProvider.h"
-#include "Utils/MotionPreference.h"
+#include "Widgets/IconProvider.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>

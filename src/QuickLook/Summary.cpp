@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "QuickLook/Summary.h"
 
-#include "QuickLook/PreviewReading.h"
-#include "TreeView/MediumDate.h"
-#include "Utils/DisplayText.h"
-#include "Utils/Util.h"
+#include "Base/DisplayText.h"
+#include "QuickLook/Reading/PreviewReading.h"
+#include "Widgets/MediumDate.h"
+#include "Widgets/Util.h"
 
 #include <QCoreApplication>
 #include <QLocale>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "QuickLook/ItemFacts.h"
-#include "QuickLook/Preview.h"
+#include "QuickLook/Reading/Preview.h"
 
 #include <QString>
 

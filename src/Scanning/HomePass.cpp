@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Scanning/HomePass.h"
 
-#include "Model/nodeLookup.h"
+#include "Model/NodeLookup.h"
 #include "Scanning/Scanner.h"
 
 #include <utility>

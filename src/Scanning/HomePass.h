@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Base/Url.h"
 #include "Model/TopFolder.h"
-#include "Model/Url.h"
 
 #include <memory>
 #include <optional>

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "Scanning/ScannerRun.h"
 
+#include "Base/Decimals.h"
+#include "Base/Log.h"
+#include "Model/Allocation.h"
 #include "Model/FileSystemAttributes.h"
 #include "Model/TimeMachine.h"
 #include "Model/Volume.h"
-#include "Model/allocation.h"
 #include "Scanning/ResourceValues.h"
 #include "Scanning/ScannerDelegate.h"
-#include "Utils/Log.h"
-#include "Utils/decimals.h"
 
 #include <cinttypes>
 #include <utility>

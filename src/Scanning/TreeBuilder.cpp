@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Scanning/TreeBuilder.h"
 
+#include "Model/Allocation.h"
 #include "Model/Document.h"
-#include "Model/allocation.h"
 
 #include <algorithm>
 #include <utility>

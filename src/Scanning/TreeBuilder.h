@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Model/PathHash.h"
+#include "Base/PathHash.h"
 #include "Model/TopFolder.h"
 #include "Scanning/DirectoryEnumerator.h"
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The archiver as others start it: what it says, how it exits, what it leaves alone.
-#include "Archiver/archives.h"
-#include "support/OwnMounts.h"
-#include "support/TempTree.h"
-#include "support/fileContent.h"
+#include "Archiver/Archives.h"
+#include "support/Machine/FileContent.h"
+#include "support/Machine/OwnMounts.h"
+#include "support/Machine/TempTree.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Archives read by three programs that others wrote: Python's zipfile, unzip and bsdtar.
-#include "Archiver/archives.h"
-#include "support/TempTree.h"
+#include "Archiver/Archives.h"
+#include "support/Machine/TempTree.h"
 
 #include <fcntl.h>
 #include <gmock/gmock.h>

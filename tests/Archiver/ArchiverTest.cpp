@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "Archiver/Archiver.h"
 
+#include "Archiver/Archives.h"
 #include "Archiver/FakeArchiveOutput.h"
 #include "Archiver/FakeSourceWalk.h"
-#include "Archiver/archives.h"
-#include "support/TempTree.h"
+#include "support/Machine/TempTree.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Archives beyond what the format's first version could hold.
-#include "Archiver/archives.h"
-#include "support/TempTree.h"
+#include "Archiver/Archives.h"
+#include "support/Machine/TempTree.h"
 
 #include <gtest/gtest.h>
 

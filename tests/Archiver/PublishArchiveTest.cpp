@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 // The names that an archive has, from its creation to its end, and what becomes of it when the
 // disk or another program interferes.
-#include "Archiver/archives.h"
-#include "FileOps/archivePaths.h"
-#include "Utils/FileIdentity.h"
-#include "support/OwnMounts.h"
-#include "support/TempTree.h"
-#include "support/fileContent.h"
+#include "Archiver/Archives.h"
+#include "Base/FileIdentity.h"
+#include "Compress/ArchivePaths.h"
+#include "support/Machine/FileContent.h"
+#include "support/Machine/OwnMounts.h"
+#include "support/Machine/TempTree.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

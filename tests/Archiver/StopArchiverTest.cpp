@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Ending the archiver while it works.
-#include "Utils/FileIdentity.h"
-#include "support/ChildProcess.h"
-#include "support/TempTree.h"
-#include "support/fileContent.h"
+#include "Base/FileIdentity.h"
+#include "support/Machine/ChildProcess.h"
+#include "support/Machine/FileContent.h"
+#include "support/Machine/TempTree.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "WholeProgramFixture.h"
-#include "eventually.h"
-#include "treeScreen.h"
+#include "EndToEnd/Desk/Eventually.h"
+#include "EndToEnd/Session/DrivenTreeScreen.h"
+#include "EndToEnd/Session/WholeProgramFixture.h"
 
 namespace tessera::test {
 namespace {

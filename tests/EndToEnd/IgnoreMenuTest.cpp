@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "WholeProgramFixture.h"
+#include "EndToEnd/Session/WholeProgramFixture.h"
 
 #include <cstdint>
 #include <memory>

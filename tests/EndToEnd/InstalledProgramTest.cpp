@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "TreeWindowFixture.h"
-#include "eventually.h"
-#include "support/fileContent.h"
-#include "support/runProgram.h"
+#include "EndToEnd/Desk/Eventually.h"
+#include "EndToEnd/Session/TreeWindowFixture.h"
+#include "support/Machine/FileContent.h"
+#include "support/Machine/RunProgram.h"
 
 #include <sys/stat.h>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "WholeProgramFixture.h"
-#include "eventually.h"
+#include "EndToEnd/Desk/Eventually.h"
+#include "EndToEnd/Session/WholeProgramFixture.h"
 
 namespace tessera::test {
 namespace {

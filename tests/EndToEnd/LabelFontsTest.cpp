@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "ExpectedPicture.h"
-#include "support/TempTree.h"
-#include "support/fileContent.h"
-#include "support/runProgram.h"
+#include "EndToEnd/Session/ExpectedPicture.h"
+#include "support/Machine/FileContent.h"
+#include "support/Machine/RunProgram.h"
+#include "support/Machine/TempTree.h"
 
 #include <QByteArray>
 #include <QChar>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "support/TempTree.h"
-#include "support/fileContent.h"
-#include "support/runProgram.h"
+#include "support/Machine/FileContent.h"
+#include "support/Machine/RunProgram.h"
+#include "support/Machine/TempTree.h"
 
 #include <QByteArray>
 #include <QImage>

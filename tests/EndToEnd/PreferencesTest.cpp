@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "WholeProgramFixture.h"
-#include "eventually.h"
-#include "pixelColors.h"
+#include "EndToEnd/Desk/Eventually.h"
+#include "EndToEnd/Desk/PixelColors.h"
+#include "EndToEnd/Session/WholeProgramFixture.h"
 
 namespace tessera::test {
 namespace {

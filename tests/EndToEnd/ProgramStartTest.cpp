@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "support/ChildProcess.h"
-#include "support/TempTree.h"
-#include "support/fileContent.h"
-#include "support/runProgram.h"
+#include "support/Machine/ChildProcess.h"
+#include "support/Machine/FileContent.h"
+#include "support/Machine/RunProgram.h"
+#include "support/Machine/TempTree.h"
 
 #include <fcntl.h>
 #include <gmock/gmock.h>

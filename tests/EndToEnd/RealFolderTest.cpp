@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "EndToEnd/Session/ScanFolder.h"
 #include "Layout/LevelRenderer.h"
 #include "Layout/MultiLayoutObject.h"
 #include "Model/Folder.h"
-#include "scanFolder.h"
 
 #include <ftw.h>
 #include <gmock/gmock.h>

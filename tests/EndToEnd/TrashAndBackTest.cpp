@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "WholeProgramFixture.h"
-#include "eventually.h"
-#include "support/runProgram.h"
+#include "EndToEnd/Desk/Eventually.h"
+#include "EndToEnd/Session/WholeProgramFixture.h"
+#include "support/Machine/RunProgram.h"
 
 #include <filesystem>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "TreeWindowFixture.h"
-#include "eventually.h"
-#include "support/fileContent.h"
+#include "EndToEnd/Desk/Eventually.h"
+#include "EndToEnd/Session/TreeWindowFixture.h"
+#include "support/Machine/FileContent.h"
 
 #include <gtest/gtest.h>
 

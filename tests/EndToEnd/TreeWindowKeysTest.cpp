@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "TreeWindowFixture.h"
-#include "eventually.h"
+#include "EndToEnd/Desk/Eventually.h"
+#include "EndToEnd/Session/TreeWindowFixture.h"
 
 #include <filesystem>
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Previews in the program itself, which has another one decode.
-#include "Previewer/hostileFiles.h"
-#include "QuickLook/sampleFiles.h"
-#include "TreeWindowFixture.h"
-#include "eventually.h"
-#include "pixelColors.h"
-#include "support/fileContent.h"
+#include "EndToEnd/Desk/Eventually.h"
+#include "EndToEnd/Desk/PixelColors.h"
+#include "EndToEnd/Session/TreeWindowFixture.h"
+#include "Previewer/HostileFiles.h"
+#include "QuickLook/Reading/SampleFiles.h"
+#include "support/Machine/FileContent.h"
 
 #include <QColor>
 #include <QImage>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "TreeWindowFixture.h"
+#include "EndToEnd/Session/TreeWindowFixture.h"
 
 namespace tessera::test {
 namespace {

@@ -3,7 +3,7 @@
 
 #include "Layout/MultiLayoutObject.h"
 #include "Model/Folder.h"
-#include "support/makeTree.h"
+#include "support/MakeTree.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

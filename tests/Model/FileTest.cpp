@@ -6,7 +6,7 @@
 #include "Model/FreeSpace.h"
 #include "Model/TimeMachine.h"
 #include "Model/Unknown.h"
-#include "support/makeTree.h"
+#include "support/MakeTree.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 #include "Model/Folder.h"
 
 #include "Model/Document.h"
-#include "support/makeTree.h"
+#include "support/MakeTree.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

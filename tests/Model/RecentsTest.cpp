@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "Model/Recents.h"
 
-#include "support/FakeRecentDocuments.h"
-#include "support/FakeUserDefaults.h"
-#include "support/makeTree.h"
+#include "support/Fakes/FakeRecentDocuments.h"
+#include "support/Fakes/FakeUserDefaults.h"
+#include "support/MakeTree.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -3,9 +3,9 @@
 
 #include "Model/Document.h"
 #include "Model/Volume.h"
-#include "support/FakeFileSystem.h"
-#include "support/FakeRootModelServices.h"
-#include "support/makeTree.h"
+#include "support/Fakes/FakeFileSystem.h"
+#include "support/Fakes/FakeRootModelServices.h"
+#include "support/MakeTree.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

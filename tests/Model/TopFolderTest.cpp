@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Model/TopFolder.h"
 
-#include "support/makeTree.h"
+#include "support/MakeTree.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Model/UserDefaults.h"
 
-#include "support/FakeUserDefaults.h"
+#include "support/Fakes/FakeUserDefaults.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

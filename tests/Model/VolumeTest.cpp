@@ -3,7 +3,7 @@
 
 #include "Model/Document.h"
 #include "Model/TimeMachine.h"
-#include "support/FakeFileSystem.h"
+#include "support/Fakes/FakeFileSystem.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "support/fileContent.h"
+#include "support/Machine/FileContent.h"
 
 #include <elf.h>
 #include <gtest/gtest.h>

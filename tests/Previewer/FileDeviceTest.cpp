@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Previewer/FileDevice.h"
 
-#include "QuickLook/FakeFileReader.h"
+#include "QuickLook/Reading/FakeFileReader.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Previewer/ImageDecoding.h"
 
-#include "QuickLook/sampleFiles.h"
+#include "QuickLook/Reading/SampleFiles.h"
 
 #include <QBuffer>
 

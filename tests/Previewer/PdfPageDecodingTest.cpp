@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Previewer/PageDecoding.h"
-#include "QuickLook/sampleFiles.h"
+#include "QuickLook/Reading/SampleFiles.h"
 
 #include <QBuffer>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // The program that decodes, started as the preview panel starts it.
-#include "QuickLook/sampleFiles.h"
-#include "support/ChildProcess.h"
-#include "support/TempTree.h"
-#include "support/fileContent.h"
-#include "support/runProgram.h"
+#include "QuickLook/Reading/SampleFiles.h"
+#include "support/Machine/ChildProcess.h"
+#include "support/Machine/FileContent.h"
+#include "support/Machine/RunProgram.h"
+#include "support/Machine/TempTree.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>

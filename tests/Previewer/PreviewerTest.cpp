@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "Previewer/Previewer.h"
 
-#include "QuickLook/readFrom.h"
-#include "QuickLook/readRasterAnswer.h"
-#include "QuickLook/sampleFiles.h"
+#include "QuickLook/Reading/ReadFrom.h"
+#include "QuickLook/Reading/ReadRasterAnswer.h"
+#include "QuickLook/Reading/SampleFiles.h"
 
 #include <QBuffer>
 #include <QImage>

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Model/Url.h"
-#include "QuickLook/FakeFileReader.h"
-#include "QuickLook/FakeRasterDecoder.h"
+#include "Base/Url.h"
 #include "QuickLook/PreviewItem.h"
-#include "QuickLook/PreviewThreads.h"
 #include "QuickLook/QuickLookPanel.h"
 #include "QuickLook/QuickLookPanelDataSource.h"
 #include "QuickLook/QuickLookPanelDelegate.h"
-#include "support/FakeIconProvider.h"
-#include "support/makeTree.h"
+#include "QuickLook/Reading/FakeFileReader.h"
+#include "QuickLook/Reading/FakeRasterDecoder.h"
+#include "QuickLook/Reading/PreviewThreads.h"
+#include "support/Fakes/FakeIconProvider.h"
+#include "support/MakeTree.h"
 
 #include <QEvent>
 #include <QKeyEvent>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "Desktop/MotionPreference.h"
 #include "QuickLook/PanelFixture.h"
-#include "Utils/MotionPreference.h"
 
 #include <QPlainTextEdit>
 

@@ -4,8 +4,8 @@
 #include "Model/FreeSpace.h"
 #include "QuickLook/ImageView.h"
 #include "QuickLook/PanelFixture.h"
-#include "QuickLook/rasters.h"
-#include "QuickLook/sampleFiles.h"
+#include "QuickLook/Reading/Rasters.h"
+#include "QuickLook/Reading/SampleFiles.h"
 
 #include <QLabel>
 #include <QPlainTextEdit>

@@ -3,9 +3,9 @@
 
 #include "Scanning/Scanner.h"
 #include "Scanning/ScannerDelegate.h"
-#include "support/FakeDirectoryEnumerator.h"
-#include "support/FakeFileSystem.h"
-#include "support/FakeMainThread.h"
+#include "support/Fakes/FakeDirectoryEnumerator.h"
+#include "support/Fakes/FakeFileSystem.h"
+#include "support/Fakes/FakeMainThread.h"
 
 #include <gtest/gtest.h>
 

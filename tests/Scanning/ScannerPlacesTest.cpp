@@ -2,7 +2,7 @@
 #include "Model/TimeMachine.h"
 #include "Model/Volume.h"
 #include "ScannerFixture.h"
-#include "support/makeTree.h"
+#include "support/MakeTree.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

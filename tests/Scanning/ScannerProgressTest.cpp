@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ScannerFixture.h"
-#include "support/makeTree.h"
+#include "support/MakeTree.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

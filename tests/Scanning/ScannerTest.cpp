@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ScannerFixture.h"
 #include "support/CommaLocale.h"
-#include "support/makeTree.h"
+#include "support/MakeTree.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

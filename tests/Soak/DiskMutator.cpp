@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "DiskMutator.h"
 
-#include "oddNames.h"
+#include "OddNames.h"
 
 #include <algorithm>
 #include <fstream>

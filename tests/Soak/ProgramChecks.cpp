@@ -2,12 +2,12 @@
 #include "ProgramChecks.h"
 
 #include "Layout/MultiLayoutObject.h"
+#include "MainWindow/MainWindowController.h"
 #include "Model/RootModel.h"
 #include "Model/TopFolder.h"
-#include "Shell/MainWindowController.h"
-#include "TreeView/TreeBranch.h"
-#include "TreeView/TreeMapView.h"
-#include "TreeView/TreeViewController.h"
+#include "TreeScreen/Map/TreeMapView.h"
+#include "TreeScreen/Picture/TreeBranch.h"
+#include "TreeScreen/TreeViewController.h"
 
 #include <QMainWindow>
 

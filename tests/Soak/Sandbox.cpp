@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Sandbox.h"
 
-#include "Platform/Linux/ChildRasterDecoder.h"
+#include "Platform/Linux/Preview/ChildRasterDecoder.h"
 
 #include <algorithm>
 #include <chrono>

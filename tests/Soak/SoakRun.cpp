@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "SoakRun.h"
 
+#include "MainWindow/MainWindowController.h"
 #include "Model/RootModel.h"
 #include "ProgramChecks.h"
 #include "Scanning/Scanner.h"
-#include "Shell/AppDelegate.h"
-#include "Shell/MainWindowController.h"
-#include "TreeView/TreeViewController.h"
-#include "treeLines.h"
+#include "Start/AppDelegate.h"
+#include "TreeLines.h"
+#include "TreeScreen/TreeViewController.h"
 
 #include <QApplication>
 #include <QTimer>

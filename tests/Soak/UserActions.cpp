@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "UserActions.h"
 
+#include "Base/NotificationCenter.h"
+#include "MainWindow/MainWindowController.h"
 #include "Model/File.h"
-#include "Model/NotificationCenter.h"
+#include "OpenWindows.h"
 #include "QuickLook/QuickLookPanel.h"
-#include "Shell/AppDelegate.h"
-#include "Shell/MainWindowController.h"
-#include "TreeView/TreeMapView.h"
-#include "TreeView/TreeViewController.h"
-#include "openWindows.h"
+#include "Start/AppDelegate.h"
+#include "TreeScreen/Map/TreeMapView.h"
+#include "TreeScreen/TreeViewController.h"
 
 #include <QAbstractButton>
 #include <QAction>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Model/Observation.h"
+#include "Base/Observation.h"
 #include "Random.h"
 #include "Sandbox.h"
 #include "UserInput.h"

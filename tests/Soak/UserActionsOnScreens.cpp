@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include "HomeScreen/Grid/CollectionItemView.h"
+#include "MainWindow/MainWindowController.h"
 #include "Model/File.h"
-#include "Shell/CollectionItemView.h"
-#include "Shell/MainWindowController.h"
-#include "TreeView/PathComponentButton.h"
-#include "TreeView/TreeBranch.h"
-#include "TreeView/TreeMapView.h"
-#include "TreeView/TreeViewController.h"
+#include "OpenWindows.h"
+#include "TreeScreen/Map/TreeMapView.h"
+#include "TreeScreen/PathBar/PathComponentButton.h"
+#include "TreeScreen/Picture/TreeBranch.h"
+#include "TreeScreen/TreeViewController.h"
 #include "UserActions.h"
-#include "openWindows.h"
 
 #include <QListView>
 #include <QMainWindow>

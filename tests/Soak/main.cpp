@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
+#include "BuildDisk.h"
+#include "LaunchServices.h"
 #include "Model/RootModel.h"
+#include "RunInSandbox.h"
 #include "Sandbox.h"
 #include "Scanning/ScanWorkers.h"
-#include "Shell/WindowedProgram.h"
 #include "SoakRun.h"
-#include "buildDisk.h"
-#include "launchServices.h"
-#include "runInSandbox.h"
-#include "support/ChildProcess.h"
-#include "support/sessionBusConfiguration.h"
+#include "Start/WindowedProgram.h"
+#include "support/Machine/ChildProcess.h"
+#include "support/Machine/SessionBusConfiguration.h"
 
 #include <QApplication>
 #include <QImage>

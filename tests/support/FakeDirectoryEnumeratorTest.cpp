@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "support/FakeDirectoryEnumerator.h"
+#include "support/Fakes/FakeDirectoryEnumerator.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -2,7 +2,7 @@
 #include "support/LevelPicture.h"
 
 #include "Layout/MultiLayoutObject.h"
-#include "support/referencePainting.h"
+#include "support/ReferencePainting.h"
 
 #include <QPainter>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Model/File.h"
-#include "TreeView/TreeBranch.h"
+#include "TreeScreen/Picture/TreeBranch.h"
 
 #include <QImage>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "support/SessionBus.h"
+#include "support/Machine/SessionBus.h"
 
 #include <QDBusConnection>
 #include <QFileInfo>

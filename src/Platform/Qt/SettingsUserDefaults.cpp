@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Qt/SettingsUserDefaults.h"
 
-#include "Model/Url.h"
-#include "Platform/keepAside.h"
+#include "Base/Url.h"
+#include "Platform/Qt/KeepAside.h"
 
 #include <QDateTime>
 #include <QFile>

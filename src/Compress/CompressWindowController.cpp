@@ -1,0 +1,310 @@
+// SPDX-License-Identifier: MIT
+#include "Compress/CompressWindowController.h"
+
+#include "Base/DisplayText.h"
+#include "Base/Log.h"
+#include "Base/NotificationCenter.h"
+#include "Base/ProgressSteps.h"
+#include "Compress/ArchivePaths.h"
+#include "Compress/ArchiverStatus.h"
+#include "Desktop/Alert.h"
+#include "Desktop/Workspace.h"
+#include "Scanning/ResourceValues.h"
+#include "Widgets/IconProvider.h"
+#include "Widgets/Util.h"
+
+#include <QCoreApplication>
+#include <QDialog>
+#include <QLabel>
+#include <QPointer>
+#include <QProgressBar>
+#include <QPushButton>
+
+#include <algorithm>
+#include <utility>
+
+namespace tessera {
+
+namespace {
+
+constexpr std::chrono::milliseconds kUpdateInterval{100};
+constexpr std::chrono::milliseconds kTimeToReadTheEnd{1000};
+constexpr int kIconPoints = 48;
+
+/// Archives are usually smaller than what is in them; after success the rest of the bar is filled
+/// by this much at a time up to a bound beyond its end.
+constexpr double kFillStep = 0.1;
+constexpr double kFillEnd = 1.1;
+
+bool isTaken(const std::string& path, const CompressServices& services)
+{
+    // Whatever has a size is there, a dangling link too.
+    return services.targetsInUse.contains(path)
+        || services.resourceValues.allocatedSize(path).has_value()
+        || services.resourceValues.allocatedSize(partPath(path)).has_value();
+}
+
+/// "X.zip", or the first of "X 2.zip", "X 3.zip" and so on that is free.
+std::string freeTarget(const std::string& sourcePath, const CompressServices& services)
+{
+    std::string candidate;
+    unsigned number = 0;
+    do {
+        candidate = archivePath(sourcePath, ++number);
+    } while (isTaken(candidate, services));
+    return candidate;
+}
+
+void callLaterByTimer(std::chrono::milliseconds delay, std::function<void()> work)
+{
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): it deletes itself, or with the program
+    auto* const timer = new QTimer(qApp);
+    timer->setSingleShot(true);
+    timer->callOnTimeout(timer, [timer, work = std::move(work)] {
+        timer->deleteLater();
+        work();
+    });
+    timer->start(delay);
+}
+
+} // namespace
+
+std::shared_ptr<CompressWindowController> CompressWindowController::make(
+    CompressServices services, CallLater callLater)
+{
+    // It may let go of itself while one of its own signals is being delivered.
+    return {
+        new CompressWindowController(
+            std::move(services), callLater ? std::move(callLater) : callLaterByTimer),
+        [](CompressWindowController* controller) { controller->deleteLater(); }};
+}
+
+CompressWindowController::CompressWindowController(CompressServices services, CallLater callLater)
+    : m_services(std::move(services))
+    , m_callLater(std::move(callLater))
+    , m_window(Util::loadViewFromNib<QDialog>("CompressWindow"))
+    , m_outputIcon(m_window->findChild<QLabel*>(QStringLiteral("outputIcon")))
+    , m_outputField(m_window->findChild<QLabel*>(QStringLiteral("outputField")))
+    , m_progress(m_window->findChild<QProgressBar*>(QStringLiteral("progress")))
+    , m_cancelButton(m_window->findChild<QPushButton*>(QStringLiteral("cancelButton")))
+{
+    m_progress->setRange(0, kProgressSteps);
+    m_updateTimer.setInterval(kUpdateInterval);
+    connect(&m_updateTimer, &QTimer::timeout, this, &CompressWindowController::updateProgress);
+    connect(m_cancelButton, &QPushButton::clicked, this, &CompressWindowController::cancelCompress);
+    connect(m_window.get(), &QDialog::rejected, this, &CompressWindowController::cancelCompress);
+    connect(qApp, &QCoreApplication::aboutToQuit, this, &CompressWindowController::breakOffAtExit);
+}
+
+CompressWindowController::~CompressWindowController() = default;
+
+void CompressWindowController::showWindow(const QWidget* above)
+{
+    m_window->adjustSize();
+    if (above != nullptr) {
+        const QRect frame = above->frameGeometry();
+        m_window->move(frame.center() - m_window->rect().center());
+    }
+    m_window->show();
+}
+
+void CompressWindowController::compressURL(const Url& url, std::uint64_t withSize)
+{
+    m_self = shared_from_this();
+    m_state = State::New;
+    m_lastCompressedPercent = 0;
+    m_sourceAllocation = withSize;
+    m_sourcePath = url.path();
+    m_targetPath = freeTarget(m_sourcePath, m_services);
+    m_services.targetsInUse.insert(m_targetPath);
+    setOutputText(tr("Creating '%1'").arg(displayText(archive().lastPathComponent())));
+    m_updateTimer.start();
+    startArchiver(url.isDirectory());
+    m_state = State::Running;
+}
+
+void CompressWindowController::startArchiver(bool isFolder)
+{
+    const std::string kindOption = isFolder ? "--folder" : "--file";
+    m_backupTask = m_services.makeTask();
+    m_backupTask->start(
+        m_services.archiver,
+        {"-c", "-k", "--sequesterRsrc", kindOption, m_sourcePath, m_targetPath},
+        [this](int status) { checkATaskStatus(status); });
+}
+
+void CompressWindowController::updateProgress()
+{
+    const std::optional<std::uint64_t> archiveBytes = archiveSize();
+    if (archiveBytes) {
+        showIcon();
+    }
+    double value
+        = static_cast<double>(archiveBytes.value_or(0)) / static_cast<double>(m_sourceAllocation);
+    if (m_state == State::Succeeded) {
+        m_lastCompressedPercent += kFillStep;
+        value += m_lastCompressedPercent;
+    }
+    m_progress->setValue(progressSteps(value));
+    if (m_state == State::Succeeded && value >= kFillEnd) {
+        m_updateTimer.stop();
+        compressFinished(archive());
+    } else if (m_state >= State::Failed && m_backupTask == nullptr) {
+        // A cancelled program that still runs might yet write what was moved away.
+        m_updateTimer.stop();
+        m_made ? trashIncompleteArchive() : finishLater(std::nullopt);
+    }
+}
+
+void CompressWindowController::cancelCompress()
+{
+    if (m_backupTask == nullptr) {
+        return;
+    }
+    m_backupTask->terminate();
+    m_state = State::Cancelled;
+    setOutputText(tr("Compression Canceled"));
+    m_cancelButton->setEnabled(false);
+}
+
+void CompressWindowController::checkATaskStatus(int status)
+{
+    noteWhatWasMade();
+    m_cancelButton->setEnabled(false);
+    m_isDiskFull = status == archiver_status::kDiskFull;
+    if (status != archiver_status::kDone) {
+        logLine("Task failed.");
+        m_state = State::Failed;
+        setOutputText(tr("Compression Failed"));
+        return;
+    }
+    logLine("Task succeeded.");
+    // Who cancels at the last moment wants no archive either.
+    if (m_state != State::Cancelled) {
+        m_state = State::Succeeded;
+    }
+}
+
+void CompressWindowController::trashIncompleteArchive()
+{
+    m_services.workspace.recycleFile(
+        *m_made, archivePlaces(), [self = QPointer(this)](const RecycleResult& result) {
+            if (self.isNull()) {
+                return;
+            }
+            if (result.newUrls.empty()) {
+                logLine("Error deleting incomplete archive");
+                self->finishLater(std::nullopt);
+            } else {
+                self->finishLater(result.newUrls.begin()->second);
+            }
+        });
+}
+
+void CompressWindowController::finishLater(const std::optional<Url>& archive)
+{
+    m_callLater(kTimeToReadTheEnd, [self = QPointer(this), archive] {
+        if (!self.isNull()) {
+            self->compressFinished(archive);
+        }
+    });
+}
+
+void CompressWindowController::compressFinished(const std::optional<Url>& archive)
+{
+    if (m_isDiskFull) {
+        sayThatTheDiskIsFull(archive.has_value());
+        if (m_self == nullptr) {
+            return; // the program ended instead of an answer
+        }
+    }
+    const Url part(partPath(m_targetPath), false);
+    m_services.targetsInUse.erase(m_targetPath);
+    m_sourcePath.clear();
+    m_targetPath.clear();
+    m_progress->reset();
+    if (archive) {
+        NotificationCenter::defaultCenter().post("ItemGone", part);
+    }
+    NotificationCenter::defaultCenter().post(
+        "ItemCompressed", archive ? NotificationObject(*archive) : NotificationObject());
+    release();
+}
+
+/// The program may be waiting for this archive to end, so this is said before the end.
+void CompressWindowController::sayThatTheDiskIsFull(bool isInTrash)
+{
+    QString text = tr("The disk is full.");
+    if (isInTrash) {
+        text = tr("The disk is full. Nothing is left of the incomplete archive but an empty file "
+                  "in the trash.");
+    } else if (m_made) {
+        text = tr("The disk is full. Of the incomplete archive an empty file is left, which could "
+                  "not be moved to the trash: '%1'.")
+                   .arg(displayText(lastPathComponent(partPath(m_targetPath))));
+    }
+    // The box belongs over another window than this one, which is about to go.
+    m_window->hide();
+    (void)m_services.alert.runModal({tr("The archive cannot be made"), text, {tr("OK")}});
+}
+
+void CompressWindowController::breakOffAtExit()
+{
+    if (m_self == nullptr) {
+        return;
+    }
+    if (m_backupTask != nullptr) {
+        // It must not go on writing without us, and may yet say what it has made.
+        m_backupTask->stop();
+        noteWhatWasMade();
+    }
+    const bool isUntouched = m_updateTimer.isActive() && m_state != State::Succeeded;
+    m_updateTimer.stop();
+    if (isUntouched && m_made) {
+        m_services.workspace.recycleFile(
+            *m_made, archivePlaces(), [](const RecycleResult& /*result*/) {});
+    }
+    m_services.targetsInUse.erase(m_targetPath);
+    release();
+}
+
+void CompressWindowController::noteWhatWasMade()
+{
+    m_made = readFileIdentityLine(m_backupTask->output());
+    m_backupTask.reset();
+}
+
+void CompressWindowController::release()
+{
+    m_window->close();
+    m_self.reset();
+}
+
+std::optional<std::uint64_t> CompressWindowController::archiveSize() const
+{
+    const auto size = m_services.resourceValues.allocatedSize(partPath(m_targetPath));
+    return size ? size : m_services.resourceValues.allocatedSize(m_targetPath);
+}
+
+std::vector<Url> CompressWindowController::archivePlaces() const
+{
+    return {Url(partPath(m_targetPath), false), archive()};
+}
+
+void CompressWindowController::setOutputText(const QString& text)
+{
+    m_outputField->ensurePolished();
+    m_outputField->setText(m_outputField->fontMetrics().elidedText(
+        text, Qt::ElideMiddle, m_outputField->maximumWidth()));
+    m_outputField->setAccessibleName(text);
+}
+
+void CompressWindowController::showIcon()
+{
+    if (m_outputIcon->pixmap(Qt::ReturnByValue).isNull()) {
+        m_outputIcon->setPixmap(
+            m_services.icons.iconForUrl(archive(), kIconPoints, m_window->devicePixelRatioF()));
+    }
+}
+
+} // namespace tessera

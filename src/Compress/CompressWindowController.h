@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Base/FileIdentity.h"
+#include "Base/Url.h"
+#include "Desktop/Task.h"
+
+#include <QObject>
+#include <QTimer>
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+class QDialog;
+class QLabel;
+class QProgressBar;
+class QPushButton;
+class QString;
+
+namespace tessera {
+
+class Alert;
+class IconProvider;
+class ResourceValues;
+class Workspace;
+
+/// What compressing needs from the system. Everything must outlive the program's run.
+struct CompressServices {
+    std::string archiver; ///< path of the archiving program, as bytes
+    std::function<std::unique_ptr<Task>()> makeTask;
+    Workspace& workspace;
+    const ResourceValues& resourceValues; ///< asked by the main thread, so it must be prompt
+    IconProvider& icons;
+    /// The paths of the archives that are being written, some of which are not on the disk yet; one
+    /// set for all compressions.
+    std::set<std::string>& targetsInUse;
+    Alert& alert;
+};
+
+/// Calls back once after a time, from the event loop.
+using CallLater = std::function<void(std::chrono::milliseconds, std::function<void()>)>;
+
+/// Makes a zip archive of an item beside the item, in a small window of its own. The progress is
+/// estimated from the archive's growing size. Whatever the end, the notification "ItemCompressed"
+/// is posted: with the URL of the archive, or of the incomplete archive in the trash, or of none.
+/// With the former two "ItemGone" is posted right before, with the URL that the archive had while
+/// it was incomplete: a scan may have met it there.
+///
+/// Until it is complete the archive has another name (partPath()). What goes to the trash is the
+/// very file that the archiving program said it made, under whichever of the two names.
+///
+/// Once started the controller keeps itself alive until that end, so that nobody need hold it.
+/// The work is broken off, and the incomplete archive moved to the trash, when its own window is
+/// closed or the program ends. Main thread only.
+class CompressWindowController final
+    : public QObject,
+      public std::enable_shared_from_this<CompressWindowController> {
+    Q_OBJECT
+
+public:
+    enum class State : std::int32_t { New, Running, Succeeded, Failed, Cancelled };
+
+    /// Loads the window, hidden. It is shared with itself while it works. Tests pass a `callLater`.
+    static std::shared_ptr<CompressWindowController> make(
+        CompressServices services, CallLater callLater = {});
+    ~CompressWindowController() override;
+
+    /// Shows the window in the middle of `above`, or of the screen.
+    void showWindow(const QWidget* above = nullptr);
+
+    /// Starts; to be called once. `withSize` is what the item allocates, in bytes. Where a folder
+    /// has become something else meanwhile, or the reverse, it fails.
+    void compressURL(const Url& url, std::uint64_t withSize);
+
+    /// What the timer does, ten times a second: shows the progress and ends what has ended.
+    void updateProgress();
+
+    /// Breaks the work off; nothing when the archiving program has ended.
+    void cancelCompress();
+
+    State state() const { return m_state; }
+    QDialog& window() const { return *m_window; }
+    /// Runs updateProgress() while there is something to wait for.
+    const QTimer& updateTimer() const { return m_updateTimer; }
+
+private:
+    explicit CompressWindowController(CompressServices services, CallLater callLater);
+
+    void startArchiver(bool isFolder);
+    void checkATaskStatus(int status);
+    void compressFinished(const std::optional<Url>& archive);
+    void trashIncompleteArchive();
+    void finishLater(const std::optional<Url>& archive);
+    void breakOffAtExit();
+    void noteWhatWasMade();
+    void release();
+    void sayThatTheDiskIsFull(bool isInTrash);
+
+    void setOutputText(const QString& text);
+    void showIcon();
+    std::optional<std::uint64_t> archiveSize() const;
+    Url archive() const { return {m_targetPath, false}; }
+    std::vector<Url> archivePlaces() const;
+
+    CompressServices m_services;
+    CallLater m_callLater;
+
+    std::unique_ptr<QDialog> m_window;
+    QLabel* m_outputIcon;
+    QLabel* m_outputField;
+    QProgressBar* m_progress;
+    QPushButton* m_cancelButton;
+
+    std::string m_sourcePath;
+    std::string m_targetPath;
+    std::uint64_t m_sourceAllocation = 0;
+    std::unique_ptr<Task> m_backupTask; ///< null when it has ended
+    QTimer m_updateTimer;
+    State m_state = State::New;
+    std::optional<FileIdentity> m_made; ///< known when the tool has ended, if it made a file
+    bool m_isDiskFull = false;
+    double m_lastCompressedPercent = 0; ///< what is added to the progress after success
+
+    /// Its hold on itself while it works.
+    std::shared_ptr<CompressWindowController> m_self;
+};
+
+} // namespace tessera

@@ -1,0 +1,419 @@
+// SPDX-License-Identifier: MIT
+#include "HomeScreen/HomeViewController.h"
+
+#include "Base/Log.h"
+#include "Base/NotificationCenter.h"
+#include "Desktop/UserAccount.h"
+#include "HomeScreen/Grid/CollectionHeaderView.h"
+#include "HomeScreen/Grid/SectionedCollectionView.h"
+#include "HomeScreen/Parts/FolderCollectionView.h"
+#include "HomeScreen/Parts/HiddenButtonCell.h"
+#include "HomeScreen/Parts/HomeItemAccessible.h"
+#include "HomeScreen/Parts/VolumeCollectionView.h"
+#include "HomeScreen/Places/PlaceIcons.h"
+#include "HomeScreen/Places/PlaceNames.h"
+#include "HomeScreen/Recents/RecentsTableCell.h"
+#include "HomeScreen/Recents/RecentsTableModel.h"
+#include "Model/RootModel.h"
+#include "Widgets/DesktopFont.h"
+#include "Widgets/NonBlockingTextField.h"
+#include "Widgets/Util.h"
+
+#include <QGraphicsOpacityEffect>
+#include <QKeyEvent>
+#include <QListView>
+
+#include <algorithm>
+#include <utility>
+
+namespace tessera {
+
+namespace {
+
+constexpr int kVolumes = 0;
+constexpr int kSections = 2;
+constexpr int kLeastVolumeWidth = 200;
+constexpr int kGreatestVolumeWidth = 400;
+constexpr int kLeastLocationWidth = 100;
+constexpr int kGreatestLocationWidth = 200;
+constexpr int kColumnWidth = 300; ///< of the recent scans
+/// How visible the grid is while a scan runs, in which nothing can be chosen.
+constexpr double kUnusableOpacity = 0.5;
+
+/// Long enough for any file system that is alive and awake, and too short to be noticed.
+constexpr std::chrono::milliseconds kPatience{50};
+
+/// The grid's items are pictures and have no look of their own for it.
+void showUsable(QWidget& grid, bool isUsable)
+{
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the grid owns it
+    auto* const effect = isUsable ? nullptr : new QGraphicsOpacityEffect;
+    if (effect != nullptr) {
+        effect->setOpacity(kUnusableOpacity);
+    }
+    grid.setGraphicsEffect(effect);
+}
+
+/// What an item's texts need, with a larger font than usual, and never less than it was made for.
+template <typename View>
+std::unique_ptr<View> highEnough(std::unique_ptr<View> view)
+{
+    view->resize(view->width(), std::max(view->height(), view->minimumSizeHint().height()));
+    return view;
+}
+
+std::optional<Location> firstDirectory(
+    const LocationCandidate& candidate, const ResourceValues& resourceValues)
+{
+    for (const std::string& path : candidate.paths) {
+        if (resourceValues.isDirectory(path)) {
+            return Location{candidate.kind, Url(path, true)};
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+HomeViewController::HomeViewController(RootModel& model, const HomeViewServices& services)
+    : m_model(model)
+    , m_services(services)
+    , m_realHomeDirectory(Util::realHomeDirectory(services.account))
+    , m_candidates(locationCandidates(m_realHomeDirectory, services.standardFolders))
+    , m_places(services.volumes, m_candidates)
+    , m_view(Util::loadViewFromNib<QWidget>("HomeViewController"))
+{
+    loadView();
+}
+
+HomeViewController::~HomeViewController() = default;
+
+HiddenButtonCell& HomeViewController::openButton() const
+{
+    return *m_view->findChild<HiddenButtonCell*>(QStringLiteral("openButton"));
+}
+
+SectionedCollectionView& HomeViewController::locationsCollection() const
+{
+    return *m_view->findChild<SectionedCollectionView*>(QStringLiteral("locationsCollection"));
+}
+
+QListView& HomeViewController::recentsTable() const
+{
+    return *m_view->findChild<QListView*>(QStringLiteral("recentsTable"));
+}
+
+QPushButton& HomeViewController::scanButton() const
+{
+    return *m_view->findChild<QPushButton*>(QStringLiteral("scanButton"));
+}
+
+QPushButton& HomeViewController::clearRecentsButton() const
+{
+    return *m_view->findChild<QPushButton*>(QStringLiteral("clearRecentsButton"));
+}
+
+void HomeViewController::loadView()
+{
+    installHomeItemAccessible();
+    openButton().setShowsBorderOnlyWhileMouseInside(true);
+    openButton().setIcon(plainFolderIcon());
+    fitFont();
+    connectControls();
+    connectGrid();
+    loadVolumes();
+    if (!m_model.isRunningAsRoot()) {
+        m_foundLocations.resize(m_candidates.size());
+        for (std::size_t place = 0; place < m_candidates.size(); ++place) {
+            askForLocation(place, m_candidates[place]);
+        }
+    }
+    m_questions.waitBriefly(kPatience);
+    m_isGridLoaded = true;
+    takeLocations();
+    locationsCollection().reloadData();
+    loadRecents();
+    updateButtons();
+}
+
+void HomeViewController::fitFont()
+{
+    m_view->findChild<QWidget*>(QStringLiteral("recentsColumn"))
+        ->setFixedWidth(widthWithDesktopFont(kColumnWidth));
+}
+
+void HomeViewController::connectControls()
+{
+    connect(&openButton(), &QPushButton::clicked, this, &HomeViewController::openFolder);
+    connect(&scanButton(), &QPushButton::clicked, this, &HomeViewController::scanSelected);
+    connect(&clearRecentsButton(), &QPushButton::clicked, this, &HomeViewController::clearList);
+    m_view->installEventFilter(this);
+}
+
+bool HomeViewController::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool isKey = watched == m_view.get() && event->type() == QEvent::KeyPress;
+    const int key = isKey ? dynamic_cast<QKeyEvent*>(event)->key() : 0;
+    if (key != Qt::Key_Return && key != Qt::Key_Enter) {
+        return QObject::eventFilter(watched, event);
+    }
+    auto* const focused = qobject_cast<QAbstractButton*>(m_view->focusWidget());
+    (focused != nullptr && focused->hasFocus() ? *focused : scanButton()).click();
+    return true;
+}
+
+void HomeViewController::connectGrid()
+{
+    SectionedCollectionView& grid = locationsCollection();
+    m_gridDelegate.didSelectView = [this](CollectionItemView& item, int, int) {
+        dynamic_cast<HomeItemView&>(item).setSelected(true);
+        // Without a current row either, from which an arrow would go on later.
+        recentsTable().selectionModel()->clear();
+        updateButtons();
+    };
+    m_gridDelegate.didDeselectView = [](CollectionItemView& item, int, int) {
+        dynamic_cast<HomeItemView&>(item).setSelected(false);
+    };
+    m_gridDelegate.didDoubleClickView = [this](CollectionItemView& item, int, int) {
+        // It was deselected just before, and is what stays selected should the scan be cancelled.
+        dynamic_cast<HomeItemView&>(item).setSelected(true);
+        scanSelected();
+    };
+    grid.setDataSource(this);
+    grid.setDelegate(&m_gridDelegate);
+    auto* const scrollView = m_view->findChild<QScrollArea*>(QStringLiteral("locationsScrollView"));
+    scrollView->viewport()->setBackgroundRole(QPalette::Base);
+    grid.setScrollView(scrollView);
+}
+
+void HomeViewController::loadVolumes()
+{
+    m_volumes = m_services.volumes.mountedVolumes();
+    for (const MountedVolume& volume : m_volumes) {
+        askForSizes(volume.url.path());
+    }
+}
+
+void HomeViewController::askForSizes(const std::string& path)
+{
+    using Sizes = std::optional<FileSystemSizes>;
+    m_questions.ask<Sizes>(
+        [attributes = m_services.fileSystemAttributes, path] {
+            return attributes->attributesOfFileSystem(path);
+        },
+        [this, path](const Sizes& sizes) {
+            m_sizes.insert_or_assign(path, sizes);
+            for (auto* const view : m_view->findChildren<VolumeCollectionView*>()) {
+                if (view->url().path() == path) {
+                    view->setFileSystemSizes(sizes);
+                }
+            }
+        });
+}
+
+void HomeViewController::askForLocation(std::size_t place, const LocationCandidate& candidate)
+{
+    m_questions.ask<std::optional<Location>>(
+        [resourceValues = m_services.resourceValues, candidate] {
+            return firstDirectory(candidate, *resourceValues);
+        },
+        [this, place](const std::optional<Location>& found) {
+            m_foundLocations[place] = found;
+            if (m_isGridLoaded && found.has_value()) {
+                showLateLocations();
+            }
+        });
+}
+
+/// The user may have chosen something in the grid meanwhile, whose place may be another now.
+void HomeViewController::showLateLocations()
+{
+    const int section = locationsCollection().selectedSection();
+    const Url* const selected = selectedUrl();
+    const Url kept = selected != nullptr ? *selected : Url();
+    takeLocations();
+    locationsCollection().reloadData();
+    if (section >= 0) {
+        selectUrl(section, kept);
+    }
+    updateButtons();
+}
+
+void HomeViewController::selectUrl(int section, const Url& url)
+{
+    for (int index = 0; index < numberOfViewsInSection(section); ++index) {
+        if (*urlAt(section, index) == url) {
+            locationsCollection().selectItem(section, index);
+        }
+    }
+}
+
+void HomeViewController::takeLocations()
+{
+    m_locations.clear();
+    for (const std::optional<Location>& found : m_foundLocations) {
+        if (found) {
+            m_locations.push_back(*found);
+        }
+    }
+    m_locations = withoutRepeatedFolders(m_locations);
+}
+
+void HomeViewController::loadRecents()
+{
+    // NOLINTBEGIN(cppcoreguidelines-owning-memory): the view owns them
+    m_recents = new RecentsTableModel(m_model.recents(), m_view.get());
+    auto* const cell = new RecentsTableCell(
+        {m_services.volumes,
+         m_services.homeDirectory,
+         m_realHomeDirectory,
+         [this](const Url& folder) { return m_places.look(folder).icon; },
+         m_services.today},
+        m_view.get());
+    // NOLINTEND(cppcoreguidelines-owning-memory)
+    QListView& table = recentsTable();
+    table.setModel(m_recents);
+    table.setItemDelegate(cell);
+    table.setCurrentIndex(m_recents->index(0));
+    connect(&table, &QListView::doubleClicked, this, &HomeViewController::scanSelected);
+    connect(
+        table.selectionModel(),
+        &QItemSelectionModel::selectionChanged,
+        this,
+        &HomeViewController::recentSelected);
+}
+
+void HomeViewController::takeFocus()
+{
+    if (m_recents->rowCount() > 0 && selectedUrl() == nullptr) {
+        recentsTable().setFocus();
+    } else {
+        locationsCollection().setFocus();
+    }
+}
+
+void HomeViewController::setEnabled(bool enabled)
+{
+    m_enabled = enabled;
+    openButton().setEnabled(enabled);
+    recentsTable().setEnabled(enabled);
+    locationsCollection().setEnabled(enabled);
+    showUsable(locationsCollection(), enabled);
+    scanButton().setVisible(enabled);
+    clearRecentsButton().setVisible(enabled);
+    updateButtons();
+}
+
+void HomeViewController::updateButtons()
+{
+    const bool isSelected = selectedRecent() >= 0 || selectedUrl() != nullptr;
+    scanButton().setEnabled(m_enabled && isSelected);
+    clearRecentsButton().setEnabled(m_enabled && m_recents->rowCount() > 0);
+}
+
+void HomeViewController::scanSelected()
+{
+    if (const int row = selectedRecent(); row >= 0) {
+        scanURL(Url(m_recents->record(row).path, true));
+        return;
+    }
+    if (const Url* const url = selectedUrl()) {
+        scanURL(*url);
+    }
+}
+
+/// In the grid; null when nothing is.
+const Url* HomeViewController::selectedUrl() const
+{
+    const int section = locationsCollection().selectedSection();
+    const int index = locationsCollection().selectedIndex();
+    return section < 0 || index < 0 ? nullptr : urlAt(section, index);
+}
+
+const Url* HomeViewController::urlAt(int section, int index) const
+{
+    const auto place = static_cast<std::size_t>(index);
+    return section == kVolumes ? &m_volumes.at(place).url : &m_locations.at(place).url;
+}
+
+void HomeViewController::scanURL(const Url& url)
+{
+    logLine("scanning %s", url.absoluteString().c_str());
+    NotificationCenter::defaultCenter().post("ScanURL", url);
+}
+
+void HomeViewController::clearList()
+{
+    m_model.recents().clearList();
+    m_recents->reload();
+    updateButtons();
+}
+
+void HomeViewController::recentSelected()
+{
+    if (selectedRecent() >= 0) {
+        locationsCollection().deselectAll();
+    }
+    updateButtons();
+}
+
+int HomeViewController::selectedRecent() const
+{
+    const QModelIndexList rows = recentsTable().selectionModel()->selectedIndexes();
+    return rows.isEmpty() ? -1 : rows.first().row();
+}
+
+int HomeViewController::numberOfSections() const
+{
+    return kSections;
+}
+
+int HomeViewController::numberOfViewsInSection(int section) const
+{
+    return static_cast<int>(section == kVolumes ? m_volumes.size() : m_locations.size());
+}
+
+double HomeViewController::minimumWidthInSection(int section) const
+{
+    return widthWithDesktopFont(section == kVolumes ? kLeastVolumeWidth : kLeastLocationWidth);
+}
+
+double HomeViewController::maximumWidthInSection(int section) const
+{
+    return widthWithDesktopFont(
+        section == kVolumes ? kGreatestVolumeWidth : kGreatestLocationWidth);
+}
+
+std::unique_ptr<QWidget> HomeViewController::headerForSection(int section)
+{
+    auto header = Util::loadViewFromNib<CollectionHeaderView>("CollectionHeaderView");
+    header->nameLabel().setText(section == kVolumes ? tr("Disks") : tr("Locations"));
+    return highEnough(std::move(header));
+}
+
+std::unique_ptr<CollectionItemView> HomeViewController::viewForSection(int section, int index)
+{
+    const auto place = static_cast<std::size_t>(index);
+    return section == kVolumes ? volumeView(m_volumes.at(place))
+                               : locationView(m_locations.at(place));
+}
+
+std::unique_ptr<CollectionItemView> HomeViewController::volumeView(const MountedVolume& volume)
+{
+    auto view = Util::loadViewFromNib<VolumeCollectionView>("VolumeCollectionView");
+    view->setUrl(volume.url, volumeIcon(volume.kind));
+    const auto sizes = m_sizes.find(volume.url.path());
+    if (sizes != m_sizes.end()) {
+        view->setFileSystemSizes(sizes->second);
+    }
+    return highEnough(std::move(view));
+}
+
+std::unique_ptr<CollectionItemView> HomeViewController::locationView(const Location& location)
+{
+    auto view = Util::loadViewFromNib<FolderCollectionView>("FolderCollectionView");
+    view->setUrl(location.url, locationIcon(location.kind), localizedLocationName(location));
+    return highEnough(std::move(view));
+}
+
+} // namespace tessera

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#include "HomeScreen/Parts/FolderCollectionView.h"
+
+#include "Base/DisplayText.h"
+#include "HomeScreen/Places/PlaceIcons.h"
+#include "Widgets/NonBlockingTextField.h"
+
+#include <QLabel>
+
+namespace tessera {
+
+namespace {
+
+constexpr double kDisabledAlpha = 0.6;
+
+} // namespace
+
+void FolderCollectionView::setUrl(const Url& url, const QIcon& icon, const QString& name)
+{
+    HomeItemView::setUrl(url);
+    imageView().setPixmap(pixmapIn(imageView().maximumSize(), icon, devicePixelRatioF()));
+    if (!name.isEmpty()) {
+        nameLabel().setText(name);
+        setAccessibleName(name);
+    }
+    setToolTip(plainTooltip(displayText(url.path())));
+    updateColors();
+}
+
+QLabel& FolderCollectionView::imageView() const
+{
+    return *findChild<QLabel*>(QStringLiteral("imageView"));
+}
+
+NonBlockingTextField& FolderCollectionView::nameLabel() const
+{
+    return *findChild<NonBlockingTextField*>(QStringLiteral("nameLabel"));
+}
+
+void FolderCollectionView::updateColors()
+{
+    nameLabel().setTextColor(textColors().name);
+}
+
+void FolderCollectionView::updateAlphaValue()
+{
+    setAlphaValue(disabled() ? kDisabledAlpha : 1.0);
+}
+
+} // namespace tessera

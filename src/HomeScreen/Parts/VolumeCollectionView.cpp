@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "HomeScreen/Parts/VolumeCollectionView.h"
+
+#include "Base/DisplayText.h"
+#include "HomeScreen/Places/PlaceIcons.h"
+#include "HomeScreen/Places/PlaceNames.h"
+#include "Widgets/Bar.h"
+#include "Widgets/NonBlockingTextField.h"
+#include "Widgets/Util.h"
+
+#include <QLabel>
+
+#include <cmath>
+
+namespace tessera {
+
+namespace {
+
+constexpr double kDisabledDiskAlpha = 0.7;
+
+float filledShare(const FileSystemSizes& sizes)
+{
+    const double freeShare
+        = static_cast<double>(sizes.freeBytes) / static_cast<double>(sizes.totalBytes);
+    const auto share = static_cast<float>(1.0 - freeShare);
+    return std::isnan(share) ? 0.0F : share;
+}
+
+} // namespace
+
+void VolumeCollectionView::setUrl(const Url& url, const QIcon& icon)
+{
+    HomeItemView::setUrl(url);
+    const QString name = localizedVolumeName(url);
+    imageView().setPixmap(pixmapIn(imageView().maximumSize(), icon, devicePixelRatioF()));
+    nameLabel().setText(name);
+    setAccessibleName(name);
+    describe({});
+    updateColors();
+}
+
+void VolumeCollectionView::setFileSystemSizes(const std::optional<FileSystemSizes>& sizes)
+{
+    const FileSystemSizes known = sizes.value_or(FileSystemSizes());
+    spaceBar().setPercentFilled(filledShare(known));
+    spaceBar().update();
+    const QString size = QString::fromStdString(Util::formatSize(known.freeBytes));
+    spaceLabel().setText(tr("Free Space: %1").arg(size));
+    describe(known);
+}
+
+/// Disks of one name differ in where they are, and mostly in how large they are.
+void VolumeCollectionView::describe(const FileSystemSizes& sizes)
+{
+    const QString path = displayText(url().path());
+    const QString size = QString::fromStdString(Util::formatSize(sizes.totalBytes));
+    const QString place = sizes.totalBytes == 0 ? path : tr("%1, %2").arg(path, size);
+    setToolTip(plainTooltip(accessibleName() + QLatin1Char('\n') + place));
+    const QString space = spaceLabel().text();
+    setAccessibleDescription(space.isEmpty() ? place : tr("%1; %2").arg(space, place));
+}
+
+QLabel& VolumeCollectionView::imageView() const
+{
+    return *findChild<QLabel*>(QStringLiteral("imageView"));
+}
+
+NonBlockingTextField& VolumeCollectionView::nameLabel() const
+{
+    return *findChild<NonBlockingTextField*>(QStringLiteral("nameLabel"));
+}
+
+NonBlockingTextField& VolumeCollectionView::spaceLabel() const
+{
+    return *findChild<NonBlockingTextField*>(QStringLiteral("spaceLabel"));
+}
+
+Bar& VolumeCollectionView::spaceBar() const
+{
+    return *findChild<Bar*>(QStringLiteral("spaceBar"));
+}
+
+void VolumeCollectionView::updateColors()
+{
+    const TextColors colors = textColors();
+    nameLabel().setTextColor(colors.name);
+    spaceLabel().setTextColor(colors.detail);
+}
+
+void VolumeCollectionView::updateAlphaValue()
+{
+    // A volume that was disabled once stays pale, unlike a folder.
+    if (disabled()) {
+        setAlphaValue(kDisabledDiskAlpha);
+    }
+}
+
+} // namespace tessera

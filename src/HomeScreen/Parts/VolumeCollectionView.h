@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "HomeScreen/Parts/HomeItemView.h"
+#include "Model/FileSystemAttributes.h"
+
+#include <QIcon>
+
+#include <optional>
+
+class QLabel;
+
+namespace tessera {
+
+class Bar;
+class NonBlockingTextField;
+
+/// A mounted volume on the home screen: its icon and name, and how full it is.
+class VolumeCollectionView final : public HomeItemView {
+    Q_OBJECT
+
+public:
+    using HomeItemView::HomeItemView;
+
+    /// Shows the volume with its icon and name; the bar stays as it is.
+    void setUrl(const Url& url, const QIcon& icon);
+
+    /// Fills the bar. Sizes that cannot be read count as 0, which gives an empty bar.
+    void setFileSystemSizes(const std::optional<FileSystemSizes>& sizes);
+
+    QLabel& imageView() const;
+    NonBlockingTextField& nameLabel() const;
+    NonBlockingTextField& spaceLabel() const;
+    Bar& spaceBar() const;
+
+private:
+    void describe(const FileSystemSizes& sizes);
+    void updateColors() override;
+    void updateAlphaValue() override;
+};
+
+} // namespace tessera

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Base/Url.h"
+
+#include <QObject>
+
+#include <string>
+
+class QDropEvent;
+class QWidget;
+
+namespace tessera {
+
+class ResourceValues;
+
+/// Lets a folder be dropped on a window, from a file manager for instance. Anything else, and more
+/// than one item at a time, is refused while it still hangs at the pointer. Main thread only.
+class FolderDrop final : public QObject {
+    Q_OBJECT
+
+public:
+    /// Both must outlive this object. The values are asked by the main thread, so they give up
+    /// before anybody notices: a folder that does not answer is refused.
+    FolderDrop(QWidget& window, const ResourceValues& resourceValues);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+signals:
+    /// `path` (bytes) is a folder.
+    void dropped(const std::string& path);
+
+private:
+    void enter(QDropEvent& event);
+
+    const ResourceValues& m_resourceValues;
+    Url m_folder; ///< what hangs at the pointer; empty when that is no folder
+};
+
+} // namespace tessera

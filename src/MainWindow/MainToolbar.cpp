@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include "MainWindow/MainToolbar.h"
+
+#include "MainWindow/MenuToolButton.h"
+#include "MainWindow/ToolbarSymbol.h"
+#include "TreeScreen/PathBar/ToolbarPathControl.h"
+#include "TreeScreen/PathBar/ToolbarPathItem.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QMenu>
+#include <QToolBar>
+#include <QToolButton>
+
+namespace tessera {
+
+namespace {
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("MainToolbar", text);
+}
+
+template <typename Button>
+QToolButton* addButton(QToolBar& toolbar, ToolbarSymbol symbol, const QString& name)
+{
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the parent owns it
+    auto* const button = new Button(&toolbar);
+    button->setIcon(iconOf(symbol));
+    button->setText(name);
+    button->setToolTip(name);
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::TabFocus);
+    toolbar.addWidget(button);
+    return button;
+}
+
+QAction* addSeparator(QToolBar& toolbar)
+{
+    return toolbar.addSeparator();
+}
+
+ToolbarPathControl* addPathControl(QToolBar& toolbar)
+{
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the parent owns it
+    auto* const item = new ToolbarPathItem(&toolbar);
+    toolbar.addWidget(item);
+    return &item->pathControl();
+}
+
+} // namespace
+
+MainToolbar::MainToolbar(QToolBar& toolbar, QMenu& actionsMenu)
+    : m_toolbarHomeButton(addButton<QToolButton>(
+        toolbar,
+        ToolbarSymbol::Home,
+        tr(QT_TRANSLATE_NOOP("MainToolbar", "Choose another disk or folder"))))
+    , m_toolbarSeperator(addSeparator(toolbar))
+    , m_toolbarPathControl(addPathControl(toolbar))
+    , m_toolbarActionsButton(addButton<MenuToolButton>(
+          toolbar,
+          ToolbarSymbol::Actions,
+          tr(QT_TRANSLATE_NOOP("MainToolbar", "Commands for the selected item"))))
+    , m_toolbarIgnoreButton(addButton<MenuToolButton>(
+          toolbar,
+          ToolbarSymbol::Ignore,
+          tr(QT_TRANSLATE_NOOP("MainToolbar", "What the map leaves out"))))
+{
+    m_toolbarActionsButton->setMenu(&actionsMenu);
+}
+
+void MainToolbar::setTreeDisplayed(bool displayed)
+{
+    m_toolbarHomeButton->setEnabled(displayed);
+    m_toolbarSeperator->setVisible(displayed);
+    m_toolbarPathControl->setVisible(displayed);
+    m_toolbarActionsButton->setEnabled(displayed);
+}
+
+} // namespace tessera

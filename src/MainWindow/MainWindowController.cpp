@@ -1,0 +1,497 @@
+// SPDX-License-Identifier: MIT
+#include "MainWindow/MainWindowController.h"
+
+#include "Base/Log.h"
+#include "Base/NotificationCenter.h"
+#include "Desktop/Alert.h"
+#include "Desktop/OpenPanel.h"
+#include "HomeScreen/Places/PlaceNames.h"
+#include "MainWindow/BackupFolder.h"
+#include "MainWindow/Menus/MainActions.h"
+#include "MainWindow/WindowFrame.h"
+#include "Model/RootModel.h"
+#include "TreeScreen/Map/TreeMapView.h"
+#include "TreeScreen/PathBar/ToolbarPathControl.h"
+#include "TreeScreen/TreeViewController.h"
+#include "Widgets/Util.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QToolBar>
+#include <QToolButton>
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+#include <variant>
+
+namespace tessera {
+
+namespace {
+
+constexpr int kLeastWidth = 760; ///< of the window
+
+QRect wholePoints(const Rect& rect)
+{
+    return QRectF(rect.x, rect.y, rect.width, rect.height).toRect();
+}
+
+/// Lines break where the window is narrow, so that is where the panel is highest.
+double panelHeight(const QWidget& panel)
+{
+    return std::max(ScanPanelPlace::kPanelHeight, 1.0 * panel.heightForWidth(kLeastWidth));
+}
+
+Url urlOf(const NotificationObject& object)
+{
+    const Url* const url = std::get_if<Url>(&object);
+    return url == nullptr ? Url() : *url;
+}
+
+/// What the command asks to be done with the selected item of the tree screen, if anything.
+std::optional<TreeCommand> treeCommandOf(MainCommand command)
+{
+    switch (command) {
+    case MainCommand::QuickLook:
+        return TreeCommand::QuickLook;
+    case MainCommand::ShowInFinder:
+        return TreeCommand::ShowInFinder;
+    case MainCommand::ZoomIn:
+        return TreeCommand::ZoomIn;
+    case MainCommand::Rescan:
+        return TreeCommand::Rescan;
+    case MainCommand::Ignore:
+        return TreeCommand::Ignore;
+    case MainCommand::Compress:
+        return TreeCommand::Compress;
+    case MainCommand::MoveToTrash:
+        return TreeCommand::MoveToTrash;
+    default:
+        return std::nullopt;
+    }
+}
+
+} // namespace
+
+MainWindowController::MainWindowController(const MainWindowServices& services)
+    : m_services(services)
+    , m_window(Util::loadViewFromNib<QMainWindow>("MainWindowController"))
+    , m_view(m_window->centralWidget())
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the window owns it
+    , m_actions(new MainActions(
+          *m_window,
+          [this](int tag) { return validateMenuItem(tag); },
+          [this](MainCommand command) { return whyNot(command); }))
+    , m_ignoreMenu(services.model)
+    , m_slide(services.treeScreen.motion, services.slideClock)
+{
+    loadWindow();
+    observe();
+    m_services.model.recents().reload();
+    handle(ScreenEvent::WindowLoaded, {});
+}
+
+MainWindowController::~MainWindowController()
+{
+    m_window->removeEventFilter(this);
+    m_view->removeEventFilter(this);
+}
+
+void MainWindowController::loadWindow()
+{
+    m_actions->fill(*m_window->menuBar());
+    m_actions->fill(m_itemMenu, MainMenu::Item);
+    m_toolbar = std::make_unique<MainToolbar>(*m_window->findChild<QToolBar*>(), m_itemMenu);
+    m_toolbar->toolbarIgnoreButton().setMenu(&m_ignoreMenu);
+    connect(m_actions, &MainActions::triggered, this, &MainWindowController::perform);
+    connect(
+        &m_toolbar->toolbarHomeButton(),
+        &QToolButton::clicked,
+        this,
+        &MainWindowController::homeSelected);
+    connect(
+        &m_toolbar->toolbarPathControl(),
+        &ToolbarPathControl::clicked,
+        this,
+        &MainWindowController::pathSelected);
+    connect(&m_slide, &ScanPanelSlide::moved, this, &MainWindowController::placeScreens);
+    connect(&m_slide, &ScanPanelSlide::cleanUpDue, this, [this] {
+        handle(ScreenEvent::CleanUpDue, {});
+    });
+    m_release.setSingleShot(true);
+    m_release.callOnTimeout(this, [this] { m_retired.clear(); });
+    m_window->installEventFilter(this);
+    m_view->installEventFilter(this);
+    // The program may end without the window being closed.
+    connect(qApp, &QCoreApplication::aboutToQuit, this, [this] {
+        if (m_window->isVisible()) {
+            saveFrame(*m_window, m_services.defaults);
+        }
+    });
+}
+
+void MainWindowController::observe()
+{
+    NotificationCenter& center = NotificationCenter::defaultCenter();
+    const auto observed = [&](std::string_view name, ScreenEvent event) {
+        return center.addObserver(name, [this, event](const NotificationObject& object) {
+            handle(event, urlOf(object));
+        });
+    };
+    m_observations
+        = {observed("ScanURL", ScreenEvent::ScanUrl),
+           observed("ScanCancelled", ScreenEvent::ScanCancelled),
+           observed("ScanComplete", ScreenEvent::ScanComplete),
+           observed("CurrentFolderChanged", ScreenEvent::CurrentFolderChanged)};
+}
+
+void MainWindowController::handle(ScreenEvent event, const Url& url)
+{
+    const ScreenTransition transition = screenTransition(m_state, event);
+    m_state = transition.next;
+    act(transition.action, url);
+    m_actions->validate();
+}
+
+void MainWindowController::act(ScreenAction action, const Url& url)
+{
+    switch (action) {
+    case ScreenAction::Ignore:
+        break;
+    case ScreenAction::ShowHome:
+        showHome();
+        break;
+    case ScreenAction::SlideScanIn:
+        slideScanIn(url);
+        break;
+    case ScreenAction::ShowHomeAndSlideScanIn:
+        showHome();
+        slideScanIn(url);
+        break;
+    case ScreenAction::ReplaceScan:
+        startScan(url);
+        break;
+    case ScreenAction::SlideScanOut:
+        m_slide.slideOut();
+        break;
+    case ScreenAction::CleanUp:
+        cleanUp();
+        break;
+    case ScreenAction::ShowTree:
+        displayTree();
+        refreshPathControl();
+        break;
+    case ScreenAction::RefreshPath:
+        refreshPathControl();
+        break;
+    }
+}
+
+void MainWindowController::showHome()
+{
+    m_ignoreMenu.setTreeViewController(nullptr);
+    m_ignoreMenu.removeFolders();
+    m_treeVC.reset();
+    m_treeView.reset();
+    m_toolbar->setTreeDisplayed(false);
+    m_homeVC = m_services.makeHomeScreen([this] { openFolder(); });
+    QWidget& home = m_homeVC->view();
+    home.setParent(m_view);
+    placeScreens();
+    home.show();
+    m_homeVC->takeFocus();
+}
+
+void MainWindowController::slideScanIn(const Url& url)
+{
+    startScan(url);
+    m_homeVC->setEnabled(false);
+    m_slide.slideIn(panelHeight(m_scanVC->view()));
+}
+
+/// A scan that still runs ends here and now: an end of it that is on its way already must not be
+/// taken for the new one's.
+void MainWindowController::startScan(const Url& url)
+{
+    m_changes.scanBegins();
+    m_scanVC.reset();
+    m_scanVC = m_services.makeScanScreen();
+    QWidget& panel = m_scanVC->view();
+    panel.setParent(m_view);
+    placeScreens();
+    m_scanVC->startScanning(url);
+    panel.show();
+    panel.raise();
+    panel.setFocus();
+}
+
+template <typename Screen>
+void MainWindowController::retire(std::unique_ptr<Screen>& screen)
+{
+    if (screen != nullptr) {
+        screen->view().hide();
+        m_retired.push_back(std::move(screen));
+        m_release.start();
+    }
+}
+
+void MainWindowController::dropScan()
+{
+    retire(m_scanVC);
+}
+
+void MainWindowController::cleanUp()
+{
+    m_homeVC->setEnabled(true);
+    dropScan();
+    m_homeVC->takeFocus();
+}
+
+void MainWindowController::displayTree()
+{
+    m_slide.reset();
+    dropScan();
+    retire(m_homeVC);
+    m_toolbar->setTreeDisplayed(true);
+    m_treeView = std::make_unique<TreeMapView>(m_services.treeScreen.defaults, m_view);
+    placeScreens();
+    m_treeVC = std::make_unique<TreeViewController>(
+        m_services.model, *m_treeView, m_services.treeScreen);
+    connect(
+        m_treeVC.get(),
+        &TreeViewController::treeChanged,
+        this,
+        &MainWindowController::refreshPathControl);
+    connect(
+        m_treeVC.get(), &TreeViewController::selectionChanged, m_actions, &MainActions::validate);
+    // A rescan has begun or ended, perhaps.
+    connect(m_treeVC.get(), &TreeViewController::pictureRebuilt, m_actions, &MainActions::validate);
+    m_ignoreMenu.setTreeViewController(m_treeVC.get());
+    m_changes.tellAgain();
+    m_treeView->show();
+    m_treeView->setFocus();
+}
+
+void MainWindowController::placeScreens()
+{
+    const ScanPanelPlace& place = m_slide.place();
+    const double width = m_view->width();
+    const double height = m_view->height();
+    if (m_homeVC != nullptr) {
+        m_homeVC->view().setGeometry(wholePoints(place.homeFrame(width, height)));
+    }
+    if (m_scanVC != nullptr) {
+        m_scanVC->view().setGeometry(wholePoints(place.panelFrame(width, height)));
+    }
+    if (m_treeView != nullptr) {
+        m_treeView->setGeometry(m_view->rect());
+    }
+}
+
+void MainWindowController::homeSelected()
+{
+    handle(ScreenEvent::HomeSelected, {});
+}
+
+void MainWindowController::pathSelected()
+{
+    if (m_treeVC != nullptr) {
+        m_treeVC->clickFolderPath(
+            m_toolbar->toolbarPathControl().clickedPathComponentCell()->url());
+    }
+}
+
+void MainWindowController::refreshPathControl()
+{
+    if (m_treeVC == nullptr || m_treeVC->currentFolder() == nullptr) {
+        return;
+    }
+    ToolbarPathControl& path = m_toolbar->toolbarPathControl();
+    path.setPathComponentCells(
+        pathComponentCells(*m_treeVC->currentFolder(), m_services.treeScreen.compressing.icons));
+    path.refreshWidth();
+}
+
+bool MainWindowController::validateMenuItem(int tag) const
+{
+    MenuContext context;
+    context.hasHomeScreen = m_homeVC != nullptr;
+    context.hasTreeScreen = m_treeVC != nullptr;
+    if (m_treeVC != nullptr) {
+        context.isRootInView = m_treeVC->currentFolder() == m_services.model.topFolder();
+        context.selectedFile = m_treeVC->selectedFile();
+        // Not for every entry: it takes a question to the system.
+        context.canRescan = tag == menu_tag::kRescan && m_treeVC->validate(TreeCommand::Rescan);
+    }
+    return tessera::validateMenuItem(tag, context);
+}
+
+void MainWindowController::perform(MainCommand command)
+{
+    switch (command) {
+    case MainCommand::OpenFolder:
+        openFolder();
+        break;
+    case MainCommand::Home:
+        homeSelected();
+        break;
+    case MainCommand::Preferences:
+        emit preferencesRequested();
+        break;
+    case MainCommand::Quit:
+        m_window->close();
+        break;
+    case MainCommand::FullScreen:
+        toggleFullScreen();
+        break;
+    case MainCommand::Features:
+    case MainCommand::Questions:
+        emit helpRequested(m_actions->action(command).data().toInt());
+        break;
+    default:
+        performOnTree(command);
+        break;
+    }
+}
+
+void MainWindowController::performOnTree(MainCommand command)
+{
+    if (m_treeVC == nullptr) {
+        return;
+    }
+    if (command == MainCommand::ZoomOut) {
+        m_treeVC->zoomOut();
+        return;
+    }
+    if (command == MainCommand::Rescan) {
+        rescan();
+        return;
+    }
+    if (m_treeVC->selectedFile() == nullptr) {
+        return;
+    }
+    switch (command) {
+    case MainCommand::QuickLook:
+        m_treeVC->quickLook();
+        break;
+    case MainCommand::ShowInFinder:
+        m_treeVC->showInFinder();
+        break;
+    case MainCommand::ZoomIn:
+        m_treeVC->zoomIn();
+        break;
+    case MainCommand::Ignore:
+        m_ignoreMenu.ignoreFolder();
+        break;
+    case MainCommand::Compress:
+        m_treeVC->compressItem();
+        break;
+    case MainCommand::MoveToTrash:
+        m_treeVC->trashItem();
+        break;
+    default:
+        break;
+    }
+}
+
+/// The scanned folder has no place in a tree in which a new one could be put: it is scanned as if
+/// the user had chosen it again, which ends the tree screen.
+void MainWindowController::rescan()
+{
+    if (!m_treeVC->validate(TreeCommand::Rescan)) {
+        return;
+    }
+    const Folder& folder = *m_treeVC->folderToRescan();
+    if (&folder == m_services.model.topFolder()) {
+        scanURL(folder.url());
+    } else {
+        m_treeVC->refreshFolder();
+    }
+}
+
+/// Without a tree nothing needs to be said: there is nothing that the commands could be about.
+QString MainWindowController::whyNot(MainCommand command) const
+{
+    if (m_treeVC == nullptr) {
+        return {};
+    }
+    if (command == MainCommand::ZoomOut) {
+        return m_treeVC->whyNotOut();
+    }
+    const std::optional<TreeCommand> onItem = treeCommandOf(command);
+    return onItem ? m_treeVC->whyNot(*onItem) : QString();
+}
+
+void MainWindowController::openFolder()
+{
+    m_services.openPanel.begin(
+        *m_window, [this](const std::vector<Url>& urls) { folderChosen(urls); });
+}
+
+void MainWindowController::folderChosen(const std::vector<Url>& urls)
+{
+    if (urls.empty()) {
+        return;
+    }
+    if (isTimeMachineBackup(urls.back())) {
+        refuseTimeMachine(urls.back());
+        return;
+    }
+    scanURL(urls.back());
+}
+
+void MainWindowController::refuseTimeMachine(const Url& url)
+{
+    const Url volume = volumeOf(url, m_services.volumes);
+    m_services.treeScreen.alert.beginSheet(
+        {tr("Time Machine Detected"),
+         tr("Tessera is unable to scan inside a Time Machine backup. To estimate the overall size "
+            "of Time Machine, please scan the disk labeled '%1'.")
+             .arg(localizedVolumeName(volume)),
+         {tr("OK")}});
+}
+
+void MainWindowController::scanURL(const Url& url)
+{
+    logLine("Scan: %s", url.absoluteString().c_str());
+    NotificationCenter::defaultCenter().post("ScanURL", url);
+}
+
+void MainWindowController::showWindow()
+{
+    restoreFrame(*m_window, m_services.defaults);
+    m_window->show();
+    m_window->raise();
+    m_window->activateWindow();
+}
+
+void MainWindowController::toggleFullScreen()
+{
+    m_window->setWindowState(m_window->windowState() ^ Qt::WindowFullScreen);
+}
+
+bool MainWindowController::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_view && event->type() == QEvent::Resize) {
+        placeScreens();
+    } else if (watched == m_window.get() && event->type() == QEvent::Close) {
+        if (!m_mayClose()) {
+            event->ignore();
+            return true;
+        }
+        saveFrame(*m_window, m_services.defaults);
+        emit closed();
+    } else if (watched == m_window.get() && event->type() == QEvent::KeyPress) {
+        const auto& pressed = *static_cast<QKeyEvent*>(event);
+        if (const auto command = m_actions->disabledCommand(pressed);
+            command && !pressed.isAutoRepeat() && m_treeVC != nullptr) {
+            m_treeVC->say(whyNot(*command));
+        }
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace tessera

@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Base/Observation.h"
+#include "MainWindow/ChangesDuringScan.h"
+#include "MainWindow/MainToolbar.h"
+#include "MainWindow/MainWindowServices.h"
+#include "MainWindow/Menus/ActionTable.h"
+#include "MainWindow/Menus/IgnoreMenu.h"
+#include "MainWindow/Menus/MenuValidation.h"
+#include "MainWindow/ScanPanelSlide.h"
+#include "MainWindow/ScreenStates.h"
+
+#include <QMenu>
+#include <QObject>
+#include <QTimer>
+
+#include <array>
+#include <functional>
+#include <memory>
+#include <utility>
+#include <variant>
+#include <vector>
+
+class QMainWindow;
+
+namespace tessera {
+
+class MainActions;
+class TreeMapView;
+class TreeViewController;
+class Url;
+
+/// The controller of the program's one main window: shows the home screen, the scan panel or the
+/// tree, and gives the menus' commands to whom they are for. Screens are made anew each time and
+/// released when others take their place. Main thread only.
+class MainWindowController final : public QObject {
+    Q_OBJECT
+
+public:
+    explicit MainWindowController(const MainWindowServices& services);
+    ~MainWindowController() override;
+
+    QMainWindow& window() const { return *m_window; }
+    /// Opens the window where it was the last time.
+    void showWindow();
+    /// Has somebody be asked before the user closes the window; false keeps it open.
+    void setMayClose(std::function<bool()> mayClose) { m_mayClose = std::move(mayClose); }
+
+    ScreenState state() const { return m_state; }
+    /// Null while the tree is not displayed.
+    TreeViewController* treeVC() const { return m_treeVC.get(); }
+    const MainToolbar& toolbar() const { return *m_toolbar; }
+    IgnoreMenu& ignoreMenu() { return m_ignoreMenu; }
+    ScanPanelSlide& slide() { return m_slide; }
+
+    /// Shows the home screen instead of the tree.
+    void homeSelected();
+    /// Lets the user choose a folder to scan.
+    void openFolder();
+    /// Posts "ScanURL".
+    static void scanURL(const Url& url);
+    /// A folder of the path bar was clicked.
+    void pathSelected();
+    /// Shows in the path bar where the folder in view lies; nothing without a tree.
+    void refreshPathControl();
+
+    /// Whether the menu entry of that tag is enabled now.
+    bool validateMenuItem(int tag) const;
+    /// Carries out a menu's command. One that makes no sense now does nothing.
+    void perform(MainCommand command);
+
+signals:
+    void preferencesRequested();
+    /// By the tag of the menu entry.
+    void helpRequested(int tag);
+    /// The user closed the window.
+    void closed();
+
+private:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+    void loadWindow();
+    void observe();
+    void handle(ScreenEvent event, const Url& url);
+    void act(ScreenAction action, const Url& url);
+    void showHome();
+    void startScan(const Url& url);
+    void slideScanIn(const Url& url);
+    template <typename Screen>
+    void retire(std::unique_ptr<Screen>& screen);
+    void dropScan();
+    void cleanUp();
+    void displayTree();
+    void placeScreens();
+    void performOnTree(MainCommand command);
+    void rescan();
+    QString whyNot(MainCommand command) const;
+    void folderChosen(const std::vector<Url>& urls);
+    void refuseTimeMachine(const Url& url);
+    void toggleFullScreen();
+
+    const MainWindowServices m_services;
+    std::function<bool()> m_mayClose = [] { return true; };
+    ScreenState m_state = ScreenState::Starting;
+    std::unique_ptr<QMainWindow> m_window;
+    QWidget* m_view; ///< the window's content area, which holds the screens
+    MainActions* m_actions;
+    QMenu m_itemMenu; ///< under the toolbar's button
+    IgnoreMenu m_ignoreMenu;
+    std::unique_ptr<MainToolbar> m_toolbar;
+    ScanPanelSlide m_slide;
+    std::unique_ptr<HomeScreen> m_homeVC;
+    std::unique_ptr<ScanScreen> m_scanVC;
+    std::unique_ptr<TreeMapView> m_treeView;
+    std::unique_ptr<TreeViewController> m_treeVC;
+    /// Screens that are no longer shown. It may be a call of their own that ended them, so they are
+    /// released from the event loop.
+    std::vector<std::variant<std::unique_ptr<HomeScreen>, std::unique_ptr<ScanScreen>>> m_retired;
+    QTimer m_release;
+    ChangesDuringScan m_changes;
+    std::array<Observation, 4> m_observations;
+};
+
+} // namespace tessera

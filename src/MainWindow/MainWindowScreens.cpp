@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#include "MainWindow/MainWindowScreens.h"
+
+#include "HomeScreen/HomeViewController.h"
+#include "ScanScreen/ScanningViewController.h"
+
+namespace tessera {
+
+namespace {
+
+class Home final : public HomeScreen {
+public:
+    Home(
+        RootModel& model, const HomeViewServices& services, const std::function<void()>& openFolder)
+        : m_homeVC(model, services)
+    {
+        QObject::connect(&m_homeVC, &HomeViewController::openFolder, &m_homeVC, openFolder);
+    }
+
+    QWidget& view() const override { return m_homeVC.view(); }
+    void setEnabled(bool enabled) override { m_homeVC.setEnabled(enabled); }
+    void takeFocus() override { m_homeVC.takeFocus(); }
+
+private:
+    HomeViewController m_homeVC;
+};
+
+class Scan final : public ScanScreen {
+public:
+    Scan(RootModel& model, const ScanningServices& services)
+        : m_scanVC(model, services)
+    {
+    }
+
+    QWidget& view() const override { return m_scanVC.view(); }
+    void startScanning(const Url& url) override { m_scanVC.startScanning(url); }
+
+private:
+    ScanningViewController m_scanVC;
+};
+
+} // namespace
+
+std::unique_ptr<HomeScreen> makeHomeScreen(
+    RootModel& model, const HomeViewServices& services, const std::function<void()>& openFolder)
+{
+    return std::make_unique<Home>(model, services, openFolder);
+}
+
+std::unique_ptr<ScanScreen> makeScanScreen(RootModel& model, const ScanningServices& services)
+{
+    return std::make_unique<Scan>(model, services);
+}
+
+} // namespace tessera

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "MainWindow/MainWindowServices.h"
+
+#include <functional>
+#include <memory>
+
+namespace tessera {
+
+class RootModel;
+struct HomeViewServices;
+struct ScanningServices;
+
+/// The home screen, as the main window deals with it. `openFolder` is called when a folder is to be
+/// chosen.
+std::unique_ptr<HomeScreen> makeHomeScreen(
+    RootModel& model, const HomeViewServices& services, const std::function<void()>& openFolder);
+
+/// The scan panel, as the main window deals with it.
+std::unique_ptr<ScanScreen> makeScanScreen(RootModel& model, const ScanningServices& services);
+
+} // namespace tessera

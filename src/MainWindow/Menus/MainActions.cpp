@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include "MainWindow/Menus/MainActions.h"
+
+#include "Base/DisplayText.h"
+
+#include <QAction>
+#include <QKeyEvent>
+#include <QKeySequence>
+#include <QMenu>
+#include <QMenuBar>
+
+#include <algorithm>
+#include <utility>
+
+namespace tessera {
+
+MainActions::MainActions(QWidget& window, Validator validator, WhyNot whyNot)
+    : QObject(&window)
+    , m_validator(std::move(validator))
+    , m_whyNot(std::move(whyNot))
+{
+    for (const ActionRow& row : actionTable()) {
+        m_actions.emplace(row.command, makeAction(window, row));
+    }
+}
+
+MainActions::~MainActions() = default;
+
+QAction* MainActions::makeAction(QWidget& window, const ActionRow& row)
+{
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the parent owns it
+    auto* const action = new QAction(titleOf(row), this);
+    action->setShortcuts(QKeySequence::listFromString(QString::fromLatin1(row.shortcuts)));
+    // Titles must not make an entry move elsewhere in the menus of some desktops.
+    action->setMenuRole(QAction::NoRole);
+    action->setData(row.tag);
+    connect(action, &QAction::triggered, this, [this, command = row.command] {
+        emit triggered(command);
+    });
+    window.addAction(action);
+    return action;
+}
+
+void MainActions::fill(QMenuBar& menuBar) const
+{
+    for (const MainMenu menu : {MainMenu::File, MainMenu::Item, MainMenu::View, MainMenu::Help}) {
+        fill(*menuBar.addMenu(titleOf(menu)), menu);
+    }
+}
+
+void MainActions::fill(QMenu& menu, MainMenu entries) const
+{
+    for (const ActionRow& row : actionTable()) {
+        if (row.menu != entries) {
+            continue;
+        }
+        if (row.beginsGroup) {
+            menu.addSeparator();
+        }
+        menu.addAction(&action(row.command));
+    }
+    // Of disabled entries.
+    menu.setToolTipsVisible(true);
+    connect(&menu, &QMenu::aboutToShow, this, &MainActions::validate);
+}
+
+std::optional<MainCommand> MainActions::disabledCommand(const QKeyEvent& pressed) const
+{
+    Qt::KeyboardModifiers modifiers = pressed.modifiers();
+    modifiers.setFlag(Qt::KeypadModifier, false);
+    const QKeySequence keys(QKeyCombination(modifiers, static_cast<Qt::Key>(pressed.key())));
+    const auto found = std::ranges::find_if(m_actions, [&keys](const auto& entry) {
+        return !entry.second->isEnabled() && entry.second->shortcuts().contains(keys);
+    });
+    return found == m_actions.end() ? std::nullopt : std::optional(found->first);
+}
+
+void MainActions::validate()
+{
+    for (const auto& [command, action] : m_actions) {
+        action->setEnabled(m_validator(action->data().toInt()));
+        action->setToolTip(action->isEnabled() ? QString() : plainTooltip(m_whyNot(command)));
+    }
+}
+
+} // namespace tessera

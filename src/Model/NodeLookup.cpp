@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: MIT
+#include "Model/NodeLookup.h"
+
+#include "Model/TopFolder.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+
+namespace tessera {
+
+namespace {
+
+/// What is left of `path` below `top`, without slashes around it; nothing when it lies elsewhere.
+std::optional<std::string_view> pathBelow(std::string_view top, std::string_view path)
+{
+    if (!path.starts_with(top)) {
+        return std::nullopt;
+    }
+    std::string_view rest = path.substr(top.size());
+    if (rest.empty() || top == "/") {
+        return rest;
+    }
+    if (!rest.starts_with('/')) {
+        return std::nullopt;
+    }
+    rest.remove_prefix(1);
+    return rest;
+}
+
+std::string joined(std::string_view folder, std::string_view below)
+{
+    std::string path(folder);
+    if (!below.empty()) {
+        path += path == "/" ? "" : "/";
+        path += below;
+    }
+    return path;
+}
+
+std::string_view takeComponent(std::string_view& path)
+{
+    const std::string_view component = path.substr(0, path.find('/'));
+    path.remove_prefix(std::min(component.size() + 1, path.size()));
+    return component;
+}
+
+File* childNamed(const Folder& folder, std::string_view name)
+{
+    const ChildArray& children = folder.children();
+    const auto* const found
+        = std::find_if(children.begin(), children.end(), [name](const File* child) {
+              return child->fragment() == name;
+          });
+    return found == children.end() ? nullptr : *found;
+}
+
+struct Found {
+    File* deepest;
+    bool isExact;
+};
+
+Found walkDown(TopFolder& top, std::string_view absolutePath)
+{
+    std::optional<std::string_view> rest = pathBelow(top.absolutePath(), absolutePath);
+    if (!rest) {
+        return {nullptr, false};
+    }
+    File* node = &top;
+    while (!rest->empty()) {
+        const auto* folder = nodeCast<Folder>(node);
+        File* const child = folder == nullptr ? nullptr : childNamed(*folder, takeComponent(*rest));
+        if (child == nullptr) {
+            return {node, false};
+        }
+        node = child;
+    }
+    return {node, true};
+}
+
+} // namespace
+
+bool isItem(const File& node)
+{
+    return node.isFolder() || node.type() == NodeType::Document;
+}
+
+Url placeOnDisk(const File& node)
+{
+    const File* outermost = &node;
+    while (outermost->parent() != nullptr) {
+        outermost = outermost->parent();
+    }
+    const auto* top = nodeCast<TopFolder>(outermost);
+    const std::string path = node.absolutePath();
+    return {top == nullptr ? path : pathOnDisk(*top, path), node.isFolder()};
+}
+
+std::string pathOnDisk(const TopFolder& top, std::string_view path)
+{
+    const auto below = pathBelow(top.origin(), path);
+    return below ? joined(top.realOrigin(), *below) : std::string(path);
+}
+
+std::string pathInTree(const TopFolder& top, std::string_view path)
+{
+    const auto below = pathBelow(top.realOrigin(), path);
+    return below ? joined(top.origin(), *below) : std::string(path);
+}
+
+bool isAtOrBelow(const File& node, const File& above)
+{
+    for (const File* at = &node; at != nullptr; at = at->parent()) {
+        if (at == &above) {
+            return true;
+        }
+    }
+    return false;
+}
+
+File* nodeAtPath(TopFolder& top, std::string_view absolutePath)
+{
+    const Found found = walkDown(top, absolutePath);
+    return found.isExact ? found.deepest : nullptr;
+}
+
+File* nearestNodeAtPath(TopFolder& top, std::string_view absolutePath)
+{
+    return walkDown(top, absolutePath).deepest;
+}
+
+} // namespace tessera

@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/Linux/Trash/TrashItem.h"
+
+#include "Platform/Linux/Files/LongPath.h"
+#include "Platform/Linux/Files/RenameWithoutReplacing.h"
+
+#include <fcntl.h>
+
+#include <array>
+#include <cerrno>
+#include <climits>
+#include <string_view>
+#include <system_error>
+#include <utility>
+
+namespace tessera {
+
+namespace {
+
+std::string changedKindSentence(const std::string& name, bool isDirectory)
+{
+    return '\'' + name + "' was not moved, because it has changed since the scan: it is "
+        + (isDirectory ? "a folder now." : "no folder any more.");
+}
+
+/// Whether the path is absolute, names something in a folder and says where that lies without
+/// anybody having to resolve it.
+bool isPlainPath(std::string_view path)
+{
+    if (!path.starts_with('/')) {
+        return false;
+    }
+    while (!path.empty()) {
+        path.remove_prefix(1);
+        const std::string_view name = path.substr(0, path.find('/'));
+        if (name.empty() || name == "." || name == "..") {
+            return false;
+        }
+        path.remove_prefix(name.size());
+    }
+    return true;
+}
+
+TrashItemResult failure(std::string sentence)
+{
+    TrashItemResult result;
+    result.error = std::move(sentence);
+    return result;
+}
+
+} // namespace
+
+TrashItemResult findTrashItem(const Url& url)
+{
+    TrashItemResult result;
+    TrashItem& item = result.item;
+    item.name = url.lastPathComponent();
+    item.path = url.path();
+    if (!isPlainPath(item.path)) {
+        return failure('\'' + item.path + "' cannot be moved to the trash.");
+    }
+    if (item.path.size() >= PATH_MAX) {
+        // No program could put it back.
+        return failure(trashErrorSentence(item.name, ENAMETOOLONG));
+    }
+    NamedPlace place = openFolderOfWithoutLinks(item.path);
+    if (place.error != 0) {
+        return failure(trashErrorSentence(item.name, place.error));
+    }
+    item.parent = std::move(place.folder);
+    const StatusResult parent = statusOf(item.parent.number());
+    const StatusResult found = statusAt(item.parent.number(), item.name.c_str());
+    if (!parent || !found) {
+        return failure(trashErrorSentence(item.name, parent ? found.error : parent.error));
+    }
+    item.parentStatus = parent.status;
+    item.status = found.status;
+    if (item.status.isDirectory != url.isDirectory()) {
+        return failure(changedKindSentence(item.name, item.status.isDirectory));
+    }
+    return result;
+}
+
+std::string trashErrorSentence(const std::string& name, int error)
+{
+    const std::string quoted = '\'' + name + '\'';
+    switch (error) {
+    case ENOENT:
+    case ENOTDIR:
+        return quoted + " was not moved to the trash, because it is not there any more.";
+    case EACCES:
+    case EPERM:
+        return quoted + " was not moved to the trash, because you have no permission to do so.";
+    case ELOOP:
+        return quoted
+            + " was not moved to the trash, because a folder on the way to it has become a link "
+              "since the scan.";
+    case EROFS:
+        return quoted + " was not moved to the trash, because its disk can only be read.";
+    case ENOSPC:
+    case EDQUOT:
+        return quoted + " was not moved to the trash, because its disk has no space left.";
+    case EXDEV:
+        return quoted + " was not moved to the trash, because it could only be copied there.";
+    case EBUSY:
+        return quoted + " was not moved to the trash, because the system is using it.";
+    case kMoveUncertain:
+        return quoted
+            + " may be in the trash or where it was, because its disk broke off while it was "
+              "moved. "
+              "Nothing has been removed.";
+    case ENAMETOOLONG:
+        return quoted + " was not moved to the trash, because its path is too long.";
+    default:
+        return quoted + " was not moved to the trash: " + std::generic_category().message(error)
+            + '.';
+    }
+}
+
+std::string noTrashSentence(const std::string& name, int error)
+{
+    switch (error) {
+    case EROFS:
+    case ENOSPC:
+    case EDQUOT:
+        return trashErrorSentence(name, error);
+    default:
+        return '\'' + name + "' was not moved to the trash, because its disk has no trash for you.";
+    }
+}
+
+std::string pathOf(const FileDescriptor& opened)
+{
+    const std::string link = "/proc/self/fd/" + std::to_string(opened.number());
+    std::array<char, PATH_MAX> buffer{};
+    const ssize_t length = ::readlink(link.c_str(), buffer.data(), buffer.size());
+    const std::string path(buffer.data(), length > 0 ? static_cast<std::size_t>(length) : 0);
+    // The path of what was removed goes on with a note, and may by chance be another one's.
+    const StatusResult there = statusAt(AT_FDCWD, path.c_str());
+    const StatusResult wanted = statusOf(opened.number());
+    return there && wanted && there.status.identity == wanted.status.identity ? path : "";
+}
+
+} // namespace tessera

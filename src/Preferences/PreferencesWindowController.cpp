@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#include "Preferences/PreferencesWindowController.h"
+
+#include "Model/UserDefaults.h"
+#include "Widgets/Util.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+
+namespace tessera {
+
+PreferencesWindowController::PreferencesWindowController(UserDefaults& defaults)
+    : m_defaults(defaults)
+    , m_window(Util::loadViewFromNib<QDialog>("PreferencesWindowController"))
+    , m_warnHiddenDelete(m_window->findChild<QCheckBox*>(QStringLiteral("warnHiddenDelete")))
+    , m_warnSystemDelete(m_window->findChild<QCheckBox*>(QStringLiteral("warnSystemDelete")))
+    , m_tooltipButton(m_window->findChild<QComboBox*>(QStringLiteral("tooltipButton")))
+{
+    bindWarning(*m_warnHiddenDelete, kWarnDeleteHiddenKey);
+    bindWarning(*m_warnSystemDelete, kWarnDeleteSystemKey);
+    bindTooltipType();
+    m_changes = defaults.addChangeObserver([this](std::string_view key) { refresh(key); });
+}
+
+PreferencesWindowController::~PreferencesWindowController() = default;
+
+void PreferencesWindowController::showWindow(const QWidget* above)
+{
+    m_window->adjustSize();
+    if (above != nullptr && !m_window->isVisible()) {
+        m_window->move(above->frameGeometry().center() - m_window->rect().center());
+    }
+    m_window->show();
+    m_window->raise();
+    m_window->activateWindow();
+}
+
+void PreferencesWindowController::bindWarning(QCheckBox& box, std::string_view key)
+{
+    refresh(key);
+    connect(&box, &QCheckBox::toggled, this, [this, key](bool isOn) {
+        m_defaults.setBoolean(key, isOn);
+    });
+}
+
+void PreferencesWindowController::bindTooltipType()
+{
+    refresh(kTooltipTypeKey);
+    connect(m_tooltipButton, &QComboBox::currentIndexChanged, this, [this](int index) {
+        // There is no entry for a value that another version may have stored; that one stays.
+        if (index >= 0) {
+            m_defaults.setInteger(kTooltipTypeKey, index);
+        }
+    });
+}
+
+void PreferencesWindowController::refresh(std::string_view key)
+{
+    if (key == kWarnDeleteHiddenKey) {
+        m_warnHiddenDelete->setChecked(m_defaults.boolean(key));
+    } else if (key == kWarnDeleteSystemKey) {
+        m_warnSystemDelete->setChecked(m_defaults.boolean(key));
+    } else if (key == kTooltipTypeKey) {
+        m_tooltipButton->setCurrentIndex(m_defaults.integer(key));
+    }
+}
+
+} // namespace tessera

@@ -1,0 +1,187 @@
+// SPDX-License-Identifier: MIT
+#include "ScanScreen/ScanningViewController.h"
+
+#include "Base/DisplayText.h"
+#include "Base/NotificationCenter.h"
+#include "Base/ProgressSteps.h"
+#include "Desktop/Alert.h"
+#include "Desktop/DockTile.h"
+#include "Model/RootModel.h"
+#include "ScanScreen/PathLabel.h"
+#include "Scanning/Scanner.h"
+#include "Widgets/ScanProblem.h"
+#include "Widgets/Util.h"
+
+#include <QLabel>
+#include <QLocale>
+#include <QProgressBar>
+#include <QPushButton>
+
+#include <algorithm>
+#include <optional>
+#include <string_view>
+#include <utility>
+
+namespace tessera {
+
+namespace {
+
+constexpr QSize kIconSize{64, 64};
+constexpr double kLeastHeadingPoints = 13;
+constexpr double kHeadingFactor = 1.2;
+
+template <typename View>
+View* outlet(const QWidget& view, const char* name)
+{
+    return view.findChild<View*>(QString::fromLatin1(name));
+}
+
+/// As the user's language groups digits; the language of none groups them too.
+QString grouped(long number)
+{
+    QLocale locale;
+    locale.setNumberOptions(locale.numberOptions() & ~QLocale::OmitGroupSeparator);
+    return locale.toString(number);
+}
+
+/// Stands out from the other texts, however large those are.
+QFont headingFont(QFont font)
+{
+    font.setBold(true);
+    font.setPointSizeF(std::max(kLeastHeadingPoints, font.pointSizeF() * kHeadingFactor));
+    return font;
+}
+
+} // namespace
+
+ScanningViewController::ScanningViewController(RootModel& model, ScanningServices services)
+    : m_model(model)
+    , m_services(std::move(services))
+    , m_view(Util::loadViewFromNib<QWidget>("ScanningViewController"))
+    , m_scanLabel(outlet<PathLabel>(*m_view, "scanLabel"))
+    , m_indicator(outlet<QProgressBar>(*m_view, "indicator"))
+    , m_iconView(outlet<QLabel>(*m_view, "iconView"))
+    , m_folderName(outlet<PathLabel>(*m_view, "folderName"))
+    , m_totalRead(outlet<QLabel>(*m_view, "totalRead"))
+    , m_readRate(outlet<QLabel>(*m_view, "readRate"))
+    , m_cancelButton(outlet<QPushButton>(*m_view, "cancelButton"))
+{
+    m_folderName->setFont(headingFont(m_folderName->font()));
+    connect(m_cancelButton, &QPushButton::clicked, this, &ScanningViewController::stopScan);
+    stopAnimation();
+}
+
+ScanningViewController::~ScanningViewController()
+{
+    if (m_scanner != nullptr) {
+        m_scanner->setDelegate(nullptr);
+        m_scanner->cancel();
+    }
+    m_services.dockTile.removeContentView(m_dockImage);
+}
+
+void ScanningViewController::startScanning(const Url& url)
+{
+    m_rate.restart();
+    m_rootURL = url;
+    const PlaceLook look = m_services.look(url);
+    m_iconView->setPixmap(look.icon.pixmap(kIconSize, m_view->devicePixelRatioF()));
+    m_folderName->setText(look.name);
+    m_totalRead->setText(QStringLiteral("-"));
+    m_readRate->clear();
+    m_scanner = Scanner::create(m_services.scanEnvironment);
+    m_scanner->setDelegate(this);
+    m_scanner->scan(url);
+    startAnimation();
+    m_cancelButton->setEnabled(true);
+    m_services.dockTile.setContentView(m_dockImage);
+}
+
+void ScanningViewController::stopScan()
+{
+    if (!m_rootURL.empty()) {
+        m_scanner->cancel();
+    }
+}
+
+void ScanningViewController::scanUpdated(Scanner& scanner)
+{
+    showPath(scanner.currentURL());
+    const double percent = scanner.percentComplete();
+    m_totalRead->setText(QString::fromStdString(Util::formatSize(scanner.allocationRead())));
+    m_indicator->setRange(0, kProgressSteps);
+    m_indicator->setValue(progressSteps(percent));
+    m_dockImage.setPercent(percent);
+    m_services.dockTile.display();
+    if (const auto rate = m_rate.add(m_services.scanEnvironment.clock(), scanner.objectsRead())) {
+        m_readRate->setText(tr("%1 files/sec").arg(grouped(*rate)));
+    }
+}
+
+void ScanningViewController::scanEnded(Scanner& scanner)
+{
+    stopAnimation();
+    const Url scanned = std::exchange(m_rootURL, {});
+    if (const std::optional<Url> home = m_homePass.nextScan(scanner)) {
+        startScanning(*home);
+        return;
+    }
+    std::unique_ptr<TopFolder> tree = m_homePass.takeTree(scanner);
+    if (tree->children().empty()) {
+        if (const std::error_code problem = m_services.checkFolder(scanned.path())) {
+            m_services.alert.beginSheet(scanProblem(scanned, problem));
+            endWithoutTree();
+            return;
+        }
+    }
+    m_model.setTopFolder(std::move(tree));
+    m_model.recents().addToList(*m_model.topFolder());
+    m_services.dockTile.requestAttention();
+    m_services.dockTile.removeContentView(m_dockImage);
+    m_cancelButton->setEnabled(false);
+    NotificationCenter::defaultCenter().post("ScanComplete", static_cast<const void*>(this));
+}
+
+void ScanningViewController::scanCancelled(Scanner& /*scanner*/)
+{
+    stopAnimation();
+    m_rootURL = {};
+    endWithoutTree();
+}
+
+void ScanningViewController::scanFailed(Scanner& /*scanner*/, const std::error_code& problem)
+{
+    stopAnimation();
+    m_services.alert.beginSheet(scanProblem(std::exchange(m_rootURL, {}), problem));
+    endWithoutTree();
+}
+
+void ScanningViewController::endWithoutTree()
+{
+    m_services.dockTile.removeContentView(m_dockImage);
+    m_cancelButton->setEnabled(false);
+    NotificationCenter::defaultCenter().post("ScanCancelled", static_cast<const void*>(this));
+}
+
+/// From the scanned folder's own name on: where that folder lies is known to who chose it.
+void ScanningViewController::showPath(const Url& current)
+{
+    const std::string_view path = current.path();
+    const std::size_t dropped = m_rootURL.path().size() - m_rootURL.lastPathComponent().size();
+    if (path.size() > dropped) {
+        m_scanLabel->setText(displayText(path.substr(dropped)));
+    }
+}
+
+/// There is no fraction before the first report.
+void ScanningViewController::startAnimation()
+{
+    m_indicator->setRange(0, 0);
+}
+
+void ScanningViewController::stopAnimation()
+{
+    m_indicator->setRange(0, kProgressSteps);
+}
+
+} // namespace tessera

@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: MIT
+#include "Start/WindowedProgram.h"
+
+#include "Desktop/EndRequests.h"
+#include "Desktop/FileAccess.h"
+#include "Desktop/RunningInstance.h"
+#include "HomeScreen/Places/KnownPlaces.h"
+#include "MainWindow/MainWindowController.h"
+#include "MainWindow/MainWindowScreens.h"
+#include "QuickLook/QuickLookPanel.h"
+#include "QuickLook/Reading/PreviewThreads.h"
+#include "ScanScreen/ApplicationDockTile.h"
+#include "ScanScreen/ScanningViewController.h"
+#include "Start/AppDelegate.h"
+#include "Start/Launch.h"
+#include "TreeScreen/Tooltip/TooltipController.h"
+#include "Widgets/ApplicationPalette.h"
+#include "Widgets/DesktopIconProvider.h"
+#include "Widgets/FileDialogOpenPanel.h"
+#include "Widgets/Images.h"
+#include "Widgets/MessageBoxAlert.h"
+#include "Widgets/Util.h"
+
+#include <QGuiApplication>
+#include <QMainWindow>
+
+#include <set>
+#include <string>
+
+namespace tessera {
+
+namespace {
+
+void setUpPreview(QWidget& mainWindow, const LaunchServices& services, IconProvider& icons)
+{
+    QuickLookPanel& panel = QuickLookPanel::sharedInstance();
+    panel.setFileReader(services.fileReader, services.rasterDecoder, PreviewThreads::make());
+    panel.setIconProvider(&icons);
+    panel.setMainWindow(&mainWindow);
+    panel.setMotionPreference(&services.motion);
+}
+
+std::string helpAddress(const std::string& folder, HelpPage page)
+{
+    const std::string name = page == HelpPage::Features ? "/features.html" : "/faq.html";
+    return folder.empty() ? std::string() : Url(folder + name, false).absoluteString();
+}
+
+} // namespace
+
+/// What the tree screen and the preview share with the rest and that must outlive the window.
+struct WindowedProgram::Desktop {
+    explicit Desktop(const LaunchServices& services)
+        : dockTile(services.launcherProgress)
+        , places(
+              services.homeScreen.volumes,
+              locationCandidates(
+                  Util::realHomeDirectory(services.userAccount),
+                  services.homeScreen.standardFolders))
+    {
+        TooltipController& tooltip = TooltipController::sharedInstance();
+        tooltip.setResourceValues(&services.promptResourceValues);
+        tooltip.setIconProvider(&icons);
+    }
+    Desktop(const Desktop&) = delete;
+    Desktop& operator=(const Desktop&) = delete;
+    ~Desktop()
+    {
+        TooltipController::sharedInstance().setIconProvider(nullptr);
+        QuickLookPanel::sharedInstance().setIconProvider(nullptr);
+    }
+
+    DesktopIconProvider icons;
+    std::set<std::string> targetsInUse;
+    ApplicationDockTile dockTile;
+    MessageBoxAlert alert;
+    FileDialogOpenPanel openPanel;
+    KnownPlaces places;
+};
+
+WindowedProgram::WindowedProgram(const LaunchServices& services)
+    : m_runningInstance(services.runningInstance)
+{
+    giveUpAtTheEnd();
+    QGuiApplication::setDesktopFileName(QStringLiteral("tessera"));
+    QGuiApplication::setWindowIcon(imageNamed("bullseye"));
+    m_palette = std::make_unique<ApplicationPalette>(services.colorScheme);
+    RootModel::setServices(services.rootModelServices);
+    m_desktop = std::make_unique<Desktop>(services);
+    m_delegate = std::make_unique<AppDelegate>(AppDelegateServices{
+        mainWindowServices(services, RootModel::sharedInstance()),
+        services.userAccount,
+        [helpFolder = services.helpFolder](HelpPage page) { return helpAddress(helpFolder, page); },
+        services.adoptActivationToken});
+    m_delegate->applicationDidFinishLaunching();
+    QMainWindow& window = m_delegate->mainWindow()->window();
+    m_desktop->alert.setMainWindow(&window);
+    setUpPreview(window, services, m_desktop->icons);
+    m_runningInstance.setHandler([this](const Url& later, const std::string& activationToken) {
+        m_delegate->openFromElsewhere(later, activationToken);
+    });
+    // Whoever sends these waits for no answer to a question, as quit() would ask.
+    services.endRequests.setHandler([] { QCoreApplication::exit(); });
+}
+
+WindowedProgram::~WindowedProgram()
+{
+    m_runningInstance.giveUp();
+}
+
+/// Before everybody else that has something to do at the end of the event loop, for they are told
+/// in the order in which they asked: that may take seconds, and another start need not wait for it.
+void WindowedProgram::giveUpAtTheEnd()
+{
+    QObject::connect(
+        qApp, &QCoreApplication::aboutToQuit, &m_end, [this] { m_runningInstance.giveUp(); });
+}
+
+MainWindowServices WindowedProgram::mainWindowServices(
+    const LaunchServices& services, RootModel& model) const
+{
+    const TreeViewServices treeScreen{
+        services.scanEnvironment,
+        services.promptResourceValues,
+        services.promptFileSystemAttributes,
+        services.rootModelServices.defaults,
+        services.workspace,
+        m_desktop->alert,
+        {services.archiver,
+         services.makeTask,
+         services.workspace,
+         services.promptResourceValues,
+         m_desktop->icons,
+         m_desktop->targetsInUse,
+         m_desktop->alert},
+        services.motion,
+        [&files = services.promptFiles](const std::string& path) {
+            return files.checkFolderWithoutLinks(path);
+        }};
+    const ScanningServices scanScreen{
+        services.scanEnvironment,
+        m_desktop->dockTile,
+        m_desktop->alert,
+        [desktop = m_desktop.get()](const Url& folder) { return desktop->places.look(folder); },
+        [&files = services.promptFiles](const std::string& path) {
+            return files.checkFolder(path);
+        }};
+    return {
+        model,
+        treeScreen,
+        services.rootModelServices.defaults,
+        m_desktop->openPanel,
+        services.homeScreen.volumes,
+        [&model, homeScreen = services.homeScreen](const std::function<void()>& openFolder) {
+            return makeHomeScreen(model, homeScreen, openFolder);
+        },
+        [&model, scanScreen] { return makeScanScreen(model, scanScreen); }};
+}
+
+} // namespace tessera

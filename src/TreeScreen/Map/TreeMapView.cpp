@@ -1,0 +1,414 @@
+// SPDX-License-Identifier: MIT
+#include "TreeScreen/Map/TreeMapView.h"
+
+#include "Layout/MultiLayoutObject.h"
+#include "Model/File.h"
+#include "Model/UserDefaults.h"
+#include "TreeScreen/Picture/TreeBranch.h"
+#include "TreeScreen/Picture/TreePainter.h"
+#include "TreeScreen/Tooltip/TooltipController.h"
+#include "TreeScreen/Tooltip/TooltipPlacement.h"
+#include "TreeScreen/TreeCommand.h"
+#include "TreeScreen/Zoom/ZoomAnimation.h"
+
+#include <QContextMenuEvent>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QWindow>
+
+#include <algorithm>
+#include <iterator>
+
+namespace tessera {
+
+namespace {
+
+/// Values of the setting "TooltipType"; above the short tooltip comes the full one.
+constexpr int kNoTooltip = 0;
+constexpr int kShortTooltip = 1;
+constexpr double kShortTooltipHeight = 42;
+
+Point toPoint(QPointF point)
+{
+    return {point.x(), point.y()};
+}
+
+/// Visits `top` and all branches nested in it, depth first and in order, until `visit` is true.
+template <typename Branch, typename Visit>
+bool visitBranches(Branch& top, Visit visit)
+{
+    std::vector<Branch*> open{&top};
+    while (!open.empty()) {
+        Branch* const branch = open.back();
+        open.pop_back();
+        if (visit(*branch)) {
+            return true;
+        }
+        const auto& nested = branch->subBranches();
+        std::for_each(nested.rbegin(), nested.rend(), [&open](const auto& child) {
+            open.push_back(child.get());
+        });
+    }
+    return false;
+}
+
+void paintOver(QImage& picture, const TreeBranch& top)
+{
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    visitBranches(top, [&painter](const TreeBranch& branch) {
+        const Point origin = branch.originInTreeView();
+        painter.save();
+        painter.translate(origin.x, origin.y);
+        branch.draw(painter);
+        painter.restore();
+        return false;
+    });
+}
+
+} // namespace
+
+/// While one lives, removed branches stay alive: a branch that reports a click is often replaced
+/// by whoever hears of it, before its own function has returned.
+class TreeMapView::Dispatch {
+public:
+    explicit Dispatch(TreeMapView& view)
+        : m_view(view)
+    {
+        ++m_view.m_dispatchDepth;
+    }
+    Dispatch(const Dispatch&) = delete;
+    Dispatch& operator=(const Dispatch&) = delete;
+    ~Dispatch()
+    {
+        --m_view.m_dispatchDepth;
+        if (m_view.m_dispatchDepth == 0) {
+            m_view.m_retiredBranches.clear();
+        }
+    }
+
+private:
+    TreeMapView& m_view;
+};
+
+TreeMapView::TreeMapView(const UserDefaults& defaults, QWidget* parent)
+    : QWidget(parent)
+    , m_defaults(defaults)
+    , m_painter(std::make_unique<TreePainter>())
+{
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus);
+    // Made now rather than when the pointer first moves, for it takes a while to load.
+    TooltipController::sharedInstance();
+}
+
+TreeMapView::~TreeMapView()
+{
+    hideTooltip();
+}
+
+void TreeMapView::addBranch(std::unique_ptr<TreeBranch> branch)
+{
+    m_branches.push_back(std::move(branch));
+    m_picture = QImage();
+    update();
+}
+
+void TreeMapView::addBranchBelow(std::unique_ptr<TreeBranch> branch)
+{
+    m_branches.insert(m_branches.begin(), std::move(branch));
+    m_picture = QImage();
+    update();
+}
+
+void TreeMapView::removeAllBranches()
+{
+    m_zoom.reset();
+    hideTooltip();
+    if (m_dispatchDepth > 0) {
+        std::ranges::move(m_branches, std::back_inserter(m_retiredBranches));
+    }
+    m_branches.clear();
+    m_cursor = nullptr;
+    m_pressedBranch = nullptr;
+    // The items went with the branches; one made later may get the same address.
+    m_currentToolTip = nullptr;
+    m_picture = QImage();
+    update();
+}
+
+void TreeMapView::startZoom(std::unique_ptr<ZoomAnimation> zoom)
+{
+    hideTooltip();
+    m_zoom = std::move(zoom);
+    connect(m_zoom.get(), &ZoomAnimation::frameDue, this, qOverload<>(&TreeMapView::update));
+    connect(m_zoom.get(), &ZoomAnimation::finished, this, &TreeMapView::zoomEnded);
+    update();
+}
+
+std::optional<Rect> TreeMapView::findRectForFile(const File& file) const
+{
+    for (const auto& branch : m_branches) {
+        if (const std::optional<Rect> found = findRectForFile(file, *branch)) {
+            return found;
+        }
+    }
+    return std::nullopt;
+}
+
+// NOLINTNEXTLINE(readability-convert-member-functions-to-static): an answer of this map
+std::optional<Rect> TreeMapView::findRectForFile(const File& file, const TreeBranch& inBranch) const
+{
+    std::optional<Rect> result;
+    visitBranches(inBranch, [&](const TreeBranch& branch) {
+        const auto& items = branch.layoutItems();
+        const auto found
+            = std::ranges::find(items, &file, [](const auto& item) { return item->ref; });
+        if (found != items.end()) {
+            result = branch.convertToTreeView((*found)->rect);
+        }
+        return result.has_value();
+    });
+    return result;
+}
+
+bool TreeMapView::shows(const File& file) const
+{
+    const auto standsForIt = [&file](const auto& item) {
+        if (item->ref != nullptr) {
+            return item->ref == &file;
+        }
+        const auto* const group = dynamic_cast<const MultiLayoutObject*>(item.get());
+        return group != nullptr && std::ranges::find(group->refs, &file) != group->refs.end();
+    };
+    return std::ranges::any_of(m_branches, [&standsForIt](const auto& top) {
+        return visitBranches(*top, [&standsForIt](const TreeBranch& branch) {
+            return std::ranges::any_of(branch.layoutItems(), standsForIt);
+        });
+    });
+}
+
+// NOLINTNEXTLINE(readability-convert-member-functions-to-static): asked of a certain map
+void TreeMapView::hideTooltip()
+{
+    TooltipController::sharedInstance().window().hide();
+}
+
+QImage TreeMapView::paint(const TreeBranch& branch)
+{
+    return m_painter->paint(branch, size(), devicePixelRatioF());
+}
+
+const QImage& TreeMapView::picture()
+{
+    const double scale = devicePixelRatioF();
+    const bool isFresh = !m_picture.isNull() && m_picture.devicePixelRatio() == scale;
+    if (!isFresh && !m_branches.empty()) {
+        m_picture = paint(*m_branches.front());
+        std::for_each(std::next(m_branches.begin()), m_branches.end(), [this](const auto& branch) {
+            paintOver(m_picture, *branch);
+        });
+    }
+    return m_picture;
+}
+
+bool TreeMapView::event(QEvent* event)
+{
+    // Other windows are in front now, and the tooltip would stay above them.
+    if (event->type() == QEvent::WindowDeactivate) {
+        hideTooltip();
+    }
+    return QWidget::event(event);
+}
+
+void TreeMapView::paintEvent(QPaintEvent* event)
+{
+    QPainter painter(this);
+    if (m_zoom != nullptr) {
+        m_zoom->paint(painter);
+    } else if (m_branches.empty()) {
+        painter.fillRect(event->rect(), Qt::black);
+    } else {
+        painter.drawImage(QPointF(0, 0), picture());
+    }
+}
+
+void TreeMapView::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    m_picture = QImage();
+    emit frameChanged();
+}
+
+void TreeMapView::hideEvent(QHideEvent* event)
+{
+    QWidget::hideEvent(event);
+    hideTooltip();
+}
+
+void TreeMapView::leaveEvent(QEvent* event)
+{
+    QWidget::leaveEvent(event);
+    hideTooltip();
+}
+
+TreeBranch* TreeMapView::branchAt(Point point) const
+{
+    TreeBranch* topmost = nullptr;
+    for (const auto& top : m_branches) {
+        TreeBranch* const hit = top->branchAt(point);
+        topmost = hit != nullptr ? hit : topmost;
+    }
+    return topmost;
+}
+
+void TreeMapView::updateCursor(Point point)
+{
+    TreeBranch* const branch = branchAt(point);
+    if (branch != nullptr && branch != m_cursor) {
+        branch->cursorUpdate();
+    }
+}
+
+void TreeMapView::mouseMoveEvent(QMouseEvent* event)
+{
+    // With a button down it is a drag, and in a window at the back the user is not looking here.
+    // During a zoom the boxes are not where the branches have them.
+    if (event->buttons() != Qt::NoButton || !isActiveWindow() || isZooming()) {
+        return;
+    }
+    updateCursor(toPoint(event->position()));
+    hover(toPoint(event->position()), event->globalPosition());
+}
+
+void TreeMapView::hover(Point point, QPointF onScreen)
+{
+    const int tooltipType = m_defaults.integer(kTooltipTypeKey);
+    if (tooltipType <= kNoTooltip || m_cursor == nullptr) {
+        return;
+    }
+    const Point inBranch = m_cursor->convertFromTreeView(point);
+    for (const auto& item : m_cursor->layoutItems()) {
+        if (item->rect.contains(inBranch) && item.get() != m_currentToolTip) {
+            TooltipController::sharedInstance().setLayoutObject(*item);
+            m_currentToolTip = item.get();
+        }
+    }
+    if (m_currentToolTip != nullptr) {
+        placeTooltip(onScreen, tooltipType);
+    }
+}
+
+void TreeMapView::placeTooltip(QPointF pointerOnScreen, int tooltipType)
+{
+    const TooltipController& controller = TooltipController::sharedInstance();
+    const Rect& desired = controller.desiredRect();
+    const QSizeF size(
+        desired.width, tooltipType == kShortTooltip ? kShortTooltipHeight : desired.height);
+    const QScreen* const ownScreen = window()->screen();
+    const QRectF screenFrame = ownScreen != nullptr ? ownScreen->geometry() : QRect();
+    QWidget& tooltip = controller.window();
+    // Placed before it is shown, lest it flash where it was hidden.
+    tooltip.setGeometry(tooltipFrame(pointerOnScreen, size, screenFrame).toRect());
+    if (!tooltip.isVisible()) {
+        tooltip.winId();
+        // Window systems that know no desktop coordinates place it relative to this window.
+        tooltip.windowHandle()->setTransientParent(window()->windowHandle());
+        tooltip.show();
+    }
+}
+
+void TreeMapView::mousePressEvent(QMouseEvent* event)
+{
+    pressed(*event, 1);
+}
+
+void TreeMapView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    pressed(*event, 2);
+}
+
+void TreeMapView::pressed(const QMouseEvent& event, int clickCount)
+{
+    if (isZooming()) {
+        emit zoomEnded();
+    }
+    if (event.button() == Qt::LeftButton) {
+        m_pressedBranch = branchAt(toPoint(event.position()));
+        m_clickCount = clickCount;
+    }
+}
+
+void TreeMapView::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton || m_pressedBranch == nullptr) {
+        return;
+    }
+    // A view gets the release of every press on it, and acts on the box where the release was.
+    TreeBranch& branch = *m_pressedBranch;
+    m_pressedBranch = nullptr;
+    const Dispatch dispatch(*this);
+    branch.mouseUp(toPoint(event->position()), m_clickCount);
+}
+
+std::optional<TreeMapView::Box> TreeMapView::selectedBox() const
+{
+    std::optional<Box> result;
+    for (const auto& top : m_branches) {
+        const bool found = visitBranches(*top, [&result](TreeBranch& branch) {
+            const auto& items = branch.layoutItems();
+            const auto selected = std::ranges::find_if(items, [](const auto& item) {
+                return item->ref != nullptr && item->ref->selected();
+            });
+            if (selected != items.end()) {
+                result = Box{&branch, branch.convertToTreeView((*selected)->rect)};
+            }
+            return result.has_value();
+        });
+        if (found) {
+            break;
+        }
+    }
+    return result;
+}
+
+void TreeMapView::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (event->reason() != QContextMenuEvent::Keyboard) {
+        const Point point = toPoint(event->pos());
+        if (TreeBranch* const branch = branchAt(point)) {
+            showMenu(*branch, point, event->globalPos());
+        }
+        return;
+    }
+    if (!showMenuOfSelected()) {
+        emit menuKeyInVain();
+    }
+}
+
+bool TreeMapView::showMenuOfSelected()
+{
+    const std::optional<Box> box = selectedBox();
+    if (!box) {
+        return false;
+    }
+    const QRectF rect(
+        box->inTreeView.x, box->inTreeView.y, box->inTreeView.width, box->inTreeView.height);
+    const QPointF centre = rect.center();
+    return showMenu(*box->branch, toPoint(centre), mapToGlobal(centre).toPoint());
+}
+
+bool TreeMapView::showMenu(TreeBranch& branch, Point point, QPoint onScreen)
+{
+    const Dispatch dispatch(*this);
+    m_menu = branch.menuForEvent(point, m_commandTarget);
+    if (m_menu != nullptr) {
+        m_menu->popup(onScreen);
+    }
+    return m_menu != nullptr;
+}
+
+} // namespace tessera

@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: MIT
+#include "TreeScreen/PathBar/CenteredPathComponentCell.h"
+
+#include "Base/DisplayText.h"
+#include "Model/Folder.h"
+#include "Widgets/ColorHelper.h"
+#include "Widgets/IconProvider.h"
+#include "Widgets/Util.h"
+
+#include <QFontDatabase>
+#include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPalette>
+
+#include <algorithm>
+#include <cmath>
+
+namespace tessera {
+
+namespace {
+
+constexpr int kFontPixels = 11;
+constexpr int kImagePoints = 16;
+constexpr double kImageTop = 1.0;
+
+constexpr double kChevronLeft = 15.0; // from the frame's right side, as the next two
+constexpr double kChevronTip = 7.0;
+constexpr double kChevronHollow = 8.0;
+constexpr double kChevronTop = 1.0;
+
+constexpr double kTextLeft = 19.0;
+constexpr double kTextTop = 4.0;
+constexpr double kTextMargins = 32.0;
+constexpr double kMinTextWidth = 4.0;
+constexpr double kTitleShadowDrop = 1.0;
+
+constexpr double kLeastHeight = 18.0;
+
+constexpr std::uint32_t kTextHex = 0x000000;
+constexpr std::uint32_t kShadowOnLightHexA = 0xFFFFFF7F;
+constexpr std::uint32_t kShadowOnDarkHexA = 0x0000007F;
+constexpr std::uint32_t kDarkGrayHex = 0x555555;
+constexpr std::uint32_t kLightGrayHex = 0xAAAAAA;
+
+void drawChevron(const Rect& cellFrame, QPainter& painter, const QColor& color)
+{
+    const double right = cellFrame.right();
+    const double top = cellFrame.y + kChevronTop;
+    const double middle = top + cellFrame.height / 2;
+    QPainterPath chevron(QPointF(right - kChevronLeft, top));
+    chevron.lineTo(right - kChevronTip, middle);
+    chevron.lineTo(right - kChevronLeft, top + cellFrame.height);
+    chevron.lineTo(right - kChevronHollow, middle);
+    chevron.closeSubpath();
+    painter.fillPath(chevron, color);
+}
+
+} // namespace
+
+CenteredPathComponentCell::CenteredPathComponentCell(IconProvider& icons)
+    : m_icons(&icons)
+    , m_font(QFontDatabase::systemFont(QFontDatabase::GeneralFont))
+{
+    m_font.setPixelSize(kFontPixels);
+}
+
+void CenteredPathComponentCell::setFile(const Url& file)
+{
+    m_url = file;
+    m_image = m_icons->iconForUrl(file, kImagePoints, qGuiApp->devicePixelRatio());
+    m_title = displayText(file.lastPathComponent());
+}
+
+void CenteredPathComponentCell::setFolder(const Folder& folder)
+{
+    m_url = folder.url();
+    m_image = m_icons->icon(folder, kImagePoints, qGuiApp->devicePixelRatio());
+    m_title = displayText(m_url.lastPathComponent());
+    if (m_tag == kCurrentFolderTag) {
+        const std::string size = Util::formatSize(folder.totalAllocation());
+        m_title = QStringLiteral("%1 (%2)").arg(m_title, QString::fromStdString(size));
+    }
+}
+
+TextAttributes CenteredPathComponentCell::foreground(const QPalette& palette) const
+{
+    return textAttributes(
+        isDark(palette) ? palette.color(QPalette::WindowText) : colorWithHex(kTextHex));
+}
+
+TextAttributes CenteredPathComponentCell::background(const QPalette& palette) const
+{
+    return textAttributes(colorWithHexA(isDark(palette) ? kShadowOnDarkHexA : kShadowOnLightHexA));
+}
+
+TextAttributes CenteredPathComponentCell::textAttributes(const QColor& color) const
+{
+    return {m_font, Util::truncatedParagraphStyle(), Qt::AlignLeft, color};
+}
+
+QSizeF CenteredPathComponentCell::cellSize() const
+{
+    const QFontMetricsF metrics(m_font);
+    const double textHeight = kTextTop + std::ceil(metrics.height());
+    return {
+        kTextMargins + std::ceil(metrics.horizontalAdvance(m_title)),
+        std::max(kLeastHeight, textHeight)};
+}
+
+void CenteredPathComponentCell::drawInteriorWithFrame(
+    const Rect& cellFrame, QPainter& inView, const QPalette& palette) const
+{
+    inView.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    inView.drawPixmap(
+        QRectF(cellFrame.x, cellFrame.y + kImageTop, kImagePoints, kImagePoints),
+        m_image,
+        QRectF(m_image.rect()));
+    if (m_tag != kCurrentFolderTag) {
+        drawChevron(
+            cellFrame, inView, colorWithHex(isDark(palette) ? kLightGrayHex : kDarkGrayHex));
+    }
+    const Rect text{
+        cellFrame.x + kTextLeft,
+        cellFrame.y + kTextTop,
+        cellFrame.width - kTextMargins,
+        cellFrame.height};
+    if (text.width > kMinTextWidth) {
+        drawTitle(text, inView, background(palette));
+        drawTitle(text.translated(0, -kTitleShadowDrop), inView, foreground(palette));
+    }
+}
+
+void CenteredPathComponentCell::drawTitle(
+    const Rect& text, QPainter& painter, const TextAttributes& attributes) const
+{
+    const QFontMetricsF metrics(attributes.font);
+    painter.setFont(attributes.font);
+    painter.setPen(attributes.foreground);
+    painter.drawText(
+        QPointF(text.x, text.y + metrics.ascent()),
+        metrics.elidedText(m_title, attributes.elideMode, text.width));
+}
+
+std::vector<CenteredPathComponentCell> pathComponentCells(
+    const Folder& currentFolder, IconProvider& icons)
+{
+    std::vector<CenteredPathComponentCell> cells;
+    for (const Folder* folder = &currentFolder; folder != nullptr; folder = folder->parent()) {
+        CenteredPathComponentCell& cell = cells.emplace_back(icons);
+        cell.setTag(folder == &currentFolder ? CenteredPathComponentCell::kCurrentFolderTag : 0);
+        cell.setFolder(*folder);
+    }
+    std::reverse(cells.begin(), cells.end());
+    return cells;
+}
+
+} // namespace tessera

@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: MIT
+#include "TreeScreen/Tooltip/TooltipController.h"
+
+#include "Base/DisplayText.h"
+#include "Layout/MultiLayoutObject.h"
+#include "Model/Document.h"
+#include "Model/Folder.h"
+#include "Model/Unknown.h"
+#include "Scanning/ResourceValues.h"
+#include "TreeScreen/Tooltip/TooltipField.h"
+#include "TreeScreen/Tooltip/TooltipWindow.h"
+#include "Widgets/IconProvider.h"
+#include "Widgets/MediumDate.h"
+#include "Widgets/Util.h"
+
+#include <QLabel>
+#include <QStackedWidget>
+
+#include <algorithm>
+#include <cassert>
+#include <cstdint>
+#include <optional>
+
+namespace tessera {
+
+namespace {
+
+constexpr double kWidth = 210;
+constexpr double kHeightWithoutText = 67;
+constexpr double kFullTextHeight = 56;
+constexpr double kFullHeight = 123;
+constexpr double kNameAndSizeHeight = 44;
+constexpr std::size_t kMaxGroupNames = 5;
+constexpr int kIconPoints = 32;
+
+/// Left edge of the fields, beside an icon and where there can be none.
+constexpr int kFieldsBesideIcon = 55;
+constexpr int kFieldsAlone = 12;
+
+double heightFor(const TooltipField& text)
+{
+    const double needed = text.neededHeight();
+    return needed < kFullTextHeight ? needed + kHeightWithoutText : kFullHeight;
+}
+
+QString sizeText(std::uint64_t bytes)
+{
+    return displayText(Util::formatSize(bytes));
+}
+
+template <typename T>
+T* outlet(const QWidget& window, const QString& name)
+{
+    T* found = window.findChild<T*>(name);
+    assert(found != nullptr);
+    return found;
+}
+
+} // namespace
+
+TooltipController& TooltipController::sharedInstance()
+{
+    // Outlives the application object, whose end a static's destructor would come after.
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): never released
+    static auto* const instance = new TooltipController;
+    return *instance;
+}
+
+TooltipController::TooltipController()
+    : m_window(Util::loadViewFromNib<TooltipWindow>("TreeTooltip"))
+{
+    assert(m_window != nullptr);
+    m_content = outlet<QStackedWidget>(*m_window, QStringLiteral("content"));
+    m_file = nodePanel(QStringLiteral("file"));
+    m_folder = nodePanel(QStringLiteral("folder"));
+    m_multiView = outlet<QWidget>(*m_window, QStringLiteral("multiView"));
+    m_multiSize = outlet<TooltipField>(*m_window, QStringLiteral("multiSize"));
+    m_multiPath = outlet<TooltipField>(*m_window, QStringLiteral("multiPath"));
+    m_unknownView = outlet<QWidget>(*m_window, QStringLiteral("unknownView"));
+    m_unknownSize = outlet<TooltipField>(*m_window, QStringLiteral("unknownSize"));
+}
+
+TooltipController::~TooltipController() = default;
+
+TooltipController::NodePanel TooltipController::nodePanel(const QString& prefix) const
+{
+    NodePanel panel;
+    panel.view = outlet<QWidget>(*m_window, prefix + QStringLiteral("View"));
+    panel.fields = outlet<QWidget>(*m_window, prefix + QStringLiteral("Fields"));
+    panel.icon = outlet<QLabel>(*m_window, prefix + QStringLiteral("Icon"));
+    panel.name = outlet<TooltipField>(*m_window, prefix + QStringLiteral("Name"));
+    panel.size = outlet<TooltipField>(*m_window, prefix + QStringLiteral("Size"));
+    panel.modified = outlet<TooltipField>(*m_window, prefix + QStringLiteral("Modified"));
+    panel.path = outlet<TooltipField>(*m_window, prefix + QStringLiteral("Path"));
+    return panel;
+}
+
+void TooltipController::setLayoutObject(const LayoutObject& item)
+{
+    if (const auto* group = dynamic_cast<const MultiLayoutObject*>(&item)) {
+        showGroup(*group);
+    } else if (item.ref == nullptr) {
+        return;
+    } else if (item.ref->isFolder()) {
+        showFileOnDisk(m_folder, *item.ref);
+    } else if (nodeCast<Unknown>(item.ref) != nullptr) {
+        showUnknown(*item.ref);
+    } else if (nodeCast<Document>(item.ref) != nullptr) {
+        m_file.fields->move(kFieldsBesideIcon, 0);
+        showFileOnDisk(m_file, *item.ref);
+    } else {
+        showOtherSpace(*item.ref);
+    }
+}
+
+void TooltipController::setUnknown()
+{
+    setContentRef(m_unknownView);
+}
+
+void TooltipController::setContentRef(QWidget* panel)
+{
+    if (panel != m_contentRef) {
+        m_contentRef = panel;
+        m_content->setCurrentWidget(panel);
+    }
+}
+
+void TooltipController::showGroup(const MultiLayoutObject& group)
+{
+    QString names;
+    for (std::size_t i = 0; i < std::min(kMaxGroupNames, group.refs.size()); ++i) {
+        names += displayText(group.refs[i]->name()) + QLatin1Char('\r');
+    }
+    m_multiPath->setText(names);
+    m_multiSize->setText(sizeText(static_cast<std::uint64_t>(group.totalAllocation)));
+    setContentRef(m_multiView);
+    setDesiredHeight(heightFor(*m_multiPath));
+}
+
+void TooltipController::showFileOnDisk(const NodePanel& panel, const File& node)
+{
+    const std::string path = node.absolutePath();
+    std::optional<std::int64_t> modified;
+    if (m_resourceValues != nullptr) {
+        modified = m_resourceValues->contentModificationDate(path);
+    }
+    // The icon follows from the name, but a file that is gone has none.
+    QPixmap icon;
+    if (modified && m_icons != nullptr) {
+        icon = m_icons->icon(node, kIconPoints, m_window->devicePixelRatioF());
+    }
+    panel.icon->setPixmap(icon);
+    panel.name->setText(displayText(node.name()));
+    panel.size->setText(sizeText(node.totalAllocation()));
+    panel.modified->setText(modified ? mediumDate(*modified, QLocale()) : QString());
+    panel.path->setText(displayText(path));
+    setContentRef(panel.view);
+    setDesiredHeight(heightFor(*panel.path));
+}
+
+void TooltipController::showUnknown(const File& node)
+{
+    m_unknownSize->setText(sizeText(node.totalAllocation()));
+    setContentRef(m_unknownView);
+    setDesiredHeight(kFullHeight);
+}
+
+void TooltipController::showOtherSpace(const File& node)
+{
+    m_file.icon->clear();
+    m_file.fields->move(kFieldsAlone, 0);
+    m_file.name->setText(displayText(node.name()));
+    m_file.size->setText(sizeText(node.totalAllocation()));
+    m_file.modified->setText(QString());
+    m_file.path->setText(QString());
+    setContentRef(m_file.view);
+    setDesiredHeight(kNameAndSizeHeight);
+}
+
+void TooltipController::setDesiredHeight(double height)
+{
+    m_desiredRect = {0, 0, kWidth, height};
+}
+
+} // namespace tessera

@@ -1,0 +1,420 @@
+// SPDX-License-Identifier: MIT
+#include "TreeScreen/TreeViewController.h"
+
+#include "Base/DisplayText.h"
+#include "Base/NotificationCenter.h"
+#include "Desktop/Alert.h"
+#include "Layout/LevelRenderer.h"
+#include "Model/Document.h"
+#include "Model/FileSystemAttributes.h"
+#include "Model/NodeLookup.h"
+#include "Model/RootModel.h"
+#include "Model/Volume.h"
+#include "Scanning/ResourceValues.h"
+#include "TreeScreen/Map/TreeMapView.h"
+#include "TreeScreen/Picture/TreeBranch.h"
+#include "TreeScreen/TreeViewServices.h"
+#include "Widgets/Util.h"
+
+#include <QPointer>
+
+#include <optional>
+#include <utility>
+#include <variant>
+
+namespace tessera {
+
+TreeViewController::TreeViewController(
+    RootModel& model, TreeMapView& treeView, const TreeViewServices& services)
+    : m_model(model)
+    , m_treeView(treeView)
+    , m_services(services)
+    , m_zoom(*this, treeView, services)
+    , m_rescan(services.scanEnvironment, services.checkFolder, treeView, services.alert, *this)
+    , m_trasher(model, services.defaults, services.workspace, services.alert, *this)
+    , m_preview(*this, treeView)
+    , m_note(&treeView)
+{
+    setCurrentFolder(m_model.topFolder());
+    observe();
+    objectTreeRefreshed();
+    renderTree();
+}
+
+TreeViewController::~TreeViewController()
+{
+    m_treeView.setCommandTarget(nullptr);
+}
+
+void TreeViewController::observe()
+{
+    connect(&m_treeView, &TreeMapView::frameChanged, this, &TreeViewController::renderTree);
+    connect(&m_treeView, &TreeMapView::zoomEnded, this, &TreeViewController::animationDidStop);
+    connect(&m_treeView, &TreeMapView::menuKeyInVain, this, [this] {
+        m_note.say(command_hint::nothingSelected());
+    });
+    m_treeView.installEventFilter(this);
+    m_treeView.setCommandTarget(this);
+    NotificationCenter& center = NotificationCenter::defaultCenter();
+    m_clickObservation
+        = center.addObserver("ClickTreeItem", [this](const NotificationObject& object) {
+              File* const* clicked = std::get_if<File*>(&object);
+              select(clicked == nullptr ? nullptr : *clicked);
+          });
+    m_doubleClickObservation = center.addObserver(
+        "DoubleClickTreeItem", [this](const NotificationObject&) { doubleClickTreeItem(); });
+    const auto observed = [&](const char* name, void (TreeViewController::*hear)(const Url&)) {
+        return center.addObserver(name, [this, hear](const NotificationObject& object) {
+            if (const Url* url = std::get_if<Url>(&object)) {
+                (this->*hear)(*url);
+            }
+        });
+    };
+    m_compressObservation = observed("ItemCompressed", &TreeViewController::itemCompressed);
+    m_goneObservation = observed("ItemGone", &TreeViewController::itemGone);
+}
+
+void TreeViewController::doubleClickTreeItem()
+{
+    if (nodeCast<Folder>(m_selectedFile) != nullptr) {
+        zoomIn();
+    } else if (nodeCast<Document>(m_selectedFile) != nullptr) {
+        quickLook();
+    }
+}
+
+void TreeViewController::setCurrentFolder(Folder* folder)
+{
+    m_currentFolder = folder;
+    m_isMountPoint.reset();
+    NotificationCenter::defaultCenter().post(
+        "CurrentFolderChanged", static_cast<const void*>(this));
+}
+
+void TreeViewController::setSelectedFile(File* file)
+{
+    if (m_selectedFile != nullptr) {
+        m_selectedFile->setSelected(false);
+    }
+    m_selectedFile = file;
+    m_isMountPoint.reset();
+    if (m_selectedFile != nullptr) {
+        m_selectedFile->setSelected(true);
+    }
+    SelectionPreview::selectionChanged();
+    emit selectionChanged();
+}
+
+void TreeViewController::select(File* file)
+{
+    setSelectedFile(file);
+    renderTree();
+}
+
+void TreeViewController::zoomIn()
+{
+    if (auto* const folder = nodeCast<Folder>(m_selectedFile)) {
+        zoomInFolder(*folder);
+    }
+}
+
+void TreeViewController::zoomOut()
+{
+    if (m_currentFolder != nullptr && m_currentFolder->parent() != nullptr) {
+        zoomOutFolder(*m_currentFolder->parent());
+    }
+}
+
+void TreeViewController::zoomInFolder(Folder& folder)
+{
+    m_zoom.zoomInFolder(folder);
+    m_rescan.pictureChanged();
+}
+
+void TreeViewController::zoomOutFolder(Folder& ancestor)
+{
+    m_zoom.zoomOutFolder(ancestor);
+    m_rescan.pictureChanged();
+}
+
+void TreeViewController::clickFolderPath(const Url& clicked)
+{
+    Folder* folder = m_currentFolder;
+    while (folder != nullptr && folder->url().path() != clicked.path()) {
+        folder = folder->parent();
+    }
+    if (folder != nullptr && folder != m_currentFolder) {
+        zoomOutFolder(*folder);
+        return;
+    }
+    setSelectedFile(nullptr);
+    renderTree();
+}
+
+void TreeViewController::trashItem()
+{
+    if (m_selectedFile != nullptr) {
+        m_trasher.trash(*m_selectedFile);
+    }
+}
+
+Folder* TreeViewController::folderToRescan() const
+{
+    return m_selectedFile == nullptr ? m_currentFolder : nodeCast<Folder>(m_selectedFile);
+}
+
+RescanObstacle TreeViewController::rescanObstacle() const
+{
+    if (m_rescan.rescanFolder() != nullptr) {
+        return RescanObstacle::AnotherRescan;
+    }
+    const Folder* const folder = folderToRescan();
+    return folder != nullptr && isMountPoint(*folder) ? RescanObstacle::MountPoint
+                                                      : RescanObstacle::None;
+}
+
+/// Asked once for each choice of the user's, and not whenever the picture is rebuilt, as all along
+/// while the window is resized.
+bool TreeViewController::isMountPoint(const Folder& toRescan) const
+{
+    // A scan leaves mount points empty. That with the user's home has what a second scan found.
+    if (toRescan.parent() == nullptr || !toRescan.children().empty()) {
+        return false;
+    }
+    if (!m_isMountPoint) {
+        m_isMountPoint = m_services.resourceValues.isMountPoint(toRescan.absolutePath());
+    }
+    return *m_isMountPoint;
+}
+
+void TreeViewController::refreshFolder()
+{
+    if (validate(TreeCommand::Rescan)) {
+        rescanSelectedFolder(*folderToRescan());
+        setSelectedFile(nullptr);
+    }
+}
+
+// NOLINTNEXTLINE(readability-convert-member-functions-to-static): a command like the others
+void TreeViewController::quickLook()
+{
+    SelectionPreview::open();
+}
+
+Folder* TreeViewController::locateParent(const Url& url) const
+{
+    TopFolder* const top = m_model.topFolder();
+    return top == nullptr ? nullptr : Util::locateParent(url, *top);
+}
+
+void TreeViewController::showInFinder()
+{
+    if (m_selectedFile == nullptr) {
+        return;
+    }
+    const QString name = displayText(m_selectedFile->name());
+    Util::revealInFinder(
+        m_selectedFile->url(),
+        m_services.workspace,
+        [self = QPointer<TreeViewController>(this), name](bool isShown) {
+            if (self != nullptr && !isShown) {
+                self->sayThatThereIsNoFileManager(name);
+            }
+        });
+}
+
+void TreeViewController::sayThatThereIsNoFileManager(const QString& itemName)
+{
+    m_services.alert.beginSheet(
+        {tr("There is no file manager"),
+         tr("'%1' cannot be shown, because the desktop offers no program for that.").arg(itemName),
+         {tr("OK")}});
+}
+
+void TreeViewController::compressItem()
+{
+    if (m_selectedFile == nullptr || !isItem(*m_selectedFile)) {
+        return;
+    }
+    const auto compressing = CompressWindowController::make(m_services.compressing);
+    compressing->showWindow(m_treeView.window());
+    compressing->compressURL(placeOnDisk(*m_selectedFile), m_selectedFile->totalAllocation());
+}
+
+void TreeViewController::itemGone(const Url& place)
+{
+    const TopFolder* const top = m_model.topFolder();
+    if (top == nullptr) {
+        return;
+    }
+    const std::string path = pathInTree(*top, place.path());
+    m_rescan.pathWentAway(path);
+    if (path != top->absolutePath() && removeNodeAt(Url(path, false))) {
+        objectTreeRefreshed();
+        renderTree();
+    }
+}
+
+void TreeViewController::itemCompressed(const Url& archive)
+{
+    auto document = makeNode<Document>(archive.lastPathComponent());
+    document->setTotalAllocation(
+        m_services.resourceValues.allocatedSize(archive.path()).value_or(0));
+    const TopFolder* const top = m_model.topFolder();
+    const Url inTree(top == nullptr ? "" : pathInTree(*top, archive.path()), false);
+    if (Folder* const parent = locateParent(inTree)) {
+        // A rescan meanwhile may have met it.
+        removeNodeAt(inTree);
+        nodeCame(parent->insertChild(std::move(document)));
+    }
+    objectTreeRefreshed();
+    renderTree();
+}
+
+bool TreeViewController::validate(TreeCommand command) const
+{
+    const bool isFolder = m_selectedFile != nullptr && m_selectedFile->isFolder();
+    switch (command) {
+    case TreeCommand::QuickLook:
+    case TreeCommand::ShowInFinder:
+        return m_selectedFile != nullptr;
+    case TreeCommand::Compress:
+    case TreeCommand::MoveToTrash:
+        return m_selectedFile != nullptr && isItem(*m_selectedFile);
+    case TreeCommand::ZoomIn:
+    case TreeCommand::Ignore:
+        return isFolder;
+    case TreeCommand::Rescan:
+        return folderToRescan() != nullptr && rescanObstacle() == RescanObstacle::None;
+    }
+    return false;
+}
+
+QString TreeViewController::whyNot(TreeCommand command) const
+{
+    return validate(command) ? QString()
+                             : command_hint::whyNot(command, folderToRescan(), rescanObstacle());
+}
+
+QString TreeViewController::whyNotOut() const
+{
+    return m_currentFolder == nullptr || m_currentFolder->parent() != nullptr
+        ? QString()
+        : command_hint::nothingAround(*m_currentFolder);
+}
+
+void TreeViewController::say(const QString& why)
+{
+    if (!why.isEmpty()) {
+        m_note.say(why);
+    }
+}
+
+void TreeViewController::perform(TreeCommand command)
+{
+    switch (command) {
+    case TreeCommand::QuickLook:
+        SelectionPreview::toggle();
+        break;
+    case TreeCommand::ShowInFinder:
+        showInFinder();
+        break;
+    case TreeCommand::ZoomIn:
+        zoomIn();
+        break;
+    case TreeCommand::Rescan:
+        refreshFolder();
+        break;
+    case TreeCommand::Compress:
+        compressItem();
+        break;
+    case TreeCommand::MoveToTrash:
+        trashItem();
+        break;
+    case TreeCommand::Ignore:
+        emit ignoreRequested();
+        break;
+    }
+}
+
+bool TreeViewController::removeNodeAt(const Url& url)
+{
+    File* const found = nodeAtPath(*m_model.topFolder(), url.path());
+    if (found == nullptr) {
+        return false;
+    }
+    nodeWillLeave(*found);
+    found->parent()->removeChild(*found);
+    return true;
+}
+
+void TreeViewController::nodeWillLeave(File& node)
+{
+    m_rescan.nodeWillLeave(node);
+    emit nodeLeaving(&node);
+    if (m_selectedFile != nullptr && isAtOrBelow(*m_selectedFile, node)) {
+        setSelectedFile(nullptr);
+    }
+    if (m_currentFolder != nullptr && isAtOrBelow(*m_currentFolder, node)) {
+        setCurrentFolder(node.parent());
+    }
+}
+
+void TreeViewController::folderWasReplaced(Folder& folder, Folder& with)
+{
+    TopFolder& top = *m_model.topFolder();
+    if (m_selectedFile != nullptr && isAtOrBelow(*m_selectedFile, folder)) {
+        setSelectedFile(nodeAtPath(top, m_selectedFile->absolutePath()));
+    }
+    emit folderReplaced(&folder);
+    if (m_currentFolder != nullptr && isAtOrBelow(*m_currentFolder, folder)) {
+        // What is in view may have vanished since it was scanned first; then it is what is left.
+        File* const nearest = nearestNodeAtPath(top, m_currentFolder->absolutePath());
+        auto* const shown = nodeCast<Folder>(nearest);
+        setCurrentFolder(shown == nullptr ? &with : shown);
+    }
+}
+
+void TreeViewController::objectTreeRefreshed()
+{
+    if (auto* const volume = nodeCast<Volume>(static_cast<File*>(m_model.topFolder()))) {
+        // Without an answer the sizes last known are nearer to the truth than none.
+        if (const auto sizes
+            = m_services.fileSystemAttributes.attributesOfFileSystem(volume->origin())) {
+            volume->refreshVolume(*sizes);
+        }
+    }
+    emit treeChanged();
+}
+
+void TreeViewController::renderTree()
+{
+    m_treeView.removeAllBranches();
+    m_note.hide();
+    const Rect bounds{
+        0, 0, static_cast<double>(m_treeView.width()), static_cast<double>(m_treeView.height())};
+    m_treeView.addBranch(renderFolder(m_currentFolder, bounds, nullptr, 0));
+    // Nobody may delete or preview what they do not see.
+    if (m_selectedFile != nullptr && !m_treeView.shows(*m_selectedFile)) {
+        setSelectedFile(nullptr);
+    }
+    m_rescan.pictureChanged();
+    emit pictureRebuilt();
+}
+
+std::unique_ptr<TreeBranch> TreeViewController::renderFolder(
+    Folder* folder, const Rect& inRect, TreeBranch* inView, long withLevel)
+{
+    const LevelRenderer renderer(m_model.settings().ignoreHiddenFiles());
+    const auto placement
+        = inView == nullptr ? LevelRenderer::Placement::Top : LevelRenderer::Placement::Nested;
+    auto branch
+        = TreeBranch::make(renderer.render(folder, inRect, placement, withLevel), &m_treeView);
+    if (inView != nullptr) {
+        inView->addSubBranch(std::move(branch));
+        return nullptr;
+    }
+    return branch;
+}
+
+} // namespace tessera

@@ -1,0 +1,168 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Base/Observation.h"
+#include "Base/Rect.h"
+#include "TreeScreen/CommandHint.h"
+#include "TreeScreen/FolderRescan.h"
+#include "TreeScreen/FolderZoom.h"
+#include "TreeScreen/ItemTrasher.h"
+#include "TreeScreen/Map/BoxNavigation.h"
+#include "TreeScreen/SelectionPreview.h"
+#include "TreeScreen/TreeCommand.h"
+#include "TreeScreen/TreeKeys.h"
+#include "TreeScreen/TreeNote.h"
+#include "TreeScreen/TreeScreen.h"
+#include "TreeScreen/TreeViewServices.h"
+
+#include <QObject>
+
+#include <memory>
+
+class QKeyEvent;
+
+namespace tessera {
+
+class File;
+class Folder;
+class RootModel;
+class TreeBranch;
+class TreeMapView;
+class Url;
+
+/// The controller of the tree screen: knows the folder in view and the selected item, rebuilds the
+/// picture whenever either of them, the tree or the view's size changes, and carries out what the
+/// user asks for. Main thread only.
+class TreeViewController final : public QObject, public TreeCommandTarget, private TreeScreen {
+    Q_OBJECT
+
+public:
+    /// Shows the model's tree in the view; both must outlive the controller, and so must what the
+    /// services refer to. A volume's free space is read anew.
+    TreeViewController(RootModel& model, TreeMapView& treeView, const TreeViewServices& services);
+    ~TreeViewController() override;
+
+    /// The folder that fills the view; null when there is no tree.
+    Folder* currentFolder() const { return m_currentFolder; }
+    /// Posts "CurrentFolderChanged". Does not draw.
+    void setCurrentFolder(Folder* folder);
+
+    /// The selected item or null. Its node carries the mark as well.
+    File* selectedFile() const { return m_selectedFile; }
+    /// Does not draw.
+    void setSelectedFile(File* file) override;
+
+    /// Shows the selected folder's content; nothing when no folder is selected.
+    void zoomIn();
+    /// Shows the folder around the one in view; nothing at the root.
+    void zoomOut();
+    /// Changes the folder in view, as FolderZoom does.
+    void zoomInFolder(Folder& folder);
+    void zoomOutFolder(Folder& ancestor);
+    /// A zoom has come to its end or was interrupted.
+    void animationDidStop() { renderTree(); }
+
+    /// A folder was clicked in the path bar: zooms out to it if it lies above the one in view. A
+    /// click on the folder in view, or on one that is not above it, takes the selection away.
+    void clickFolderPath(const Url& clicked);
+
+    /// Moves the selected item to the trash, after a warning where that is risky.
+    void trashItem();
+    /// What refreshFolder() scans: the selected folder, or the one in view while nothing is
+    /// selected. Null for a selected file, and without a tree.
+    Folder* folderToRescan() const;
+    /// Scans folderToRescan() anew, in the background, and takes the selection away. Nothing when
+    /// validate() says so, nor for the scanned folder itself, which needs a scan.
+    void refreshFolder();
+    /// Does nothing while another rescan runs.
+    void rescanSelectedFolder(Folder& folder) { m_rescan.rescan(folder); }
+    /// The folder of the tree that holds, or would hold, the item of that URL; or null.
+    Folder* locateParent(const Url& url) const;
+    void showInFinder();
+    /// Opens the preview panel on the selected item, or brings it to the front.
+    void quickLook();
+    /// Compresses the selected item beside itself, in a window of its own.
+    void compressItem();
+
+    bool validate(TreeCommand command) const override;
+    QString whyNot(TreeCommand command) const override;
+    void perform(TreeCommand command) override;
+
+    /// A key was pressed on the tree screen; false when it does nothing now. Why not is said on
+    /// the picture.
+    bool keyDown(const QKeyEvent& event);
+
+    /// Why there is no way out of the folder in view; empty when there is.
+    QString whyNotOut() const;
+
+    /// Says on the picture, for a while, why something cannot be done; an empty text is nothing.
+    void say(const QString& why);
+
+    /// To be called when the disk has changed under the tree: a volume reads its sizes anew,
+    /// or keeps them when its file system does not answer at once.
+    void objectTreeRefreshed() override;
+
+    /// Rebuilds the whole picture from the tree; a running zoom ends. What is selected and not in
+    /// the picture is selected no longer.
+    void renderTree() override;
+
+    /// Lays a folder out as a branch of frame `inRect`: at the top of the view when `inView` is
+    /// null, and then the new branch is returned; else inside `inView`, which takes it over.
+    std::unique_ptr<TreeBranch> renderFolder(
+        Folder* folder, const Rect& inRect, TreeBranch* inView, long withLevel);
+
+signals:
+    /// Sizes or names in the tree are others than before.
+    void treeChanged();
+    /// Another item is selected, or none any more.
+    void selectionChanged();
+    /// The picture was rebuilt from the tree.
+    void pictureRebuilt();
+    /// The selected folder is to be left out of the picture.
+    void ignoreRequested();
+    /// The node, with all below it, is about to leave its place in the tree.
+    void nodeLeaving(File* node);
+    /// The folder is out of the tree and about to be released; another stands in its place.
+    void folderReplaced(Folder* folder);
+
+private:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void nodeWillLeave(File& node) override;
+    void nodeCame(const File& node) override { m_rescan.nodeCame(node); }
+    void folderWasReplaced(Folder& folder, Folder& with) override;
+    const Folder* folderInView() const override { return m_currentFolder; }
+
+    void observe();
+    void doubleClickTreeItem();
+    void itemCompressed(const Url& archive);
+    void itemGone(const Url& place);
+    bool removeNodeAt(const Url& url);
+    void sayThatThereIsNoFileManager(const QString& itemName);
+    void select(File* file);
+    RescanObstacle rescanObstacle() const;
+    bool isMountPoint(const Folder& toRescan) const;
+    bool moveSelection(Direction direction);
+    bool openSelected();
+    bool leaveFolder();
+    bool carryOut(const TreeKeyAction& action);
+    void sayWhyNot(const TreeKeyAction& action);
+
+    RootModel& m_model;
+    TreeMapView& m_treeView;
+    const TreeViewServices m_services;
+    FolderZoom m_zoom;
+    FolderRescan m_rescan;
+    ItemTrasher m_trasher;
+    SelectionPreview m_preview;
+    TreeNote m_note;
+    Folder* m_currentFolder = nullptr;
+    File* m_selectedFile = nullptr;
+    /// Of the folder to rescan, as far as the system was asked.
+    mutable std::optional<bool> m_isMountPoint;
+    Observation m_clickObservation;
+    Observation m_doubleClickObservation;
+    Observation m_compressObservation;
+    Observation m_goneObservation;
+};
+
+} // namespace tessera

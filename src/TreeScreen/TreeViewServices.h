@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Compress/CompressWindowController.h"
+#include "Scanning/ScanEnvironment.h"
+#include "TreeScreen/Zoom/ZoomAnimation.h"
+
+#include <functional>
+#include <string>
+#include <system_error>
+
+namespace tessera {
+
+class Alert;
+class MotionPreference;
+class UserDefaults;
+class Workspace;
+
+/// What the tree screen needs from the system and the desktop; each must outlive it.
+struct TreeViewServices {
+    ScanEnvironment scanEnvironment; ///< of rescans
+    /// Asked by the main thread: they give up before anybody notices.
+    const ResourceValues& resourceValues;
+    const FileSystemAttributes& fileSystemAttributes;
+    const UserDefaults& defaults;
+    Workspace& workspace;
+    Alert& alert;
+    CompressServices compressing;
+    const MotionPreference& motion;
+    /// Why the folder of that path cannot be read; no error when it can. No part of the path is a
+    /// link. Answers at once.
+    std::function<std::error_code(const std::string& path)> checkFolder;
+    ZoomAnimation::Clock zoomClock = ZoomAnimation::steadyClock; ///< what zooms go by
+};
+
+} // namespace tessera

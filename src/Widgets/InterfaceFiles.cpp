@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "Widgets/InterfaceFiles.h"
+
+#include "ui_CollectionHeaderView.h"
+#include "ui_CompressWindow.h"
+#include "ui_FolderCollectionView.h"
+#include "ui_HomeViewController.h"
+#include "ui_MainWindowController.h"
+#include "ui_PreferencesWindowController.h"
+#include "ui_ScanningViewController.h"
+#include "ui_TreeTooltip.h"
+#include "ui_VolumeCollectionView.h"
+
+#include <algorithm>
+#include <array>
+
+namespace tessera {
+
+namespace {
+
+struct InterfaceFile {
+    std::string_view name;
+    std::unique_ptr<QWidget> (*instantiate)();
+};
+
+template <typename Form, typename TopLevelView>
+std::unique_ptr<QWidget> instantiate()
+{
+    auto view = std::make_unique<TopLevelView>();
+    Form().setupUi(view.get());
+    return view;
+}
+
+constexpr std::array kInterfaceFiles{
+    InterfaceFile{
+        "CollectionHeaderView", &instantiate<Ui::CollectionHeaderView, CollectionHeaderView>},
+    InterfaceFile{"CompressWindow", &instantiate<Ui::CompressWindow, QDialog>},
+    InterfaceFile{"MainWindowController", &instantiate<Ui::MainWindowController, QMainWindow>},
+    InterfaceFile{
+        "FolderCollectionView", &instantiate<Ui::FolderCollectionView, FolderCollectionView>},
+    InterfaceFile{"HomeViewController", &instantiate<Ui::HomeViewController, QWidget>},
+    InterfaceFile{
+        "PreferencesWindowController", &instantiate<Ui::PreferencesWindowController, QDialog>},
+    InterfaceFile{"ScanningViewController", &instantiate<Ui::ScanningViewController, QWidget>},
+    InterfaceFile{"TreeTooltip", &instantiate<Ui::TreeTooltip, TooltipWindow>},
+    InterfaceFile{
+        "VolumeCollectionView", &instantiate<Ui::VolumeCollectionView, VolumeCollectionView>},
+};
+
+} // namespace
+
+std::unique_ptr<QWidget> instantiateInterfaceFile(std::string_view name)
+{
+    const auto* const found = std::ranges::find(kInterfaceFiles, name, &InterfaceFile::name);
+    return found != kInterfaceFiles.end() ? found->instantiate() : nullptr;
+}
+
+} // namespace tessera

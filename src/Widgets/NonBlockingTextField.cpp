@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#include "Widgets/NonBlockingTextField.h"
+
+#include "Widgets/DesktopFont.h"
+#include "Widgets/Util.h"
+
+#include <QPainter>
+
+namespace tessera {
+
+NonBlockingTextField::NonBlockingTextField(QWidget* parent)
+    : QLabel(parent)
+{
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setTextFormat(Qt::PlainText);
+}
+
+void NonBlockingTextField::setTextPixels(int pixels)
+{
+    QFont changed = font();
+    changed.setPixelSize(withDesktopFont(pixels));
+    setFont(changed);
+}
+
+void NonBlockingTextField::setTextColor(const QColor& color)
+{
+    QPalette colors = palette();
+    colors.setColor(QPalette::WindowText, color);
+    setPalette(colors);
+}
+
+QColor NonBlockingTextField::textColor() const
+{
+    return palette().color(QPalette::WindowText);
+}
+
+QSize NonBlockingTextField::minimumSizeHint() const
+{
+    return {0, QLabel::minimumSizeHint().height()};
+}
+
+void NonBlockingTextField::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    painter.setPen(textColor());
+    const QString shown
+        = fontMetrics().elidedText(text(), Util::truncatedParagraphStyle(), width());
+    painter.drawText(rect(), static_cast<int>(alignment()) | Qt::TextSingleLine, shown);
+}
+
+} // namespace tessera

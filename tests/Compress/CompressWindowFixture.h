@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Base/NotificationCenter.h"
+#include "Compress/CompressWindowController.h"
+#include "support/BecomesActive.h"
+#include "support/Fakes/FakeAlert.h"
+#include "support/Fakes/FakeFileSystem.h"
+#include "support/Fakes/FakeIconProvider.h"
+#include "support/Fakes/FakeTask.h"
+#include "support/Fakes/FakeWorkspace.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTest>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <set>
+#include <string>
+#include <utility>
+#include <variant>
+#include <vector>
+
+namespace tessera::test {
+
+/// The file that the archiver says it has made, and how it says so.
+inline constexpr FileIdentity kMade{2049, 12};
+inline constexpr const char* kMadeLine = "2049 12\n";
+
+/// A compress window with a tool, a trash and a disk that do as they are told.
+class CompressWindowFixture : public testing::Test {
+protected:
+    CompressWindowFixture() { task.output = kMadeLine; }
+
+    ~CompressWindowFixture() override
+    {
+        endProgram();
+        controller.reset();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    std::shared_ptr<CompressWindowController> makeController()
+    {
+        return CompressWindowController::make(
+            {"/opt/archiver",
+             [this] { return FakeTask::make(task); },
+             workspace,
+             files,
+             icons,
+             targetsInUse,
+             alert},
+            [this](std::chrono::milliseconds delay, std::function<void()> work) {
+                delays.push_back(delay);
+                delayed.push_back(std::move(work));
+            });
+    }
+
+    void compress(std::string_view path = "/data/X", std::uint64_t bytes = 1'000'000)
+    {
+        controller->compressURL(Url(path, true), bytes);
+    }
+
+    /// What every controller hears that still works.
+    static void endProgram() { emit qApp->aboutToQuit({}); }
+
+    void endTool(int status) { std::exchange(task.onTerminated, {})(status); }
+
+    int ticksUntilPosted(int most)
+    {
+        for (int tick = 1; tick <= most; ++tick) {
+            controller->updateProgress();
+            if (!posted.empty()) {
+                return tick;
+            }
+        }
+        return most + 1;
+    }
+
+    void moveToTrash()
+    {
+        RecycleResult result;
+        result.newUrls.emplace("file:///data/X.zip.part", Url("/trash/X.zip.part", false));
+        ASSERT_TRUE(workspace.finishRecycling(result));
+    }
+
+    void refuseTrash() { ASSERT_TRUE(workspace.finishRecycling({{}, "It cannot be moved."})); }
+
+    void endDelay() { std::exchange(delayed, {}).at(0)(); }
+
+    template <typename View>
+    View* outlet(const char* name) const
+    {
+        return controller->window().findChild<View*>(QString::fromLatin1(name));
+    }
+
+    std::string status() const
+    {
+        return outlet<QLabel>("outputField")->accessibleName().toStdString();
+    }
+
+    double shownProgress() const
+    {
+        const auto* progress = outlet<QProgressBar>("progress");
+        return static_cast<double>(progress->value()) / progress->maximum();
+    }
+
+    FakeTaskRecord task;
+    FakeTaskRecord otherTask;
+    FakeWorkspace workspace;
+    FakeResourceValues files;
+    FakeIconProvider icons;
+    std::set<std::string> targetsInUse;
+    FakeAlert alert;
+    std::vector<std::chrono::milliseconds> delays;
+    std::vector<std::function<void()>> delayed;
+    std::shared_ptr<CompressWindowController> controller = makeController();
+    std::vector<NotificationObject> posted;
+    Observation observation = NotificationCenter::defaultCenter().addObserver(
+        "ItemCompressed", [this](const NotificationObject& object) { posted.push_back(object); });
+    std::vector<NotificationObject> gone;
+    Observation goneObservation = NotificationCenter::defaultCenter().addObserver(
+        "ItemGone", [this](const NotificationObject& object) { gone.push_back(object); });
+};
+
+} // namespace tessera::test

@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/Linux/Files/FileStatus.h"
+
+#include "support/Machine/TempTree.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+
+#include <cerrno>
+
+namespace tessera::test {
+namespace {
+
+StatusResult statusAtPath(const std::string& path)
+{
+    return statusAt(AT_FDCWD, path.c_str());
+}
+
+TEST(FileStatus, TheOlderCallSaysTheSame)
+{
+    const TempTree tree;
+    tree.makeFile("file", 5000);
+    const StatusResult status = statusAtPath(tree.pathOf("file"));
+    const StatusResult older = statusAtWithoutStatx(AT_FDCWD, tree.pathOf("file").c_str());
+    ASSERT_TRUE(status);
+    ASSERT_TRUE(older);
+    EXPECT_EQ(status.status.identity, older.status.identity);
+    EXPECT_EQ(status.status.allocatedBytes, older.status.allocatedBytes);
+    EXPECT_EQ(status.status.modified, older.status.modified);
+    EXPECT_EQ(status.status.isRegular, older.status.isRegular);
+    EXPECT_EQ(status.status.isDirectory, older.status.isDirectory);
+    EXPECT_EQ(status.status.mode, older.status.mode);
+    EXPECT_EQ(status.status.owner, older.status.owner);
+    EXPECT_EQ(status.status.group, older.status.group);
+    EXPECT_EQ(status.status.length, older.status.length);
+}
+
+TEST(FileStatus, TheLengthCountsHoles)
+{
+    constexpr off_t kLength = off_t{1} << 30;
+    const TempTree tree;
+    tree.makeSparseFile("sparse", kLength);
+    EXPECT_EQ(statusAtPath(tree.pathOf("sparse")).status.length, std::uint64_t{1} << 30);
+}
+
+TEST(FileStatus, TheModeHoldsKindAndPermissions)
+{
+    const TempTree tree;
+    tree.makeFile("file");
+    tree.setMode("file", 0640);
+    EXPECT_EQ(statusAtPath(tree.pathOf("file")).status.mode, 0100640U);
+}
+
+TEST(FileStatus, TheOlderCallKnowsNothingOfMounts)
+{
+    const StatusResult older = statusAtWithoutStatx(AT_FDCWD, "/");
+    ASSERT_TRUE(older);
+    EXPECT_FALSE(older.status.isMountRoot.has_value());
+    EXPECT_FALSE(older.status.mountId.has_value());
+}
+
+TEST(FileStatus, SaysWhyThereIsNone)
+{
+    EXPECT_EQ(statusAtPath("/no/such/path").error, ENOENT);
+}
+
+TEST(FileStatus, ADirectoryOnTheSameMountOpens)
+{
+    const TempTree tree;
+    tree.makeFolder("folder");
+    const FileDescriptor above = openDirectoryAt(AT_FDCWD, tree.path().c_str());
+    const auto opened = openDirectoryOnSameMountAt(above.number(), "folder");
+    ASSERT_TRUE(opened.has_value());
+    EXPECT_TRUE(opened->isOpen());
+}
+
+TEST(FileStatus, ADirectoryWhereAMountBeginsDoesNotOpen)
+{
+    const FileDescriptor root = openDirectoryAt(AT_FDCWD, "/");
+    const auto opened = openDirectoryOnSameMountAt(root.number(), "proc");
+    ASSERT_TRUE(opened.has_value());
+    EXPECT_FALSE(opened->isOpen());
+}
+
+TEST(FileStatus, ALinkToADirectoryDoesNotOpen)
+{
+    const TempTree tree;
+    tree.makeFolder("folder");
+    tree.makeSymbolicLink("link", "folder");
+    const FileDescriptor above = openDirectoryAt(AT_FDCWD, tree.path().c_str());
+    const auto opened = openDirectoryOnSameMountAt(above.number(), "link");
+    ASSERT_TRUE(opened.has_value());
+    EXPECT_FALSE(opened->isOpen());
+}
+
+TEST(FileStatus, ADirectoryOpensWhenItIsTheOneExpected)
+{
+    const TempTree tree;
+    const FileIdentity identity = statusAtPath(tree.path()).status.identity;
+    EXPECT_TRUE(openDirectoryAt(AT_FDCWD, tree.path().c_str(), identity).isOpen());
+}
+
+TEST(FileStatus, AnotherDirectoryInItsPlaceDoesNotOpen)
+{
+    const TempTree tree;
+    tree.makeFolder("folder");
+    const FileIdentity other = statusAtPath(tree.path()).status.identity;
+    EXPECT_FALSE(openDirectoryAt(AT_FDCWD, tree.pathOf("folder").c_str(), other).isOpen());
+}
+
+TEST(FileStatus, ALinkToTheDirectoryDoesNotOpen)
+{
+    const TempTree tree;
+    tree.makeSymbolicLink("link", ".");
+    const FileIdentity identity = statusAtPath(tree.path()).status.identity;
+    EXPECT_FALSE(openDirectoryAt(AT_FDCWD, tree.pathOf("link").c_str(), identity).isOpen());
+}
+
+} // namespace
+} // namespace tessera::test

@@ -1,0 +1,398 @@
+// SPDX-License-Identifier: MIT
+#include "Start/AppDelegate.h"
+
+#include "Desktop/UserAccount.h"
+#include "MainWindow/MainWindowController.h"
+#include "Preferences/PreferencesWindowController.h"
+#include "support/Fakes/FakeMainWindowServices.h"
+#include "support/MakeTree.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QDropEvent>
+#include <QEventLoop>
+#include <QMainWindow>
+#include <QMimeData>
+#include <QPointer>
+#include <QTest>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace tessera {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class FakeUserAccount final : public UserAccount {
+public:
+    [[nodiscard]] std::optional<PasswordEntry> realUser() const override
+    {
+        return PasswordEntry{name, "/me"};
+    }
+    [[nodiscard]] std::string homeDirectory() const override { return "/me"; }
+
+    std::string name = "me";
+};
+
+class AppDelegateTest : public testing::Test {
+protected:
+    AppDelegateServices appServices()
+    {
+        return {
+            services.get(),
+            account,
+            [](HelpPage page) -> std::string {
+                return page == HelpPage::Features ? "file:///features" : "file:///faq";
+            },
+            [this](const std::string& token) { tokens.push_back(token); }};
+    }
+
+    void processEventsUntilScanned(const std::string& path)
+    {
+        QTRY_VERIFY(!services.screens.scanned.empty() && services.screens.scanned.back() == path);
+    }
+
+    void showTree()
+    {
+        delegate.openFile("/data");
+        services.model.setTopFolder(test::makeTree("/data", "a:700"));
+        NotificationCenter::defaultCenter().post("ScanComplete");
+    }
+
+    std::vector<std::string> tokens;
+    FakeUserAccount account;
+    test::FakeMainWindowServices services;
+    AppDelegate delegate{appServices()};
+};
+
+TEST_F(AppDelegateTest, TheStartOpensTheMainWindowOnTheHomeScreen)
+{
+    delegate.applicationDidFinishLaunching();
+    EXPECT_TRUE(delegate.mainWindow()->window().isVisible());
+    EXPECT_EQ(delegate.mainWindow()->state(), ScreenState::Home);
+}
+
+TEST_F(AppDelegateTest, AFolderThatIsDroppedOnTheWindowIsScanned)
+{
+    services.treeScreen.resourceValues.directories = {"/data"};
+    delegate.applicationDidFinishLaunching();
+    QMimeData data;
+    data.setData(QStringLiteral("text/uri-list"), "file:///data");
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&delegate.mainWindow()->window(), &enter);
+    QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&delegate.mainWindow()->window(), &drop);
+    EXPECT_THAT(services.screens.scanned, ElementsAre("/data"));
+}
+
+TEST_F(AppDelegateTest, TheStartRegistersTheDefaults)
+{
+    delegate.applicationDidFinishLaunching();
+    EXPECT_EQ(services.rootModel.defaults.integer("TooltipType"), 2);
+}
+
+TEST_F(AppDelegateTest, TheModelLearnsThatTheRealUserIsRoot)
+{
+    account.name = "root";
+    delegate.applicationDidFinishLaunching();
+    EXPECT_TRUE(services.model.isRunningAsRoot());
+}
+
+TEST_F(AppDelegateTest, AnyOtherRealUserIsNotRoot)
+{
+    account.name = "rooty";
+    delegate.applicationDidFinishLaunching();
+    EXPECT_FALSE(services.model.isRunningAsRoot());
+}
+
+TEST_F(AppDelegateTest, AFolderOpenedBeforeTheStartIsDropped)
+{
+    EXPECT_TRUE(delegate.openFile("/data"));
+    delegate.applicationDidFinishLaunching();
+    EXPECT_THAT(services.screens.scanned, IsEmpty());
+}
+
+TEST_F(AppDelegateTest, AFolderOpenedWithTheProgramIsScanned)
+{
+    delegate.applicationDidFinishLaunching();
+    EXPECT_TRUE(delegate.openFile("/data/some\xFF"));
+    EXPECT_THAT(services.screens.scanned, ElementsAre("/data/some\xFF"));
+}
+
+TEST_F(AppDelegateTest, ABackupOpenedWithTheProgramIsScanned)
+{
+    delegate.applicationDidFinishLaunching();
+    delegate.openFile("/a/Backups.backupdb");
+    EXPECT_THAT(services.screens.scanned, ElementsAre("/a/Backups.backupdb"));
+}
+
+TEST_F(AppDelegateTest, AFolderOpenedWhileATreeIsDisplayedIsScannedFromTheHomeScreen)
+{
+    delegate.applicationDidFinishLaunching();
+    showTree();
+    ASSERT_EQ(delegate.mainWindow()->state(), ScreenState::Tree);
+    delegate.openFile("/other");
+    processEventsUntilScanned("/other");
+    EXPECT_EQ(delegate.mainWindow()->state(), ScreenState::Scanning);
+    EXPECT_THAT(services.screens.scanned, ElementsAre("/data", "/other"));
+}
+
+TEST_F(AppDelegateTest, WhileTheUserHasToAnswerAQuestionAFolderWaits)
+{
+    delegate.applicationDidFinishLaunching();
+    QEventLoop application;
+    QTimer::singleShot(0, &application, [&] {
+        QEventLoop question;
+        QTimer::singleShot(0, &question, [&] {
+            delegate.openFile("/data");
+            EXPECT_THAT(services.screens.scanned, IsEmpty());
+            question.quit();
+        });
+        question.exec();
+    });
+    QTimer poll;
+    poll.callOnTimeout([&] {
+        if (!services.screens.scanned.empty()) {
+            application.quit();
+        }
+    });
+    poll.start(1);
+    application.exec();
+    EXPECT_THAT(services.screens.scanned, ElementsAre("/data"));
+}
+
+TEST_F(AppDelegateTest, OfManyFoldersOpenedAtOnceTheFirstAndTheLastAreScanned)
+{
+    delegate.applicationDidFinishLaunching();
+    for (int i = 0; i <= 1000; ++i) {
+        delegate.openFromElsewhere(Url('/' + std::to_string(i), true));
+    }
+    EXPECT_THAT(services.screens.scanned, ElementsAre("/0"));
+    processEventsUntilScanned("/1000");
+    EXPECT_THAT(services.screens.scanned, ElementsAre("/0", "/1000"));
+}
+
+TEST_F(AppDelegateTest, AFolderOpenedLongAfterAnotherIsScannedAtOnce)
+{
+    delegate.applicationDidFinishLaunching();
+    delegate.openFile("/data");
+    QTRY_VERIFY(!delegate.isPausing());
+    delegate.openFile("/other");
+    EXPECT_THAT(services.screens.scanned, ElementsAre("/data", "/other"));
+}
+
+TEST_F(AppDelegateTest, AnotherStartsTokenIsAdopted)
+{
+    delegate.applicationDidFinishLaunching();
+    delegate.openFromElsewhere(Url(), "token");
+    delegate.openFromElsewhere(Url());
+    EXPECT_THAT(tokens, ElementsAre("token"));
+}
+
+TEST_F(AppDelegateTest, AnotherStartBringsTheWindowBack)
+{
+    delegate.applicationDidFinishLaunching();
+    QMainWindow& window = delegate.mainWindow()->window();
+    window.showMinimized();
+    delegate.openFromElsewhere(Url());
+    EXPECT_FALSE(window.isMinimized());
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_THAT(services.screens.scanned, IsEmpty());
+}
+
+TEST_F(AppDelegateTest, AnotherStartOnAFolderHasItScanned)
+{
+    delegate.applicationDidFinishLaunching();
+    delegate.openFromElsewhere(Url("/data", true));
+    EXPECT_THAT(services.screens.scanned, ElementsAre("/data"));
+}
+
+TEST_F(AppDelegateTest, EachPreferencesWindowTakesThePreviousOnesPlace)
+{
+    delegate.applicationDidFinishLaunching();
+    delegate.mainWindow()->perform(MainCommand::Preferences);
+    ASSERT_NE(delegate.prefWindow(), nullptr);
+    const QPointer<QWidget> first = &delegate.prefWindow()->window();
+    EXPECT_TRUE(first->isVisible());
+    delegate.showPreferences();
+    EXPECT_TRUE(first.isNull());
+    EXPECT_TRUE(delegate.prefWindow()->window().isVisible());
+}
+
+TEST_F(AppDelegateTest, HelpPagesAreOpenedByTheTagsOfTheirEntries)
+{
+    delegate.applicationDidFinishLaunching();
+    delegate.mainWindow()->perform(MainCommand::Features);
+    delegate.showHelpItem(64);
+    delegate.showHelpItem(63);
+    delegate.showHelpItem(0);
+    EXPECT_THAT(
+        services.treeScreen.workspace.opened, ElementsAre("file:///features", "file:///faq"));
+    EXPECT_THAT(services.treeScreen.alert.told, IsEmpty());
+}
+
+TEST_F(AppDelegateTest, HelpThatCannotBeShownIsSaidSo)
+{
+    services.treeScreen.workspace.answer = false;
+    delegate.showHelpItem(62);
+    ASSERT_EQ(services.treeScreen.alert.told.size(), 1U);
+    EXPECT_EQ(
+        services.treeScreen.alert.told[0].messageText, QStringLiteral("The help cannot be shown"));
+}
+
+TEST_F(AppDelegateTest, NobodyIsToldOfHelpWhenTheProgramHasEndedByThen)
+{
+    services.treeScreen.workspace.answersLater = true;
+    auto ended = std::make_unique<AppDelegate>(appServices());
+    ended->showHelpItem(62);
+    ended.reset();
+    services.treeScreen.workspace.lateAnswer(false);
+    EXPECT_THAT(services.treeScreen.alert.told, IsEmpty());
+}
+
+TEST_F(AppDelegateTest, TheLastWindowsEndIsNotTheProgramsByItself)
+{
+    delegate.applicationDidFinishLaunching();
+    EXPECT_FALSE(QApplication::quitOnLastWindowClosed());
+}
+
+TEST_F(AppDelegateTest, ClosingTheMainWindowQuitsAlsoWhenAnotherWindowIsOpen)
+{
+    delegate.applicationDidFinishLaunching();
+    delegate.showPreferences();
+    QTimer::singleShot(0, &delegate, [this] { delegate.mainWindow()->window().close(); });
+    EXPECT_EQ(QApplication::exec(), 0);
+}
+
+/// An archive is being made.
+class AppDelegateWhileCompressing : public AppDelegateTest {
+protected:
+    AppDelegateWhileCompressing()
+    {
+        delegate.applicationDidFinishLaunching();
+        services.treeScreen.targetsInUse = {"/data/X.zip"};
+    }
+
+    /// An end that was asked for twice must not end the next test's event loop.
+    void TearDown() override { QCoreApplication::removePostedEvents(qApp, QEvent::MetaCall); }
+
+    void closeAnswering(int button)
+    {
+        services.treeScreen.alert.answer = Alert::kFirstButton + button;
+        delegate.mainWindow()->perform(MainCommand::Quit);
+    }
+
+    void endCompression()
+    {
+        services.treeScreen.targetsInUse.clear();
+        NotificationCenter::defaultCenter().post("ItemCompressed");
+    }
+
+    bool isWindowOpen() const { return delegate.mainWindow()->window().isVisible(); }
+
+    /// Whether the program ends after that of its own accord.
+    bool quitsAfter(const std::function<void()>& work)
+    {
+        QTimer::singleShot(0, &delegate, [this, &work] {
+            work();
+            giveUpAfter(10);
+        });
+        return QApplication::exec() == 0;
+    }
+
+    /// What the work has queued comes first, and what that queues.
+    void giveUpAfter(int turns)
+    {
+        QMetaObject::invokeMethod(
+            &delegate,
+            [this, turns] {
+                if (turns == 0) {
+                    QCoreApplication::exit(1);
+                } else {
+                    giveUpAfter(turns - 1);
+                }
+            },
+            Qt::QueuedConnection);
+    }
+};
+
+TEST_F(AppDelegateWhileCompressing, ClosingTheMainWindowAsksFirst)
+{
+    closeAnswering(2);
+    ASSERT_EQ(services.treeScreen.alert.asked.size(), 1U);
+    const AlertText& text = services.treeScreen.alert.asked[0];
+    EXPECT_EQ(text.messageText, QStringLiteral("An archive is still being made"));
+    EXPECT_EQ(
+        text.buttons,
+        (QStringList{
+            QStringLiteral("Finish in Background"),
+            QStringLiteral("Stop and Quit"),
+            QStringLiteral("Cancel")}));
+}
+
+TEST_F(AppDelegateWhileCompressing, WhoeverCancelsKeepsTheWindow)
+{
+    EXPECT_FALSE(quitsAfter([this] { closeAnswering(2); }));
+    EXPECT_TRUE(isWindowOpen());
+}
+
+TEST_F(AppDelegateWhileCompressing, StoppingQuits)
+{
+    EXPECT_TRUE(quitsAfter([this] { closeAnswering(1); }));
+}
+
+TEST_F(AppDelegateWhileCompressing, FinishingInTheBackgroundClosesTheWindowAlone)
+{
+    QWidget compressWindow;
+    compressWindow.show();
+    EXPECT_FALSE(quitsAfter([this] { closeAnswering(0); }));
+    EXPECT_FALSE(isWindowOpen());
+    EXPECT_TRUE(compressWindow.isVisible());
+}
+
+TEST_F(AppDelegateWhileCompressing, WhatWasFinishedInTheBackgroundQuits)
+{
+    QWidget compressWindow;
+    compressWindow.show();
+    EXPECT_TRUE(quitsAfter([this] {
+        closeAnswering(0);
+        endCompression();
+    }));
+}
+
+TEST_F(AppDelegateWhileCompressing, OneOfSeveralThatIsFinishedDoesNotQuit)
+{
+    QWidget compressWindow;
+    compressWindow.show();
+    EXPECT_FALSE(quitsAfter([this] {
+        closeAnswering(0);
+        NotificationCenter::defaultCenter().post("ItemCompressed");
+    }));
+}
+
+TEST_F(AppDelegateWhileCompressing, AnotherStartBringsTheWindowBackForGood)
+{
+    EXPECT_FALSE(quitsAfter([this] {
+        closeAnswering(0);
+        delegate.openFromElsewhere(Url());
+        endCompression();
+    }));
+    EXPECT_TRUE(isWindowOpen());
+}
+
+TEST_F(AppDelegateWhileCompressing, WithTheWindowOpenTheEndOfTheCompressionDoesNotQuit)
+{
+    EXPECT_FALSE(quitsAfter([this] { endCompression(); }));
+}
+
+TEST_F(AppDelegateWhileCompressing, OnceItIsDoneNobodyIsAsked)
+{
+    endCompression();
+    EXPECT_TRUE(quitsAfter([this] { closeAnswering(2); }));
+    EXPECT_THAT(services.treeScreen.alert.asked, IsEmpty());
+}
+
+} // namespace
+} // namespace tessera

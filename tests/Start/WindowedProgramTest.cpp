@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+#include "Start/WindowedProgram.h"
+
+#include "Desktop/ColorSchemePreference.h"
+#include "Desktop/EndRequests.h"
+#include "Desktop/FileAccess.h"
+#include "Desktop/LauncherProgress.h"
+#include "Desktop/RunningInstance.h"
+#include "Model/RootModel.h"
+#include "QuickLook/Reading/FileReader.h"
+#include "QuickLook/Reading/RasterDecoder.h"
+#include "Start/Launch.h"
+#include "support/Fakes/FakePlaces.h"
+#include "support/Fakes/FakeRootModelServices.h"
+#include "support/Fakes/FakeTreeViewServices.h"
+
+#include <QCoreApplication>
+
+#include <gtest/gtest.h>
+
+#include <optional>
+
+namespace tessera {
+namespace {
+
+/// Every folder can be read, and none can be written.
+class ReadableFolders final : public FileAccess {
+public:
+    [[nodiscard]] std::error_code checkFolder(const std::string& /*path*/) const override
+    {
+        return {};
+    }
+    [[nodiscard]] std::error_code checkFolderWithoutLinks(
+        const std::string& /*path*/) const override
+    {
+        return {};
+    }
+    [[nodiscard]] std::string absolutePath(const std::string& path) const override { return path; }
+    [[nodiscard]] std::error_code writeFile(
+        const std::string& /*path*/, std::string_view /*bytes*/) const override
+    {
+        return std::make_error_code(std::errc::permission_denied);
+    }
+};
+
+class NoColorScheme final : public ColorSchemePreference {
+public:
+    [[nodiscard]] ColorScheme colorScheme() const override { return ColorScheme::NoPreference; }
+    void setHandler(Handler /*handler*/) override { }
+};
+
+class NoLauncher final : public LauncherProgress {
+public:
+    void show(double /*fraction*/) override { }
+    void hide() override { }
+};
+
+class NoEndRequests final : public EndRequests {
+public:
+    void setHandler(std::function<void()> /*handler*/) override { }
+};
+
+/// Remembers whether the window's place had been kept when this was given up first.
+class WatchfulInstance final : public RunningInstance {
+public:
+    explicit WatchfulInstance(const test::FakeUserDefaults& defaults)
+        : m_defaults(defaults)
+    {
+    }
+
+    [[nodiscard]] bool handOver(const Url& /*folder*/) override { return false; }
+    void setHandler(Handler /*handler*/) override { }
+    void giveUp() override
+    {
+        if (!hadKeptThePlace) {
+            hadKeptThePlace = m_defaults.texts.contains("MainWindowFrame");
+        }
+    }
+
+    std::optional<bool> hadKeptThePlace; ///< nothing while it is not given up
+
+private:
+    const test::FakeUserDefaults& m_defaults;
+};
+
+struct FakeLaunchServices {
+    test::FakeTreeViewServices treeScreen;
+    test::FakeRootModelServices rootModel;
+    test::FakeMountedVolumes volumes;
+    test::FakeUserAccount account;
+    ReadableFolders files;
+    NoColorScheme colorScheme;
+    NoLauncher launcher;
+    NoEndRequests endRequests;
+    WatchfulInstance runningInstance{rootModel.defaults};
+
+    LaunchServices get()
+    {
+        const TreeViewServices tree = treeScreen.get();
+        return {
+            tree.scanEnvironment,
+            treeScreen.resourceValues,
+            treeScreen.fileSystem,
+            files,
+            rootModel.get(),
+            {volumes,
+             rootModel.folders,
+             account,
+             "/home/me",
+             std::make_shared<test::FixedFileSystem>(FileSystemSizes{1000, 250}),
+             std::make_shared<test::FakeResourceValues>()},
+            files,
+            colorScheme,
+            treeScreen.motion,
+            treeScreen.workspace,
+            nullptr,
+            nullptr,
+            [this] { return test::FakeTask::make(treeScreen.archiver); },
+            "/archiver",
+            account,
+            launcher,
+            runningInstance,
+            endRequests,
+            {},
+            1000,
+            false};
+    }
+};
+
+TEST(WindowedProgram, AtTheEndGivesTheNameBackBeforeAnythingElseIsDone)
+{
+    // The program's one model keeps them for good.
+    static FakeLaunchServices services;
+    services.rootModel.defaults.texts.erase("MainWindowFrame");
+    services.runningInstance.hadKeptThePlace.reset();
+    const WindowedProgram program(services.get());
+    emit qApp->aboutToQuit({});
+    EXPECT_EQ(services.runningInstance.hadKeptThePlace, false);
+    EXPECT_TRUE(services.rootModel.defaults.texts.contains("MainWindowFrame"));
+}
+
+} // namespace
+} // namespace tessera

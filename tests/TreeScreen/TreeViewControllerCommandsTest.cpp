@@ -1,0 +1,253 @@
+// SPDX-License-Identifier: MIT
+#include "TreeScreen/TreeViewControllerFixture.h"
+
+#include <gtest/gtest.h>
+
+namespace tessera {
+namespace {
+
+class TreeViewControllerCommandsTest : public test::TreeViewControllerFixture { };
+
+TEST_F(TreeViewControllerCommandsTest, WithoutASelectionNoCommandButRescanMakesSense)
+{
+    EXPECT_TRUE(canDo(TreeCommand::Rescan));
+    for (const TreeCommand command :
+         {TreeCommand::QuickLook,
+          TreeCommand::ShowInFinder,
+          TreeCommand::ZoomIn,
+          TreeCommand::Ignore,
+          TreeCommand::Compress,
+          TreeCommand::MoveToTrash}) {
+        EXPECT_FALSE(canDo(command));
+    }
+}
+
+TEST_F(TreeViewControllerCommandsTest, OnlyFoldersAreZoomedIntoAndRescanned)
+{
+    select("docs");
+    EXPECT_TRUE(canDo(TreeCommand::ZoomIn));
+    EXPECT_TRUE(canDo(TreeCommand::Rescan));
+    select("docs/a");
+    EXPECT_FALSE(canDo(TreeCommand::ZoomIn));
+    EXPECT_FALSE(canDo(TreeCommand::Rescan));
+    EXPECT_TRUE(canDo(TreeCommand::MoveToTrash));
+}
+
+TEST_F(TreeViewControllerCommandsTest, SpaceIsNeitherMovedNorCompressed)
+{
+    const auto space = makeNode<FreeSpace>("");
+    controller->setSelectedFile(space.get());
+    for (const TreeCommand command : {TreeCommand::Compress, TreeCommand::MoveToTrash}) {
+        EXPECT_FALSE(canDo(command));
+        controller->perform(command);
+    }
+    EXPECT_EQ(services.archiver.program, "");
+    EXPECT_TRUE(services.workspace.recycled.empty());
+    controller->setSelectedFile(nullptr);
+}
+
+TEST_F(TreeViewControllerCommandsTest, ShowsAFileInTheFileManager)
+{
+    select("docs/a");
+    controller->perform(TreeCommand::ShowInFinder);
+    EXPECT_EQ(services.workspace.revealed, std::vector<std::string>{"/data/docs/a"});
+}
+
+TEST_F(TreeViewControllerCommandsTest, SaysWhenThereIsNoFileManager)
+{
+    services.workspace.answer = false;
+    select("docs/a");
+    controller->perform(TreeCommand::ShowInFinder);
+    EXPECT_EQ(services.alert.told.size(), 1U);
+}
+
+TEST_F(TreeViewControllerCommandsTest, SaysSoAlsoWhenThatIsKnownLater)
+{
+    services.workspace.answersLater = true;
+    select("docs");
+    controller->perform(TreeCommand::ShowInFinder);
+    ASSERT_TRUE(services.alert.told.empty());
+    services.workspace.lateAnswer(false);
+    ASSERT_EQ(services.alert.told.size(), 1U);
+    EXPECT_TRUE(services.alert.told[0].informativeText.contains(QStringLiteral("'docs'")));
+}
+
+TEST_F(TreeViewControllerCommandsTest, NobodyIsToldWhenTheScreenIsGoneByThen)
+{
+    services.workspace.answersLater = true;
+    select("docs");
+    controller->perform(TreeCommand::ShowInFinder);
+    controller.reset();
+    services.workspace.lateAnswer(false);
+    EXPECT_TRUE(services.alert.told.empty());
+}
+
+TEST_F(TreeViewControllerCommandsTest, MovesTheSelectedItemToTheTrash)
+{
+    select("c\xFF");
+    controller->perform(TreeCommand::MoveToTrash);
+    ASSERT_EQ(services.workspace.recycled.size(), 1U);
+    EXPECT_EQ(services.workspace.recycled[0][0].path(), "/data/c\xFF");
+}
+
+TEST_F(TreeViewControllerCommandsTest, WhatIsInViewEndsWhenItIsTrashed)
+{
+    select("docs");
+    const Url url = node("docs").url();
+    controller->trashItem();
+    controller->zoomIn();
+    select("docs/a");
+    ASSERT_EQ(controller->currentFolder(), &node("docs"));
+    RecycleResult result;
+    result.newUrls[url.absoluteString()] = Url("/trash/docs", true);
+    ASSERT_TRUE(services.workspace.finishRecycling(result));
+    EXPECT_EQ(controller->currentFolder(), model.topFolder());
+    EXPECT_EQ(controller->selectedFile(), nullptr);
+}
+
+TEST_F(TreeViewControllerCommandsTest, CompressesTheSelectedItem)
+{
+    select("docs");
+    controller->perform(TreeCommand::Compress);
+    EXPECT_EQ(services.archiver.program, "/archiver");
+    EXPECT_EQ(
+        services.archiver.arguments,
+        (std::vector<std::string>{
+            "-c", "-k", "--sequesterRsrc", "--folder", "/data/docs", "/data/docs.zip"}));
+    failToCompress();
+}
+
+TEST_F(TreeViewControllerCommandsTest, AnArchiveJoinsTheTree)
+{
+    services.resourceValues.size = 4096;
+    NotificationCenter::defaultCenter().post("ItemCompressed", Url("/data/docs/a.zip", false));
+    EXPECT_EQ(node("docs/a.zip").totalAllocation(), 4096U);
+    EXPECT_EQ(node("docs/a.zip").type(), NodeType::Document);
+    EXPECT_EQ(node("docs").totalAllocation(), 704096U);
+    EXPECT_EQ(view.branches().front()->layoutItems().size(), 2U);
+}
+
+TEST_F(TreeViewControllerCommandsTest, AnArchiveOfAScanOverALinkIsMadeWhereTheItemIs)
+{
+    model.topFolder()->setRealOrigin("/disk");
+    select("docs");
+    controller->perform(TreeCommand::Compress);
+    EXPECT_EQ(
+        services.archiver.arguments,
+        (std::vector<std::string>{
+            "-c", "-k", "--sequesterRsrc", "--folder", "/disk/docs", "/disk/docs.zip"}));
+    failToCompress();
+}
+
+TEST_F(TreeViewControllerCommandsTest, AnArchiveOfAScanOverALinkJoinsTheTree)
+{
+    model.topFolder()->setRealOrigin("/disk");
+    services.resourceValues.sizes["/disk/docs/a.zip"] = 4096;
+    NotificationCenter::defaultCenter().post("ItemCompressed", Url("/disk/docs/a.zip", false));
+    EXPECT_EQ(node("docs/a.zip").totalAllocation(), 4096U);
+}
+
+TEST_F(TreeViewControllerCommandsTest, AnArchiveThatARescanMetIsNotAddedTwice)
+{
+    services.resourceValues.size = 4096;
+    select("docs/a");
+    NotificationCenter::defaultCenter().post("ItemCompressed", Url("/data/docs/a", false));
+    EXPECT_EQ(node("docs/a").totalAllocation(), 4096U);
+    EXPECT_EQ(node("docs").totalAllocation(), 204096U);
+    EXPECT_EQ(controller->selectedFile(), nullptr);
+}
+
+TEST_F(TreeViewControllerCommandsTest, AnArchiveThatCannotBeReadHasNoSize)
+{
+    NotificationCenter::defaultCenter().post("ItemCompressed", Url("/data/docs/a.zip", false));
+    EXPECT_EQ(node("docs/a.zip").totalAllocation(), 0U);
+}
+
+TEST_F(TreeViewControllerCommandsTest, AnArchiveElsewhereIsNobodysConcern)
+{
+    NotificationCenter::defaultCenter().post("ItemCompressed", Url("/trash/a.zip", false));
+    NotificationCenter::defaultCenter().post("ItemCompressed");
+    EXPECT_EQ(model.topFolder()->totalAllocation(), 1000000U);
+}
+
+TEST_F(TreeViewControllerCommandsTest, ADoubleClickOnADocumentPreviewsIt)
+{
+    select("docs/a");
+    NotificationCenter::defaultCenter().post("DoubleClickTreeItem");
+    EXPECT_TRUE(panel.isOpen());
+}
+
+TEST_F(TreeViewControllerCommandsTest, ADoubleClickOnWhatStandsForNoFileDoesNothing)
+{
+    const std::unique_ptr<FreeSpace> space = makeNode<FreeSpace>("");
+    const std::unique_ptr<Unknown> unknown = makeNode<Unknown>("");
+    const std::unique_ptr<TimeMachine> backups = makeNode<TimeMachine>("");
+    for (File* const node :
+         {static_cast<File*>(space.get()),
+          static_cast<File*>(unknown.get()),
+          static_cast<File*>(backups.get())}) {
+        controller->setSelectedFile(node);
+        NotificationCenter::defaultCenter().post("DoubleClickTreeItem");
+        EXPECT_FALSE(panel.isOpen()) << node->name();
+        EXPECT_EQ(controller->currentFolder(), model.topFolder()) << node->name();
+        EXPECT_EQ(controller->selectedFile(), node) << node->name();
+    }
+    controller->setSelectedFile(nullptr);
+}
+
+TEST_F(TreeViewControllerCommandsTest, ThePreviewHasOneItemWhateverIsSelected)
+{
+    EXPECT_EQ(panel.dataSource()->numberOfPreviewItemsInPreviewPanel(), 1);
+    EXPECT_TRUE(panel.dataSource()->previewItemAtIndex(0).previewItemURL().empty());
+    select("docs/a");
+    EXPECT_EQ(panel.dataSource()->numberOfPreviewItemsInPreviewPanel(), 1);
+    EXPECT_EQ(
+        panel.dataSource()->previewItemAtIndex(7).previewItemURL(), Url("/data/docs/a", false));
+}
+
+TEST_F(TreeViewControllerCommandsTest, ThePreviewLooksWhereTheLinksToTheScanLed)
+{
+    model.topFolder()->setRealOrigin("/disk");
+    select("docs/a");
+    EXPECT_EQ(
+        panel.dataSource()->previewItemAtIndex(0).previewItemURL(), Url("/disk/docs/a", false));
+}
+
+TEST_F(TreeViewControllerCommandsTest, ThePreviewGrowsOutOfTheSelectedBox)
+{
+    select("c\xFF");
+    const Rect box = view.findRectForFile(node("c\xFF")).value();
+    const QRectF frame = panel.delegate()->sourceFrameOnScreenForPreviewItem(
+        panel.dataSource()->previewItemAtIndex(0));
+    EXPECT_EQ(frame.topLeft(), view.mapToGlobal(QPointF(box.x, box.y)));
+    EXPECT_EQ(frame.size(), QSizeF(box.width, box.height));
+}
+
+TEST_F(TreeViewControllerCommandsTest, WhatIsNotInThePictureHasNoPlaceToGrowOutOf)
+{
+    EXPECT_TRUE(panel.delegate()
+                    ->sourceFrameOnScreenForPreviewItem(panel.dataSource()->previewItemAtIndex(0))
+                    .isEmpty());
+}
+
+TEST_F(TreeViewControllerCommandsTest, KeysInThePreviewReachTheTreeScreen)
+{
+    QKeyEvent down(QEvent::KeyPress, Qt::Key_Left, Qt::NoModifier);
+    EXPECT_TRUE(panel.delegate()->handleEvent(down));
+    EXPECT_EQ(controller->selectedFile(), &node("docs"));
+    QKeyEvent up(QEvent::KeyRelease, Qt::Key_Left, Qt::NoModifier);
+    EXPECT_FALSE(panel.delegate()->handleEvent(up));
+}
+
+TEST_F(TreeViewControllerCommandsTest, GoingAwayTakesThePreviewAlong)
+{
+    select("docs/a");
+    controller->quickLook();
+    controller.reset();
+    EXPECT_FALSE(panel.isOpen());
+    EXPECT_EQ(panel.dataSource(), nullptr);
+    EXPECT_EQ(panel.delegate(), nullptr);
+}
+
+} // namespace
+} // namespace tessera

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Base/NotificationCenter.h"
+#include "Compress/CompressWindowController.h"
+#include "Model/FreeSpace.h"
+#include "Model/RootModel.h"
+#include "Model/TimeMachine.h"
+#include "Model/Unknown.h"
+#include "QuickLook/QuickLookPanel.h"
+#include "TreeScreen/Map/TreeMapView.h"
+#include "TreeScreen/Picture/TreeBranch.h"
+#include "TreeScreen/SelectionPreview.h"
+#include "TreeScreen/TreeViewController.h"
+#include "support/Fakes/FakeRootModelServices.h"
+#include "support/Fakes/FakeTreeViewServices.h"
+#include "support/MakeTree.h"
+
+#include <QApplication>
+#include <QMenu>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace tessera::test {
+
+/// The tree screen of a small folder, with no motion.
+class TreeViewControllerFixture : public testing::Test {
+protected:
+    TreeViewControllerFixture()
+    {
+        services.motion.reduced = true;
+        panel.setMotionPreference(&services.motion);
+        model.setTopFolder(makeTree("/data", "docs/ ( a:500000 b:200000 ) c\xFF:300000"));
+        view.resize(400, 300);
+        view.show();
+        controller = std::make_unique<TreeViewController>(model, view, services.get());
+    }
+    ~TreeViewControllerFixture() override
+    {
+        panel.orderOut();
+        panel.setMotionPreference(nullptr);
+    }
+
+    File& node(std::string_view path) { return at(*model.topFolder(), path); }
+    void select(std::string_view path) { controller->setSelectedFile(&node(path)); }
+
+    bool press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        return controller->keyDown(QKeyEvent(QEvent::KeyPress, key, modifiers));
+    }
+
+    void pressMenuKey()
+    {
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+        QApplication::sendEvent(&view, &event);
+    }
+
+    /// The compression that runs ends without an archive.
+    void failToCompress()
+    {
+        services.archiver.output = "1 2\n"; // the file that it made
+        services.archiver.onTerminated(1);
+        QTRY_COMPARE(services.workspace.recycled.size(), 1U);
+        ASSERT_TRUE(services.workspace.finishRecycling({}));
+        QTRY_VERIFY(services.archiver.isDestroyed);
+        QTest::qWait(0);
+    }
+
+    bool canDo(TreeCommand command) const { return controller->validate(command); }
+
+    /// What is said on the picture; empty while nothing is.
+    QString said() const
+    {
+        const auto* const note = view.findChild<TreeNote*>();
+        return note->isVisible() ? note->text() : QString();
+    }
+
+    FakeRootModelServices modelServices;
+    RootModel model{modelServices.get()};
+    FakeTreeViewServices services;
+    QuickLookPanel& panel = QuickLookPanel::sharedInstance();
+    TreeMapView view{services.defaults};
+    std::unique_ptr<TreeViewController> controller;
+};
+
+} // namespace tessera::test

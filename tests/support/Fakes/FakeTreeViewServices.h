@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Desktop/MotionPreference.h"
+#include "TreeScreen/TreeViewServices.h"
+#include "support/Fakes/FakeAlert.h"
+#include "support/Fakes/FakeDirectoryEnumerator.h"
+#include "support/Fakes/FakeFileSystem.h"
+#include "support/Fakes/FakeIconProvider.h"
+#include "support/Fakes/FakeMainThread.h"
+#include "support/Fakes/FakeTask.h"
+#include "support/Fakes/FakeUserDefaults.h"
+#include "support/Fakes/FakeWorkspace.h"
+
+#include <atomic>
+#include <cerrno>
+#include <memory>
+#include <set>
+#include <string>
+#include <system_error>
+#include <thread>
+#include <utility>
+
+namespace tessera::test {
+
+class FakeMotionPreference final : public MotionPreference {
+public:
+    [[nodiscard]] bool reducesMotion() const override { return reduced; }
+
+    bool reduced = false;
+};
+
+/// All that a TreeViewController needs, and a clock that stands still. Whatever is rescanned holds
+/// the items given to the constructor.
+struct FakeTreeViewServices {
+    explicit FakeTreeViewServices(std::string_view rescannedItems = "")
+        : files(rescannedItems)
+    {
+    }
+
+    FakeFileManager files;
+    FakeResourceValues scanResourceValues; ///< of rescans, which may take as long as they like
+    FakeResourceValues resourceValues;
+    FixedFileSystem fileSystem{FileSystemSizes{1000, 300}};
+    FakeMainThread mainThread;
+    FakeUserDefaults defaults;
+    FakeWorkspace workspace;
+    FakeAlert alert;
+    FakeIconProvider icons;
+    FakeTaskRecord archiver;
+    std::set<std::string> targetsInUse;
+    FakeMotionPreference motion;
+    std::error_code folderProblem; ///< that every folder has
+    std::string checkedFolder; ///< the last one
+    std::atomic<bool> hasThreads = true; ///< whether a scan gets a worker
+    std::shared_ptr<ScanWorkers> workers
+        = std::make_shared<ScanWorkers>([this](ScanWorkers::Work work) {
+              if (!hasThreads) {
+                  throw std::system_error(EAGAIN, std::generic_category());
+              }
+              std::thread(std::move(work)).detach();
+          });
+    std::string home = "/me";
+    double now = 100;
+    std::atomic<double> scanClock = 100;
+
+    TreeViewServices get()
+    {
+        return {
+            {files,
+             scanResourceValues,
+             fileSystem,
+             mainThread,
+             [this] { return scanClock.load(); },
+             home,
+             workers},
+            resourceValues,
+            fileSystem,
+            defaults,
+            workspace,
+            alert,
+            {"/archiver",
+             [this] { return FakeTask::make(archiver); },
+             workspace,
+             resourceValues,
+             icons,
+             targetsInUse,
+             alert},
+            motion,
+            [this](const std::string& path) {
+                checkedFolder = path;
+                return folderProblem;
+            },
+            [this] { return now; }};
+    }
+};
+
+} // namespace tessera::test
