@@ -137,13 +137,13 @@ class OwnBenches:
     def pictures(self, rounds):
         """Milliseconds for each picture that PaintBench made, by what it calls it."""
         pattern = r"^(\w+ \d+x\d+@[\d.]+) .*renderTree +([\d.]+) ms"
-        found = re.findall(pattern, self.output("TreeView/PaintBench", rounds), re.M)
+        found = re.findall(pattern, self.output("TreeScreen/PaintBench", rounds), re.M)
         return {name: float(value) for name, value in found}
 
     def hovers(self, moves):
         """Median and 95th percentile in milliseconds, by picture and kind of move."""
         pattern = r"^(\w+ \w+ box) .*median ([\d.]+) ms, 95th percentile ([\d.]+) ms"
-        found = re.findall(pattern, self.output("TreeView/HoverBench", moves), re.M)
+        found = re.findall(pattern, self.output("TreeScreen/HoverBench", moves), re.M)
         return {kind: (float(median), float(high)) for kind, median, high in found}
 
     def on_screen(self, program, *arguments, size):
@@ -159,21 +159,21 @@ class OwnBenches:
 
     def longest_hold(self, folder, files):
         """For how many milliseconds the main thread was out of reach at the worst, and when."""
-        output = self.on_screen("Shell/WatchdogBench", folder, files, size=SCREEN)
+        output = self.on_screen("Start/WatchdogBench", folder, files, size=SCREEN)
         found = re.search(r"^longest ([\d.]+) ms, .*: (.+)$", output, re.M)
         return float(found[1]), found[2]
 
     def starts(self, rounds):
         """Median milliseconds until the screen stays as it is, by the name of the program."""
-        started = [self.programs.parent / "src" / "tessera", self.programs / "Shell" / "BareWindow"]
-        output = self.on_screen("Shell/StartBench", rounds, *started, size=SCREEN)
+        started = [self.programs.parent / "src" / "tessera", self.programs / "Start" / "BareWindow"]
+        output = self.on_screen("Start/StartBench", rounds, *started, size=SCREEN)
         found = re.findall(r"^(\S+) median ([\d.]+) ms", output, re.M)
         return {name: float(median) for name, median in found}
 
     def zooms(self, folder, count):
         """Pictures a second in the slowest of some zooms, median and 95th percentile of the time
         from one picture to the next in milliseconds; by the size of the map."""
-        output = self.on_screen("TreeView/ZoomBench", folder, count, size=LARGEST_MAP)
+        output = self.on_screen("TreeScreen/ZoomBench", folder, count, size=LARGEST_MAP)
         pattern = (
             r"^zoom (\d+x\d+) .*least ([\d.]+) .*"
             r"median ([\d.]+) ms, 95th percentile ([\d.]+) ms, longest"
