@@ -299,8 +299,7 @@ void MainWindowController::homeSelected()
 void MainWindowController::pathSelected()
 {
     if (m_treeVC != nullptr) {
-        m_treeVC->clickFolderPath(
-            m_toolbar->toolbarPathControl().clickedPathComponentCell()->url());
+        m_treeVC->clickFolderPath(m_toolbar->toolbarPathControl().clickedPathComponent()->url());
     }
 }
 
@@ -310,8 +309,8 @@ void MainWindowController::refreshPathControl()
         return;
     }
     ToolbarPathControl& path = m_toolbar->toolbarPathControl();
-    path.setPathComponentCells(
-        pathComponentCells(*m_treeVC->currentFolder(), m_services.treeScreen.compressing.icons));
+    path.setPathComponents(
+        pathComponents(*m_treeVC->currentFolder(), m_services.treeScreen.compressing.icons));
     path.refreshWidth();
 }
 

@@ -4,7 +4,7 @@
 #include "MainWindowFixture.h"
 #include "Model/UserDefaults.h"
 #include "QuickLook/QuickLookPanel.h"
-#include "TreeScreen/PathBar/CenteredPathComponentCell.h"
+#include "TreeScreen/PathBar/PathComponent.h"
 #include "TreeScreen/PathBar/PathComponentButton.h"
 #include "TreeScreen/PathBar/ToolbarPathControl.h"
 #include "TreeScreen/TreeNote.h"
@@ -32,8 +32,8 @@ protected:
     std::vector<int> pathTags() const
     {
         std::vector<int> tags;
-        for (const CenteredPathComponentCell& cell : path().pathComponentCells()) {
-            tags.push_back(cell.tag());
+        for (const PathComponent& component : path().pathComponents()) {
+            tags.push_back(component.tag());
         }
         return tags;
     }
@@ -100,7 +100,7 @@ TEST_F(MainWindowControllerTest, ThePathLeadsFromTheRootToTheFolderInView)
     showTree();
     zoomIntoDocs();
     EXPECT_THAT(pathTags(), ElementsAre(0, 100));
-    EXPECT_EQ(path().pathComponentCells().back().url().path(), "/data/docs");
+    EXPECT_EQ(path().pathComponents().back().url().path(), "/data/docs");
 }
 
 TEST_F(MainWindowControllerTest, AClickInThePathBarZoomsOut)

@@ -21,27 +21,27 @@ constexpr int kChevronOverhang = 1;
 
 } // namespace
 
-PathComponentButton::PathComponentButton(CenteredPathComponentCell cell, QWidget* parent)
+PathComponentButton::PathComponentButton(PathComponent component, QWidget* parent)
     : QAbstractButton(parent)
-    , m_cell(std::move(cell))
+    , m_component(std::move(component))
 {
     setAttribute(Qt::WA_Hover);
     setFocusPolicy(Qt::NoFocus);
-    setCell(m_cell);
+    setComponent(m_component);
 }
 
-void PathComponentButton::setCell(CenteredPathComponentCell cell)
+void PathComponentButton::setComponent(PathComponent component)
 {
-    m_cell = std::move(cell);
+    m_component = std::move(component);
     // The button's own text would take an ampersand for a shortcut.
-    setAccessibleName(m_cell.title());
-    setToolTip(plainTooltip(m_cell.title()));
+    setAccessibleName(m_component.title());
+    setToolTip(plainTooltip(m_component.title()));
     update();
 }
 
 QSize PathComponentButton::sizeHint() const
 {
-    const QSizeF size = m_cell.cellSize();
+    const QSizeF size = m_component.naturalSize();
     return {
         static_cast<int>(std::ceil(size.width())),
         static_cast<int>(std::ceil(size.height())) + kChevronOverhang};
@@ -67,9 +67,8 @@ void PathComponentButton::paintEvent(QPaintEvent* /*event*/)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     paintFeedback(painter);
-    const double cellHeight = height() - kChevronOverhang;
-    m_cell.drawInteriorWithFrame(
-        {kLead, 0, static_cast<double>(width()), cellHeight}, painter, palette());
+    const double componentHeight = height() - kChevronOverhang;
+    m_component.draw({kLead, 0, static_cast<double>(width()), componentHeight}, painter, palette());
 }
 
 void PathComponentButton::paintFeedback(QPainter& painter) const

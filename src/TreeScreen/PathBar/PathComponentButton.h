@@ -1,27 +1,27 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "TreeScreen/PathBar/CenteredPathComponentCell.h"
+#include "TreeScreen/PathBar/PathComponent.h"
 
 #include <QAbstractButton>
 
 namespace tessera {
 
-/// A component of the path bar as something to click: the cell, with what shows the pointer, the
-/// press and the keyboard's focus around it. The keys that lead to another component are left to
+/// A component of the path bar as something to click, with what shows the pointer, the press and
+/// the keyboard's focus around it. The keys that lead to another component are left to
 /// the bar.
 class PathComponentButton final : public QAbstractButton {
     Q_OBJECT
 
 public:
-    /// How far the button reaches beyond its cell's left side, at the expense of its right side,
-    /// where the cell is empty.
+    /// How far the button reaches beyond its component's left side, at the expense of its right
+    /// side, where the component is empty.
     static constexpr int kLead = 4;
 
-    PathComponentButton(CenteredPathComponentCell cell, QWidget* parent);
+    PathComponentButton(PathComponent component, QWidget* parent);
 
-    const CenteredPathComponentCell& cell() const { return m_cell; }
-    void setCell(CenteredPathComponentCell cell);
+    const PathComponent& component() const { return m_component; }
+    void setComponent(PathComponent component);
 
     QSize sizeHint() const override;
 
@@ -32,7 +32,7 @@ protected:
 private:
     void paintFeedback(QPainter& painter) const;
 
-    CenteredPathComponentCell m_cell;
+    PathComponent m_component;
 };
 
 } // namespace tessera

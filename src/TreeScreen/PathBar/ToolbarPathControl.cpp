@@ -34,7 +34,7 @@ ToolbarPathControl::~ToolbarPathControl() = default;
 void ToolbarPathControl::setFrame(const Rect& requested)
 {
     m_toolbarRequestedRect = requested;
-    const double width = std::min(requested.width, cellSize().width());
+    const double width = std::min(requested.width, naturalSize().width());
     setGeometry(
         qRound(requested.x), qRound(requested.y), wholePoints(width), qRound(requested.height));
     placeButtons();
@@ -45,17 +45,17 @@ void ToolbarPathControl::refreshWidth()
     setFrame(Rect(m_toolbarRequestedRect));
 }
 
-void ToolbarPathControl::setPathComponentCells(const std::vector<CenteredPathComponentCell>& cells)
+void ToolbarPathControl::setPathComponents(const std::vector<PathComponent>& components)
 {
     const bool hadFocus = focusedIndex().has_value();
-    while (m_buttons.size() > cells.size()) {
+    while (m_buttons.size() > components.size()) {
         removeLastButton();
     }
-    for (std::size_t i = 0; i < cells.size(); ++i) {
+    for (std::size_t i = 0; i < components.size(); ++i) {
         if (i < m_buttons.size()) {
-            m_buttons[i]->setCell(cells[i]);
+            m_buttons[i]->setComponent(components[i]);
         } else {
-            m_buttons.push_back(addButton(cells[i]));
+            m_buttons.push_back(addButton(components[i]));
         }
     }
     if (!m_buttons.empty()) {
@@ -67,16 +67,16 @@ void ToolbarPathControl::setPathComponentCells(const std::vector<CenteredPathCom
     placeButtons();
 }
 
-std::vector<CenteredPathComponentCell> ToolbarPathControl::pathComponentCells() const
+std::vector<PathComponent> ToolbarPathControl::pathComponents() const
 {
-    std::vector<CenteredPathComponentCell> cells;
+    std::vector<PathComponent> components;
     for (const PathComponentButton* button : m_buttons) {
-        cells.push_back(button->cell());
+        components.push_back(button->component());
     }
-    return cells;
+    return components;
 }
 
-QSizeF ToolbarPathControl::cellSize() const
+QSizeF ToolbarPathControl::naturalSize() const
 {
     QSizeF size(0, 0);
     for (const PathComponentButton* button : m_buttons) {
@@ -87,14 +87,14 @@ QSizeF ToolbarPathControl::cellSize() const
     return size + QSizeF(PathComponentButton::kLead + kEndMargin, 2 * kMarginAbove);
 }
 
-const CenteredPathComponentCell* ToolbarPathControl::clickedPathComponentCell() const
+const PathComponent* ToolbarPathControl::clickedPathComponent() const
 {
-    return m_clickedCell ? &*m_clickedCell : nullptr;
+    return m_clickedComponent ? &*m_clickedComponent : nullptr;
 }
 
 QSize ToolbarPathControl::sizeHint() const
 {
-    return {wholePoints(cellSize().width()), wholePoints(cellSize().height())};
+    return {wholePoints(naturalSize().width()), wholePoints(naturalSize().height())};
 }
 
 QSize ToolbarPathControl::minimumSizeHint() const
@@ -134,12 +134,12 @@ void ToolbarPathControl::resizeEvent(QResizeEvent* event)
     placeButtons();
 }
 
-PathComponentButton* ToolbarPathControl::addButton(const CenteredPathComponentCell& cell)
+PathComponentButton* ToolbarPathControl::addButton(const PathComponent& component)
 {
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the parent owns it
-    auto* const button = new PathComponentButton(cell, this);
+    auto* const button = new PathComponentButton(component, this);
     connect(button, &PathComponentButton::clicked, this, [this, button] {
-        m_clickedCell = button->cell();
+        m_clickedComponent = button->component();
         emit clicked();
     });
     button->show();
@@ -162,17 +162,17 @@ void ToolbarPathControl::placeButtons()
         natural.push_back(button->sizeHint().width());
     }
     m_widths = pathComponentWidths(natural, width() - PathComponentButton::kLead - kEndMargin);
-    // A button reaches beyond its cell to the left and ends where the next one begins.
+    // A button reaches beyond its component to the left and ends where the next one begins.
     double x = 0;
     for (std::size_t i = 0; i < m_buttons.size(); ++i) {
-        const double cellWidth = m_widths.widths[i];
+        const double componentWidth = m_widths.widths[i];
         PathComponentButton* const button = m_buttons[i];
         const int buttonHeight = button->sizeHint().height();
         button->setGeometry(
-            qRound(x), (height() - buttonHeight) / 2, qRound(cellWidth), buttonHeight);
-        button->setVisible(cellWidth > 0);
-        const bool isBeforeGap = i == 0 && m_widths.hasGap() && cellWidth > 0;
-        x += cellWidth + (isBeforeGap ? kPathGapWidth : 0);
+            qRound(x), (height() - buttonHeight) / 2, qRound(componentWidth), buttonHeight);
+        button->setVisible(componentWidth > 0);
+        const bool isBeforeGap = i == 0 && m_widths.hasGap() && componentWidth > 0;
+        x += componentWidth + (isBeforeGap ? kPathGapWidth : 0);
     }
     const bool isTabLost = std::any_of(m_buttons.begin(), m_buttons.end(), [](const auto* button) {
         return button->isHidden() && button->focusPolicy() != Qt::NoFocus;

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Base/Rect.h"
-#include "TreeScreen/PathBar/CenteredPathComponentCell.h"
+#include "TreeScreen/PathBar/PathComponent.h"
 #include "TreeScreen/PathBar/PathComponentWidths.h"
 
 #include <QWidget>
@@ -24,7 +24,8 @@ public:
     explicit ToolbarPathControl(QWidget* parent = nullptr);
     ~ToolbarPathControl() override;
 
-    /// Takes the place that the toolbar offers, but no more of its width than cellSize(). Points.
+    /// Takes the place that the toolbar offers, but no more of its width than naturalSize().
+    /// Points.
     void setFrame(const Rect& requested);
     /// The last frame that the toolbar asked for.
     const Rect& toolbarRequestedRect() const { return m_toolbarRequestedRect; }
@@ -32,14 +33,14 @@ public:
     void refreshWidth();
 
     /// May be called while a click is being handled.
-    void setPathComponentCells(const std::vector<CenteredPathComponentCell>& cells);
-    std::vector<CenteredPathComponentCell> pathComponentCells() const;
+    void setPathComponents(const std::vector<PathComponent>& components);
+    std::vector<PathComponent> pathComponents() const;
 
     /// The natural size: with all names in full.
-    QSizeF cellSize() const;
+    QSizeF naturalSize() const;
 
     /// The component that was clicked last; null before.
-    const CenteredPathComponentCell* clickedPathComponentCell() const;
+    const PathComponent* clickedPathComponent() const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -54,7 +55,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    PathComponentButton* addButton(const CenteredPathComponentCell& cell);
+    PathComponentButton* addButton(const PathComponent& component);
     void removeLastButton();
     void placeButtons();
     void letTabReach(std::size_t index);
@@ -63,7 +64,7 @@ private:
 
     Rect m_toolbarRequestedRect;
     std::vector<PathComponentButton*> m_buttons; ///< children of this widget
-    std::optional<CenteredPathComponentCell> m_clickedCell;
+    std::optional<PathComponent> m_clickedComponent;
     PathComponentWidths m_widths;
 };
 

@@ -36,7 +36,7 @@ protected:
     void showPathTo(std::string_view path)
     {
         Folder& folder = path.empty() ? *tree : static_cast<Folder&>(test::at(*tree, path));
-        control.setPathComponentCells(pathComponentCells(folder, icons));
+        control.setPathComponents(pathComponents(folder, icons));
         control.refreshWidth();
     }
 
@@ -52,12 +52,12 @@ protected:
         return shown;
     }
 
-    double naturalWidth() const { return control.cellSize().width(); }
+    double naturalWidth() const { return control.naturalSize().width(); }
 
     std::string clickedPath() const
     {
-        const auto* cell = control.clickedPathComponentCell();
-        return cell == nullptr ? std::string() : cell->url().path();
+        const auto* component = control.clickedPathComponent();
+        return component == nullptr ? std::string() : component->url().path();
     }
 
     void focusLast()
@@ -136,8 +136,8 @@ TEST_F(ToolbarPathControlTest, IsAsWideAsAllItsComponents)
 {
     showPathTo("documents");
     double sum = 0;
-    for (const auto& cell : control.pathComponentCells()) {
-        sum += cell.cellSize().width();
+    for (const auto& component : control.pathComponents()) {
+        sum += component.naturalSize().width();
     }
 
     EXPECT_GE(naturalWidth(), sum);
@@ -172,8 +172,8 @@ TEST_F(ToolbarPathControlTest, WithLeastRoomTheMiddleIsLeftOut)
     control.setFrame({0, 0, 160, 30});
 
     EXPECT_EQ(buttons().size(), 2U);
-    EXPECT_EQ(buttons().front()->cell().url().path(), "/home/anna");
-    EXPECT_EQ(buttons().back()->cell().url().path(), "/home/anna/documents/pictures/A&B");
+    EXPECT_EQ(buttons().front()->component().url().path(), "/home/anna");
+    EXPECT_EQ(buttons().back()->component().url().path(), "/home/anna/documents/pictures/A&B");
 }
 
 TEST_F(ToolbarPathControlTest, AClickTellsWhichComponentWasMeant)
@@ -189,7 +189,7 @@ TEST_F(ToolbarPathControlTest, AClickTellsWhichComponentWasMeant)
 TEST_F(ToolbarPathControlTest, NothingIsClickedAtFirst)
 {
     showPathTo("documents");
-    EXPECT_EQ(control.clickedPathComponentCell(), nullptr);
+    EXPECT_EQ(control.clickedPathComponent(), nullptr);
 }
 
 TEST_F(ToolbarPathControlTest, AClickMayChangeTheComponents)
@@ -264,9 +264,9 @@ TEST_F(ToolbarPathControlTest, ScreenReadersAreToldTheNamesAsTheyAre)
 
 TEST_F(ToolbarPathControlTest, TooltipsShowNamesThatLookLikeMarkupAsTheyAre)
 {
-    CenteredPathComponentCell cell(icons);
-    cell.setFile(Url("/<b>c", true));
-    control.setPathComponentCells({cell});
+    PathComponent component(icons);
+    component.setFile(Url("/<b>c", true));
+    control.setPathComponents({component});
     control.refreshWidth();
 
     EXPECT_TRUE(buttons().at(0)->toolTip().contains(QStringLiteral("&lt;b&gt;c")));

@@ -14,12 +14,12 @@ TEST(ToolbarPathItem, OffersAllItsRoomToThePathBar)
     test::FakeIconProvider icons;
     const auto tree = test::makeTree("/home/anna", "a:1");
     ToolbarPathItem item;
-    item.pathControl().setPathComponentCells(pathComponentCells(*tree, icons));
+    item.pathControl().setPathComponents(pathComponents(*tree, icons));
     item.resize(800, 30);
     item.show();
 
     EXPECT_EQ(item.pathControl().toolbarRequestedRect(), (Rect{0, 0, 800, 30}));
-    EXPECT_EQ(item.pathControl().width(), item.pathControl().cellSize().width());
+    EXPECT_EQ(item.pathControl().width(), item.pathControl().naturalSize().width());
 }
 
 TEST(ToolbarPathItem, WantsAllTheRoomThatIsLeft)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "TreeScreen/PathBar/CenteredPathComponentCell.h"
+#include "TreeScreen/PathBar/PathComponent.h"
 
 #include "Base/DisplayText.h"
 #include "Model/Folder.h"
@@ -44,14 +44,14 @@ constexpr std::uint32_t kShadowOnDarkHexA = 0x0000007F;
 constexpr std::uint32_t kDarkGrayHex = 0x555555;
 constexpr std::uint32_t kLightGrayHex = 0xAAAAAA;
 
-void drawChevron(const Rect& cellFrame, QPainter& painter, const QColor& color)
+void drawChevron(const Rect& frame, QPainter& painter, const QColor& color)
 {
-    const double right = cellFrame.right();
-    const double top = cellFrame.y + kChevronTop;
-    const double middle = top + cellFrame.height / 2;
+    const double right = frame.right();
+    const double top = frame.y + kChevronTop;
+    const double middle = top + frame.height / 2;
     QPainterPath chevron(QPointF(right - kChevronLeft, top));
     chevron.lineTo(right - kChevronTip, middle);
-    chevron.lineTo(right - kChevronLeft, top + cellFrame.height);
+    chevron.lineTo(right - kChevronLeft, top + frame.height);
     chevron.lineTo(right - kChevronHollow, middle);
     chevron.closeSubpath();
     painter.fillPath(chevron, color);
@@ -59,21 +59,21 @@ void drawChevron(const Rect& cellFrame, QPainter& painter, const QColor& color)
 
 } // namespace
 
-CenteredPathComponentCell::CenteredPathComponentCell(IconProvider& icons)
+PathComponent::PathComponent(IconProvider& icons)
     : m_icons(&icons)
     , m_font(QFontDatabase::systemFont(QFontDatabase::GeneralFont))
 {
     m_font.setPixelSize(kFontPixels);
 }
 
-void CenteredPathComponentCell::setFile(const Url& file)
+void PathComponent::setFile(const Url& file)
 {
     m_url = file;
     m_image = m_icons->iconForUrl(file, kImagePoints, qGuiApp->devicePixelRatio());
     m_title = displayText(file.lastPathComponent());
 }
 
-void CenteredPathComponentCell::setFolder(const Folder& folder)
+void PathComponent::setFolder(const Folder& folder)
 {
     m_url = folder.url();
     m_image = m_icons->icon(folder, kImagePoints, qGuiApp->devicePixelRatio());
@@ -84,23 +84,23 @@ void CenteredPathComponentCell::setFolder(const Folder& folder)
     }
 }
 
-TextAttributes CenteredPathComponentCell::foreground(const QPalette& palette) const
+TextAttributes PathComponent::foreground(const QPalette& palette) const
 {
     return textAttributes(
         isDark(palette) ? palette.color(QPalette::WindowText) : colorWithHex(kTextHex));
 }
 
-TextAttributes CenteredPathComponentCell::background(const QPalette& palette) const
+TextAttributes PathComponent::background(const QPalette& palette) const
 {
     return textAttributes(colorWithHexA(isDark(palette) ? kShadowOnDarkHexA : kShadowOnLightHexA));
 }
 
-TextAttributes CenteredPathComponentCell::textAttributes(const QColor& color) const
+TextAttributes PathComponent::textAttributes(const QColor& color) const
 {
     return {m_font, Util::truncatedParagraphStyle(), Qt::AlignLeft, color};
 }
 
-QSizeF CenteredPathComponentCell::cellSize() const
+QSizeF PathComponent::naturalSize() const
 {
     const QFontMetricsF metrics(m_font);
     const double textHeight = kTextTop + std::ceil(metrics.height());
@@ -109,30 +109,25 @@ QSizeF CenteredPathComponentCell::cellSize() const
         std::max(kLeastHeight, textHeight)};
 }
 
-void CenteredPathComponentCell::drawInteriorWithFrame(
-    const Rect& cellFrame, QPainter& inView, const QPalette& palette) const
+void PathComponent::draw(const Rect& frame, QPainter& painter, const QPalette& palette) const
 {
-    inView.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    inView.drawPixmap(
-        QRectF(cellFrame.x, cellFrame.y + kImageTop, kImagePoints, kImagePoints),
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter.drawPixmap(
+        QRectF(frame.x, frame.y + kImageTop, kImagePoints, kImagePoints),
         m_image,
         QRectF(m_image.rect()));
     if (m_tag != kCurrentFolderTag) {
-        drawChevron(
-            cellFrame, inView, colorWithHex(isDark(palette) ? kLightGrayHex : kDarkGrayHex));
+        drawChevron(frame, painter, colorWithHex(isDark(palette) ? kLightGrayHex : kDarkGrayHex));
     }
     const Rect text{
-        cellFrame.x + kTextLeft,
-        cellFrame.y + kTextTop,
-        cellFrame.width - kTextMargins,
-        cellFrame.height};
+        frame.x + kTextLeft, frame.y + kTextTop, frame.width - kTextMargins, frame.height};
     if (text.width > kMinTextWidth) {
-        drawTitle(text, inView, background(palette));
-        drawTitle(text.translated(0, -kTitleShadowDrop), inView, foreground(palette));
+        drawTitle(text, painter, background(palette));
+        drawTitle(text.translated(0, -kTitleShadowDrop), painter, foreground(palette));
     }
 }
 
-void CenteredPathComponentCell::drawTitle(
+void PathComponent::drawTitle(
     const Rect& text, QPainter& painter, const TextAttributes& attributes) const
 {
     const QFontMetricsF metrics(attributes.font);
@@ -143,17 +138,16 @@ void CenteredPathComponentCell::drawTitle(
         metrics.elidedText(m_title, attributes.elideMode, text.width));
 }
 
-std::vector<CenteredPathComponentCell> pathComponentCells(
-    const Folder& currentFolder, IconProvider& icons)
+std::vector<PathComponent> pathComponents(const Folder& currentFolder, IconProvider& icons)
 {
-    std::vector<CenteredPathComponentCell> cells;
+    std::vector<PathComponent> components;
     for (const Folder* folder = &currentFolder; folder != nullptr; folder = folder->parent()) {
-        CenteredPathComponentCell& cell = cells.emplace_back(icons);
-        cell.setTag(folder == &currentFolder ? CenteredPathComponentCell::kCurrentFolderTag : 0);
-        cell.setFolder(*folder);
+        PathComponent& component = components.emplace_back(icons);
+        component.setTag(folder == &currentFolder ? PathComponent::kCurrentFolderTag : 0);
+        component.setFolder(*folder);
     }
-    std::reverse(cells.begin(), cells.end());
-    return cells;
+    std::reverse(components.begin(), components.end());
+    return components;
 }
 
 } // namespace tessera

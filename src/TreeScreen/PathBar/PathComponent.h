@@ -22,17 +22,17 @@ class IconProvider;
 
 /// One component of the path bar: a folder's icon and name, and a chevron toward the next one.
 /// Draws itself where it is told to. Main thread only.
-class CenteredPathComponentCell {
+class PathComponent {
 public:
     /// The tag of the folder in view: its size is shown, and no chevron follows.
     static constexpr int kCurrentFolderTag = 100;
 
-    /// `icons` must outlive the cell and its copies.
-    explicit CenteredPathComponentCell(IconProvider& icons);
+    /// `icons` must outlive the component and its copies.
+    explicit PathComponent(IconProvider& icons);
 
     const Url& url() const { return m_url; }
     const QPixmap& image() const { return m_image; }
-    /// What the cell shows as its text.
+    /// What the component shows as its text.
     const QString& title() const { return m_title; }
     const QFont& font() const { return m_font; }
 
@@ -42,7 +42,8 @@ public:
 
     /// Shows an item by its name and icon.
     void setFile(const Url& file);
-    /// The same for a node of a tree; with its size when the cell is tagged as the folder in view.
+    /// The same for a node of a tree; with its size when the component is tagged as the folder in
+    /// view.
     void setFolder(const Folder& folder);
 
     /// How the text and, one point below it, its shadow are written, which together look engraved:
@@ -50,12 +51,12 @@ public:
     TextAttributes foreground(const QPalette& palette) const;
     TextAttributes background(const QPalette& palette) const;
 
-    /// What the cell needs to show everything, in whole points. The chevron takes one more below.
-    QSizeF cellSize() const;
+    /// What the component needs to show everything, in whole points. The chevron takes one more
+    /// below.
+    QSizeF naturalSize() const;
 
-    /// Draws the cell in a frame of any width; what does not fit is left out.
-    void drawInteriorWithFrame(
-        const Rect& cellFrame, QPainter& inView, const QPalette& palette) const;
+    /// Draws the component in a frame of any width; what does not fit is left out.
+    void draw(const Rect& frame, QPainter& painter, const QPalette& palette) const;
 
 private:
     TextAttributes textAttributes(const QColor& color) const;
@@ -71,7 +72,6 @@ private:
 
 /// The components of a path bar that shows where `currentFolder` lies: one for each folder from
 /// the root of its tree down to itself.
-std::vector<CenteredPathComponentCell> pathComponentCells(
-    const Folder& currentFolder, IconProvider& icons);
+std::vector<PathComponent> pathComponents(const Folder& currentFolder, IconProvider& icons);
 
 } // namespace tessera
