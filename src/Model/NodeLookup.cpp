@@ -4,6 +4,7 @@
 #include "Model/TopFolder.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <optional>
 #include <string>
 
@@ -122,6 +123,16 @@ File* nodeAtPath(TopFolder& top, std::string_view absolutePath)
 {
     const Found found = walkDown(top, absolutePath);
     return found.isExact ? found.deepest : nullptr;
+}
+
+Folder* parentAtPath(TopFolder& top, std::string_view absolutePath)
+{
+    const std::size_t slash = absolutePath.rfind('/');
+    if (slash == std::string_view::npos) {
+        return nullptr;
+    }
+    const std::string_view parent = absolutePath.substr(0, slash);
+    return nodeCast<Folder>(nodeAtPath(top, parent.empty() ? "/" : parent));
 }
 
 File* nearestNodeAtPath(TopFolder& top, std::string_view absolutePath)

@@ -9,6 +9,7 @@
 namespace tessera {
 
 class File;
+class Folder;
 class TopFolder;
 
 /// Whether the node stands for a file or folder of its own: others are space on the disk, whose
@@ -34,8 +35,12 @@ class TopFolder;
 /// component.
 [[nodiscard]] File* nodeAtPath(TopFolder& top, std::string_view absolutePath);
 
-/// The same, or else the deepest node on the way there; null when the path is not the top folder's
-/// nor below it.
+/// The folder of the tree that holds, or would hold, the item of that path; null when it is not
+/// there.
+[[nodiscard]] Folder* parentAtPath(TopFolder& top, std::string_view absolutePath);
+
+/// The node itself, or else the deepest node on the way there; null when the path is not the top
+/// folder's nor below it.
 [[nodiscard]] File* nearestNodeAtPath(TopFolder& top, std::string_view absolutePath);
 
 } // namespace tessera

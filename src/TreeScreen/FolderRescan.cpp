@@ -159,7 +159,7 @@ void FolderRescan::applyChanges(TopFolder& scanned)
     auto& shown = *nodeCast<TopFolder>(root);
     for (const std::string& path : m_changedPaths) {
         File* const known = nodeAtPath(shown, path);
-        auto* const parent = nodeCast<Folder>(nodeAtPath(scanned, path.substr(0, path.rfind('/'))));
+        Folder* const parent = parentAtPath(scanned, path);
         if (known != nullptr && parent != nullptr) {
             parent->insertChild(known->parent()->removeChild(*known));
         }

@@ -4,6 +4,7 @@
 #include "Base/DisplayText.h"
 #include "Base/NotificationCenter.h"
 #include "Desktop/Alert.h"
+#include "Desktop/Workspace.h"
 #include "Layout/LevelRenderer.h"
 #include "Model/Document.h"
 #include "Model/FileSystemAttributes.h"
@@ -14,7 +15,6 @@
 #include "TreeScreen/Map/TreeMapView.h"
 #include "TreeScreen/Picture/TreeBranch.h"
 #include "TreeScreen/TreeViewServices.h"
-#include "Widgets/Util.h"
 
 #include <QPointer>
 
@@ -201,22 +201,14 @@ void TreeViewController::quickLook()
     SelectionPreview::open();
 }
 
-Folder* TreeViewController::locateParent(const Url& url) const
-{
-    TopFolder* const top = m_model.topFolder();
-    return top == nullptr ? nullptr : Util::locateParent(url, *top);
-}
-
 void TreeViewController::showInFinder()
 {
     if (m_selectedFile == nullptr) {
         return;
     }
     const QString name = displayText(m_selectedFile->name());
-    Util::revealInFinder(
-        m_selectedFile->url(),
-        m_services.workspace,
-        [self = QPointer<TreeViewController>(this), name](bool isShown) {
+    m_services.workspace.reveal(
+        m_selectedFile->url(), [self = QPointer<TreeViewController>(this), name](bool isShown) {
             if (self != nullptr && !isShown) {
                 self->sayThatThereIsNoFileManager(name);
             }
@@ -249,7 +241,7 @@ void TreeViewController::itemGone(const Url& place)
     }
     const std::string path = pathInTree(*top, place.path());
     m_rescan.pathWentAway(path);
-    if (path != top->absolutePath() && removeNodeAt(Url(path, false))) {
+    if (path != top->absolutePath() && removeNodeAt(path)) {
         objectTreeRefreshed();
         renderTree();
     }
@@ -260,12 +252,13 @@ void TreeViewController::itemCompressed(const Url& archive)
     auto document = makeNode<Document>(archive.lastPathComponent());
     document->setTotalAllocation(
         m_services.resourceValues.allocatedSize(archive.path()).value_or(0));
-    const TopFolder* const top = m_model.topFolder();
-    const Url inTree(top == nullptr ? "" : pathInTree(*top, archive.path()), false);
-    if (Folder* const parent = locateParent(inTree)) {
-        // A rescan meanwhile may have met it.
-        removeNodeAt(inTree);
-        nodeCame(parent->insertChild(std::move(document)));
+    if (TopFolder* const top = m_model.topFolder()) {
+        const std::string path = pathInTree(*top, archive.path());
+        if (Folder* const parent = parentAtPath(*top, path)) {
+            // A rescan meanwhile may have met it.
+            removeNodeAt(path);
+            nodeCame(parent->insertChild(std::move(document)));
+        }
     }
     objectTreeRefreshed();
     renderTree();
@@ -337,9 +330,9 @@ void TreeViewController::perform(TreeCommand command)
     }
 }
 
-bool TreeViewController::removeNodeAt(const Url& url)
+bool TreeViewController::removeNodeAt(std::string_view path)
 {
-    File* const found = nodeAtPath(*m_model.topFolder(), url.path());
+    File* const found = nodeAtPath(*m_model.topFolder(), path);
     if (found == nullptr) {
         return false;
     }

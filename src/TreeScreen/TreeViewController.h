@@ -76,8 +76,6 @@ public:
     void refreshFolder();
     /// Does nothing while another rescan runs.
     void rescanSelectedFolder(Folder& folder) { m_rescan.rescan(folder); }
-    /// The folder of the tree that holds, or would hold, the item of that URL; or null.
-    Folder* locateParent(const Url& url) const;
     void showInFinder();
     /// Opens the preview panel on the selected item, or brings it to the front.
     void quickLook();
@@ -136,7 +134,7 @@ private:
     void doubleClickTreeItem();
     void itemCompressed(const Url& archive);
     void itemGone(const Url& place);
-    bool removeNodeAt(const Url& url);
+    bool removeNodeAt(std::string_view path);
     void sayThatThereIsNoFileManager(const QString& itemName);
     void select(File* file);
     RescanObstacle rescanObstacle() const;

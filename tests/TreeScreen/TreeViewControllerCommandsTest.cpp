@@ -127,6 +127,15 @@ TEST_F(TreeViewControllerCommandsTest, AnArchiveJoinsTheTree)
     EXPECT_EQ(view.branches().front()->layoutItems().size(), 2U);
 }
 
+TEST_F(TreeViewControllerCommandsTest, AnArchiveJoinsAFolderBesideOneThatItsNameBeginsWith)
+{
+    services.resourceValues.size = 4096;
+    model.topFolder()->insertChild(makeNode<Folder>("docs2"));
+    NotificationCenter::defaultCenter().post("ItemCompressed", Url("/data/docs2/a.zip", false));
+    ASSERT_EQ(node("docs2").totalAllocation(), 4096U);
+    EXPECT_EQ(node("docs2/a.zip").type(), NodeType::Document);
+}
+
 TEST_F(TreeViewControllerCommandsTest, AnArchiveOfAScanOverALinkIsMadeWhereTheItemIs)
 {
     model.topFolder()->setRealOrigin("/disk");
