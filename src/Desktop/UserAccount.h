@@ -27,4 +27,9 @@ public:
     [[nodiscard]] virtual std::string homeDirectory() const = 0;
 };
 
+/// Login name and home directory of the real user. A user without an entry in the password
+/// database stops the process.
+[[nodiscard]] std::string realUserName(const UserAccount& account);
+[[nodiscard]] std::string realHomeDirectory(const UserAccount& account);
+
 } // namespace tessera

@@ -78,7 +78,7 @@ std::optional<Location> firstDirectory(
 HomeViewController::HomeViewController(RootModel& model, const HomeViewServices& services)
     : m_model(model)
     , m_services(services)
-    , m_realHomeDirectory(Util::realHomeDirectory(services.account))
+    , m_realHomeDirectory(realHomeDirectory(services.account))
     , m_candidates(locationCandidates(m_realHomeDirectory, services.standardFolders))
     , m_places(services.volumes, m_candidates)
     , m_view(Util::loadViewFromNib<QWidget>("HomeViewController"))

@@ -10,11 +10,9 @@
 
 namespace tessera {
 
-std::chrono::sys_seconds currentDate()
-{
-    return std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
-}
+namespace {
 
+/// The records without those of the same folder, and a new one for it in front.
 std::vector<RecentRecord> withRecordInFront(
     const std::vector<RecentRecord>& records,
     const TopFolder& folder,
@@ -27,6 +25,13 @@ std::vector<RecentRecord> withRecordInFront(
             return record.path != path;
         });
     return result;
+}
+
+} // namespace
+
+std::chrono::sys_seconds currentDate()
+{
+    return std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
 }
 
 Recents::Recents(UserDefaults& defaults, RecentDocuments& documents, Clock clock)

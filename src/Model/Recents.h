@@ -15,12 +15,6 @@ class TopFolder;
 /// Now, to the second.
 std::chrono::sys_seconds currentDate();
 
-/// The records without those of the same folder, and a new one for it in front.
-std::vector<RecentRecord> withRecordInFront(
-    const std::vector<RecentRecord>& records,
-    const TopFolder& folder,
-    std::chrono::sys_seconds date);
-
 /// The list of recent scans, kept in the user's settings and in step with the desktop's own list
 /// of recent documents: a record lives only as long as the desktop lists its folder. Main thread
 /// only.

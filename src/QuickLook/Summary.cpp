@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "QuickLook/Summary.h"
 
+#include "Base/ByteSize.h"
 #include "Base/DisplayText.h"
 #include "QuickLook/Reading/PreviewReading.h"
 #include "Widgets/MediumDate.h"
-#include "Widgets/Util.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -23,7 +23,7 @@ class SummaryTexts {
 
 QString sizeText(std::uint64_t bytes)
 {
-    return displayText(Util::formatSize(bytes));
+    return displayText(formatSize(bytes));
 }
 
 QString dimensionsText(const QSize& size)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ScanScreen/ScanningViewController.h"
 
+#include "Base/ByteSize.h"
 #include "Base/DisplayText.h"
 #include "Base/NotificationCenter.h"
 #include "Base/ProgressSteps.h"
@@ -108,7 +109,7 @@ void ScanningViewController::scanUpdated(Scanner& scanner)
 {
     showPath(scanner.currentURL());
     const double percent = scanner.percentComplete();
-    m_totalRead->setText(QString::fromStdString(Util::formatSize(scanner.allocationRead())));
+    m_totalRead->setText(QString::fromStdString(formatSize(scanner.allocationRead())));
     m_indicator->setRange(0, kProgressSteps);
     m_indicator->setValue(progressSteps(percent));
     m_dockImage.setPercent(percent);

@@ -3,13 +3,13 @@
 
 #include "Base/NotificationCenter.h"
 #include "Desktop/Alert.h"
+#include "Desktop/UserAccount.h"
 #include "Desktop/Workspace.h"
 #include "MainWindow/FolderDrop.h"
 #include "MainWindow/MainWindowController.h"
 #include "Model/Defaults.h"
 #include "Model/RootModel.h"
 #include "Preferences/PreferencesWindowController.h"
-#include "Widgets/Util.h"
 
 #include <QApplication>
 #include <QMainWindow>
@@ -68,7 +68,7 @@ void AppDelegate::applicationDidFinishLaunching()
     // Which end of which window ends the program is decided here, and not by how many there are.
     QApplication::setQuitOnLastWindowClosed(false);
     RootModel& model = m_services.mainWindow.model;
-    if (Util::realUserName(m_services.userAccount) == "root") {
+    if (realUserName(m_services.userAccount) == "root") {
         model.setIsRunningAsRoot(true);
     }
     registerDefaults(m_services.mainWindow.defaults);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Start/Launch.h"
 
-#include "Base/CoreUtil.h"
+#include "Base/ByteSize.h"
 #include "Base/Log.h"
 #include "Desktop/FileAccess.h"
 #include "Desktop/RunningInstance.h"
@@ -74,8 +74,8 @@ int writePicture(const CommandLine& commandLine, const LaunchServices& services)
     const std::uint64_t needed = commandLine.pictureMemory();
     if (needed > services.availableMemory) {
         return fail(
-            "the picture needs " + CoreUtil::formatSize(needed) + " of memory, and there are "
-            + CoreUtil::formatSize(services.availableMemory));
+            "the picture needs " + formatSize(needed) + " of memory, and there are "
+            + formatSize(services.availableMemory));
     }
     const std::string problem
         = PictureWriter(services.scanEnvironment, services.files).write(commandLine);

@@ -4,6 +4,7 @@
 #include "Desktop/EndRequests.h"
 #include "Desktop/FileAccess.h"
 #include "Desktop/RunningInstance.h"
+#include "Desktop/UserAccount.h"
 #include "HomeScreen/Places/KnownPlaces.h"
 #include "MainWindow/MainWindowController.h"
 #include "MainWindow/MainWindowScreens.h"
@@ -19,7 +20,6 @@
 #include "Widgets/FileDialogOpenPanel.h"
 #include "Widgets/Images.h"
 #include "Widgets/MessageBoxAlert.h"
-#include "Widgets/Util.h"
 
 #include <QGuiApplication>
 #include <QMainWindow>
@@ -55,8 +55,7 @@ struct WindowedProgram::Desktop {
         , places(
               services.homeScreen.volumes,
               locationCandidates(
-                  Util::realHomeDirectory(services.userAccount),
-                  services.homeScreen.standardFolders))
+                  realHomeDirectory(services.userAccount), services.homeScreen.standardFolders))
     {
         TooltipController& tooltip = TooltipController::sharedInstance();
         tooltip.setResourceValues(&services.promptResourceValues);

@@ -2,7 +2,6 @@
 #include "Widgets/NonBlockingTextField.h"
 
 #include "Widgets/DesktopFont.h"
-#include "Widgets/Util.h"
 
 #include <QPainter>
 
@@ -43,8 +42,7 @@ void NonBlockingTextField::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     painter.setPen(textColor());
-    const QString shown
-        = fontMetrics().elidedText(text(), Util::truncatedParagraphStyle(), width());
+    const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, width());
     painter.drawText(rect(), static_cast<int>(alignment()) | Qt::TextSingleLine, shown);
 }
 

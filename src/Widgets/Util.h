@@ -1,23 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Base/CoreUtil.h"
-
 #include <QWidget>
-#include <Qt>
 
 #include <memory>
 #include <string_view>
 
 namespace tessera {
 
-/// The stateless helpers of views and controllers: those of the core and those that need a window
-/// system. Main thread only.
-class Util : public CoreUtil {
+/// The stateless helpers of views and controllers. Main thread only.
+class Util {
 public:
-    /// How views shorten a text that is too long: at its tail.
-    static Qt::TextElideMode truncatedParagraphStyle() { return Qt::ElideRight; }
-
     /// Builds the interface file of that name and returns its top-level view; null when there is
     /// no such file or its view is no `View`.
     template <typename View>

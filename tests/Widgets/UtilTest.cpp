@@ -40,9 +40,4 @@ TEST(Util, AnUnknownInterfaceFileLoadsNothing)
     EXPECT_EQ(Util::loadViewFromNib<QWidget>("NoSuchFile"), nullptr);
 }
 
-TEST(Util, ViewsShortenTextsAtTheTail)
-{
-    EXPECT_EQ(Util::truncatedParagraphStyle(), Qt::ElideRight);
-}
-
 } // namespace tessera

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "HomeScreen/Parts/VolumeCollectionView.h"
 
+#include "Base/ByteSize.h"
 #include "Base/DisplayText.h"
 #include "HomeScreen/Places/PlaceIcons.h"
 #include "HomeScreen/Places/PlaceNames.h"
 #include "Widgets/Bar.h"
 #include "Widgets/NonBlockingTextField.h"
-#include "Widgets/Util.h"
 
 #include <QLabel>
 
@@ -44,7 +44,7 @@ void VolumeCollectionView::setFileSystemSizes(const std::optional<FileSystemSize
     const FileSystemSizes known = sizes.value_or(FileSystemSizes());
     spaceBar().setPercentFilled(filledShare(known));
     spaceBar().update();
-    const QString size = QString::fromStdString(Util::formatSize(known.freeBytes));
+    const QString size = QString::fromStdString(formatSize(known.freeBytes));
     spaceLabel().setText(tr("Free Space: %1").arg(size));
     describe(known);
 }
@@ -53,7 +53,7 @@ void VolumeCollectionView::setFileSystemSizes(const std::optional<FileSystemSize
 void VolumeCollectionView::describe(const FileSystemSizes& sizes)
 {
     const QString path = displayText(url().path());
-    const QString size = QString::fromStdString(Util::formatSize(sizes.totalBytes));
+    const QString size = QString::fromStdString(formatSize(sizes.totalBytes));
     const QString place = sizes.totalBytes == 0 ? path : tr("%1, %2").arg(path, size);
     setToolTip(plainTooltip(accessibleName() + QLatin1Char('\n') + place));
     const QString space = spaceLabel().text();

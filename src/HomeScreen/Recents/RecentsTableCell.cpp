@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "HomeScreen/Recents/RecentsTableCell.h"
 
+#include "Base/ByteSize.h"
 #include "Desktop/MountedVolumes.h"
 #include "HomeScreen/Parts/SelectionBackground.h"
 #include "HomeScreen/Places/PlaceIcons.h"
@@ -9,7 +10,6 @@
 #include "HomeScreen/Recents/RelativeDate.h"
 #include "Model/UserDefaults.h"
 #include "Widgets/DesktopFont.h"
-#include "Widgets/Util.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -110,7 +110,7 @@ void RecentsTableCell::paint(
     drawText(
         *painter,
         {sizeCorner, QSize(widthWithDesktopFont(kSizeBox.width()), subtitle.height())},
-        QString::fromStdString(Util::formatSize(record.size)),
+        QString::fromStdString(formatSize(record.size)),
         fileSizeStyle(option));
     painter->restore();
 }
@@ -179,8 +179,7 @@ void RecentsTableCell::drawText(
 {
     painter.setFont(style.font);
     painter.setPen(style.color);
-    const QString shown
-        = QFontMetrics(style.font).elidedText(text, Util::truncatedParagraphStyle(), box.width());
+    const QString shown = QFontMetrics(style.font).elidedText(text, Qt::ElideRight, box.width());
     painter.drawText(box, static_cast<int>(style.alignment) | Qt::AlignVCenter, shown);
 }
 

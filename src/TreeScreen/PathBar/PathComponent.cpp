@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "TreeScreen/PathBar/PathComponent.h"
 
+#include "Base/ByteSize.h"
 #include "Base/DisplayText.h"
 #include "Model/Folder.h"
 #include "Widgets/ColorHelper.h"
 #include "Widgets/IconProvider.h"
-#include "Widgets/Util.h"
 
 #include <QFontDatabase>
 #include <QFontMetricsF>
@@ -79,7 +79,7 @@ void PathComponent::setFolder(const Folder& folder)
     m_image = m_icons->icon(folder, kImagePoints, qGuiApp->devicePixelRatio());
     m_title = displayText(m_url.lastPathComponent());
     if (m_tag == kCurrentFolderTag) {
-        const std::string size = Util::formatSize(folder.totalAllocation());
+        const std::string size = formatSize(folder.totalAllocation());
         m_title = QStringLiteral("%1 (%2)").arg(m_title, QString::fromStdString(size));
     }
 }
@@ -97,7 +97,7 @@ TextAttributes PathComponent::background(const QPalette& palette) const
 
 TextAttributes PathComponent::textAttributes(const QColor& color) const
 {
-    return {m_font, Util::truncatedParagraphStyle(), Qt::AlignLeft, color};
+    return {m_font, Qt::ElideRight, Qt::AlignLeft, color};
 }
 
 QSizeF PathComponent::naturalSize() const

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "TreeScreen/Picture/Label.h"
 
-#include "Base/CoreUtil.h"
+#include "Base/ByteSize.h"
 #include "Model/File.h"
 #include "TreeScreen/Picture/BoxCanvas.h"
 #include "TreeScreen/Picture/LevelMetrics.h"
@@ -54,7 +54,7 @@ void drawCenteredLabel(
     }
     canvas.drawText(item.name(), line.movedDown(-kRaiseForSize), attributes);
     canvas.drawText(
-        CoreUtil::formatSize(item.totalAllocation()),
+        formatSize(item.totalAllocation()),
         line.movedDown(kLineHeight - kRaiseForSize),
         attributes);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "TreeScreen/Tooltip/TooltipController.h"
 
+#include "Base/ByteSize.h"
 #include "Base/DisplayText.h"
 #include "Layout/MultiLayoutObject.h"
 #include "Model/Document.h"
@@ -45,7 +46,7 @@ double heightFor(const TooltipField& text)
 
 QString sizeText(std::uint64_t bytes)
 {
-    return displayText(Util::formatSize(bytes));
+    return displayText(formatSize(bytes));
 }
 
 template <typename T>
