@@ -11,7 +11,7 @@
 #include "Desktop/Workspace.h"
 #include "Scanning/ResourceValues.h"
 #include "Widgets/IconProvider.h"
-#include "Widgets/Util.h"
+#include "ui_CompressWindow.h"
 
 #include <QCoreApplication>
 #include <QDialog>
@@ -82,16 +82,15 @@ std::shared_ptr<CompressWindowController> CompressWindowController::make(
 CompressWindowController::CompressWindowController(CompressServices services, CallLater callLater)
     : m_services(std::move(services))
     , m_callLater(std::move(callLater))
-    , m_window(Util::loadViewFromNib<QDialog>("CompressWindow"))
-    , m_outputIcon(m_window->findChild<QLabel*>(QStringLiteral("outputIcon")))
-    , m_outputField(m_window->findChild<QLabel*>(QStringLiteral("outputField")))
-    , m_progress(m_window->findChild<QProgressBar*>(QStringLiteral("progress")))
-    , m_cancelButton(m_window->findChild<QPushButton*>(QStringLiteral("cancelButton")))
+    , m_window(std::make_unique<QDialog>())
+    , m_ui(std::make_unique<Ui::CompressWindow>())
 {
-    m_progress->setRange(0, kProgressSteps);
+    m_ui->setupUi(m_window.get());
+    m_ui->progress->setRange(0, kProgressSteps);
     m_updateTimer.setInterval(kUpdateInterval);
     connect(&m_updateTimer, &QTimer::timeout, this, &CompressWindowController::updateProgress);
-    connect(m_cancelButton, &QPushButton::clicked, this, &CompressWindowController::cancelCompress);
+    connect(
+        m_ui->cancelButton, &QPushButton::clicked, this, &CompressWindowController::cancelCompress);
     connect(m_window.get(), &QDialog::rejected, this, &CompressWindowController::cancelCompress);
     connect(qApp, &QCoreApplication::aboutToQuit, this, &CompressWindowController::breakOffAtExit);
 }
@@ -145,7 +144,7 @@ void CompressWindowController::updateProgress()
         m_lastCompressedPercent += kFillStep;
         value += m_lastCompressedPercent;
     }
-    m_progress->setValue(progressSteps(value));
+    m_ui->progress->setValue(progressSteps(value));
     if (m_state == State::Succeeded && value >= kFillEnd) {
         m_updateTimer.stop();
         compressFinished(archive());
@@ -164,13 +163,13 @@ void CompressWindowController::cancelCompress()
     m_backupTask->terminate();
     m_state = State::Cancelled;
     setOutputText(tr("Compression Canceled"));
-    m_cancelButton->setEnabled(false);
+    m_ui->cancelButton->setEnabled(false);
 }
 
 void CompressWindowController::checkATaskStatus(int status)
 {
     noteWhatWasMade();
-    m_cancelButton->setEnabled(false);
+    m_ui->cancelButton->setEnabled(false);
     m_isDiskFull = status == archiver_status::kDiskFull;
     if (status != archiver_status::kDone) {
         logLine("Task failed.");
@@ -222,7 +221,7 @@ void CompressWindowController::compressFinished(const std::optional<Url>& archiv
     m_services.targetsInUse.erase(m_targetPath);
     m_sourcePath.clear();
     m_targetPath.clear();
-    m_progress->reset();
+    m_ui->progress->reset();
     if (archive) {
         NotificationCenter::defaultCenter().post("ItemGone", part);
     }
@@ -293,16 +292,16 @@ std::vector<Url> CompressWindowController::archivePlaces() const
 
 void CompressWindowController::setOutputText(const QString& text)
 {
-    m_outputField->ensurePolished();
-    m_outputField->setText(m_outputField->fontMetrics().elidedText(
-        text, Qt::ElideMiddle, m_outputField->maximumWidth()));
-    m_outputField->setAccessibleName(text);
+    m_ui->outputField->ensurePolished();
+    m_ui->outputField->setText(m_ui->outputField->fontMetrics().elidedText(
+        text, Qt::ElideMiddle, m_ui->outputField->maximumWidth()));
+    m_ui->outputField->setAccessibleName(text);
 }
 
 void CompressWindowController::showIcon()
 {
-    if (m_outputIcon->pixmap(Qt::ReturnByValue).isNull()) {
-        m_outputIcon->setPixmap(
+    if (m_ui->outputIcon->pixmap(Qt::ReturnByValue).isNull()) {
+        m_ui->outputIcon->setPixmap(
             m_services.icons.iconForUrl(archive(), kIconPoints, m_window->devicePixelRatioF()));
     }
 }

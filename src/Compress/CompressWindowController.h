@@ -18,10 +18,11 @@
 #include <vector>
 
 class QDialog;
-class QLabel;
-class QProgressBar;
-class QPushButton;
 class QString;
+
+namespace Ui {
+class CompressWindow;
+}
 
 namespace tessera {
 
@@ -112,10 +113,7 @@ private:
     CallLater m_callLater;
 
     std::unique_ptr<QDialog> m_window;
-    QLabel* m_outputIcon;
-    QLabel* m_outputField;
-    QProgressBar* m_progress;
-    QPushButton* m_cancelButton;
+    std::unique_ptr<Ui::CompressWindow> m_ui;
 
     std::string m_sourcePath;
     std::string m_targetPath;

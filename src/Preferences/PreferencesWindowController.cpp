@@ -2,7 +2,7 @@
 #include "Preferences/PreferencesWindowController.h"
 
 #include "Model/UserDefaults.h"
-#include "Widgets/Util.h"
+#include "ui_PreferencesWindow.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -12,13 +12,12 @@ namespace tessera {
 
 PreferencesWindowController::PreferencesWindowController(UserDefaults& defaults)
     : m_defaults(defaults)
-    , m_window(Util::loadViewFromNib<QDialog>("PreferencesWindowController"))
-    , m_warnHiddenDelete(m_window->findChild<QCheckBox*>(QStringLiteral("warnHiddenDelete")))
-    , m_warnSystemDelete(m_window->findChild<QCheckBox*>(QStringLiteral("warnSystemDelete")))
-    , m_tooltipButton(m_window->findChild<QComboBox*>(QStringLiteral("tooltipButton")))
+    , m_window(std::make_unique<QDialog>())
+    , m_ui(std::make_unique<Ui::PreferencesWindow>())
 {
-    bindWarning(*m_warnHiddenDelete, kWarnDeleteHiddenKey);
-    bindWarning(*m_warnSystemDelete, kWarnDeleteSystemKey);
+    m_ui->setupUi(m_window.get());
+    bindWarning(*m_ui->warnHiddenDelete, kWarnDeleteHiddenKey);
+    bindWarning(*m_ui->warnSystemDelete, kWarnDeleteSystemKey);
     bindTooltipType();
     m_changes = defaults.addChangeObserver([this](std::string_view key) { refresh(key); });
 }
@@ -47,7 +46,7 @@ void PreferencesWindowController::bindWarning(QCheckBox& box, std::string_view k
 void PreferencesWindowController::bindTooltipType()
 {
     refresh(kTooltipTypeKey);
-    connect(m_tooltipButton, &QComboBox::currentIndexChanged, this, [this](int index) {
+    connect(m_ui->tooltipButton, &QComboBox::currentIndexChanged, this, [this](int index) {
         // There is no entry for a value that another version may have stored; that one stays.
         if (index >= 0) {
             m_defaults.setInteger(kTooltipTypeKey, index);
@@ -58,11 +57,11 @@ void PreferencesWindowController::bindTooltipType()
 void PreferencesWindowController::refresh(std::string_view key)
 {
     if (key == kWarnDeleteHiddenKey) {
-        m_warnHiddenDelete->setChecked(m_defaults.boolean(key));
+        m_ui->warnHiddenDelete->setChecked(m_defaults.boolean(key));
     } else if (key == kWarnDeleteSystemKey) {
-        m_warnSystemDelete->setChecked(m_defaults.boolean(key));
+        m_ui->warnSystemDelete->setChecked(m_defaults.boolean(key));
     } else if (key == kTooltipTypeKey) {
-        m_tooltipButton->setCurrentIndex(m_defaults.integer(key));
+        m_ui->tooltipButton->setCurrentIndex(m_defaults.integer(key));
     }
 }
 

@@ -9,9 +9,12 @@
 #include <string_view>
 
 class QCheckBox;
-class QComboBox;
 class QDialog;
 class QWidget;
+
+namespace Ui {
+class PreferencesWindow;
+}
 
 namespace tessera {
 
@@ -38,9 +41,7 @@ private:
 
     UserDefaults& m_defaults;
     std::unique_ptr<QDialog> m_window;
-    QCheckBox* m_warnHiddenDelete;
-    QCheckBox* m_warnSystemDelete;
-    QComboBox* m_tooltipButton;
+    std::unique_ptr<Ui::PreferencesWindow> m_ui;
     Observation m_changes;
 };
 

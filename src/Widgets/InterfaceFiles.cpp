@@ -2,11 +2,9 @@
 #include "Widgets/InterfaceFiles.h"
 
 #include "ui_CollectionHeaderView.h"
-#include "ui_CompressWindow.h"
 #include "ui_FolderCollectionView.h"
 #include "ui_HomeViewController.h"
 #include "ui_MainWindowController.h"
-#include "ui_PreferencesWindowController.h"
 #include "ui_ScanningViewController.h"
 #include "ui_TreeTooltip.h"
 #include "ui_VolumeCollectionView.h"
@@ -34,13 +32,10 @@ std::unique_ptr<QWidget> instantiate()
 constexpr std::array kInterfaceFiles{
     InterfaceFile{
         "CollectionHeaderView", &instantiate<Ui::CollectionHeaderView, CollectionHeaderView>},
-    InterfaceFile{"CompressWindow", &instantiate<Ui::CompressWindow, QDialog>},
     InterfaceFile{"MainWindowController", &instantiate<Ui::MainWindowController, QMainWindow>},
     InterfaceFile{
         "FolderCollectionView", &instantiate<Ui::FolderCollectionView, FolderCollectionView>},
     InterfaceFile{"HomeViewController", &instantiate<Ui::HomeViewController, QWidget>},
-    InterfaceFile{
-        "PreferencesWindowController", &instantiate<Ui::PreferencesWindowController, QDialog>},
     InterfaceFile{"ScanningViewController", &instantiate<Ui::ScanningViewController, QWidget>},
     InterfaceFile{"TreeTooltip", &instantiate<Ui::TreeTooltip, TooltipWindow>},
     InterfaceFile{
