@@ -12,6 +12,7 @@
 #include "Scanning/Scanner.h"
 #include "Widgets/ScanProblem.h"
 #include "Widgets/Util.h"
+#include "ui_ScanView.h"
 
 #include <QLabel>
 #include <QLocale>
@@ -30,12 +31,6 @@ namespace {
 constexpr QSize kIconSize{64, 64};
 constexpr double kLeastHeadingPoints = 13;
 constexpr double kHeadingFactor = 1.2;
-
-template <typename View>
-View* outlet(const QWidget& view, const char* name)
-{
-    return view.findChild<View*>(QString::fromLatin1(name));
-}
 
 /// As the user's language groups digits; the language of none groups them too.
 QString grouped(long number)
@@ -58,17 +53,12 @@ QFont headingFont(QFont font)
 ScanningViewController::ScanningViewController(RootModel& model, ScanningServices services)
     : m_model(model)
     , m_services(std::move(services))
-    , m_view(Util::loadViewFromNib<QWidget>("ScanningViewController"))
-    , m_scanLabel(outlet<PathLabel>(*m_view, "scanLabel"))
-    , m_indicator(outlet<QProgressBar>(*m_view, "indicator"))
-    , m_iconView(outlet<QLabel>(*m_view, "iconView"))
-    , m_folderName(outlet<PathLabel>(*m_view, "folderName"))
-    , m_totalRead(outlet<QLabel>(*m_view, "totalRead"))
-    , m_readRate(outlet<QLabel>(*m_view, "readRate"))
-    , m_cancelButton(outlet<QPushButton>(*m_view, "cancelButton"))
+    , m_view(std::make_unique<QWidget>())
+    , m_ui(std::make_unique<Ui::ScanView>())
 {
-    m_folderName->setFont(headingFont(m_folderName->font()));
-    connect(m_cancelButton, &QPushButton::clicked, this, &ScanningViewController::stopScan);
+    m_ui->setupUi(m_view.get());
+    m_ui->folderName->setFont(headingFont(m_ui->folderName->font()));
+    connect(m_ui->cancelButton, &QPushButton::clicked, this, &ScanningViewController::stopScan);
     stopAnimation();
 }
 
@@ -86,15 +76,15 @@ void ScanningViewController::startScanning(const Url& url)
     m_rate.restart();
     m_rootURL = url;
     const PlaceLook look = m_services.look(url);
-    m_iconView->setPixmap(look.icon.pixmap(kIconSize, m_view->devicePixelRatioF()));
-    m_folderName->setText(look.name);
-    m_totalRead->setText(QStringLiteral("-"));
-    m_readRate->clear();
+    m_ui->iconView->setPixmap(look.icon.pixmap(kIconSize, m_view->devicePixelRatioF()));
+    m_ui->folderName->setText(look.name);
+    m_ui->totalRead->setText(QStringLiteral("-"));
+    m_ui->readRate->clear();
     m_scanner = Scanner::create(m_services.scanEnvironment);
     m_scanner->setDelegate(this);
     m_scanner->scan(url);
     startAnimation();
-    m_cancelButton->setEnabled(true);
+    m_ui->cancelButton->setEnabled(true);
     m_services.dockTile.setContentView(m_dockImage);
 }
 
@@ -109,13 +99,13 @@ void ScanningViewController::scanUpdated(Scanner& scanner)
 {
     showPath(scanner.currentURL());
     const double percent = scanner.percentComplete();
-    m_totalRead->setText(QString::fromStdString(formatSize(scanner.allocationRead())));
-    m_indicator->setRange(0, kProgressSteps);
-    m_indicator->setValue(progressSteps(percent));
+    m_ui->totalRead->setText(QString::fromStdString(formatSize(scanner.allocationRead())));
+    m_ui->indicator->setRange(0, kProgressSteps);
+    m_ui->indicator->setValue(progressSteps(percent));
     m_dockImage.setPercent(percent);
     m_services.dockTile.display();
     if (const auto rate = m_rate.add(m_services.scanEnvironment.clock(), scanner.objectsRead())) {
-        m_readRate->setText(tr("%1 files/sec").arg(grouped(*rate)));
+        m_ui->readRate->setText(tr("%1 files/sec").arg(grouped(*rate)));
     }
 }
 
@@ -139,7 +129,7 @@ void ScanningViewController::scanEnded(Scanner& scanner)
     m_model.recents().addToList(*m_model.topFolder());
     m_services.dockTile.requestAttention();
     m_services.dockTile.removeContentView(m_dockImage);
-    m_cancelButton->setEnabled(false);
+    m_ui->cancelButton->setEnabled(false);
     NotificationCenter::defaultCenter().post("ScanComplete", static_cast<const void*>(this));
 }
 
@@ -160,7 +150,7 @@ void ScanningViewController::scanFailed(Scanner& /*scanner*/, const std::error_c
 void ScanningViewController::endWithoutTree()
 {
     m_services.dockTile.removeContentView(m_dockImage);
-    m_cancelButton->setEnabled(false);
+    m_ui->cancelButton->setEnabled(false);
     NotificationCenter::defaultCenter().post("ScanCancelled", static_cast<const void*>(this));
 }
 
@@ -170,19 +160,19 @@ void ScanningViewController::showPath(const Url& current)
     const std::string_view path = current.path();
     const std::size_t dropped = m_rootURL.path().size() - m_rootURL.lastPathComponent().size();
     if (path.size() > dropped) {
-        m_scanLabel->setText(displayText(path.substr(dropped)));
+        m_ui->scanLabel->setText(displayText(path.substr(dropped)));
     }
 }
 
 /// There is no fraction before the first report.
 void ScanningViewController::startAnimation()
 {
-    m_indicator->setRange(0, 0);
+    m_ui->indicator->setRange(0, 0);
 }
 
 void ScanningViewController::stopAnimation()
 {
-    m_indicator->setRange(0, kProgressSteps);
+    m_ui->indicator->setRange(0, kProgressSteps);
 }
 
 } // namespace tessera

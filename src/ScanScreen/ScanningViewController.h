@@ -18,16 +18,16 @@
 #include <system_error>
 #include <vector>
 
-class QLabel;
-class QProgressBar;
-class QPushButton;
 class QWidget;
+
+namespace Ui {
+class ScanView;
+}
 
 namespace tessera {
 
 class Alert;
 class DockTile;
-class PathLabel;
 class RootModel;
 class Scanner;
 
@@ -86,13 +86,7 @@ private:
     RootModel& m_model;
     const ScanningServices m_services;
     std::unique_ptr<QWidget> m_view;
-    PathLabel* m_scanLabel;
-    QProgressBar* m_indicator;
-    QLabel* m_iconView;
-    PathLabel* m_folderName;
-    QLabel* m_totalRead;
-    QLabel* m_readRate;
-    QPushButton* m_cancelButton;
+    std::unique_ptr<Ui::ScanView> m_ui;
     DockImage m_dockImage;
     FileRate m_rate;
     std::shared_ptr<Scanner> m_scanner;

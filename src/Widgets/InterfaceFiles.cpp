@@ -5,7 +5,6 @@
 #include "ui_FolderCollectionView.h"
 #include "ui_HomeViewController.h"
 #include "ui_MainWindowController.h"
-#include "ui_ScanningViewController.h"
 #include "ui_TreeTooltip.h"
 #include "ui_VolumeCollectionView.h"
 
@@ -36,7 +35,6 @@ constexpr std::array kInterfaceFiles{
     InterfaceFile{
         "FolderCollectionView", &instantiate<Ui::FolderCollectionView, FolderCollectionView>},
     InterfaceFile{"HomeViewController", &instantiate<Ui::HomeViewController, QWidget>},
-    InterfaceFile{"ScanningViewController", &instantiate<Ui::ScanningViewController, QWidget>},
     InterfaceFile{"TreeTooltip", &instantiate<Ui::TreeTooltip, TooltipWindow>},
     InterfaceFile{
         "VolumeCollectionView", &instantiate<Ui::VolumeCollectionView, VolumeCollectionView>},
