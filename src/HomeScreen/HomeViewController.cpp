@@ -18,6 +18,7 @@
 #include "Widgets/DesktopFont.h"
 #include "Widgets/NonBlockingTextField.h"
 #include "Widgets/Util.h"
+#include "ui_HomeView.h"
 
 #include <QGraphicsOpacityEffect>
 #include <QKeyEvent>
@@ -81,8 +82,10 @@ HomeViewController::HomeViewController(RootModel& model, const HomeViewServices&
     , m_realHomeDirectory(realHomeDirectory(services.account))
     , m_candidates(locationCandidates(m_realHomeDirectory, services.standardFolders))
     , m_places(services.volumes, m_candidates)
-    , m_view(Util::loadViewFromNib<QWidget>("HomeViewController"))
+    , m_view(std::make_unique<QWidget>())
+    , m_ui(std::make_unique<Ui::HomeView>())
 {
+    m_ui->setupUi(m_view.get());
     loadView();
 }
 
@@ -90,27 +93,27 @@ HomeViewController::~HomeViewController() = default;
 
 HiddenButtonCell& HomeViewController::openButton() const
 {
-    return *m_view->findChild<HiddenButtonCell*>(QStringLiteral("openButton"));
+    return *m_ui->openButton;
 }
 
 SectionedCollectionView& HomeViewController::locationsCollection() const
 {
-    return *m_view->findChild<SectionedCollectionView*>(QStringLiteral("locationsCollection"));
+    return *m_ui->locationsCollection;
 }
 
 QListView& HomeViewController::recentsTable() const
 {
-    return *m_view->findChild<QListView*>(QStringLiteral("recentsTable"));
+    return *m_ui->recentsTable;
 }
 
 QPushButton& HomeViewController::scanButton() const
 {
-    return *m_view->findChild<QPushButton*>(QStringLiteral("scanButton"));
+    return *m_ui->scanButton;
 }
 
 QPushButton& HomeViewController::clearRecentsButton() const
 {
-    return *m_view->findChild<QPushButton*>(QStringLiteral("clearRecentsButton"));
+    return *m_ui->clearRecentsButton;
 }
 
 void HomeViewController::loadView()
@@ -138,8 +141,7 @@ void HomeViewController::loadView()
 
 void HomeViewController::fitFont()
 {
-    m_view->findChild<QWidget*>(QStringLiteral("recentsColumn"))
-        ->setFixedWidth(widthWithDesktopFont(kColumnWidth));
+    m_ui->recentsColumn->setFixedWidth(widthWithDesktopFont(kColumnWidth));
 }
 
 void HomeViewController::connectControls()
@@ -181,9 +183,8 @@ void HomeViewController::connectGrid()
     };
     grid.setDataSource(this);
     grid.setDelegate(&m_gridDelegate);
-    auto* const scrollView = m_view->findChild<QScrollArea*>(QStringLiteral("locationsScrollView"));
-    scrollView->viewport()->setBackgroundRole(QPalette::Base);
-    grid.setScrollView(scrollView);
+    m_ui->locationsScrollView->viewport()->setBackgroundRole(QPalette::Base);
+    grid.setScrollView(m_ui->locationsScrollView);
 }
 
 void HomeViewController::loadVolumes()
@@ -386,7 +387,7 @@ double HomeViewController::maximumWidthInSection(int section) const
 
 std::unique_ptr<QWidget> HomeViewController::headerForSection(int section)
 {
-    auto header = Util::loadViewFromNib<CollectionHeaderView>("CollectionHeaderView");
+    auto header = std::make_unique<CollectionHeaderView>();
     header->nameLabel().setText(section == kVolumes ? tr("Disks") : tr("Locations"));
     return highEnough(std::move(header));
 }
@@ -400,7 +401,7 @@ std::unique_ptr<CollectionItemView> HomeViewController::viewForSection(int secti
 
 std::unique_ptr<CollectionItemView> HomeViewController::volumeView(const MountedVolume& volume)
 {
-    auto view = Util::loadViewFromNib<VolumeCollectionView>("VolumeCollectionView");
+    auto view = std::make_unique<VolumeCollectionView>();
     view->setUrl(volume.url, volumeIcon(volume.kind));
     const auto sizes = m_sizes.find(volume.url.path());
     if (sizes != m_sizes.end()) {
@@ -411,7 +412,7 @@ std::unique_ptr<CollectionItemView> HomeViewController::volumeView(const Mounted
 
 std::unique_ptr<CollectionItemView> HomeViewController::locationView(const Location& location)
 {
-    auto view = Util::loadViewFromNib<FolderCollectionView>("FolderCollectionView");
+    auto view = std::make_unique<FolderCollectionView>();
     view->setUrl(location.url, locationIcon(location.kind), localizedLocationName(location));
     return highEnough(std::move(view));
 }

@@ -21,6 +21,10 @@
 class QListView;
 class QPushButton;
 
+namespace Ui {
+class HomeView;
+}
+
 namespace tessera {
 
 class HiddenButtonCell;
@@ -123,6 +127,7 @@ private:
     bool m_enabled = true;
     bool m_isGridLoaded = false;
     std::unique_ptr<QWidget> m_view;
+    std::unique_ptr<Ui::HomeView> m_ui;
     BackgroundQuestions m_questions;
 };
 

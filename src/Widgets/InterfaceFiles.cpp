@@ -1,12 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Widgets/InterfaceFiles.h"
 
-#include "ui_CollectionHeaderView.h"
-#include "ui_FolderCollectionView.h"
-#include "ui_HomeViewController.h"
 #include "ui_MainWindowController.h"
 #include "ui_TreeTooltip.h"
-#include "ui_VolumeCollectionView.h"
 
 #include <algorithm>
 #include <array>
@@ -29,15 +25,8 @@ std::unique_ptr<QWidget> instantiate()
 }
 
 constexpr std::array kInterfaceFiles{
-    InterfaceFile{
-        "CollectionHeaderView", &instantiate<Ui::CollectionHeaderView, CollectionHeaderView>},
     InterfaceFile{"MainWindowController", &instantiate<Ui::MainWindowController, QMainWindow>},
-    InterfaceFile{
-        "FolderCollectionView", &instantiate<Ui::FolderCollectionView, FolderCollectionView>},
-    InterfaceFile{"HomeViewController", &instantiate<Ui::HomeViewController, QWidget>},
     InterfaceFile{"TreeTooltip", &instantiate<Ui::TreeTooltip, TooltipWindow>},
-    InterfaceFile{
-        "VolumeCollectionView", &instantiate<Ui::VolumeCollectionView, VolumeCollectionView>},
 };
 
 } // namespace

@@ -2,12 +2,22 @@
 #include "HomeScreen/Grid/CollectionHeaderView.h"
 
 #include "Widgets/NonBlockingTextField.h"
+#include "ui_CollectionHeaderView.h"
 
 namespace tessera {
 
+CollectionHeaderView::CollectionHeaderView(QWidget* parent)
+    : QWidget(parent)
+    , m_ui(std::make_unique<Ui::CollectionHeaderView>())
+{
+    m_ui->setupUi(this);
+}
+
+CollectionHeaderView::~CollectionHeaderView() = default;
+
 NonBlockingTextField& CollectionHeaderView::nameLabel() const
 {
-    return *findChild<NonBlockingTextField*>(QStringLiteral("nameLabel"));
+    return *m_ui->nameLabel;
 }
 
 } // namespace tessera

@@ -3,6 +3,12 @@
 
 #include <QWidget>
 
+#include <memory>
+
+namespace Ui {
+class CollectionHeaderView;
+}
+
 namespace tessera {
 
 class NonBlockingTextField;
@@ -12,9 +18,13 @@ class CollectionHeaderView final : public QWidget {
     Q_OBJECT
 
 public:
-    using QWidget::QWidget;
+    explicit CollectionHeaderView(QWidget* parent = nullptr);
+    ~CollectionHeaderView() override;
 
     NonBlockingTextField& nameLabel() const;
+
+private:
+    std::unique_ptr<Ui::CollectionHeaderView> m_ui;
 };
 
 } // namespace tessera

@@ -4,6 +4,7 @@
 #include "Base/DisplayText.h"
 #include "HomeScreen/Places/PlaceIcons.h"
 #include "Widgets/NonBlockingTextField.h"
+#include "ui_FolderCollectionView.h"
 
 #include <QLabel>
 
@@ -14,6 +15,15 @@ namespace {
 constexpr double kDisabledAlpha = 0.6;
 
 } // namespace
+
+FolderCollectionView::FolderCollectionView(QWidget* parent)
+    : HomeItemView(parent)
+    , m_ui(std::make_unique<Ui::FolderCollectionView>())
+{
+    m_ui->setupUi(this);
+}
+
+FolderCollectionView::~FolderCollectionView() = default;
 
 void FolderCollectionView::setUrl(const Url& url, const QIcon& icon, const QString& name)
 {
@@ -29,12 +39,12 @@ void FolderCollectionView::setUrl(const Url& url, const QIcon& icon, const QStri
 
 QLabel& FolderCollectionView::imageView() const
 {
-    return *findChild<QLabel*>(QStringLiteral("imageView"));
+    return *m_ui->imageView;
 }
 
 NonBlockingTextField& FolderCollectionView::nameLabel() const
 {
-    return *findChild<NonBlockingTextField*>(QStringLiteral("nameLabel"));
+    return *m_ui->nameLabel;
 }
 
 void FolderCollectionView::updateColors()

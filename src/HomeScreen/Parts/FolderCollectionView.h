@@ -5,7 +5,11 @@
 
 #include <QIcon>
 
-class QLabel;
+#include <memory>
+
+namespace Ui {
+class FolderCollectionView;
+}
 
 namespace tessera {
 
@@ -16,17 +20,20 @@ class FolderCollectionView final : public HomeItemView {
     Q_OBJECT
 
 public:
-    using HomeItemView::HomeItemView;
+    explicit FolderCollectionView(QWidget* parent = nullptr);
+    ~FolderCollectionView() override;
 
     /// Shows the folder. Without a name the label keeps what it had.
     void setUrl(const Url& url, const QIcon& icon, const QString& name);
 
-    QLabel& imageView() const;
+    QLabel& imageView() const override;
     NonBlockingTextField& nameLabel() const;
 
 private:
     void updateColors() override;
     void updateAlphaValue() override;
+
+    std::unique_ptr<Ui::FolderCollectionView> m_ui;
 };
 
 } // namespace tessera

@@ -69,9 +69,7 @@ void HomeItemView::paintEvent(QPaintEvent* /*event*/)
     QPainter painter(this);
     if (m_selected) {
         paintSelectionBackground(painter, rect(), palette(), isActiveWindow());
-        if (const auto* const icon = findChild<QLabel*>(QStringLiteral("imageView"))) {
-            paintIconBackground(painter, icon->geometry(), palette());
-        }
+        paintIconBackground(painter, imageView().geometry(), palette());
     } else if (isNextForKeys()) {
         paintSelectionOutline(painter, rect(), palette());
     }

@@ -6,6 +6,8 @@
 
 #include <QColor>
 
+class QLabel;
+
 namespace tessera {
 
 /// What the disks and the locations of the home screen have in common: where they lead, and a
@@ -24,6 +26,9 @@ public:
     /// Not QWidget's own flag: the view keeps its colours and only becomes paler.
     bool disabled() const override { return m_disabled; }
     void setDisabled(bool disabled);
+
+    /// Holds the icon.
+    virtual QLabel& imageView() const = 0;
 
     /// How opaque the view is drawn, 0 to 1.
     double alphaValue() const;

@@ -7,6 +7,7 @@
 #include "HomeScreen/Places/PlaceNames.h"
 #include "Widgets/Bar.h"
 #include "Widgets/NonBlockingTextField.h"
+#include "ui_VolumeCollectionView.h"
 
 #include <QLabel>
 
@@ -27,6 +28,15 @@ float filledShare(const FileSystemSizes& sizes)
 }
 
 } // namespace
+
+VolumeCollectionView::VolumeCollectionView(QWidget* parent)
+    : HomeItemView(parent)
+    , m_ui(std::make_unique<Ui::VolumeCollectionView>())
+{
+    m_ui->setupUi(this);
+}
+
+VolumeCollectionView::~VolumeCollectionView() = default;
 
 void VolumeCollectionView::setUrl(const Url& url, const QIcon& icon)
 {
@@ -62,22 +72,22 @@ void VolumeCollectionView::describe(const FileSystemSizes& sizes)
 
 QLabel& VolumeCollectionView::imageView() const
 {
-    return *findChild<QLabel*>(QStringLiteral("imageView"));
+    return *m_ui->imageView;
 }
 
 NonBlockingTextField& VolumeCollectionView::nameLabel() const
 {
-    return *findChild<NonBlockingTextField*>(QStringLiteral("nameLabel"));
+    return *m_ui->nameLabel;
 }
 
 NonBlockingTextField& VolumeCollectionView::spaceLabel() const
 {
-    return *findChild<NonBlockingTextField*>(QStringLiteral("spaceLabel"));
+    return *m_ui->spaceLabel;
 }
 
 Bar& VolumeCollectionView::spaceBar() const
 {
-    return *findChild<Bar*>(QStringLiteral("spaceBar"));
+    return *m_ui->spaceBar;
 }
 
 void VolumeCollectionView::updateColors()

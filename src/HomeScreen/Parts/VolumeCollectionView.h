@@ -6,9 +6,12 @@
 
 #include <QIcon>
 
+#include <memory>
 #include <optional>
 
-class QLabel;
+namespace Ui {
+class VolumeCollectionView;
+}
 
 namespace tessera {
 
@@ -20,7 +23,8 @@ class VolumeCollectionView final : public HomeItemView {
     Q_OBJECT
 
 public:
-    using HomeItemView::HomeItemView;
+    explicit VolumeCollectionView(QWidget* parent = nullptr);
+    ~VolumeCollectionView() override;
 
     /// Shows the volume with its icon and name; the bar stays as it is.
     void setUrl(const Url& url, const QIcon& icon);
@@ -28,7 +32,7 @@ public:
     /// Fills the bar. Sizes that cannot be read count as 0, which gives an empty bar.
     void setFileSystemSizes(const std::optional<FileSystemSizes>& sizes);
 
-    QLabel& imageView() const;
+    QLabel& imageView() const override;
     NonBlockingTextField& nameLabel() const;
     NonBlockingTextField& spaceLabel() const;
     Bar& spaceBar() const;
@@ -37,6 +41,8 @@ private:
     void describe(const FileSystemSizes& sizes);
     void updateColors() override;
     void updateAlphaValue() override;
+
+    std::unique_ptr<Ui::VolumeCollectionView> m_ui;
 };
 
 } // namespace tessera

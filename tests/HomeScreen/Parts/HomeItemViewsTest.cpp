@@ -6,7 +6,6 @@
 #include "Widgets/ColorHelper.h"
 #include "Widgets/NonBlockingTextField.h"
 #include "Widgets/ProgramColors.h"
-#include "Widgets/Util.h"
 #include "support/BecomesActive.h"
 
 #include <QApplication>
@@ -18,6 +17,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 
 namespace tessera {
 namespace {
@@ -40,10 +40,8 @@ protected:
         folder->setUrl(Url("/home/eve/Music", true), QIcon(), QStringLiteral("Music"));
     }
 
-    std::unique_ptr<VolumeCollectionView> volume
-        = Util::loadViewFromNib<VolumeCollectionView>("VolumeCollectionView");
-    std::unique_ptr<FolderCollectionView> folder
-        = Util::loadViewFromNib<FolderCollectionView>("FolderCollectionView");
+    std::unique_ptr<VolumeCollectionView> volume = std::make_unique<VolumeCollectionView>();
+    std::unique_ptr<FolderCollectionView> folder = std::make_unique<FolderCollectionView>();
 };
 
 TEST_F(HomeItemViewsTest, AVolumeIsCalledAsItsFolder)
@@ -275,7 +273,7 @@ TEST_F(HomeItemViewsTest, TextsGrowWithTheDesktopsFont)
     QFont large = usual;
     large.setPixelSize(26);
     QApplication::setFont(large);
-    const auto item = Util::loadViewFromNib<VolumeCollectionView>("VolumeCollectionView");
+    const auto item = std::make_unique<VolumeCollectionView>();
     QApplication::setFont(usual);
     EXPECT_EQ(item->nameLabel().font().pixelSize(), 26);
     EXPECT_EQ(item->spaceLabel().font().pixelSize(), 22);
@@ -287,7 +285,7 @@ TEST_F(HomeItemViewsTest, TextsNeverShrinkWithIt)
     QFont small = usual;
     small.setPixelSize(8);
     QApplication::setFont(small);
-    const auto item = Util::loadViewFromNib<VolumeCollectionView>("VolumeCollectionView");
+    const auto item = std::make_unique<VolumeCollectionView>();
     QApplication::setFont(usual);
     EXPECT_EQ(item->nameLabel().font().pixelSize(), 13);
 }
