@@ -13,7 +13,7 @@
 #include "TreeScreen/Map/TreeMapView.h"
 #include "TreeScreen/PathBar/ToolbarPathControl.h"
 #include "TreeScreen/TreeViewController.h"
-#include "Widgets/Util.h"
+#include "ui_MainWindow.h"
 
 #include <QAction>
 #include <QApplication>
@@ -33,6 +33,13 @@ namespace tessera {
 namespace {
 
 constexpr int kLeastWidth = 760; ///< of the window
+
+std::unique_ptr<Ui::MainWindow> setUp(QMainWindow& window)
+{
+    auto ui = std::make_unique<Ui::MainWindow>();
+    ui->setupUi(&window);
+    return ui;
+}
 
 QRect wholePoints(const Rect& rect)
 {
@@ -78,8 +85,9 @@ std::optional<TreeCommand> treeCommandOf(MainCommand command)
 
 MainWindowController::MainWindowController(const MainWindowServices& services)
     : m_services(services)
-    , m_window(Util::loadViewFromNib<QMainWindow>("MainWindowController"))
-    , m_view(m_window->centralWidget())
+    , m_window(std::make_unique<QMainWindow>())
+    , m_ui(setUp(*m_window))
+    , m_view(m_ui->view)
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the window owns it
     , m_actions(new MainActions(
           *m_window,
@@ -104,7 +112,7 @@ void MainWindowController::loadWindow()
 {
     m_actions->fill(*m_window->menuBar());
     m_actions->fill(m_itemMenu, MainMenu::Item);
-    m_toolbar = std::make_unique<MainToolbar>(*m_window->findChild<QToolBar*>(), m_itemMenu);
+    m_toolbar = std::make_unique<MainToolbar>(*m_ui->toolbar, m_itemMenu);
     m_toolbar->toolbarIgnoreButton().setMenu(&m_ignoreMenu);
     connect(m_actions, &MainActions::triggered, this, &MainWindowController::perform);
     connect(

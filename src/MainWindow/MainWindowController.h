@@ -24,6 +24,10 @@
 
 class QMainWindow;
 
+namespace Ui {
+class MainWindow;
+}
+
 namespace tessera {
 
 class MainActions;
@@ -104,6 +108,7 @@ private:
     std::function<bool()> m_mayClose = [] { return true; };
     ScreenState m_state = ScreenState::Starting;
     std::unique_ptr<QMainWindow> m_window;
+    std::unique_ptr<Ui::MainWindow> m_ui;
     QWidget* m_view; ///< the window's content area, which holds the screens
     MainActions* m_actions;
     QMenu m_itemMenu; ///< under the toolbar's button

@@ -13,12 +13,13 @@
 #include "Widgets/IconProvider.h"
 #include "Widgets/MediumDate.h"
 #include "Widgets/Util.h"
+#include "ui_TooltipWindow.h"
 
 #include <QLabel>
 #include <QStackedWidget>
+#include <QString>
 
 #include <algorithm>
-#include <cassert>
 #include <cstdint>
 #include <optional>
 
@@ -49,14 +50,6 @@ QString sizeText(std::uint64_t bytes)
     return displayText(formatSize(bytes));
 }
 
-template <typename T>
-T* outlet(const QWidget& window, const QString& name)
-{
-    T* found = window.findChild<T*>(name);
-    assert(found != nullptr);
-    return found;
-}
-
 } // namespace
 
 TooltipController& TooltipController::sharedInstance()
@@ -68,32 +61,32 @@ TooltipController& TooltipController::sharedInstance()
 }
 
 TooltipController::TooltipController()
-    : m_window(Util::loadViewFromNib<TooltipWindow>("TreeTooltip"))
+    : m_window(std::make_unique<TooltipWindow>())
 {
-    assert(m_window != nullptr);
-    m_content = outlet<QStackedWidget>(*m_window, QStringLiteral("content"));
-    m_file = nodePanel(QStringLiteral("file"));
-    m_folder = nodePanel(QStringLiteral("folder"));
-    m_multiView = outlet<QWidget>(*m_window, QStringLiteral("multiView"));
-    m_multiSize = outlet<TooltipField>(*m_window, QStringLiteral("multiSize"));
-    m_multiPath = outlet<TooltipField>(*m_window, QStringLiteral("multiPath"));
-    m_unknownView = outlet<QWidget>(*m_window, QStringLiteral("unknownView"));
-    m_unknownSize = outlet<TooltipField>(*m_window, QStringLiteral("unknownSize"));
+    const Ui::TooltipWindow& ui = m_window->ui();
+    m_file
+        = {ui.fileView,
+           ui.fileFields,
+           ui.fileIcon,
+           ui.fileName,
+           ui.fileSize,
+           ui.fileModified,
+           ui.filePath};
+    m_folder
+        = {ui.folderView,
+           ui.folderFields,
+           ui.folderIcon,
+           ui.folderName,
+           ui.folderSize,
+           ui.folderModified,
+           ui.folderPath};
 }
 
 TooltipController::~TooltipController() = default;
 
-TooltipController::NodePanel TooltipController::nodePanel(const QString& prefix) const
+QWidget& TooltipController::window() const
 {
-    NodePanel panel;
-    panel.view = outlet<QWidget>(*m_window, prefix + QStringLiteral("View"));
-    panel.fields = outlet<QWidget>(*m_window, prefix + QStringLiteral("Fields"));
-    panel.icon = outlet<QLabel>(*m_window, prefix + QStringLiteral("Icon"));
-    panel.name = outlet<TooltipField>(*m_window, prefix + QStringLiteral("Name"));
-    panel.size = outlet<TooltipField>(*m_window, prefix + QStringLiteral("Size"));
-    panel.modified = outlet<TooltipField>(*m_window, prefix + QStringLiteral("Modified"));
-    panel.path = outlet<TooltipField>(*m_window, prefix + QStringLiteral("Path"));
-    return panel;
+    return *m_window;
 }
 
 void TooltipController::setLayoutObject(const LayoutObject& item)
@@ -116,14 +109,14 @@ void TooltipController::setLayoutObject(const LayoutObject& item)
 
 void TooltipController::setUnknown()
 {
-    setContentRef(m_unknownView);
+    setContentRef(m_window->ui().unknownView);
 }
 
 void TooltipController::setContentRef(QWidget* panel)
 {
     if (panel != m_contentRef) {
         m_contentRef = panel;
-        m_content->setCurrentWidget(panel);
+        m_window->ui().content->setCurrentWidget(panel);
     }
 }
 
@@ -133,10 +126,11 @@ void TooltipController::showGroup(const MultiLayoutObject& group)
     for (std::size_t i = 0; i < std::min(kMaxGroupNames, group.refs.size()); ++i) {
         names += displayText(group.refs[i]->name()) + QLatin1Char('\r');
     }
-    m_multiPath->setText(names);
-    m_multiSize->setText(sizeText(static_cast<std::uint64_t>(group.totalAllocation)));
-    setContentRef(m_multiView);
-    setDesiredHeight(heightFor(*m_multiPath));
+    const Ui::TooltipWindow& ui = m_window->ui();
+    ui.multiPath->setText(names);
+    ui.multiSize->setText(sizeText(static_cast<std::uint64_t>(group.totalAllocation)));
+    setContentRef(ui.multiView);
+    setDesiredHeight(heightFor(*ui.multiPath));
 }
 
 void TooltipController::showFileOnDisk(const NodePanel& panel, const File& node)
@@ -162,8 +156,8 @@ void TooltipController::showFileOnDisk(const NodePanel& panel, const File& node)
 
 void TooltipController::showUnknown(const File& node)
 {
-    m_unknownSize->setText(sizeText(node.totalAllocation()));
-    setContentRef(m_unknownView);
+    m_window->ui().unknownSize->setText(sizeText(node.totalAllocation()));
+    setContentRef(m_window->ui().unknownView);
     setDesiredHeight(kFullHeight);
 }
 

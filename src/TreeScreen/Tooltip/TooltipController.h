@@ -3,13 +3,10 @@
 
 #include "Base/Rect.h"
 
-#include <QString>
-
 #include <memory>
 #include <string>
 
 class QLabel;
-class QStackedWidget;
 class QWidget;
 
 namespace tessera {
@@ -20,6 +17,7 @@ class LayoutObject;
 class MultiLayoutObject;
 class ResourceValues;
 class TooltipField;
+class TooltipWindow;
 
 /// Owns the one floating panel that describes the box under the pointer. It fills the panel and
 /// says how large the window should be; whoever follows the pointer shows, places and hides the
@@ -55,7 +53,7 @@ public:
     const Rect& desiredRect() const { return m_desiredRect; }
     void setDesiredRect(const Rect& rect) { m_desiredRect = rect; }
 
-    QWidget& window() const { return *m_window; }
+    QWidget& window() const;
 
 private:
     /// The fields that the panels of folders and of all other nodes have in common.
@@ -69,7 +67,6 @@ private:
         TooltipField* path = nullptr;
     };
 
-    NodePanel nodePanel(const QString& prefix) const;
     void showGroup(const MultiLayoutObject& group);
     void showFileOnDisk(const NodePanel& panel, const File& node);
     void showUnknown(const File& node);
@@ -80,16 +77,10 @@ private:
     IconProvider* m_icons = nullptr;
     Rect m_desiredRect;
 
-    std::unique_ptr<QWidget> m_window;
-    QStackedWidget* m_content = nullptr;
+    std::unique_ptr<TooltipWindow> m_window;
     QWidget* m_contentRef = nullptr;
     NodePanel m_file;
     NodePanel m_folder;
-    QWidget* m_multiView = nullptr;
-    TooltipField* m_multiSize = nullptr;
-    TooltipField* m_multiPath = nullptr;
-    QWidget* m_unknownView = nullptr;
-    TooltipField* m_unknownSize = nullptr;
 };
 
 } // namespace tessera

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "TreeScreen/Tooltip/TooltipWindow.h"
 
+#include "ui_TooltipWindow.h"
+
 #include <QEvent>
 #include <QPainter>
 #include <QToolTip>
@@ -30,13 +32,17 @@ TooltipWindow::TooltipWindow(QWidget* parent)
         parent,
         Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowTransparentForInput
             | Qt::WindowDoesNotAcceptFocus)
+    , m_ui(std::make_unique<Ui::TooltipWindow>())
 {
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::NoFocus);
     adoptTooltipColours();
+    m_ui->setupUi(this);
 }
+
+TooltipWindow::~TooltipWindow() = default;
 
 bool TooltipWindow::event(QEvent* event)
 {

@@ -3,6 +3,12 @@
 
 #include <QWidget>
 
+#include <memory>
+
+namespace Ui {
+class TooltipWindow;
+}
+
 namespace tessera {
 
 /// The floating panel of the tooltip: above all windows, never active, never in the pointer's
@@ -13,6 +19,10 @@ class TooltipWindow final : public QWidget {
 
 public:
     explicit TooltipWindow(QWidget* parent = nullptr);
+    ~TooltipWindow() override;
+
+    /// What stands in the window, for who fills it.
+    const Ui::TooltipWindow& ui() const { return *m_ui; }
 
 protected:
     bool event(QEvent* event) override;
@@ -20,6 +30,8 @@ protected:
 
 private:
     void adoptTooltipColours();
+
+    std::unique_ptr<Ui::TooltipWindow> m_ui;
 };
 
 } // namespace tessera

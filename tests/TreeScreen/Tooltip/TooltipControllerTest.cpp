@@ -6,6 +6,7 @@
 #include "Model/TimeMachine.h"
 #include "Model/Volume.h"
 #include "TreeScreen/Tooltip/TooltipField.h"
+#include "TreeScreen/Tooltip/TooltipWindow.h"
 #include "support/Fakes/FakeFileSystem.h"
 #include "support/Fakes/FakeIconProvider.h"
 #include "support/MakeTree.h"
@@ -80,6 +81,11 @@ protected:
 };
 
 } // namespace
+
+TEST(TooltipWindow, HasItsPanelsFromTheStart)
+{
+    EXPECT_NE(TooltipWindow().findChild<QWidget*>(QStringLiteral("fileView")), nullptr);
+}
 
 TEST_F(TooltipControllerTest, ADocumentShowsItsNameSizeDateAndPath)
 {
