@@ -23,8 +23,9 @@ Scanner::~Scanner() = default;
 
 void Scanner::scan(const Url& url, ScanPurpose purpose)
 {
-    auto run = std::make_shared<Run>(
-        *this, url, purpose, std::exchange(m_pathWithoutLinks, std::string()));
+    ScannerRunReceiver& receiver = *this;
+    auto run = std::make_shared<ScannerRun>(
+        receiver, m_environment, url, purpose, std::exchange(m_pathWithoutLinks, std::string()));
     {
         const std::lock_guard lock(m_mutex);
         if (m_run != nullptr) {
@@ -38,7 +39,7 @@ void Scanner::scan(const Url& url, ScanPurpose purpose)
     m_percentComplete = 0.0;
     const std::error_code problem
         = m_environment.workers->start([self = shared_from_this(), run]() mutable {
-              run->_performScan();
+              run->performScan();
               // The scanner may die here, with a tree that nobody took.
               run.reset();
               self.reset();
@@ -86,12 +87,12 @@ std::vector<Url> Scanner::fileVaults() const
 }
 
 /// To be called with the mutex held.
-bool Scanner::isCurrent(const Run& run) const
+bool Scanner::isCurrent(const ScannerRun& run) const
 {
     return m_run.get() == &run;
 }
 
-void Scanner::publishProgress(const Run& run, const Url& url, double percent)
+void Scanner::publishProgress(const ScannerRun& run, const Url& url, double percent)
 {
     const std::lock_guard lock(m_mutex);
     if (!isCurrent(run)) {
@@ -103,7 +104,7 @@ void Scanner::publishProgress(const Run& run, const Url& url, double percent)
     m_allocationRead = run.allocationRead();
 }
 
-void Scanner::addFileVault(const Run& run, const Url& url)
+void Scanner::addFileVault(const ScannerRun& run, const Url& url)
 {
     const std::lock_guard lock(m_mutex);
     if (isCurrent(run)) {
@@ -111,7 +112,7 @@ void Scanner::addFileVault(const Run& run, const Url& url)
     }
 }
 
-void Scanner::publishTopFolder(const Run& run, std::unique_ptr<TopFolder> root)
+void Scanner::publishTopFolder(const ScannerRun& run, std::unique_ptr<TopFolder> root)
 {
     const std::lock_guard lock(m_mutex);
     if (isCurrent(run)) {
@@ -122,7 +123,7 @@ void Scanner::publishTopFolder(const Run& run, std::unique_ptr<TopFolder> root)
 // Whether the run was stopped is asked once more on the main thread: a report that was on its way
 // while the scan was cancelled is not delivered.
 
-void Scanner::notifyUpdated(const std::shared_ptr<Run>& run)
+void Scanner::notifyUpdated(const std::shared_ptr<ScannerRun>& run)
 {
     m_environment.mainThread.perform([self = shared_from_this(), run] {
         ScannerDelegate* delegate = self->m_delegate;
@@ -132,7 +133,7 @@ void Scanner::notifyUpdated(const std::shared_ptr<Run>& run)
     });
 }
 
-void Scanner::notifyEnded(const std::shared_ptr<Run>& run)
+void Scanner::notifyEnded(const std::shared_ptr<ScannerRun>& run)
 {
     m_environment.mainThread.performAndWait([self = shared_from_this(), run] {
         ScannerDelegate* delegate = self->m_delegate;
@@ -142,7 +143,7 @@ void Scanner::notifyEnded(const std::shared_ptr<Run>& run)
     });
 }
 
-void Scanner::notifyFailed(const std::shared_ptr<Run>& run, const std::error_code& problem)
+void Scanner::notifyFailed(const std::shared_ptr<ScannerRun>& run, const std::error_code& problem)
 {
     m_environment.mainThread.perform([self = shared_from_this(), run, problem] {
         ScannerDelegate* delegate = self->m_delegate;

@@ -4,6 +4,8 @@
 #include "Base/Url.h"
 #include "Model/TopFolder.h"
 #include "Scanning/ScanEnvironment.h"
+#include "Scanning/ScanPurpose.h"
+#include "Scanning/ScannerRunReceiver.h"
 
 #include <atomic>
 #include <cstdint>
@@ -18,24 +20,16 @@ namespace tessera {
 
 class ScannerDelegate;
 
-/// What is to be made of a scanned directory.
-enum class ScanPurpose : std::uint8_t {
-    NewTree, ///< a tree of its own, with all that a volume has
-    PartOfTree, ///< what takes a folder's place in a tree, made as if the walk had come by there
-};
-
 /// Walks a directory on a worker thread of its own and builds the tree of it. Made, started,
 /// cancelled and dropped on the main thread; it may be dropped right after cancel(), and started
 /// again at any time: what an earlier run still has to say is then dropped.
-class Scanner : public std::enable_shared_from_this<Scanner> {
+class Scanner final : public std::enable_shared_from_this<Scanner>, private ScannerRunReceiver {
 public:
     /// Shared, because the worker keeps the scanner alive beyond an owner that drops it. All that
     /// the environment refers to must live until its workers have ended.
     [[nodiscard]] static std::shared_ptr<Scanner> create(const ScanEnvironment& environment);
 
-    Scanner(const Scanner&) = delete;
-    Scanner& operator=(const Scanner&) = delete;
-    ~Scanner();
+    ~Scanner() override;
 
     /// Not owned. A delegate that dies before the scanner's end must be taken away first.
     ScannerDelegate* delegate() const { return m_delegate; }
@@ -70,18 +64,17 @@ public:
     std::vector<Url> fileVaults() const;
 
 private:
-    class Run;
-    friend class Run;
-
     explicit Scanner(ScanEnvironment environment);
 
-    bool isCurrent(const Run& run) const;
-    void publishProgress(const Run& run, const Url& url, double percent);
-    void addFileVault(const Run& run, const Url& url);
-    void publishTopFolder(const Run& run, std::unique_ptr<TopFolder> root);
-    void notifyUpdated(const std::shared_ptr<Run>& run);
-    void notifyEnded(const std::shared_ptr<Run>& run);
-    void notifyFailed(const std::shared_ptr<Run>& run, const std::error_code& problem);
+    [[nodiscard]] bool hasListener() const override { return m_delegate != nullptr; }
+    void publishProgress(const ScannerRun& run, const Url& url, double percent) override;
+    void addFileVault(const ScannerRun& run, const Url& url) override;
+    void publishTopFolder(const ScannerRun& run, std::unique_ptr<TopFolder> root) override;
+    void notifyUpdated(const std::shared_ptr<ScannerRun>& run) override;
+    void notifyEnded(const std::shared_ptr<ScannerRun>& run) override;
+    void notifyFailed(const std::shared_ptr<ScannerRun>& run, const std::error_code& problem);
+
+    bool isCurrent(const ScannerRun& run) const;
 
     const ScanEnvironment m_environment;
     std::string m_pathWithoutLinks; ///< for the next scan; empty unless it was told
@@ -91,7 +84,7 @@ private:
     std::atomic<std::uint64_t> m_allocationRead = 0;
 
     mutable std::mutex m_mutex; ///< guards what follows: what is too large to be atomic
-    std::shared_ptr<Run> m_run;
+    std::shared_ptr<ScannerRun> m_run;
     Url m_currentURL;
     std::unique_ptr<TopFolder> m_topFolder;
     std::vector<Url> m_fileVaults;

@@ -8,7 +8,8 @@
 #include "Model/TimeMachine.h"
 #include "Model/Volume.h"
 #include "Scanning/ResourceValues.h"
-#include "Scanning/ScannerDelegate.h"
+#include "Scanning/ScanEnvironment.h"
+#include "Scanning/ScannerRunReceiver.h"
 
 #include <cinttypes>
 #include <utility>
@@ -30,8 +31,14 @@ constexpr std::string_view kBackupStoreName = "Backups.backupdb";
 
 } // namespace
 
-Scanner::Run::Run(Scanner& scanner, Url url, ScanPurpose purpose, std::string pathWithoutLinks)
-    : m_scanner(scanner)
+ScannerRun::ScannerRun(
+    ScannerRunReceiver& receiver,
+    const ScanEnvironment& environment,
+    Url url,
+    ScanPurpose purpose,
+    std::string pathWithoutLinks)
+    : m_receiver(receiver)
+    , m_environment(environment)
     , m_url(std::move(url))
     , m_purpose(purpose)
     , m_links(pathWithoutLinks.empty() ? LinksToStart::Follow : LinksToStart::Refuse)
@@ -39,12 +46,12 @@ Scanner::Run::Run(Scanner& scanner, Url url, ScanPurpose purpose, std::string pa
 {
 }
 
-const std::string& Scanner::Run::startPath() const
+const std::string& ScannerRun::startPath() const
 {
     return m_links == LinksToStart::Follow ? m_url.path() : m_pathWithoutLinks;
 }
 
-std::uint32_t Scanner::Run::_getLevel2Items(
+std::uint32_t ScannerRun::countUpperLevels(
     const std::string& path, const FileManager& manager) const
 {
     const auto enumerator = manager.enumerator(path, ItemKeys::None, m_links);
@@ -59,60 +66,60 @@ std::uint32_t Scanner::Run::_getLevel2Items(
     return count;
 }
 
-void Scanner::Run::_performScan()
+void ScannerRun::performScan()
 {
-    m_startTime = environment().clock();
+    m_startTime = m_environment.clock();
     m_lastReportTime = m_startTime;
     prepare();
     TreeBuilder tree = walk();
     finish(tree);
-    if (m_scanner.delegate() != nullptr && !isStopped()) {
-        m_scanner.notifyEnded(shared_from_this());
+    if (m_receiver.hasListener() && !isStopped()) {
+        m_receiver.notifyEnded(shared_from_this());
     }
 }
 
-void Scanner::Run::prepare()
+void ScannerRun::prepare()
 {
-    m_userName = lastPathComponent(environment().homeDirectory);
+    m_userName = lastPathComponent(m_environment.homeDirectory);
     m_hiddenUserName = "." + m_userName;
     if (m_links == LinksToStart::Follow) {
-        m_pathWithoutLinks = environment().fileManager.pathWithoutLinks(m_url.path());
+        m_pathWithoutLinks = m_environment.fileManager.pathWithoutLinks(m_url.path());
     }
     m_isVolume
-        = m_purpose == ScanPurpose::NewTree && environment().resourceValues.isVolume(m_url.path());
+        = m_purpose == ScanPurpose::NewTree && m_environment.resourceValues.isVolume(m_url.path());
     m_mode = m_isVolume && !isHome() ? Mode::Volume : Mode::Folder;
     m_staysEmpty = m_purpose == ScanPurpose::PartOfTree && isMountedInTree();
     if (m_mode == Mode::Volume) {
         measureVolume();
     } else if (!m_staysEmpty) {
-        m_levelTotal = _getLevel2Items(startPath(), environment().fileManager);
+        m_levelTotal = countUpperLevels(startPath(), m_environment.fileManager);
     }
 }
 
 /// Also where the user has chosen another way there than the system's own.
-bool Scanner::Run::isHome() const
+bool ScannerRun::isHome() const
 {
-    const std::string& home = environment().homeDirectory;
-    return m_url.path() == home || environment().resourceValues.isSameDirectory(m_url.path(), home);
+    const std::string& home = m_environment.homeDirectory;
+    return m_url.path() == home || m_environment.resourceValues.isSameDirectory(m_url.path(), home);
 }
 
-void Scanner::Run::measureVolume()
+void ScannerRun::measureVolume()
 {
-    const FileSystemSizes sizes = environment()
-                                      .fileSystemAttributes.attributesOfFileSystem(m_url.path())
-                                      .value_or(FileSystemSizes{});
+    const FileSystemSizes sizes
+        = m_environment.fileSystemAttributes.attributesOfFileSystem(m_url.path())
+              .value_or(FileSystemSizes{});
     m_usedBytes = saturatingDifference(sizes.totalBytes, sizes.freeBytes);
 }
 
 /// Inside a tree nothing that is mounted counts, but an encrypted home, which has a pass of its
 /// own.
-bool Scanner::Run::isMountedInTree() const
+bool ScannerRun::isMountedInTree() const
 {
     return m_url.lastPathComponent() != m_userName
-        && environment().resourceValues.isMountPoint(m_url.path());
+        && m_environment.resourceValues.isMountPoint(m_url.path());
 }
 
-std::unique_ptr<TopFolder> Scanner::Run::makeRoot() const
+std::unique_ptr<TopFolder> ScannerRun::makeRoot() const
 {
     std::unique_ptr<TopFolder> root = m_mode == Mode::Folder
         ? makeNode<TopFolder>(m_url.lastPathComponent())
@@ -122,7 +129,7 @@ std::unique_ptr<TopFolder> Scanner::Run::makeRoot() const
     return root;
 }
 
-TreeBuilder Scanner::Run::walk()
+TreeBuilder ScannerRun::walk()
 {
     TreeBuilder tree(makeRoot());
     // When stopped, a folder that is slow to open would only hold up the end.
@@ -130,7 +137,7 @@ TreeBuilder Scanner::Run::walk()
         return tree;
     }
     const auto enumerator
-        = environment().fileManager.enumerator(startPath(), ItemKeys::SizeAndHidden, m_links);
+        = m_environment.fileManager.enumerator(startPath(), ItemKeys::SizeAndHidden, m_links);
     DirectoryItem item;
     while (enumerator->next(item) && !isStopped()) {
         visit(item, *enumerator, tree);
@@ -138,7 +145,7 @@ TreeBuilder Scanner::Run::walk()
     return tree;
 }
 
-void Scanner::Run::visit(
+void ScannerRun::visit(
     const DirectoryItem& item, DirectoryEnumerator& enumerator, TreeBuilder& tree)
 {
     if (item.level <= kCountedLevels) {
@@ -152,7 +159,7 @@ void Scanner::Run::visit(
     reportIfDue(item, tree);
 }
 
-void Scanner::Run::visitUpperLevels(
+void ScannerRun::visitUpperLevels(
     const DirectoryItem& item, DirectoryEnumerator& enumerator, const TreeBuilder& tree)
 {
     if (isBackupStore(item)) {
@@ -161,8 +168,8 @@ void Scanner::Run::visitUpperLevels(
     }
     if (item.isDirectory && item.name == m_userName) {
         const std::string path = tree.pathOf(item.level, item.name);
-        if (environment().resourceValues.isMountPoint(path)) {
-            m_scanner.addFileVault(*this, Url(path, true));
+        if (m_environment.resourceValues.isMountPoint(path)) {
+            m_receiver.addFileVault(*this, Url(path, true));
         }
     }
     ++m_levelRead;
@@ -173,30 +180,30 @@ void Scanner::Run::visitUpperLevels(
 
 /// What a volume holds beyond what was walked is known; of a folder nothing is, so there the store
 /// is walked like any other.
-bool Scanner::Run::isBackupStore(const DirectoryItem& item) const
+bool ScannerRun::isBackupStore(const DirectoryItem& item) const
 {
     return m_mode == Mode::Volume && item.level == 1 && item.isDirectory
         && item.name == kBackupStoreName;
 }
 
-void Scanner::Run::reportIfDue(const DirectoryItem& item, const TreeBuilder& tree)
+void ScannerRun::reportIfDue(const DirectoryItem& item, const TreeBuilder& tree)
 {
-    if (m_scanner.delegate() == nullptr) {
+    if (!m_receiver.hasListener()) {
         return;
     }
-    const double now = environment().clock();
+    const double now = m_environment.clock();
     if (!(m_lastReportTime - now < -kReportIntervalSeconds)) {
         return;
     }
     const Url url(tree.pathOf(item.level, item.name), item.isDirectory);
-    m_scanner.publishProgress(*this, url, percentComplete());
-    m_scanner.notifyUpdated(shared_from_this());
-    m_lastReportTime = environment().clock();
+    m_receiver.publishProgress(*this, url, percentComplete());
+    m_receiver.notifyUpdated(shared_from_this());
+    m_lastReportTime = m_environment.clock();
 }
 
 /// Neither clamped nor guarded: items may appear while they are counted, and a home folder that
 /// is a volume has no used bytes to divide by. Those who show the figure deal with that.
-double Scanner::Run::percentComplete() const
+double ScannerRun::percentComplete() const
 {
     if (m_isVolume) {
         return static_cast<double>(m_allocationRead) / static_cast<double>(m_usedBytes);
@@ -204,7 +211,7 @@ double Scanner::Run::percentComplete() const
     return static_cast<double>(m_levelRead) / m_levelTotal;
 }
 
-void Scanner::Run::addBackups(Volume& volume) const
+void ScannerRun::addBackups(Volume& volume) const
 {
     auto backups = makeNode<TimeMachine>({});
     // Hard links count at each of their places, so a walk may find more than is in use.
@@ -212,23 +219,23 @@ void Scanner::Run::addBackups(Volume& volume) const
     volume.addChild(std::move(backups));
 }
 
-void Scanner::Run::finish(TreeBuilder& tree)
+void ScannerRun::finish(TreeBuilder& tree)
 {
     tree.closeAll();
     if (auto* volume = nodeCast<Volume>(&tree.root())) {
         if (m_sawBackupStore) {
             addBackups(*volume);
         }
-        volume->refreshVolume(environment().fileSystemAttributes);
+        volume->refreshVolume(m_environment.fileSystemAttributes);
     } else {
         tree.root().sort();
     }
     const std::string path = tree.root().absolutePath();
-    m_scanner.publishTopFolder(*this, tree.takeRoot());
+    m_receiver.publishTopFolder(*this, tree.takeRoot());
     logLine(
         "Scan Complete: %s {time: %s, objects: %" PRIu64 ", allocation size: %" PRIu64 "}",
         path.c_str(),
-        decimals(environment().clock() - m_startTime, kTimeDecimals).c_str(),
+        decimals(m_environment.clock() - m_startTime, kTimeDecimals).c_str(),
         m_objectsRead,
         m_allocationRead);
 }

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Base/Url.h"
 #include "Scanning/DirectoryEnumerator.h"
-#include "Scanning/Scanner.h"
+#include "Scanning/ScanPurpose.h"
 #include "Scanning/TreeBuilder.h"
 
 #include <atomic>
@@ -12,26 +13,35 @@
 
 namespace tessera {
 
+class ScannerRunReceiver;
+class TopFolder;
 class Volume;
+struct ScanEnvironment;
 
 /// One scan of one directory: what the worker thread does. Only stop() and isStopped() may be
 /// called on another thread.
-class Scanner::Run : public std::enable_shared_from_this<Scanner::Run> {
+class ScannerRun final : public std::enable_shared_from_this<ScannerRun> {
 public:
-    /// With a path without links, the directory is reached by that alone.
-    Run(Scanner& scanner, Url url, ScanPurpose purpose, std::string pathWithoutLinks);
+    /// Both references must outlive its work. With a path without links, the directory is reached
+    /// by that alone.
+    ScannerRun(
+        ScannerRunReceiver& receiver,
+        const ScanEnvironment& environment,
+        Url url,
+        ScanPurpose purpose,
+        std::string pathWithoutLinks);
 
-    void stop() { _stop = true; }
-    bool isStopped() const { return _stop; }
+    void stop() { m_isStopped = true; }
+    bool isStopped() const { return m_isStopped; }
 
     std::uint64_t objectsRead() const { return m_objectsRead; }
     std::uint64_t allocationRead() const { return m_allocationRead; }
 
     /// The worker: walks the directory, hands the tree over and reports.
-    void _performScan();
+    void performScan();
 
     /// The number of items at depth 1 and 2 below the directory; fewer when the run was stopped.
-    std::uint32_t _getLevel2Items(const std::string& path, const FileManager& manager) const;
+    std::uint32_t countUpperLevels(const std::string& path, const FileManager& manager) const;
 
 private:
     enum class Mode : bool { Folder, Volume };
@@ -52,14 +62,13 @@ private:
     void addBackups(Volume& volume) const;
     void finish(TreeBuilder& tree);
 
-    const ScanEnvironment& environment() const { return m_scanner.m_environment; }
-
-    Scanner& m_scanner; ///< the worker holds it alive
+    ScannerRunReceiver& m_receiver; ///< the worker holds it alive
+    const ScanEnvironment& m_environment; ///< the receiver's
     const Url m_url;
     const ScanPurpose m_purpose;
     const LinksToStart m_links;
     std::string m_pathWithoutLinks;
-    std::atomic<bool> _stop = false;
+    std::atomic<bool> m_isStopped = false;
 
     std::string m_userName; ///< last component of the home directory
     std::string m_hiddenUserName; ///< the same behind a dot
