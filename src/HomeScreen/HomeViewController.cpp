@@ -17,7 +17,6 @@
 #include "Model/RootModel.h"
 #include "Widgets/DesktopFont.h"
 #include "Widgets/NonBlockingTextField.h"
-#include "Widgets/Util.h"
 #include "ui_HomeView.h"
 
 #include <QGraphicsOpacityEffect>

@@ -11,7 +11,6 @@
 #include "ScanScreen/PathLabel.h"
 #include "Scanning/Scanner.h"
 #include "Widgets/ScanProblem.h"
-#include "Widgets/Util.h"
 #include "ui_ScanView.h"
 
 #include <QLabel>

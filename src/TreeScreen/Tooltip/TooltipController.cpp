@@ -12,7 +12,6 @@
 #include "TreeScreen/Tooltip/TooltipWindow.h"
 #include "Widgets/IconProvider.h"
 #include "Widgets/MediumDate.h"
-#include "Widgets/Util.h"
 #include "ui_TooltipWindow.h"
 
 #include <QLabel>
