@@ -22,10 +22,6 @@ public:
     /// `size`: bytes that the whole of `rect` stands for.
     LayoutBuilder(std::uint64_t size, const Rect& rect);
 
-    /// Bytes that the area stands for; never 0.
-    double totalSize() const { return m_totalSize; }
-    /// Square points of the area.
-    double totalPixels() const { return m_totalPixels; }
     /// The least thickness, in points, that a strip leaves for the rest where there is room.
     // NOLINTNEXTLINE(readability-convert-member-functions-to-static): a property like the others
     double minSize() const { return kMinSize; }
@@ -58,8 +54,8 @@ private:
     void placeRow(double thickness);
     void placeColumn(double thickness);
 
-    double m_totalSize;
-    double m_totalPixels;
+    double m_totalSize; ///< bytes that the area stands for; never 0
+    double m_totalPixels; ///< square points of the area
     Rect m_remainingRect;
     std::vector<LayoutObject*> m_groupItems;
     double m_groupPixels = 0;

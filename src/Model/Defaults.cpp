@@ -15,7 +15,6 @@ void registerDefaults(UserDefaults& defaults)
 {
     defaults.registerDefaults({
         {std::string(kTooltipTypeKey), kFullTooltip},
-        {std::string(kTreeColorThemeKey), std::string("TreeColorThemeStandard")},
         {std::string(kWarnDeleteHiddenKey), true},
         {std::string(kWarnDeleteSystemKey), true},
     });

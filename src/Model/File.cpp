@@ -118,16 +118,6 @@ std::string_view File::name() const
     }
 }
 
-std::string File::absolutePath() const
-{
-    return joinedPath(PathKind::Absolute);
-}
-
-std::string File::relativePath() const
-{
-    return joinedPath(PathKind::Relative);
-}
-
 Url File::url() const
 {
     return {absolutePath(), isFolder()};

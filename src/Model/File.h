@@ -65,9 +65,6 @@ public:
     /// The path from the file system's root, through the nearest TopFolder's origin.
     std::string absolutePath() const;
 
-    /// The path from the nearest TopFolder, its own name included.
-    std::string relativePath() const;
-
     /// The file URL of absolutePath().
     Url url() const;
 
@@ -109,9 +106,6 @@ private:
 
     /// Ends the life of one node whose children are gone, and gives its memory back.
     static void dispose(File* node) noexcept;
-
-    enum class PathKind : std::uint8_t { Absolute, Relative };
-    std::string joinedPath(PathKind kind) const;
 
     std::uint64_t m_totalAllocation = 0;
     Folder* m_parent = nullptr;

@@ -34,7 +34,7 @@ std::size_t File::nameOffset(NodeType type)
     }
 }
 
-std::string File::joinedPath(PathKind kind) const
+std::string File::absolutePath() const
 {
     // Upward to the node that knows its path by itself, then downward again, without recursion:
     // a disk may hold chains of folders deeper than any stack.
@@ -45,9 +45,7 @@ std::string File::joinedPath(PathKind kind) const
         start = start->m_parent;
     }
     const auto* top = nodeCast<TopFolder>(start);
-    std::string path(
-        top != nullptr && kind == PathKind::Absolute ? std::string_view(top->origin())
-                                                     : start->fragment());
+    std::string path(top != nullptr ? std::string_view(top->origin()) : start->fragment());
     std::reverse(below.begin(), below.end());
     for (const File* node : below) {
         if (path != "/") {

@@ -14,10 +14,6 @@ public:
     bool ignoreHiddenFiles() const { return m_ignoreHiddenFiles; }
     void setIgnoreHiddenFiles(bool on) { m_ignoreHiddenFiles = on; }
 
-    /// Kept with the others; nothing acts on it.
-    bool ignoreSystemFiles() const { return m_ignoreSystemFiles; }
-    void setIgnoreSystemFiles(bool on) { m_ignoreSystemFiles = on; }
-
     /// The space of a volume that the scan could not account for.
     bool ignoreRestrictedFiles() const { return m_ignoreRestrictedFiles; }
     void setIgnoreRestrictedFiles(bool on) { m_ignoreRestrictedFiles = on; }
@@ -25,7 +21,6 @@ public:
 private:
     bool m_ignoreFreeSpace = false;
     bool m_ignoreHiddenFiles = false;
-    bool m_ignoreSystemFiles = false;
     bool m_ignoreRestrictedFiles = false;
 };
 

@@ -16,7 +16,6 @@
 namespace tessera {
 
 inline constexpr std::string_view kTooltipTypeKey = "TooltipType";
-inline constexpr std::string_view kTreeColorThemeKey = "TreeColorTheme";
 inline constexpr std::string_view kWarnDeleteHiddenKey = "WarnDeleteHidden";
 inline constexpr std::string_view kWarnDeleteSystemKey = "WarnDeleteSystem";
 inline constexpr std::string_view kRecentsKey = "recents";

@@ -49,10 +49,6 @@ public:
     /// The folder being rescanned; null while none is.
     Folder* rescanFolder() const { return m_rescanFolder; }
 
-    /// The bar over the folder's box, or across the view while the folder fills that; null while
-    /// there is none.
-    RescanIndicator* rescanIndicator() const { return m_rescanIndicator; }
-
     /// The picture was rebuilt, or a zoom has begun: the bar follows the folder's box, and is out
     /// of sight during a zoom and where there is no box or a small one.
     void pictureChanged();

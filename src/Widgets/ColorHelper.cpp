@@ -29,11 +29,6 @@ QColor colorWithHex(std::uint32_t hex)
     return {byteAt(hex, 16), byteAt(hex, 8), byteAt(hex, 0)};
 }
 
-QColor colorWithAHex(std::uint32_t hex)
-{
-    return {byteAt(hex, 16), byteAt(hex, 8), byteAt(hex, 0), byteAt(hex, 24)};
-}
-
 QColor colorWithHexA(std::uint32_t hex)
 {
     return {byteAt(hex, 24), byteAt(hex, 16), byteAt(hex, 8), byteAt(hex, 0)};

@@ -14,9 +14,6 @@ namespace tessera {
 /// 0x00RRGGBB, opaque; the top byte is ignored.
 QColor colorWithHex(std::uint32_t hex);
 
-/// 0xAARRGGBB. The alpha stands at the other end than in colorWithHexA().
-QColor colorWithAHex(std::uint32_t hex);
-
 /// 0xRRGGBBAA.
 QColor colorWithHexA(std::uint32_t hex);
 

@@ -56,14 +56,14 @@ TEST(LayoutBuilder, ASingleItemGetsTheWholeArea)
 
 TEST(LayoutBuilder, ASizeOfZeroCountsAsOne)
 {
-    EXPECT_EQ(LayoutBuilder(0, {0, 0, 10, 10}).totalSize(), 1.0);
-    EXPECT_EQ(LayoutBuilder(7, {0, 0, 10, 10}).totalSize(), 7.0);
+    EXPECT_EQ(LayoutBuilder(0, {0, 0, 10, 10}).pixelsFor(1), 100.0);
+    EXPECT_EQ(LayoutBuilder(7, {0, 0, 10, 10}).pixelsFor(7), 100.0);
 }
 
-TEST(LayoutBuilder, TotalPixelsIsTheAreaAndTheLeastStripTwelvePoints)
+TEST(LayoutBuilder, TheWholeSizeIsWorthTheAreaAndTheLeastStripIsTwelvePoints)
 {
     const LayoutBuilder builder(7, {1, 2, 10, 20});
-    EXPECT_EQ(builder.totalPixels(), 200.0);
+    EXPECT_EQ(builder.pixelsFor(7), 200.0);
     EXPECT_EQ(builder.minSize(), 12.0);
 }
 

@@ -13,7 +13,6 @@ TEST(Defaults, ApplyWhereNothingIsStored)
     test::FakeUserDefaults defaults;
     registerDefaults(defaults);
     EXPECT_EQ(defaults.integer("TooltipType"), 2);
-    EXPECT_EQ(defaults.string("TreeColorTheme"), "TreeColorThemeStandard");
     EXPECT_TRUE(defaults.boolean("WarnDeleteHidden"));
     EXPECT_TRUE(defaults.boolean("WarnDeleteSystem"));
     EXPECT_TRUE(defaults.recentRecords("recents").empty());
@@ -23,12 +22,10 @@ TEST(Defaults, GiveWayToWhatTheUserStored)
 {
     test::FakeUserDefaults defaults;
     defaults.setInteger("TooltipType", 0);
-    defaults.setString("TreeColorTheme", "Other");
     defaults.setBoolean("WarnDeleteHidden", false);
     defaults.setBoolean("WarnDeleteSystem", false);
     registerDefaults(defaults);
     EXPECT_EQ(defaults.integer("TooltipType"), 0);
-    EXPECT_EQ(defaults.string("TreeColorTheme"), "Other");
     EXPECT_FALSE(defaults.boolean("WarnDeleteHidden"));
     EXPECT_FALSE(defaults.boolean("WarnDeleteSystem"));
 }

@@ -105,11 +105,10 @@ TEST(File, EachFlagChangesAlone)
     EXPECT_EQ(node->hue(), 9);
 }
 
-TEST(File, ALoneNodeReturnsItsFragmentAsBothPaths)
+TEST(File, ALoneNodeReturnsItsFragmentAsItsPath)
 {
     const auto node = makeNode<Folder>("lone");
     EXPECT_EQ(node->absolutePath(), "lone");
-    EXPECT_EQ(node->relativePath(), "lone");
 }
 
 TEST(File, UnderTheRootNoSlashIsDoubled)
@@ -117,7 +116,6 @@ TEST(File, UnderTheRootNoSlashIsDoubled)
     const auto top = test::makeTree("/", "Users/ ( x:1 )");
     EXPECT_EQ(test::at(*top, "Users").absolutePath(), "/Users");
     EXPECT_EQ(test::at(*top, "Users/x").absolutePath(), "/Users/x");
-    EXPECT_EQ(test::at(*top, "Users/x").relativePath(), "/Users/x");
 }
 
 TEST(File, UrlOfADocumentIsNoDirectory)

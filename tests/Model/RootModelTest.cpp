@@ -35,7 +35,6 @@ TEST(RootModel, StartsWithNoTreeAndAllSettingsOff)
     EXPECT_FALSE(model.isRunningAsRoot());
     EXPECT_FALSE(model.settings().ignoreFreeSpace());
     EXPECT_FALSE(model.settings().ignoreHiddenFiles());
-    EXPECT_FALSE(model.settings().ignoreSystemFiles());
     EXPECT_FALSE(model.settings().ignoreRestrictedFiles());
 }
 

@@ -16,12 +16,5 @@ TEST(TopFolder, AbsolutePathIsTheOriginAlsoInsideAnotherTree)
     EXPECT_EQ(test::at(*outer, "new/x").absolutePath(), "/elsewhere/new/x");
 }
 
-TEST(TopFolder, RelativePathsStartWithItsOwnName)
-{
-    const auto top = test::makeTree("/home/me/Docs", "a/ ( b:1 )");
-    EXPECT_EQ(top->relativePath(), "Docs");
-    EXPECT_EQ(test::at(*top, "a/b").relativePath(), "Docs/a/b");
-}
-
 } // namespace
 } // namespace tessera

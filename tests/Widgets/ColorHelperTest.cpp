@@ -21,15 +21,6 @@ TEST(ColorHelper, HexAHasItsAlphaInTheLowByte)
     EXPECT_FLOAT_EQ(color.alphaF(), 0.2F);
 }
 
-TEST(ColorHelper, AHexHasItsAlphaInTheTopByte)
-{
-    const QColor color = colorWithAHex(0xFFFFFF33);
-    EXPECT_FLOAT_EQ(color.redF(), 1.0F);
-    EXPECT_FLOAT_EQ(color.greenF(), 1.0F);
-    EXPECT_FLOAT_EQ(color.blueF(), 0.2F);
-    EXPECT_FLOAT_EQ(color.alphaF(), 1.0F);
-}
-
 TEST(ColorHelper, ComponentsAreBytesOver255)
 {
     EXPECT_NEAR(colorWithHex(0x123456).redF(), 0x12 / 255.0F, kSixteenBits);

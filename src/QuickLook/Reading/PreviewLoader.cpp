@@ -7,7 +7,6 @@
 #include <QCoreApplication>
 #include <QEvent>
 
-#include <condition_variable>
 #include <mutex>
 #include <stop_token>
 #include <utility>
@@ -87,12 +86,6 @@ public:
         m_arrived.reset();
     }
 
-    bool waitUntilIdle(std::chrono::milliseconds timeLimit)
-    {
-        std::unique_lock lock(m_mutex);
-        return m_ended.wait_for(lock, timeLimit, [this] { return m_threads == 0; });
-    }
-
 private:
     void run(std::shared_ptr<Look> look)
     {
@@ -112,7 +105,6 @@ private:
         }
         if (m_waiting == nullptr) {
             --m_threads;
-            m_ended.notify_all();
         }
         return std::exchange(m_waiting, nullptr);
     }
@@ -129,7 +121,6 @@ private:
     const std::shared_ptr<const RasterDecoder> m_decoder;
     const std::shared_ptr<PreviewThreads> m_pool;
     std::mutex m_mutex;
-    std::condition_variable m_ended;
     QObject* m_receiver;
     int m_threads = 0;
     std::shared_ptr<Look> m_waiting;
@@ -168,12 +159,6 @@ void PreviewLoader::cancel()
         m_current.reset();
     }
     m_crew->dropWaiting();
-}
-
-bool PreviewLoader::cancelAndWait(std::chrono::milliseconds timeLimit)
-{
-    cancel();
-    return m_crew->waitUntilIdle(timeLimit);
 }
 
 bool PreviewLoader::event(QEvent* event)

@@ -5,7 +5,6 @@
 
 #include <QObject>
 
-#include <chrono>
 #include <functional>
 #include <memory>
 
@@ -41,10 +40,6 @@ public:
     void cancel();
 
     bool isLoading() const { return m_current != nullptr; }
-
-    /// Drops what is under way and waits for its end, but no longer than that; false when it is
-    /// stuck.
-    bool cancelAndWait(std::chrono::milliseconds timeLimit);
 
     bool event(QEvent* event) override;
 

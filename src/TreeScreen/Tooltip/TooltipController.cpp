@@ -106,11 +106,6 @@ void TooltipController::setLayoutObject(const LayoutObject& item)
     }
 }
 
-void TooltipController::setUnknown()
-{
-    setContentRef(m_window->ui().unknownView);
-}
-
 void TooltipController::setContentRef(QWidget* panel)
 {
     if (panel != m_contentRef) {

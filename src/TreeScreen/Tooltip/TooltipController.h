@@ -42,16 +42,11 @@ public:
     /// neither shown nor hidden nor moved.
     void setLayoutObject(const LayoutObject& item);
 
-    /// Brings the panel for unaccounted space into the window, its text unchanged.
-    void setUnknown();
-
     /// The panel that is in the window.
     QWidget* contentRef() const { return m_contentRef; }
-    void setContentRef(QWidget* panel);
 
     /// Size in points that the window should take for its content; the origin means nothing.
     const Rect& desiredRect() const { return m_desiredRect; }
-    void setDesiredRect(const Rect& rect) { m_desiredRect = rect; }
 
     QWidget& window() const;
 
@@ -67,6 +62,7 @@ private:
         TooltipField* path = nullptr;
     };
 
+    void setContentRef(QWidget* panel);
     void showGroup(const MultiLayoutObject& group);
     void showFileOnDisk(const NodePanel& panel, const File& node);
     void showUnknown(const File& node);

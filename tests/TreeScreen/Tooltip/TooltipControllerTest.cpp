@@ -213,18 +213,6 @@ TEST_F(TooltipControllerTest, UnaccountedSpaceHasTheFullHeightWhateverItsText)
     EXPECT_EQ(controller.desiredRect(), sized(123));
 }
 
-TEST_F(TooltipControllerTest, TheUnknownPanelComesWithTheTextItHad)
-{
-    volume->unreadFile().setTotalAllocation(999);
-    hover(volume->unreadFile());
-    hover(*tree);
-
-    controller.setUnknown();
-
-    EXPECT_EQ(panel(), "unknownView");
-    EXPECT_EQ(text("unknownSize"), "999 B");
-}
-
 TEST_F(TooltipControllerTest, AFileThatIsGoneKeepsItsNameSizeAndPath)
 {
     hover(test::at(*tree, "docs/report.pdf"));

@@ -62,6 +62,7 @@ FileStatus fromStat(const struct stat& values)
     return status;
 }
 
+/// By the older call, which knows nothing of mounts.
 StatusResult statusByStat(int directory, const char* name, int flags)
 {
     struct stat values { };
@@ -108,11 +109,6 @@ int flagsFor(LinkMode linkMode)
 StatusResult statusAt(int directory, const char* name, LinkMode linkMode)
 {
     return status(directory, name, flagsFor(linkMode));
-}
-
-StatusResult statusAtWithoutStatx(int directory, const char* name, LinkMode linkMode)
-{
-    return statusByStat(directory, name, flagsFor(linkMode));
 }
 
 StatusResult statusOf(int descriptor)

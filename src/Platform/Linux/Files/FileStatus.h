@@ -37,13 +37,9 @@ struct StatusResult {
 enum class LinkMode : std::uint8_t { Keep, Follow };
 
 /// The status of `name` in the open directory `directory`. Triggers no automount; it waits for as
-/// long as the file system takes to answer.
-[[nodiscard]] StatusResult statusAt(
-    int directory, const char* name, LinkMode linkMode = LinkMode::Keep);
-
-/// The same by the older call, for kernels and sandboxes without statx(2). It knows nothing of
+/// long as the file system takes to answer. Kernels and sandboxes without statx(2) say nothing of
 /// mounts.
-[[nodiscard]] StatusResult statusAtWithoutStatx(
+[[nodiscard]] StatusResult statusAt(
     int directory, const char* name, LinkMode linkMode = LinkMode::Keep);
 
 /// The status of what an open descriptor stands for.

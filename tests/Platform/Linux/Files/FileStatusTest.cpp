@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/Files/FileStatus.h"
 
+#include "support/Machine/FailingCalls.h"
 #include "support/Machine/TempTree.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/syscall.h>
 
 #include <cerrno>
+#include <cstdlib>
 
 namespace tessera::test {
 namespace {
@@ -16,23 +19,38 @@ StatusResult statusAtPath(const std::string& path)
     return statusAt(AT_FDCWD, path.c_str());
 }
 
+/// As on an old kernel. In a process of its own, because what has found the call missing once does
+/// without it from then on.
+template <typename Check>
+void whereStatxIsMissing(const Check& check)
+{
+    const auto run = [&check] {
+        EXPECT_TRUE(makeCallFail({SYS_statx, ENOSYS, {}}));
+        check();
+        return testing::Test::HasFailure() ? 1 : 0;
+    };
+    EXPECT_EXIT(std::_Exit(run()), testing::ExitedWithCode(0), "");
+}
+
 TEST(FileStatus, TheOlderCallSaysTheSame)
 {
     const TempTree tree;
     tree.makeFile("file", 5000);
     const StatusResult status = statusAtPath(tree.pathOf("file"));
-    const StatusResult older = statusAtWithoutStatx(AT_FDCWD, tree.pathOf("file").c_str());
-    ASSERT_TRUE(status);
-    ASSERT_TRUE(older);
-    EXPECT_EQ(status.status.identity, older.status.identity);
-    EXPECT_EQ(status.status.allocatedBytes, older.status.allocatedBytes);
-    EXPECT_EQ(status.status.modified, older.status.modified);
-    EXPECT_EQ(status.status.isRegular, older.status.isRegular);
-    EXPECT_EQ(status.status.isDirectory, older.status.isDirectory);
-    EXPECT_EQ(status.status.mode, older.status.mode);
-    EXPECT_EQ(status.status.owner, older.status.owner);
-    EXPECT_EQ(status.status.group, older.status.group);
-    EXPECT_EQ(status.status.length, older.status.length);
+    whereStatxIsMissing([&] {
+        const StatusResult older = statusAtPath(tree.pathOf("file"));
+        ASSERT_TRUE(status);
+        ASSERT_TRUE(older);
+        EXPECT_EQ(status.status.identity, older.status.identity);
+        EXPECT_EQ(status.status.allocatedBytes, older.status.allocatedBytes);
+        EXPECT_EQ(status.status.modified, older.status.modified);
+        EXPECT_EQ(status.status.isRegular, older.status.isRegular);
+        EXPECT_EQ(status.status.isDirectory, older.status.isDirectory);
+        EXPECT_EQ(status.status.mode, older.status.mode);
+        EXPECT_EQ(status.status.owner, older.status.owner);
+        EXPECT_EQ(status.status.group, older.status.group);
+        EXPECT_EQ(status.status.length, older.status.length);
+    });
 }
 
 TEST(FileStatus, TheLengthCountsHoles)
@@ -53,10 +71,12 @@ TEST(FileStatus, TheModeHoldsKindAndPermissions)
 
 TEST(FileStatus, TheOlderCallKnowsNothingOfMounts)
 {
-    const StatusResult older = statusAtWithoutStatx(AT_FDCWD, "/");
-    ASSERT_TRUE(older);
-    EXPECT_FALSE(older.status.isMountRoot.has_value());
-    EXPECT_FALSE(older.status.mountId.has_value());
+    whereStatxIsMissing([] {
+        const StatusResult older = statusAtPath("/");
+        ASSERT_TRUE(older);
+        EXPECT_FALSE(older.status.isMountRoot.has_value());
+        EXPECT_FALSE(older.status.mountId.has_value());
+    });
 }
 
 TEST(FileStatus, SaysWhyThereIsNone)
