@@ -62,8 +62,8 @@ float LayoutBuilder::aspectRatio(const Rect& rect)
 
 void LayoutBuilder::updateDirection()
 {
-    m_groupDir = m_remainingRect.width >= m_remainingRect.height ? GroupDirection::Column
-                                                                 : GroupDirection::Row;
+    m_groupDirection = m_remainingRect.width >= m_remainingRect.height ? GroupDirection::Column
+                                                                       : GroupDirection::Row;
 }
 
 bool LayoutBuilder::addItem(LayoutObject& item)
@@ -91,7 +91,7 @@ bool LayoutBuilder::addItem(LayoutObject& item)
 void LayoutBuilder::openGroup(LayoutObject& item)
 {
     const Rect& area = m_remainingRect;
-    item.rect = m_groupDir == GroupDirection::Row
+    item.rect = m_groupDirection == GroupDirection::Row
         ? Rect{area.x, area.y, area.width, item.pixelCount / area.width}
         : Rect{area.x, area.y, item.pixelCount / area.height, area.height};
     m_groupItems.push_back(&item);
@@ -102,7 +102,7 @@ Rect LayoutBuilder::trialRect(const LayoutObject& item) const
 {
     const Rect& area = m_remainingRect;
     const double share = item.pixelCount / m_groupPixels;
-    if (m_groupDir == GroupDirection::Row) {
+    if (m_groupDirection == GroupDirection::Row) {
         const double width = share * area.width;
         return {area.x, area.y, width, item.pixelCount / width};
     }
@@ -113,7 +113,7 @@ Rect LayoutBuilder::trialRect(const LayoutObject& item) const
 std::vector<LayoutObject*> LayoutBuilder::sealGroup(IsLast last)
 {
     const Rect& area = m_remainingRect;
-    if (m_groupDir == GroupDirection::Row) {
+    if (m_groupDirection == GroupDirection::Row) {
         placeRow(stripThickness(area.height, area.width, last));
     } else {
         placeColumn(stripThickness(area.width, area.height, last));

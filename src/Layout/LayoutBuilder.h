@@ -59,7 +59,7 @@ private:
     Rect m_remainingRect;
     std::vector<LayoutObject*> m_groupItems;
     double m_groupPixels = 0;
-    GroupDirection m_groupDir = GroupDirection::Column;
+    GroupDirection m_groupDirection = GroupDirection::Column;
 };
 
 } // namespace tessera

@@ -55,7 +55,7 @@ MainToolbar::MainToolbar(QToolBar& toolbar, QMenu& actionsMenu)
         toolbar,
         ToolbarSymbol::Home,
         tr(QT_TRANSLATE_NOOP("MainToolbar", "Choose another disk or folder"))))
-    , m_toolbarSeperator(addSeparator(toolbar))
+    , m_toolbarSeparator(addSeparator(toolbar))
     , m_toolbarPathControl(addPathControl(toolbar))
     , m_toolbarActionsButton(addButton<MenuToolButton>(
           toolbar,
@@ -72,7 +72,7 @@ MainToolbar::MainToolbar(QToolBar& toolbar, QMenu& actionsMenu)
 void MainToolbar::setTreeDisplayed(bool displayed)
 {
     m_toolbarHomeButton->setEnabled(displayed);
-    m_toolbarSeperator->setVisible(displayed);
+    m_toolbarSeparator->setVisible(displayed);
     m_toolbarPathControl->setVisible(displayed);
     m_toolbarActionsButton->setEnabled(displayed);
 }

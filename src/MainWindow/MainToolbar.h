@@ -21,14 +21,14 @@ public:
     void setTreeDisplayed(bool displayed);
 
     QToolButton& toolbarHomeButton() const { return *m_toolbarHomeButton; }
-    QAction& toolbarSeperator() const { return *m_toolbarSeperator; }
+    QAction& toolbarSeparator() const { return *m_toolbarSeparator; }
     ToolbarPathControl& toolbarPathControl() const { return *m_toolbarPathControl; }
     QToolButton& toolbarActionsButton() const { return *m_toolbarActionsButton; }
     QToolButton& toolbarIgnoreButton() const { return *m_toolbarIgnoreButton; }
 
 private:
     QToolButton* m_toolbarHomeButton;
-    QAction* m_toolbarSeperator;
+    QAction* m_toolbarSeparator;
     ToolbarPathControl* m_toolbarPathControl;
     QToolButton* m_toolbarActionsButton;
     QToolButton* m_toolbarIgnoreButton;

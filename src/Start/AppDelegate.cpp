@@ -63,7 +63,7 @@ AppDelegate::AppDelegate(AppDelegateServices services)
 
 AppDelegate::~AppDelegate() = default;
 
-void AppDelegate::applicationDidFinishLaunching()
+void AppDelegate::start()
 {
     // Which end of which window ends the program is decided here, and not by how many there are.
     QApplication::setQuitOnLastWindowClosed(false);

@@ -48,7 +48,7 @@ public:
     PreferencesWindowController* prefWindow() const { return m_prefWindow.get(); }
 
     /// Registers the defaults and opens the main window on the home screen.
-    void applicationDidFinishLaunching();
+    void start();
 
     /// Scans a folder that is to be opened with the program. While the user has to answer a
     /// question the scan waits for that, and it waits a moment when another one was just started:

@@ -91,7 +91,7 @@ WindowedProgram::WindowedProgram(const LaunchServices& services)
         services.userAccount,
         [helpFolder = services.helpFolder](HelpPage page) { return helpAddress(helpFolder, page); },
         services.adoptActivationToken});
-    m_delegate->applicationDidFinishLaunching();
+    m_delegate->start();
     QMainWindow& window = m_delegate->mainWindow()->window();
     m_desktop->alert.setMainWindow(&window);
     setUpPreview(window, services, m_desktop->icons);

@@ -29,7 +29,7 @@ QColor colorWithHex(std::uint32_t hex)
     return {byteAt(hex, 16), byteAt(hex, 8), byteAt(hex, 0)};
 }
 
-QColor colorWithHexA(std::uint32_t hex)
+QColor colorWithRgba(std::uint32_t hex)
 {
     return {byteAt(hex, 24), byteAt(hex, 16), byteAt(hex, 8), byteAt(hex, 0)};
 }

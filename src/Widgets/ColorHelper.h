@@ -15,7 +15,7 @@ namespace tessera {
 QColor colorWithHex(std::uint32_t hex);
 
 /// 0xRRGGBBAA.
-QColor colorWithHexA(std::uint32_t hex);
+QColor colorWithRgba(std::uint32_t hex);
 
 /// The opaque colour of the same hue and saturation whose brightness (of hue, saturation and
 /// brightness) is greater by `amount`, which may be negative. The brightness stays within 0 to 1.

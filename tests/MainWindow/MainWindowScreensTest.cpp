@@ -195,7 +195,7 @@ TEST_F(MainWindowScreensTest, TheToolbarFollowsTheScreen)
     const auto isAsWithTree = [&] {
         return std::vector<bool>{
             toolbar.toolbarHomeButton().isEnabled(),
-            toolbar.toolbarSeperator().isVisible(),
+            toolbar.toolbarSeparator().isVisible(),
             toolbar.toolbarPathControl().isVisible(),
             toolbar.toolbarActionsButton().isEnabled()};
     };

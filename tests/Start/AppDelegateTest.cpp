@@ -69,7 +69,7 @@ protected:
 
 TEST_F(AppDelegateTest, TheStartOpensTheMainWindowOnTheHomeScreen)
 {
-    delegate.applicationDidFinishLaunching();
+    delegate.start();
     EXPECT_TRUE(delegate.mainWindow()->window().isVisible());
     EXPECT_EQ(delegate.mainWindow()->state(), ScreenState::Home);
 }
@@ -77,7 +77,7 @@ TEST_F(AppDelegateTest, TheStartOpensTheMainWindowOnTheHomeScreen)
 TEST_F(AppDelegateTest, AFolderThatIsDroppedOnTheWindowIsScanned)
 {
     services.treeScreen.resourceValues.directories = {"/data"};
-    delegate.applicationDidFinishLaunching();
+    delegate.start();
     QMimeData data;
     data.setData(QStringLiteral("text/uri-list"), "file:///data");
     QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
@@ -89,48 +89,48 @@ TEST_F(AppDelegateTest, AFolderThatIsDroppedOnTheWindowIsScanned)
 
 TEST_F(AppDelegateTest, TheStartRegistersTheDefaults)
 {
-    delegate.applicationDidFinishLaunching();
+    delegate.start();
     EXPECT_EQ(services.rootModel.defaults.integer("TooltipType"), 2);
 }
 
 TEST_F(AppDelegateTest, TheModelLearnsThatTheRealUserIsRoot)
 {
     account.name = "root";
-    delegate.applicationDidFinishLaunching();
+    delegate.start();
     EXPECT_TRUE(services.model.isRunningAsRoot());
 }
 
 TEST_F(AppDelegateTest, AnyOtherRealUserIsNotRoot)
 {
     account.name = "rooty";
-    delegate.applicationDidFinishLaunching();
+    delegate.start();
     EXPECT_FALSE(services.model.isRunningAsRoot());
 }
 
 TEST_F(AppDelegateTest, AFolderOpenedBeforeTheStartIsDropped)
 {
     EXPECT_TRUE(delegate.openFile("/data"));
-    delegate.applicationDidFinishLaunching();
+    delegate.start();
     EXPECT_THAT(services.screens.scanned, IsEmpty());
 }
 
 TEST_F(AppDelegateTest, AFolderOpenedWithTheProgramIsScanned)
 {
-    delegate.applicationDidFinishLaunching();
+    delegate.start();
     EXPECT_TRUE(delegate.openFile("/data/some\xFF"));
     EXPECT_THAT(services.screens.scanned, ElementsAre("/data/some\xFF"));
 }
 
 TEST_F(AppDelegateTest, ABackupOpenedWithTheProgramIsScanned)
 {
-    delegate.applicationDidFinishLaunching();
+    delegate.start();
     delegate.openFile("/a/Backups.backupdb");
     EXPECT_THAT(services.screens.scanned, ElementsAre("/a/Backups.backupdb"));
 }
 
 TEST_F(AppDelegateTest, AFolderOpenedWhileATreeIsDisplayedIsScannedFromTheHomeScreen)
 {
-    delegate.applicationDidFinishLaunching();
+    delegate.start();
     showTree();
     ASSERT_EQ(delegate.mainWindow()->state(), ScreenState::Tree);
     delegate.openFile("/other");
@@ -141,7 +141,7 @@ TEST_F(AppDelegateTest, AFolderOpenedWhileATreeIsDisplayedIsScannedFromTheHomeSc
 
 TEST_F(AppDelegateTest, WhileTheUserHasToAnswerAQuestionAFolderWaits)
 {
-    delegate.applicationDidFinishLaunching();
+    delegate.start();
     QEventLoop application;
     QTimer::singleShot(0, &application, [&] {
         QEventLoop question;
@@ -165,7 +165,7 @@ TEST_F(AppDelegateTest, WhileTheUserHasToAnswerAQuestionAFolderWaits)
 
 TEST_F(AppDelegateTest, OfManyFoldersOpenedAtOnceTheFirstAndTheLastAreScanned)
 {
-    delegate.applicationDidFinishLaunching();
+    delegate.start();
     for (int i = 0; i <= 1000; ++i) {
         delegate.openFromElsewhere(Url('/' + std::to_string(i), true));
     }
@@ -176,7 +176,7 @@ TEST_F(AppDelegateTest, OfManyFoldersOpenedAtOnceTheFirstAndTheLastAreScanned)
 
 TEST_F(AppDelegateTest, AFolderOpenedLongAfterAnotherIsScannedAtOnce)
 {
-    delegate.applicationDidFinishLaunching();
+    delegate.start();
     delegate.openFile("/data");
     QTRY_VERIFY(!delegate.isPausing());
     delegate.openFile("/other");
@@ -185,7 +185,7 @@ TEST_F(AppDelegateTest, AFolderOpenedLongAfterAnotherIsScannedAtOnce)
 
 TEST_F(AppDelegateTest, AnotherStartsTokenIsAdopted)
 {
-    delegate.applicationDidFinishLaunching();
+    delegate.start();
     delegate.openFromElsewhere(Url(), "token");
     delegate.openFromElsewhere(Url());
     EXPECT_THAT(tokens, ElementsAre("token"));
@@ -193,7 +193,7 @@ TEST_F(AppDelegateTest, AnotherStartsTokenIsAdopted)
 
 TEST_F(AppDelegateTest, AnotherStartBringsTheWindowBack)
 {
-    delegate.applicationDidFinishLaunching();
+    delegate.start();
     QMainWindow& window = delegate.mainWindow()->window();
     window.showMinimized();
     delegate.openFromElsewhere(Url());
@@ -204,14 +204,14 @@ TEST_F(AppDelegateTest, AnotherStartBringsTheWindowBack)
 
 TEST_F(AppDelegateTest, AnotherStartOnAFolderHasItScanned)
 {
-    delegate.applicationDidFinishLaunching();
+    delegate.start();
     delegate.openFromElsewhere(Url("/data", true));
     EXPECT_THAT(services.screens.scanned, ElementsAre("/data"));
 }
 
 TEST_F(AppDelegateTest, EachPreferencesWindowTakesThePreviousOnesPlace)
 {
-    delegate.applicationDidFinishLaunching();
+    delegate.start();
     delegate.mainWindow()->perform(MainCommand::Preferences);
     ASSERT_NE(delegate.prefWindow(), nullptr);
     const QPointer<QWidget> first = &delegate.prefWindow()->window();
@@ -223,7 +223,7 @@ TEST_F(AppDelegateTest, EachPreferencesWindowTakesThePreviousOnesPlace)
 
 TEST_F(AppDelegateTest, HelpPagesAreOpenedByTheTagsOfTheirEntries)
 {
-    delegate.applicationDidFinishLaunching();
+    delegate.start();
     delegate.mainWindow()->perform(MainCommand::Features);
     delegate.showHelpItem(64);
     delegate.showHelpItem(63);
@@ -254,13 +254,13 @@ TEST_F(AppDelegateTest, NobodyIsToldOfHelpWhenTheProgramHasEndedByThen)
 
 TEST_F(AppDelegateTest, TheLastWindowsEndIsNotTheProgramsByItself)
 {
-    delegate.applicationDidFinishLaunching();
+    delegate.start();
     EXPECT_FALSE(QApplication::quitOnLastWindowClosed());
 }
 
 TEST_F(AppDelegateTest, ClosingTheMainWindowQuitsAlsoWhenAnotherWindowIsOpen)
 {
-    delegate.applicationDidFinishLaunching();
+    delegate.start();
     delegate.showPreferences();
     QTimer::singleShot(0, &delegate, [this] { delegate.mainWindow()->window().close(); });
     EXPECT_EQ(QApplication::exec(), 0);
@@ -271,7 +271,7 @@ class AppDelegateWhileCompressing : public AppDelegateTest {
 protected:
     AppDelegateWhileCompressing()
     {
-        delegate.applicationDidFinishLaunching();
+        delegate.start();
         services.treeScreen.targetsInUse = {"/data/X.zip"};
     }
 

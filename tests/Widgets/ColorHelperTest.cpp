@@ -14,9 +14,9 @@ TEST(ColorHelper, HexIgnoresTheTopByte)
     EXPECT_EQ(colorWithHex(0x006F9CDA), QColor(0x6F, 0x9C, 0xDA, 0xFF));
 }
 
-TEST(ColorHelper, HexAHasItsAlphaInTheLowByte)
+TEST(ColorHelper, RgbaHasItsAlphaInTheLowByte)
 {
-    const QColor color = colorWithHexA(0xFFFFFF33);
+    const QColor color = colorWithRgba(0xFFFFFF33);
     EXPECT_EQ(color.rgb(), QColor(Qt::white).rgb());
     EXPECT_FLOAT_EQ(color.alphaF(), 0.2F);
 }

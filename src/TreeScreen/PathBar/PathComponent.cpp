@@ -39,8 +39,8 @@ constexpr double kTitleShadowDrop = 1.0;
 constexpr double kLeastHeight = 18.0;
 
 constexpr std::uint32_t kTextHex = 0x000000;
-constexpr std::uint32_t kShadowOnLightHexA = 0xFFFFFF7F;
-constexpr std::uint32_t kShadowOnDarkHexA = 0x0000007F;
+constexpr std::uint32_t kShadowOnLightRgba = 0xFFFFFF7F;
+constexpr std::uint32_t kShadowOnDarkRgba = 0x0000007F;
 constexpr std::uint32_t kDarkGrayHex = 0x555555;
 constexpr std::uint32_t kLightGrayHex = 0xAAAAAA;
 
@@ -92,7 +92,7 @@ TextAttributes PathComponent::foreground(const QPalette& palette) const
 
 TextAttributes PathComponent::background(const QPalette& palette) const
 {
-    return textAttributes(colorWithHexA(isDark(palette) ? kShadowOnDarkHexA : kShadowOnLightHexA));
+    return textAttributes(colorWithRgba(isDark(palette) ? kShadowOnDarkRgba : kShadowOnLightRgba));
 }
 
 TextAttributes PathComponent::textAttributes(const QColor& color) const

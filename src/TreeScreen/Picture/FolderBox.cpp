@@ -75,12 +75,12 @@ void drawLabel(BoxCanvas& canvas, const Rect& box, const Folder& folder)
     }
     const Rect text{box.x + kLabelLeft, box.y + kLabelTop, box.width - kLabelMargins, kLabelHeight};
     if (folder.selected()) {
-        canvas.drawText(folder.name(), text, Styles::fSelectedTextAttributes());
+        canvas.drawText(folder.name(), text, Styles::selectedFolderTextAttributes());
         return;
     }
     canvas.drawText(
-        folder.name(), text.translated(0, kShadowDrop), Styles::fShadowTextAttributes());
-    canvas.drawText(folder.name(), text, Styles::fTextAttributes());
+        folder.name(), text.translated(0, kShadowDrop), Styles::folderShadowTextAttributes());
+    canvas.drawText(folder.name(), text, Styles::folderTextAttributes());
 }
 
 } // namespace

@@ -10,7 +10,7 @@ namespace tessera {
 namespace {
 
 constexpr int kPixelSize = 10;
-constexpr std::uint32_t kShadowHexA = 0xFFFFFF33;
+constexpr std::uint32_t kShadowRgba = 0xFFFFFF33;
 
 /// Never released: a font must not outlive the application object, as a static one would.
 const TextAttributes& makeAttributes(Qt::AlignmentFlag alignment, const QColor& foreground)
@@ -35,22 +35,22 @@ const TextAttributes& Styles::selectedTextAttributes()
     return attributes;
 }
 
-const TextAttributes& Styles::fTextAttributes()
+const TextAttributes& Styles::folderTextAttributes()
 {
     static const TextAttributes& attributes = makeAttributes(Qt::AlignLeft, colorWithHex(0x000000));
     return attributes;
 }
 
-const TextAttributes& Styles::fSelectedTextAttributes()
+const TextAttributes& Styles::selectedFolderTextAttributes()
 {
     static const TextAttributes& attributes = makeAttributes(Qt::AlignLeft, Qt::white);
     return attributes;
 }
 
-const TextAttributes& Styles::fShadowTextAttributes()
+const TextAttributes& Styles::folderShadowTextAttributes()
 {
     static const TextAttributes& attributes
-        = makeAttributes(Qt::AlignLeft, colorWithHexA(kShadowHexA));
+        = makeAttributes(Qt::AlignLeft, colorWithRgba(kShadowRgba));
     return attributes;
 }
 

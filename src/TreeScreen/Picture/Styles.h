@@ -21,9 +21,9 @@ class Styles {
 public:
     static const TextAttributes& textAttributes(); ///< documents
     static const TextAttributes& selectedTextAttributes(); ///< selected documents, free space
-    static const TextAttributes& fTextAttributes(); ///< folders
-    static const TextAttributes& fSelectedTextAttributes(); ///< selected folders
-    static const TextAttributes& fShadowTextAttributes(); ///< the light edge below folder names
+    static const TextAttributes& folderTextAttributes(); ///< folders
+    static const TextAttributes& selectedFolderTextAttributes(); ///< selected folders
+    static const TextAttributes& folderShadowTextAttributes(); ///< light edge below folder names
 };
 
 } // namespace tessera

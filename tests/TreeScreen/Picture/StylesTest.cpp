@@ -13,9 +13,9 @@ namespace {
 const std::array kSets{
     &Styles::textAttributes,
     &Styles::selectedTextAttributes,
-    &Styles::fTextAttributes,
-    &Styles::fSelectedTextAttributes,
-    &Styles::fShadowTextAttributes};
+    &Styles::folderTextAttributes,
+    &Styles::selectedFolderTextAttributes,
+    &Styles::folderShadowTextAttributes};
 
 TEST(Styles, GiveTheSameObjectEveryTime)
 {
@@ -38,18 +38,18 @@ TEST(Styles, CentreDocumentLabelsAndStartFolderNamesAtTheLeft)
 {
     EXPECT_EQ(Styles::textAttributes().alignment, Qt::AlignHCenter);
     EXPECT_EQ(Styles::selectedTextAttributes().alignment, Qt::AlignHCenter);
-    EXPECT_EQ(Styles::fTextAttributes().alignment, Qt::AlignLeft);
-    EXPECT_EQ(Styles::fSelectedTextAttributes().alignment, Qt::AlignLeft);
-    EXPECT_EQ(Styles::fShadowTextAttributes().alignment, Qt::AlignLeft);
+    EXPECT_EQ(Styles::folderTextAttributes().alignment, Qt::AlignLeft);
+    EXPECT_EQ(Styles::selectedFolderTextAttributes().alignment, Qt::AlignLeft);
+    EXPECT_EQ(Styles::folderShadowTextAttributes().alignment, Qt::AlignLeft);
 }
 
 TEST(Styles, WriteBlackOrWhiteAndTheShadowInFaintWhite)
 {
     EXPECT_EQ(Styles::textAttributes().foreground, QColor(Qt::black));
     EXPECT_EQ(Styles::selectedTextAttributes().foreground, QColor(Qt::white));
-    EXPECT_EQ(Styles::fTextAttributes().foreground, QColor(Qt::black));
-    EXPECT_EQ(Styles::fSelectedTextAttributes().foreground, QColor(Qt::white));
-    EXPECT_EQ(Styles::fShadowTextAttributes().foreground, QColor(255, 255, 255, 0x33));
+    EXPECT_EQ(Styles::folderTextAttributes().foreground, QColor(Qt::black));
+    EXPECT_EQ(Styles::selectedFolderTextAttributes().foreground, QColor(Qt::white));
+    EXPECT_EQ(Styles::folderShadowTextAttributes().foreground, QColor(255, 255, 255, 0x33));
 }
 
 } // namespace
