@@ -1,20 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "Model/Defaults.h"
 
+#include "Model/TooltipType.h"
 #include "Model/UserDefaults.h"
 
 namespace tessera {
 
-namespace {
-
-constexpr int kFullTooltip = 2;
-
-} // namespace
-
 void registerDefaults(UserDefaults& defaults)
 {
     defaults.registerDefaults({
-        {std::string(kTooltipTypeKey), kFullTooltip},
+        {std::string(kTooltipTypeKey), static_cast<int>(TooltipType::Full)},
         {std::string(kWarnDeleteHiddenKey), true},
         {std::string(kWarnDeleteSystemKey), true},
     });

@@ -42,14 +42,14 @@ RootModel& RootModel::sharedInstance()
 void RootModel::setTopFolder(std::unique_ptr<TopFolder> topFolder)
 {
     m_topFolder = std::move(topFolder);
-    applySettings();
+    applyPictureFilter();
 }
 
-void RootModel::applySettings()
+void RootModel::applyPictureFilter()
 {
     if (const auto* volume = nodeCast<Volume>(m_topFolder.get())) {
-        volume->freeFile().setIgnored(m_settings.ignoreFreeSpace());
-        volume->unreadFile().setIgnored(m_settings.ignoreRestrictedFiles());
+        volume->freeFile().setIgnored(m_pictureFilter.ignoreFreeSpace());
+        volume->unreadFile().setIgnored(m_pictureFilter.ignoreRestrictedFiles());
     }
 }
 

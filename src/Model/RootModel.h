@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Model/PictureFilter.h"
 #include "Model/Recents.h"
-#include "Model/Settings.h"
 #include "Model/TopFolder.h"
 
 #include <memory>
@@ -38,14 +38,14 @@ public:
     /// Root of the tree on screen; null until the first scan has ended.
     TopFolder* topFolder() const { return m_topFolder.get(); }
 
-    /// Releases the previous tree and applies the settings to the new one.
+    /// Releases the previous tree and applies the picture filter to the new one.
     void setTopFolder(std::unique_ptr<TopFolder> topFolder);
 
-    Settings& settings() { return m_settings; }
-    const Settings& settings() const { return m_settings; }
+    PictureFilter& pictureFilter() { return m_pictureFilter; }
+    const PictureFilter& pictureFilter() const { return m_pictureFilter; }
 
-    /// Marks the tree's pseudo nodes after a setting has changed. Sizes stay as they are.
-    void applySettings();
+    /// Marks the tree's pseudo nodes after the picture filter has changed. Sizes stay as they are.
+    void applyPictureFilter();
 
     Recents& recents() { return m_recents; }
 
@@ -62,7 +62,7 @@ private:
     void loadNonSystemFolders(const StandardFolders& folders);
 
     std::unique_ptr<TopFolder> m_topFolder;
-    Settings m_settings;
+    PictureFilter m_pictureFilter;
     Recents m_recents;
     bool m_isRunningAsRoot = false;
     std::vector<std::string> m_nonSystemFolders;

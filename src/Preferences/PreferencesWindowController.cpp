@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Preferences/PreferencesWindowController.h"
 
+#include "Model/TooltipType.h"
 #include "Model/UserDefaults.h"
 #include "ui_PreferencesWindow.h"
 
@@ -45,11 +46,16 @@ void PreferencesWindowController::bindWarning(QCheckBox& box, std::string_view k
 
 void PreferencesWindowController::bindTooltipType()
 {
+    int row = 0;
+    for (const TooltipType type : {TooltipType::None, TooltipType::Short, TooltipType::Full}) {
+        m_ui->tooltipButton->setItemData(row++, static_cast<int>(type));
+    }
     refresh(kTooltipTypeKey);
     connect(m_ui->tooltipButton, &QComboBox::currentIndexChanged, this, [this](int index) {
         // There is no entry for a value that another version may have stored; that one stays.
         if (index >= 0) {
-            m_defaults.setInteger(kTooltipTypeKey, index);
+            const int type = m_ui->tooltipButton->itemData(index).toInt();
+            setTooltipType(m_defaults, static_cast<TooltipType>(type));
         }
     });
 }
@@ -61,7 +67,7 @@ void PreferencesWindowController::refresh(std::string_view key)
     } else if (key == kWarnDeleteSystemKey) {
         m_ui->warnSystemDelete->setChecked(m_defaults.boolean(key));
     } else if (key == kTooltipTypeKey) {
-        m_ui->tooltipButton->setCurrentIndex(m_defaults.integer(key));
+        m_ui->tooltipButton->setCurrentIndex(m_ui->tooltipButton->findData(m_defaults.integer(key)));
     }
 }
 

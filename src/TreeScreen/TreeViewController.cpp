@@ -396,13 +396,12 @@ void TreeViewController::renderTree()
 }
 
 std::unique_ptr<TreeBranch> TreeViewController::renderFolder(
-    Folder* folder, const Rect& inRect, TreeBranch* inView, long withLevel)
+    Folder* folder, const Rect& inRect, TreeBranch* inView, long level)
 {
-    const LevelRenderer renderer(m_model.settings().ignoreHiddenFiles());
+    const LevelRenderer renderer(m_model.pictureFilter().ignoreHiddenFiles());
     const auto placement
         = inView == nullptr ? LevelRenderer::Placement::Top : LevelRenderer::Placement::Nested;
-    auto branch
-        = TreeBranch::make(renderer.render(folder, inRect, placement, withLevel), &m_treeView);
+    auto branch = TreeBranch::make(renderer.render(folder, inRect, placement, level), &m_treeView);
     if (inView != nullptr) {
         inView->addSubBranch(std::move(branch));
         return nullptr;

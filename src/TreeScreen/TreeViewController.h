@@ -107,7 +107,7 @@ public:
     /// Lays a folder out as a branch of frame `inRect`: at the top of the view when `inView` is
     /// null, and then the new branch is returned; else inside `inView`, which takes it over.
     std::unique_ptr<TreeBranch> renderFolder(
-        Folder* folder, const Rect& inRect, TreeBranch* inView, long withLevel);
+        Folder* folder, const Rect& inRect, TreeBranch* inView, long level);
 
 signals:
     /// Sizes or names in the tree are others than before.

@@ -27,15 +27,15 @@ Volume& installVolume(RootModel& model)
     return volume;
 }
 
-TEST(RootModel, StartsWithNoTreeAndAllSettingsOff)
+TEST(RootModel, StartsWithNoTreeAndNothingLeftOut)
 {
     test::FakeRootModelServices services;
     const RootModel model(services.get());
     EXPECT_EQ(model.topFolder(), nullptr);
     EXPECT_FALSE(model.isRunningAsRoot());
-    EXPECT_FALSE(model.settings().ignoreFreeSpace());
-    EXPECT_FALSE(model.settings().ignoreHiddenFiles());
-    EXPECT_FALSE(model.settings().ignoreRestrictedFiles());
+    EXPECT_FALSE(model.pictureFilter().ignoreFreeSpace());
+    EXPECT_FALSE(model.pictureFilter().ignoreHiddenFiles());
+    EXPECT_FALSE(model.pictureFilter().ignoreRestrictedFiles());
 }
 
 TEST(RootModel, LoadsTheRecents)
@@ -57,50 +57,50 @@ TEST(RootModel, NonSystemFoldersAreThreeUrlStrings)
         testing::ElementsAre("file:///Local%20Apps/", "file:///Users/", "file:///Volumes/"));
 }
 
-TEST(RootModel, ANewVolumeTakesTheSettingsThatAreOn)
+TEST(RootModel, ANewVolumeTakesThePictureFilter)
 {
     test::FakeRootModelServices services;
     RootModel model(services.get());
-    model.settings().setIgnoreFreeSpace(true);
+    model.pictureFilter().setIgnoreFreeSpace(true);
     const Volume& volume = installVolume(model);
     EXPECT_EQ(model.topFolder(), &volume);
     EXPECT_TRUE(volume.freeFile().ignored());
     EXPECT_FALSE(volume.unreadFile().ignored());
 }
 
-TEST(RootModel, SettingsChangeNothingInAPlainFolder)
+TEST(RootModel, ThePictureFilterChangesNothingInAPlainFolder)
 {
     test::FakeRootModelServices services;
     RootModel model(services.get());
-    model.settings().setIgnoreFreeSpace(true);
-    model.settings().setIgnoreRestrictedFiles(true);
+    model.pictureFilter().setIgnoreFreeSpace(true);
+    model.pictureFilter().setIgnoreRestrictedFiles(true);
     model.setTopFolder(test::makeTree("/home", "a:1"));
     EXPECT_FALSE(model.topFolder()->ignored());
     EXPECT_FALSE(test::at(*model.topFolder(), "a").ignored());
 }
 
-TEST(RootModel, ApplyingSettingsWithoutATreeDoesNothing)
+TEST(RootModel, ApplyingThePictureFilterWithoutATreeDoesNothing)
 {
     test::FakeRootModelServices services;
     RootModel model(services.get());
-    model.applySettings();
+    model.applyPictureFilter();
     model.setTopFolder(nullptr);
     EXPECT_EQ(model.topFolder(), nullptr);
 }
 
-TEST(RootModel, ChangedSettingsFlipTheFlagAndLeaveTheSizes)
+TEST(RootModel, AChangedPictureFilterFlipsTheFlagAndLeavesTheSizes)
 {
     test::FakeRootModelServices services;
     RootModel model(services.get());
     const Volume& volume = installVolume(model);
-    model.settings().setIgnoreRestrictedFiles(true);
-    model.applySettings();
+    model.pictureFilter().setIgnoreRestrictedFiles(true);
+    model.applyPictureFilter();
     EXPECT_TRUE(volume.unreadFile().ignored());
     EXPECT_FALSE(volume.freeFile().ignored());
     EXPECT_EQ(volume.unreadFile().totalAllocation(), 100U);
     EXPECT_EQ(volume.totalAllocation(), 700U);
-    model.settings().setIgnoreRestrictedFiles(false);
-    model.applySettings();
+    model.pictureFilter().setIgnoreRestrictedFiles(false);
+    model.applyPictureFilter();
     EXPECT_FALSE(volume.unreadFile().ignored());
 }
 

@@ -62,7 +62,7 @@ TEST_F(PreferencesWindowControllerTest, TheOtherWarningHasAKeyOfItsOwn)
     EXPECT_TRUE(defaults.boolean(kWarnDeleteHiddenKey));
 }
 
-TEST_F(PreferencesWindowControllerTest, TheTooltipIsStoredByTheIndexOfTheEntry)
+TEST_F(PreferencesWindowControllerTest, TheTooltipIsStoredByTheNumberOfTheEntry)
 {
     tooltipButton().setCurrentIndex(1);
     EXPECT_EQ(defaults.integer(kTooltipTypeKey), 1);

@@ -2,6 +2,7 @@
 #include "TreeScreen/FolderZoom.h"
 
 #include "Model/RootModel.h"
+#include "Model/TooltipType.h"
 #include "Model/UserDefaults.h"
 #include "TreeScreen/Map/TreeMapView.h"
 #include "TreeScreen/Picture/TreeBranch.h"
@@ -346,7 +347,7 @@ TEST_F(FolderZoomTest, ThereIsNoTooltipDuringAZoom)
 {
     view.activateWindow();
     ASSERT_TRUE(test::becomesActive(view));
-    defaults.setInteger(kTooltipTypeKey, 2);
+    setTooltipType(defaults, TooltipType::Full);
     const QWidget& tooltip = TooltipController::sharedInstance().window();
     QTest::mouseMove(view.windowHandle(), QPoint(50, 100));
     ASSERT_TRUE(tooltip.isVisible());
@@ -365,7 +366,7 @@ TEST_F(FolderZoomTest, TheTooltipClosesWhenThePictureIsRebuilt)
 {
     view.activateWindow();
     ASSERT_TRUE(test::becomesActive(view));
-    defaults.setInteger(kTooltipTypeKey, 2);
+    setTooltipType(defaults, TooltipType::Full);
     const QWidget& tooltip = TooltipController::sharedInstance().window();
     QTest::mouseMove(view.windowHandle(), QPoint(52, 100));
     ASSERT_TRUE(tooltip.isVisible());

@@ -105,7 +105,7 @@ TEST_F(TreeViewControllerTest, AnEmptyFolderSaysSoInTheMiddleOfThePicture)
 TEST_F(TreeViewControllerTest, AFolderOfWhichNothingIsShownIsNotCalledEmpty)
 {
     model.setTopFolder(test::makeTree("/data", ".a:500"));
-    model.settings().setIgnoreHiddenFiles(true);
+    model.pictureFilter().setIgnoreHiddenFiles(true);
     const TreeViewController controller(model, view, viewServices.get());
     EXPECT_EQ(
         topBranch().textWithoutBoxes(), "Everything in this folder is left out of the picture");
@@ -183,7 +183,7 @@ TEST_F(TreeViewControllerTest, HiddenFilesAreLeftOutWhileTheyAreIgnored)
     model.setTopFolder(test::makeTree("/data", ".a:500 b:500"));
     TreeViewController controller(model, view, viewServices.get());
     EXPECT_EQ(topBranch().layoutItems().size(), 2U);
-    model.settings().setIgnoreHiddenFiles(true);
+    model.pictureFilter().setIgnoreHiddenFiles(true);
     controller.renderTree();
     EXPECT_EQ(topBranch().layoutItems().size(), 1U);
 }
@@ -194,7 +194,7 @@ TEST_F(TreeViewControllerTest, WhatIsHiddenWhileItIsSelectedIsSelectedNoLonger)
     TreeViewController controller(model, view, viewServices.get());
     const QSignalSpy changes(&controller, &TreeViewController::selectionChanged);
     click(node(".a"));
-    model.settings().setIgnoreHiddenFiles(true);
+    model.pictureFilter().setIgnoreHiddenFiles(true);
     controller.renderTree();
     EXPECT_EQ(controller.selectedFile(), nullptr);
     EXPECT_FALSE(node(".a").selected());
@@ -216,7 +216,7 @@ TEST_F(TreeViewControllerTest, WhatIsHiddenInAnInnerFolderIsSelectedNoLonger)
     TreeViewController controller(model, view, viewServices.get());
     click(node("docs/.a"));
     ASSERT_EQ(controller.selectedFile(), &node("docs/.a"));
-    model.settings().setIgnoreHiddenFiles(true);
+    model.pictureFilter().setIgnoreHiddenFiles(true);
     controller.renderTree();
     EXPECT_EQ(controller.selectedFile(), nullptr);
 }
@@ -226,7 +226,7 @@ TEST_F(TreeViewControllerTest, WhatIsInThePictureStaysSelectedWhenOtherThingsAre
     model.setTopFolder(test::makeTree("/data", "docs/ ( .a:500 b:200 ) c:300"));
     TreeViewController controller(model, view, viewServices.get());
     click(node("docs/b"));
-    model.settings().setIgnoreHiddenFiles(true);
+    model.pictureFilter().setIgnoreHiddenFiles(true);
     controller.renderTree();
     EXPECT_EQ(controller.selectedFile(), &node("docs/b"));
 }

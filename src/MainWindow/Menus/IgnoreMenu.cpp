@@ -14,7 +14,7 @@ namespace tessera {
 
 namespace {
 
-/// The menu without any folder: a title, three settings, a separator, the reset entry.
+/// The menu without any folder: a title, three kinds of space, a separator, the reset entry.
 constexpr qsizetype kFixedEntries = 6;
 constexpr qsizetype kFirstFolderIndex = 5;
 /// Folders are put in, and taken out again, above the last separator and the reset entry.
@@ -50,10 +50,10 @@ IgnoreMenu::IgnoreMenu(RootModel& model, QWidget* parent)
 {
     setTitle(tr("Ignore"));
     addAction(tr("Leave Out of the Picture"))->setEnabled(false);
-    const Settings& settings = model.settings();
-    addSetting(tr("&Free Space"), FreeSpaceTag, settings.ignoreFreeSpace());
-    addSetting(tr("&Hidden Files"), HiddenFilesTag, settings.ignoreHiddenFiles());
-    addSetting(tr("&Restricted Files"), RestrictedFilesTag, settings.ignoreRestrictedFiles());
+    const PictureFilter& filter = model.pictureFilter();
+    addKind(tr("&Free Space"), FreeSpaceTag, filter.ignoreFreeSpace());
+    addKind(tr("&Hidden Files"), HiddenFilesTag, filter.ignoreHiddenFiles());
+    addKind(tr("&Restricted Files"), RestrictedFilesTag, filter.ignoreRestrictedFiles());
     addSeparator();
     QAction& reset = addFixedEntry(tr("&Show Everything"), ResetTag);
     connect(&reset, &QAction::triggered, this, [this, &reset] { ignoreItemSelected(reset); });
@@ -66,7 +66,7 @@ QAction& IgnoreMenu::addFixedEntry(const QString& title, Tag tag)
     return *entry;
 }
 
-void IgnoreMenu::addSetting(const QString& title, Tag tag, bool isOn)
+void IgnoreMenu::addKind(const QString& title, Tag tag, bool isOn)
 {
     QAction& entry = addFixedEntry(title, tag);
     entry.setCheckable(true);
@@ -140,7 +140,7 @@ void IgnoreMenu::ignoreItemSelected(QAction& sender)
     } else {
         toggleIgnore(sender);
     }
-    m_model.applySettings();
+    m_model.applyPictureFilter();
     if (m_tree != nullptr) {
         m_tree->renderTree();
     }
@@ -160,13 +160,13 @@ void IgnoreMenu::toggleIgnore(QAction& item)
     item.toggle();
     switch (item.data().toInt()) {
     case RestrictedFilesTag:
-        m_model.settings().setIgnoreRestrictedFiles(item.isChecked());
+        m_model.pictureFilter().setIgnoreRestrictedFiles(item.isChecked());
         break;
     case HiddenFilesTag:
-        m_model.settings().setIgnoreHiddenFiles(item.isChecked());
+        m_model.pictureFilter().setIgnoreHiddenFiles(item.isChecked());
         break;
     case FreeSpaceTag:
-        m_model.settings().setIgnoreFreeSpace(item.isChecked());
+        m_model.pictureFilter().setIgnoreFreeSpace(item.isChecked());
         break;
     default:
         break;

@@ -27,8 +27,8 @@ private:
 };
 
 /// The menu of what the picture leaves out. An entry that is on is left out. What the first three
-/// entries say is kept by the model's settings, what the entries of folders say by the folders
-/// themselves. Main thread only.
+/// entries say is kept by the model's picture filter, what the entries of folders say by the
+/// folders themselves. Main thread only.
 class IgnoreMenu final : public QMenu {
     Q_OBJECT
 
@@ -58,7 +58,7 @@ public:
 
 private:
     QAction& addFixedEntry(const QString& title, Tag tag);
-    void addSetting(const QString& title, Tag tag, bool isOn);
+    void addKind(const QString& title, Tag tag, bool isOn);
     QAction* entryOf(const Folder& folder) const;
     void turnAllOff();
     void remove(QAction& item);

@@ -3,7 +3,7 @@
 
 #include "Layout/MultiLayoutObject.h"
 #include "Model/File.h"
-#include "Model/UserDefaults.h"
+#include "Model/TooltipType.h"
 #include "TreeScreen/Picture/TreeBranch.h"
 #include "TreeScreen/Picture/TreePainter.h"
 #include "TreeScreen/Tooltip/TooltipController.h"
@@ -25,9 +25,6 @@ namespace tessera {
 
 namespace {
 
-/// Values of the setting "TooltipType"; above the short tooltip comes the full one.
-constexpr int kNoTooltip = 0;
-constexpr int kShortTooltip = 1;
 constexpr double kShortTooltipHeight = 42;
 
 Point toPoint(QPointF point)
@@ -286,8 +283,8 @@ void TreeMapView::mouseMoveEvent(QMouseEvent* event)
 
 void TreeMapView::hover(Point point, QPointF onScreen)
 {
-    const int tooltipType = m_defaults.integer(kTooltipTypeKey);
-    if (tooltipType <= kNoTooltip || m_cursor == nullptr) {
+    const TooltipType type = tooltipType(m_defaults);
+    if (type == TooltipType::None || m_cursor == nullptr) {
         return;
     }
     const Point inBranch = m_cursor->convertFromTreeView(point);
@@ -298,16 +295,16 @@ void TreeMapView::hover(Point point, QPointF onScreen)
         }
     }
     if (m_currentToolTip != nullptr) {
-        placeTooltip(onScreen, tooltipType);
+        placeTooltip(onScreen, type);
     }
 }
 
-void TreeMapView::placeTooltip(QPointF pointerOnScreen, int tooltipType)
+void TreeMapView::placeTooltip(QPointF pointerOnScreen, TooltipType type)
 {
     const TooltipController& controller = TooltipController::sharedInstance();
     const Rect& desired = controller.desiredRect();
     const QSizeF size(
-        desired.width, tooltipType == kShortTooltip ? kShortTooltipHeight : desired.height);
+        desired.width, type == TooltipType::Short ? kShortTooltipHeight : desired.height);
     const QScreen* const ownScreen = window()->screen();
     const QRectF screenFrame = ownScreen != nullptr ? ownScreen->geometry() : QRect();
     QWidget& tooltip = controller.window();

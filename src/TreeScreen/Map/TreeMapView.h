@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QWidget>
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -21,6 +22,7 @@ class TreeCommandTarget;
 class TreePainter;
 class UserDefaults;
 class ZoomAnimation;
+enum class TooltipType : std::uint8_t;
 
 /// The black canvas of the tree screen: the one widget for all branches, to which it hands the
 /// pointer's events as if each were a view of its own. It moves the tooltip with the pointer and
@@ -107,7 +109,7 @@ private:
     TreeBranch* branchAt(Point point) const;
     void updateCursor(Point point);
     void hover(Point point, QPointF onScreen);
-    void placeTooltip(QPointF pointerOnScreen, int tooltipType);
+    void placeTooltip(QPointF pointerOnScreen, TooltipType type);
     void pressed(const QMouseEvent& event, int clickCount);
     std::optional<Box> selectedBox() const;
     bool showMenu(TreeBranch& branch, Point point, QPoint onScreen);

@@ -98,9 +98,9 @@ TEST_F(IgnoreMenuTest, HasSixEntriesAtFirst)
     EXPECT_EQ(entry(5).data().toInt(), 31);
 }
 
-TEST_F(IgnoreMenuTest, TheFirstTicksAreThoseOfTheSettings)
+TEST_F(IgnoreMenuTest, TheFirstTicksAreThoseOfThePictureFilter)
 {
-    model.settings().setIgnoreHiddenFiles(true);
+    model.pictureFilter().setIgnoreHiddenFiles(true);
     const IgnoreMenu other(model);
     EXPECT_FALSE(other.actions().at(1)->isChecked());
     EXPECT_TRUE(other.actions().at(2)->isChecked());
@@ -168,17 +168,17 @@ TEST_F(IgnoreMenuTest, TheTreesOwnCommandIgnores)
     EXPECT_TRUE(node("docs").ignored());
 }
 
-TEST_F(IgnoreMenuTest, TheSettingsFollowTheirEntries)
+TEST_F(IgnoreMenuTest, ThePictureFilterFollowsItsEntries)
 {
     entry(1).trigger();
-    EXPECT_TRUE(model.settings().ignoreFreeSpace());
+    EXPECT_TRUE(model.pictureFilter().ignoreFreeSpace());
     entry(2).trigger();
-    EXPECT_TRUE(model.settings().ignoreHiddenFiles());
+    EXPECT_TRUE(model.pictureFilter().ignoreHiddenFiles());
     entry(3).trigger();
-    EXPECT_TRUE(model.settings().ignoreRestrictedFiles());
+    EXPECT_TRUE(model.pictureFilter().ignoreRestrictedFiles());
     EXPECT_TRUE(entry(3).isChecked());
     entry(3).trigger();
-    EXPECT_FALSE(model.settings().ignoreRestrictedFiles());
+    EXPECT_FALSE(model.pictureFilter().ignoreRestrictedFiles());
     EXPECT_FALSE(entry(3).isChecked());
     EXPECT_EQ(drawCount, 4);
 }
@@ -248,7 +248,7 @@ TEST_F(IgnoreMenuTest, ResetTurnsAllOffKeepsTheFoldersAndDrawsOnce)
     menu.actions().back()->trigger();
 
     EXPECT_EQ(drawCount, 1);
-    EXPECT_FALSE(model.settings().ignoreFreeSpace());
+    EXPECT_FALSE(model.pictureFilter().ignoreFreeSpace());
     EXPECT_FALSE(entry(1).isChecked());
     EXPECT_FALSE(node("a").ignored());
     EXPECT_FALSE(node("b").ignored());

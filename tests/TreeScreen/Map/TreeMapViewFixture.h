@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Layout/MultiLayoutObject.h"
+#include "Model/TooltipType.h"
 #include "TreeScreen/Map/TreeMapView.h"
 #include "TreeScreen/Picture/TreeBranch.h"
 #include "TreeScreen/Tooltip/TooltipController.h"
@@ -51,7 +52,7 @@ protected:
         values.modificationDate = 0;
         tooltip().setResourceValues(&values);
         tooltip().setIconProvider(&icons);
-        defaults.setInteger(kTooltipTypeKey, 2);
+        setTooltipType(defaults, TooltipType::Full);
         view->setGeometry(0, 0, 400, 300);
         neighbour.setParent(&window);
         neighbour.setGeometry(400, 0, 100, 300);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Model/TooltipType.h"
 #include "TreeScreen/Map/TreeMapViewFixture.h"
 #include "support/BecomesActive.h"
 
@@ -96,7 +97,7 @@ TEST_F(TreeMapViewTest, TheTooltipFollowsThePointerWithoutBeingFilledAgain)
 
 TEST_F(TreeMapViewTest, WithoutTooltipsNothingIsEverShown)
 {
-    defaults.setInteger(kTooltipTypeKey, 0);
+    setTooltipType(defaults, TooltipType::None);
     moveTo(kInA);
     moveTo(kInGroup);
     moveTo(kInNested);
@@ -107,7 +108,7 @@ TEST_F(TreeMapViewTest, WithoutTooltipsNothingIsEverShown)
 
 TEST_F(TreeMapViewTest, TheShortTooltipIsAlwaysFortyTwoHigh)
 {
-    defaults.setInteger(kTooltipTypeKey, 1);
+    setTooltipType(defaults, TooltipType::Short);
     for (const QPoint point : {kInA, kInGroup, kInNested, kInDocsHeader}) {
         moveTo(point);
         EXPECT_EQ(tooltipGeometry(), expectedFrame(point, 42));
@@ -125,7 +126,7 @@ TEST_F(TreeMapViewTest, TheFullTooltipHasTheHeightOfItsContent)
 TEST_F(TreeMapViewTest, AChangedSettingHoldsFromTheNextMoveOn)
 {
     moveTo(kInA);
-    defaults.setInteger(kTooltipTypeKey, 1);
+    setTooltipType(defaults, TooltipType::Short);
     moveTo(kInA + QPoint(1, 0));
 
     EXPECT_EQ(tooltipGeometry().height(), 42);

@@ -4,7 +4,7 @@
 namespace tessera {
 
 /// What the picture leaves out. The tree's sizes stay as they are.
-class Settings final {
+class PictureFilter final {
 public:
     /// The free space of a volume.
     bool ignoreFreeSpace() const { return m_ignoreFreeSpace; }

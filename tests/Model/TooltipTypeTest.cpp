@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#include "Model/TooltipType.h"
+
+#include "support/Fakes/FakeUserDefaults.h"
+
+#include <gtest/gtest.h>
+
+#include <utility>
+
+namespace tessera {
+namespace {
+
+constexpr std::pair<TooltipType, int> kStored[]
+    = {{TooltipType::None, 0}, {TooltipType::Short, 1}, {TooltipType::Full, 2}};
+
+TEST(TooltipType, IsStoredAsItsNumber)
+{
+    for (const auto& [type, number] : kStored) {
+        test::FakeUserDefaults defaults;
+        setTooltipType(defaults, type);
+        EXPECT_EQ(defaults.integer("TooltipType"), number);
+        EXPECT_EQ(tooltipType(defaults), type);
+    }
+}
+
+TEST(TooltipType, AnyOtherNumberCountsAsTheNearest)
+{
+    test::FakeUserDefaults defaults;
+    defaults.setInteger("TooltipType", -1);
+    EXPECT_EQ(tooltipType(defaults), TooltipType::None);
+    defaults.setInteger("TooltipType", 7);
+    EXPECT_EQ(tooltipType(defaults), TooltipType::Full);
+}
+
+} // namespace
+} // namespace tessera
