@@ -50,7 +50,7 @@ void FolderDrop::enter(QDropEvent& event)
 {
     const std::optional<Url> item = draggedItem(*event.mimeData());
     const bool isFolder = item && m_resourceValues.isDirectory(item->path());
-    m_folder = isFolder ? *item : Url();
+    m_folder = isFolder ? Url(item->path(), true) : Url();
 }
 
 bool FolderDrop::eventFilter(QObject* watched, QEvent* event)
@@ -66,7 +66,7 @@ bool FolderDrop::eventFilter(QObject* watched, QEvent* event)
     drop.setDropAction(m_folder.empty() ? Qt::IgnoreAction : Qt::CopyAction);
     drop.setAccepted(!m_folder.empty());
     if (type == QEvent::Drop && drop.isAccepted()) {
-        emit dropped(m_folder.path());
+        emit dropped(m_folder);
     }
     return true;
 }

@@ -5,8 +5,6 @@
 
 #include <QObject>
 
-#include <string>
-
 class QDropEvent;
 class QWidget;
 
@@ -27,8 +25,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
-    /// `path` (bytes) is a folder.
-    void dropped(const std::string& path);
+    void dropped(const Url& folder);
 
 private:
     void enter(QDropEvent& event);

@@ -96,16 +96,15 @@ void AppDelegate::start()
     mainWindow.showWindow();
 }
 
-bool AppDelegate::openFile(const std::string& path)
+void AppDelegate::openFile(const Url& folder)
 {
     if (m_mainWindow != nullptr) {
-        m_waiting = Url(path, true);
+        m_waiting = folder;
         if (!m_wait.isActive()) {
             m_wait.start();
             openWaiting();
         }
     }
-    return true;
 }
 
 void AppDelegate::openWaiting()
@@ -131,7 +130,7 @@ void AppDelegate::openFromElsewhere(const Url& folder, const std::string& activa
     }
     bringToFront(m_mainWindow->window());
     if (!folder.empty()) {
-        openFile(folder.path());
+        openFile(folder);
     }
 }
 

@@ -53,8 +53,8 @@ public:
     /// Scans a folder that is to be opened with the program. While the user has to answer a
     /// question the scan waits for that, and it waits a moment when another one was just started:
     /// whatever calls how often, the window stays usable. Of what waits the last one is scanned.
-    /// Always true; before there is a main window the folder is dropped.
-    bool openFile(const std::string& path);
+    /// Before there is a main window the folder is dropped.
+    void openFile(const Url& folder);
 
     /// Whether a folder that is opened now has to wait.
     bool isPausing() const { return m_wait.isActive(); }

@@ -86,7 +86,7 @@ int showWindow(const Url& folder, const LaunchServices& services)
 {
     const WindowedProgram program(services);
     if (!folder.empty()) {
-        program.delegate().openFile(folder.path());
+        program.delegate().openFile(folder);
     }
     return QApplication::exec();
 }

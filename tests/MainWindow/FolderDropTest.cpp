@@ -21,8 +21,9 @@ class FolderDropTest : public testing::Test {
 protected:
     FolderDropTest()
     {
-        QObject::connect(&drop, &FolderDrop::dropped, &drop, [this](const std::string& path) {
-            dropped.push_back(path);
+        QObject::connect(&drop, &FolderDrop::dropped, &drop, [this](const Url& folder) {
+            EXPECT_TRUE(folder.isDirectory());
+            dropped.push_back(folder.path());
         });
     }
 

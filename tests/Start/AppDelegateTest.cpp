@@ -56,7 +56,7 @@ protected:
 
     void showTree()
     {
-        delegate.openFile("/data");
+        delegate.openFile(Url("/data", true));
         services.model.setTopFolder(test::makeTree("/data", "a:700"));
         NotificationCenter::defaultCenter().post("ScanComplete");
     }
@@ -109,7 +109,7 @@ TEST_F(AppDelegateTest, AnyOtherRealUserIsNotRoot)
 
 TEST_F(AppDelegateTest, AFolderOpenedBeforeTheStartIsDropped)
 {
-    EXPECT_TRUE(delegate.openFile("/data"));
+    delegate.openFile(Url("/data", true));
     delegate.start();
     EXPECT_THAT(services.screens.scanned, IsEmpty());
 }
@@ -117,14 +117,14 @@ TEST_F(AppDelegateTest, AFolderOpenedBeforeTheStartIsDropped)
 TEST_F(AppDelegateTest, AFolderOpenedWithTheProgramIsScanned)
 {
     delegate.start();
-    EXPECT_TRUE(delegate.openFile("/data/some\xFF"));
+    delegate.openFile(Url("/data/some\xFF", true));
     EXPECT_THAT(services.screens.scanned, ElementsAre("/data/some\xFF"));
 }
 
 TEST_F(AppDelegateTest, ABackupOpenedWithTheProgramIsScanned)
 {
     delegate.start();
-    delegate.openFile("/a/Backups.backupdb");
+    delegate.openFile(Url("/a/Backups.backupdb", true));
     EXPECT_THAT(services.screens.scanned, ElementsAre("/a/Backups.backupdb"));
 }
 
@@ -133,7 +133,7 @@ TEST_F(AppDelegateTest, AFolderOpenedWhileATreeIsDisplayedIsScannedFromTheHomeSc
     delegate.start();
     showTree();
     ASSERT_EQ(delegate.mainWindow()->state(), ScreenState::Tree);
-    delegate.openFile("/other");
+    delegate.openFile(Url("/other", true));
     processEventsUntilScanned("/other");
     EXPECT_EQ(delegate.mainWindow()->state(), ScreenState::Scanning);
     EXPECT_THAT(services.screens.scanned, ElementsAre("/data", "/other"));
@@ -146,7 +146,7 @@ TEST_F(AppDelegateTest, WhileTheUserHasToAnswerAQuestionAFolderWaits)
     QTimer::singleShot(0, &application, [&] {
         QEventLoop question;
         QTimer::singleShot(0, &question, [&] {
-            delegate.openFile("/data");
+            delegate.openFile(Url("/data", true));
             EXPECT_THAT(services.screens.scanned, IsEmpty());
             question.quit();
         });
@@ -177,9 +177,9 @@ TEST_F(AppDelegateTest, OfManyFoldersOpenedAtOnceTheFirstAndTheLastAreScanned)
 TEST_F(AppDelegateTest, AFolderOpenedLongAfterAnotherIsScannedAtOnce)
 {
     delegate.start();
-    delegate.openFile("/data");
+    delegate.openFile(Url("/data", true));
     QTRY_VERIFY(!delegate.isPausing());
-    delegate.openFile("/other");
+    delegate.openFile(Url("/other", true));
     EXPECT_THAT(services.screens.scanned, ElementsAre("/data", "/other"));
 }
 
