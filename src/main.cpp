@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Base/Log.h"
-#include "LaunchServices.h"
 #include "Platform/PlatformServices.h"
+#include "PlatformLaunchServices.h"
 #include "Start/CommandLine.h"
 #include "Start/Launch.h"
 

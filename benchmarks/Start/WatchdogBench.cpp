@@ -2,8 +2,8 @@
 // Runs the program, goes through all that a user can do while a folder's tree is shown, and tells
 // for how long the main thread was out of reach at the worst: WatchdogBench FOLDER [FILES]
 #include "Desktop/RunningInstance.h"
-#include "LaunchServices.h"
 #include "Model/UserDefaults.h"
+#include "PlatformLaunchServices.h"
 #include "Start/EventLoopWatch.h"
 #include "Start/OwnHome.h"
 #include "Start/UserSession.h"

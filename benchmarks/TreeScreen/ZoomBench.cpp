@@ -172,12 +172,12 @@ std::vector<Folder*> shownFolders(const TreeBranch& top)
 ScanEnvironment scanEnvironment(const PlatformServices& services)
 {
     return {
-        *services.fileManager,
-        *services.resourceValues,
-        *services.fileSystemAttributes,
-        *services.mainThread,
-        services.clock,
-        services.userAccount->homeDirectory()};
+        .fileManager = *services.fileManager,
+        .resourceValues = *services.resourceValues,
+        .fileSystemAttributes = *services.fileSystemAttributes,
+        .mainThread = *services.mainThread,
+        .clock = services.clock,
+        .homeDirectory = services.userAccount->homeDirectory()};
 }
 
 /// Whether the figures it prints stand for anything.
@@ -198,21 +198,22 @@ bool measure(
     TreeViewController controller(
         model,
         map,
-        {environment,
-         *services.prompt.resourceValues,
-         *services.prompt.fileSystemAttributes,
-         *services.userDefaults,
-         *services.workspace,
-         alert,
-         {services.archiver,
-          services.makeTask,
-          *services.workspace,
-          *services.prompt.resourceValues,
-          icons,
-          targetsInUse,
-          alert},
-         motion,
-         [](const std::string&) { return std::error_code(); }});
+        {.scanEnvironment = environment,
+         .resourceValues = WithTimeLimit(*services.withTimeLimit.resourceValues),
+         .fileSystemAttributes = WithTimeLimit(*services.withTimeLimit.fileSystemAttributes),
+         .defaults = *services.userDefaults,
+         .workspace = *services.workspace,
+         .alert = alert,
+         .compressing
+         = {.archiver = services.archiver,
+            .makeTask = services.makeTask,
+            .workspace = *services.workspace,
+            .resourceValues = WithTimeLimit(*services.withTimeLimit.resourceValues),
+            .icons = icons,
+            .targetsInUse = targetsInUse,
+            .alert = alert},
+         .motion = motion,
+         .checkFolder = [](const std::string&) { return std::error_code(); }});
     QCoreApplication::processEvents();
     const std::vector<Folder*> folders = shownFolders(*map.branches().front());
     if (folders.empty() || map.size() != size) {
@@ -231,7 +232,10 @@ bool measureFolder(const char* folder, std::size_t zooms)
 {
     const PlatformServices services = makePlatformServices();
     const ScanEnvironment environment = scanEnvironment(services);
-    RootModel model({*services.userDefaults, *services.recentDocuments, *services.standardFolders});
+    RootModel model(
+        {.defaults = *services.userDefaults,
+         .recentDocuments = *services.recentDocuments,
+         .standardFolders = *services.standardFolders});
     model.setTopFolder(
         ScanWaiter().scan(Url(services.fileAccess->absolutePath(folder), true), environment));
     const bool isValid = measure(model, services, environment, kSmallMap, zooms)

@@ -40,8 +40,8 @@ bool isTaken(const std::string& path, const CompressServices& services)
 {
     // Whatever has a size is there, a dangling link too.
     return services.targetsInUse.contains(path)
-        || services.resourceValues.allocatedSize(path).has_value()
-        || services.resourceValues.allocatedSize(partPath(path)).has_value();
+        || services.resourceValues->allocatedSize(path).has_value()
+        || services.resourceValues->allocatedSize(partPath(path)).has_value();
 }
 
 /// "X.zip", or the first of "X 2.zip", "X 3.zip" and so on that is free.
@@ -281,8 +281,8 @@ void CompressWindowController::release()
 
 std::optional<std::uint64_t> CompressWindowController::archiveSize() const
 {
-    const auto size = m_services.resourceValues.allocatedSize(partPath(m_targetPath));
-    return size ? size : m_services.resourceValues.allocatedSize(m_targetPath);
+    const auto size = m_services.resourceValues->allocatedSize(partPath(m_targetPath));
+    return size ? size : m_services.resourceValues->allocatedSize(m_targetPath);
 }
 
 std::vector<Url> CompressWindowController::archivePlaces() const

@@ -3,6 +3,7 @@
 
 #include "Base/FileIdentity.h"
 #include "Base/Url.h"
+#include "Base/WithTimeLimit.h"
 #include "Desktop/Task.h"
 
 #include <QObject>
@@ -36,7 +37,7 @@ struct CompressServices {
     std::string archiver; ///< path of the archiving program, as bytes
     std::function<std::unique_ptr<Task>()> makeTask;
     Workspace& workspace;
-    const ResourceValues& resourceValues; ///< asked by the main thread, so it must be prompt
+    WithTimeLimit<ResourceValues> resourceValues;
     IconProvider& icons;
     /// The paths of the archives that are being written, some of which are not on the disk yet; one
     /// set for all compressions.

@@ -39,7 +39,7 @@ std::optional<Url> draggedItem(const QMimeData& data)
 
 } // namespace
 
-FolderDrop::FolderDrop(QWidget& window, const ResourceValues& resourceValues)
+FolderDrop::FolderDrop(QWidget& window, WithTimeLimit<ResourceValues> resourceValues)
     : m_resourceValues(resourceValues)
 {
     window.setAcceptDrops(true);
@@ -49,7 +49,7 @@ FolderDrop::FolderDrop(QWidget& window, const ResourceValues& resourceValues)
 void FolderDrop::enter(QDropEvent& event)
 {
     const std::optional<Url> item = draggedItem(*event.mimeData());
-    const bool isFolder = item && m_resourceValues.isDirectory(item->path());
+    const bool isFolder = item && m_resourceValues->isDirectory(item->path());
     m_folder = isFolder ? Url(item->path(), true) : Url();
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Base/Url.h"
+#include "Base/WithTimeLimit.h"
 
 #include <QObject>
 
@@ -18,9 +19,8 @@ class FolderDrop final : public QObject {
     Q_OBJECT
 
 public:
-    /// Both must outlive this object. The values are asked by the main thread, so they give up
-    /// before anybody notices: a folder that does not answer is refused.
-    FolderDrop(QWidget& window, const ResourceValues& resourceValues);
+    /// Both must outlive this object. A folder that does not answer is refused.
+    FolderDrop(QWidget& window, WithTimeLimit<ResourceValues> resourceValues);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -30,7 +30,7 @@ signals:
 private:
     void enter(QDropEvent& event);
 
-    const ResourceValues& m_resourceValues;
+    WithTimeLimit<ResourceValues> m_resourceValues;
     Url m_folder; ///< what hangs at the pointer; empty when that is no folder
 };
 

@@ -32,7 +32,7 @@ namespace tessera {
 
 /// File systems as the main thread may ask them: what does not answer before anybody notices counts
 /// as not readable.
-struct PromptFileSystems {
+struct FileSystemsWithTimeLimit {
     std::unique_ptr<ResourceValues> resourceValues;
     std::unique_ptr<FileSystemAttributes> fileSystemAttributes;
     std::unique_ptr<FileAccess> fileAccess;
@@ -44,7 +44,7 @@ struct PlatformServices {
     std::unique_ptr<FileManager> fileManager;
     std::shared_ptr<const ResourceValues> resourceValues; ///< a question that is stuck keeps it
     std::shared_ptr<const FileSystemAttributes> fileSystemAttributes; ///< likewise
-    PromptFileSystems prompt;
+    FileSystemsWithTimeLimit withTimeLimit;
     std::unique_ptr<MountedVolumes> mountedVolumes;
     std::unique_ptr<FileAccess> fileAccess; ///< waits as long as it takes
     std::shared_ptr<const FileReader> fileReader; ///< a look that is stuck keeps it

@@ -6,6 +6,7 @@
 #include "Desktop/FileAccess.h"
 #include "Desktop/RunningInstance.h"
 #include "Start/AppDelegate.h"
+#include "Start/LaunchServices.h"
 #include "Start/PictureWriter.h"
 #include "Start/WindowedProgram.h"
 
@@ -95,8 +96,8 @@ int openWindow(const std::string& folder, const LaunchServices& services)
 {
     Url url;
     if (!folder.empty()) {
-        const std::string path = services.promptFiles.absolutePath(folder);
-        const std::error_code error = services.promptFiles.checkFolder(path);
+        const std::string path = services.filesWithTimeLimit->absolutePath(folder);
+        const std::error_code error = services.filesWithTimeLimit->checkFolder(path);
         // A scan of what does not answer now can be watched, and broken off.
         if (error && error != std::errc::timed_out) {
             const int status = fail("cannot read the folder '" + folder + "': " + error.message());

@@ -13,7 +13,7 @@
 #include "ScanScreen/ApplicationDockTile.h"
 #include "ScanScreen/ScanningViewController.h"
 #include "Start/AppDelegate.h"
-#include "Start/Launch.h"
+#include "Start/LaunchServices.h"
 #include "TreeScreen/Tooltip/TooltipController.h"
 #include "Widgets/ApplicationPalette.h"
 #include "Widgets/DesktopIconProvider.h"
@@ -58,7 +58,7 @@ struct WindowedProgram::Desktop {
                   realHomeDirectory(services.userAccount), services.homeScreen.standardFolders))
     {
         TooltipController& tooltip = TooltipController::sharedInstance();
-        tooltip.setResourceValues(&services.promptResourceValues);
+        tooltip.setResourceValues(&*services.resourceValues);
         tooltip.setIconProvider(&icons);
     }
     Desktop(const Desktop&) = delete;
@@ -67,6 +67,40 @@ struct WindowedProgram::Desktop {
     {
         TooltipController::sharedInstance().setIconProvider(nullptr);
         QuickLookPanel::sharedInstance().setIconProvider(nullptr);
+    }
+
+    TreeViewServices treeScreen(const LaunchServices& services)
+    {
+        return {
+            .scanEnvironment = services.scanEnvironment,
+            .resourceValues = services.resourceValues,
+            .fileSystemAttributes = services.fileSystemAttributes,
+            .defaults = services.rootModelServices.defaults,
+            .workspace = services.workspace,
+            .alert = alert,
+            .compressing
+            = {.archiver = services.archiver,
+               .makeTask = services.makeTask,
+               .workspace = services.workspace,
+               .resourceValues = services.resourceValues,
+               .icons = icons,
+               .targetsInUse = targetsInUse,
+               .alert = alert},
+            .motion = services.motion,
+            .checkFolder = [files = services.filesWithTimeLimit](const std::string& path) {
+                return files->checkFolderWithoutLinks(path);
+            }};
+    }
+
+    ScanningServices scanScreen(const LaunchServices& services)
+    {
+        return {
+            .scanEnvironment = services.scanEnvironment,
+            .dockTile = dockTile,
+            .alert = alert,
+            .look = [this](const Url& folder) { return places.look(folder); },
+            .checkFolder = [files = services.filesWithTimeLimit](
+                               const std::string& path) { return files->checkFolder(path); }};
     }
 
     DesktopIconProvider icons;
@@ -86,11 +120,14 @@ WindowedProgram::WindowedProgram(const LaunchServices& services)
     m_palette = std::make_unique<ApplicationPalette>(services.colorScheme);
     RootModel::setServices(services.rootModelServices);
     m_desktop = std::make_unique<Desktop>(services);
+    const auto addressOfPage = [helpFolder = services.helpFolder](HelpPage page) {
+        return helpAddress(helpFolder, page);
+    };
     m_delegate = std::make_unique<AppDelegate>(AppDelegateServices{
-        mainWindowServices(services, RootModel::sharedInstance()),
-        services.userAccount,
-        [helpFolder = services.helpFolder](HelpPage page) { return helpAddress(helpFolder, page); },
-        services.adoptActivationToken});
+        .mainWindow = mainWindowServices(services, RootModel::sharedInstance()),
+        .userAccount = services.userAccount,
+        .helpAddress = addressOfPage,
+        .adoptActivationToken = services.adoptActivationToken});
     m_delegate->start();
     QMainWindow& window = m_delegate->mainWindow()->window();
     m_desktop->alert.setMainWindow(&window);
@@ -118,42 +155,20 @@ void WindowedProgram::giveUpAtTheEnd()
 MainWindowServices WindowedProgram::mainWindowServices(
     const LaunchServices& services, RootModel& model) const
 {
-    const TreeViewServices treeScreen{
-        services.scanEnvironment,
-        services.promptResourceValues,
-        services.promptFileSystemAttributes,
-        services.rootModelServices.defaults,
-        services.workspace,
-        m_desktop->alert,
-        {services.archiver,
-         services.makeTask,
-         services.workspace,
-         services.promptResourceValues,
-         m_desktop->icons,
-         m_desktop->targetsInUse,
-         m_desktop->alert},
-        services.motion,
-        [&files = services.promptFiles](const std::string& path) {
-            return files.checkFolderWithoutLinks(path);
-        }};
-    const ScanningServices scanScreen{
-        services.scanEnvironment,
-        m_desktop->dockTile,
-        m_desktop->alert,
-        [desktop = m_desktop.get()](const Url& folder) { return desktop->places.look(folder); },
-        [&files = services.promptFiles](const std::string& path) {
-            return files.checkFolder(path);
-        }};
     return {
-        model,
-        treeScreen,
-        services.rootModelServices.defaults,
-        m_desktop->openPanel,
-        services.homeScreen.volumes,
-        [&model, homeScreen = services.homeScreen](const std::function<void()>& openFolder) {
-            return makeHomeScreen(model, homeScreen, openFolder);
-        },
-        [&model, scanScreen] { return makeScanScreen(model, scanScreen); }};
+        .model = model,
+        .treeScreen = m_desktop->treeScreen(services),
+        .defaults = services.rootModelServices.defaults,
+        .openPanel = m_desktop->openPanel,
+        .volumes = services.homeScreen.volumes,
+        .makeHomeScreen =
+            [&model, homeScreen = services.homeScreen](const std::function<void()>& openFolder) {
+                return makeHomeScreen(model, homeScreen, openFolder);
+            },
+        .makeScanScreen =
+            [&model, scanScreen = m_desktop->scanScreen(services)] {
+                return makeScanScreen(model, scanScreen);
+            }};
 }
 
 } // namespace tessera

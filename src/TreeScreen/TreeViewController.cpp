@@ -182,7 +182,7 @@ bool TreeViewController::isMountPoint(const Folder& toRescan) const
         return false;
     }
     if (!m_isMountPoint) {
-        m_isMountPoint = m_services.resourceValues.isMountPoint(toRescan.absolutePath());
+        m_isMountPoint = m_services.resourceValues->isMountPoint(toRescan.absolutePath());
     }
     return *m_isMountPoint;
 }
@@ -251,7 +251,7 @@ void TreeViewController::itemCompressed(const Url& archive)
 {
     auto document = makeNode<Document>(archive.lastPathComponent());
     document->setTotalAllocation(
-        m_services.resourceValues.allocatedSize(archive.path()).value_or(0));
+        m_services.resourceValues->allocatedSize(archive.path()).value_or(0));
     if (TopFolder* const top = m_model.topFolder()) {
         const std::string path = pathInTree(*top, archive.path());
         if (Folder* const parent = parentAtPath(*top, path)) {
@@ -373,7 +373,7 @@ void TreeViewController::objectTreeRefreshed()
     if (auto* const volume = nodeCast<Volume>(static_cast<File*>(m_model.topFolder()))) {
         // Without an answer the sizes last known are nearer to the truth than none.
         if (const auto sizes
-            = m_services.fileSystemAttributes.attributesOfFileSystem(volume->origin())) {
+            = m_services.fileSystemAttributes->attributesOfFileSystem(volume->origin())) {
             volume->refreshVolume(*sizes);
         }
     }

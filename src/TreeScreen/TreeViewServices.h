@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Base/WithTimeLimit.h"
 #include "Compress/CompressWindowController.h"
 #include "Scanning/ScanEnvironment.h"
 #include "TreeScreen/Zoom/ZoomAnimation.h"
@@ -19,9 +20,8 @@ class Workspace;
 /// What the tree screen needs from the system and the desktop; each must outlive it.
 struct TreeViewServices {
     ScanEnvironment scanEnvironment; ///< of rescans
-    /// Asked by the main thread: they give up before anybody notices.
-    const ResourceValues& resourceValues;
-    const FileSystemAttributes& fileSystemAttributes;
+    WithTimeLimit<ResourceValues> resourceValues;
+    WithTimeLimit<FileSystemAttributes> fileSystemAttributes;
     const UserDefaults& defaults;
     Workspace& workspace;
     Alert& alert;

@@ -47,13 +47,13 @@ protected:
     std::shared_ptr<CompressWindowController> makeController()
     {
         return CompressWindowController::make(
-            {"/opt/archiver",
-             [this] { return FakeTask::make(task); },
-             workspace,
-             files,
-             icons,
-             targetsInUse,
-             alert},
+            {.archiver = "/opt/archiver",
+             .makeTask = [this] { return FakeTask::make(task); },
+             .workspace = workspace,
+             .resourceValues = WithTimeLimit<ResourceValues>(files),
+             .icons = icons,
+             .targetsInUse = targetsInUse,
+             .alert = alert},
             [this](std::chrono::milliseconds delay, std::function<void()> work) {
                 delays.push_back(delay);
                 delayed.push_back(std::move(work));

@@ -71,12 +71,12 @@ protected:
         home = std::make_unique<HomeViewController>(
             *model,
             HomeViewServices{
-                volumes,
-                modelServices.folders,
-                account,
-                homeDirectory,
-                attributes,
-                resourceValues});
+                .volumes = volumes,
+                .standardFolders = modelServices.folders,
+                .account = account,
+                .homeDirectory = homeDirectory,
+                .fileSystemAttributes = attributes,
+                .resourceValues = resourceValues});
         home->view().resize(1080, 660);
         home->view().show();
     }

@@ -44,7 +44,7 @@ protected:
 
     test::FakeTreeViewServices services;
     QWidget window;
-    FolderDrop drop{window, services.resourceValues};
+    FolderDrop drop{window, WithTimeLimit<ResourceValues>(services.resourceValues)};
     std::vector<std::string> dropped;
     Qt::DropAction action = Qt::IgnoreAction;
 };

@@ -64,11 +64,11 @@ protected:
         controller = std::make_unique<ScanningViewController>(
             model,
             ScanningServices{
-                system->get().scanEnvironment,
-                tile,
-                system->alert,
-                redPlace,
-                [this](const std::string& path) {
+                .scanEnvironment = system->get().scanEnvironment,
+                .dockTile = tile,
+                .alert = system->alert,
+                .look = redPlace,
+                .checkFolder = [this](const std::string& path) {
                     checked.push_back(path);
                     return problem;
                 }});

@@ -75,18 +75,19 @@ protected:
     {
         files = std::make_unique<FakeFileManager>(items);
         m_scanner = Scanner::create(
-            {*files,
-             resourceValues,
-             fileSystem,
-             mainThread,
-             [this] {
-                 if (onClock) {
-                     onClock();
-                 }
-                 return now.load();
-             },
-             home,
-             workers});
+            {.fileManager = *files,
+             .resourceValues = resourceValues,
+             .fileSystemAttributes = fileSystem,
+             .mainThread = mainThread,
+             .clock =
+                 [this] {
+                     if (onClock) {
+                         onClock();
+                     }
+                     return now.load();
+                 },
+             .homeDirectory = home,
+             .workers = workers});
         m_scanner->setDelegate(&delegate);
         return *m_scanner;
     }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "BuildDisk.h"
-#include "LaunchServices.h"
 #include "Model/RootModel.h"
+#include "PlatformLaunchServices.h"
 #include "RunInSandbox.h"
 #include "Sandbox.h"
 #include "Scanning/ScanWorkers.h"

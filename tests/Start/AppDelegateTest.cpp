@@ -41,12 +41,12 @@ protected:
     AppDelegateServices appServices()
     {
         return {
-            services.get(),
-            account,
-            [](HelpPage page) -> std::string {
+            .mainWindow = services.get(),
+            .userAccount = account,
+            .helpAddress = [](HelpPage page) -> std::string {
                 return page == HelpPage::Features ? "file:///features" : "file:///faq";
             },
-            [this](const std::string& token) { tokens.push_back(token); }};
+            .adoptActivationToken = [this](const std::string& token) { tokens.push_back(token); }};
     }
 
     void processEventsUntilScanned(const std::string& path)

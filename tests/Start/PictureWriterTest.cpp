@@ -66,13 +66,13 @@ protected:
         commandLine.height = 100;
         const ScanEnvironment fakes = services.get().scanEnvironment;
         return PictureWriter(
-                   {fakes.fileManager,
-                    fakes.resourceValues,
-                    fakes.fileSystemAttributes,
-                    loop,
-                    fakes.clock,
-                    "/Users/me",
-                    services.workers},
+                   {.fileManager = fakes.fileManager,
+                    .resourceValues = fakes.resourceValues,
+                    .fileSystemAttributes = fakes.fileSystemAttributes,
+                    .mainThread = loop,
+                    .clock = fakes.clock,
+                    .homeDirectory = "/Users/me",
+                    .workers = services.workers},
                    files)
             .write(commandLine);
     }

@@ -9,7 +9,7 @@
 #include "Model/RootModel.h"
 #include "QuickLook/Reading/FileReader.h"
 #include "QuickLook/Reading/RasterDecoder.h"
-#include "Start/Launch.h"
+#include "Start/LaunchServices.h"
 #include "support/Fakes/FakePlaces.h"
 #include "support/Fakes/FakeRootModelServices.h"
 #include "support/Fakes/FakeTreeViewServices.h"
@@ -98,32 +98,34 @@ struct FakeLaunchServices {
     {
         const TreeViewServices tree = treeScreen.get();
         return {
-            tree.scanEnvironment,
-            treeScreen.resourceValues,
-            treeScreen.fileSystem,
-            files,
-            rootModel.get(),
-            {volumes,
-             rootModel.folders,
-             account,
-             "/home/me",
-             std::make_shared<test::FixedFileSystem>(FileSystemSizes{1000, 250}),
-             std::make_shared<test::FakeResourceValues>()},
-            files,
-            colorScheme,
-            treeScreen.motion,
-            treeScreen.workspace,
-            nullptr,
-            nullptr,
-            [this] { return test::FakeTask::make(treeScreen.archiver); },
-            "/archiver",
-            account,
-            launcher,
-            runningInstance,
-            endRequests,
-            {},
-            1000,
-            false};
+            .scanEnvironment = tree.scanEnvironment,
+            .resourceValues = tree.resourceValues,
+            .fileSystemAttributes = tree.fileSystemAttributes,
+            .filesWithTimeLimit = WithTimeLimit<FileAccess>(files),
+            .rootModelServices = rootModel.get(),
+            .homeScreen
+            = {.volumes = volumes,
+               .standardFolders = rootModel.folders,
+               .account = account,
+               .homeDirectory = "/home/me",
+               .fileSystemAttributes
+               = std::make_shared<test::FixedFileSystem>(FileSystemSizes{1000, 250}),
+               .resourceValues = std::make_shared<test::FakeResourceValues>()},
+            .files = files,
+            .colorScheme = colorScheme,
+            .motion = treeScreen.motion,
+            .workspace = treeScreen.workspace,
+            .fileReader = nullptr,
+            .rasterDecoder = nullptr,
+            .makeTask = [this] { return test::FakeTask::make(treeScreen.archiver); },
+            .archiver = "/archiver",
+            .userAccount = account,
+            .launcherProgress = launcher,
+            .runningInstance = runningInstance,
+            .endRequests = endRequests,
+            .helpFolder = {},
+            .availableMemory = 1000,
+            .hasTerminal = false};
     }
 };
 

@@ -78,12 +78,12 @@ PlatformServices makePlatformServices(Session session)
     const auto patient = std::make_shared<const FileSystemQuestions>(kWorkerPatience);
     services.resourceValues = std::make_shared<const LinuxResourceValues>(patient);
     services.fileSystemAttributes = std::make_shared<const LinuxFileSystemAttributes>(patient);
-    const auto prompt = std::make_shared<const FileSystemQuestions>(kMainThreadPatience);
-    services.prompt
-        = {std::make_unique<LinuxResourceValues>(prompt),
-           std::make_unique<LinuxFileSystemAttributes>(prompt),
-           std::make_unique<LinuxFileAccess>(prompt)};
-    services.mountedVolumes = std::make_unique<LinuxMountedVolumes>(prompt);
+    const auto limited = std::make_shared<const FileSystemQuestions>(kMainThreadPatience);
+    services.withTimeLimit
+        = {.resourceValues = std::make_unique<LinuxResourceValues>(limited),
+           .fileSystemAttributes = std::make_unique<LinuxFileSystemAttributes>(limited),
+           .fileAccess = std::make_unique<LinuxFileAccess>(limited)};
+    services.mountedVolumes = std::make_unique<LinuxMountedVolumes>(limited);
     services.fileAccess = std::make_unique<LinuxFileAccess>();
     services.fileReader = std::make_shared<LinuxFileReader>();
     services.rasterDecoder
@@ -93,7 +93,7 @@ PlatformServices makePlatformServices(Session session)
     services.userDefaults
         = std::make_unique<SettingsUserDefaults>(SettingsUserDefaults::defaultFilePath());
     services.recentDocuments = std::make_unique<XbelRecentDocuments>(
-        XbelRecentDocuments::defaultFilePath(), *services.userDefaults, prompt);
+        XbelRecentDocuments::defaultFilePath(), *services.userDefaults, limited);
     services.colorSchemePreference = std::make_unique<DesktopColorSchemePreference>(bus);
     services.motionPreference = std::make_unique<DesktopMotionPreference>();
     services.launcherProgress = std::make_unique<UnityLauncherProgress>(bus);

@@ -17,7 +17,12 @@ std::unique_ptr<TopFolder> scanFolder(const std::string& path)
     const LinuxFileSystemAttributes fileSystem(questions);
     FakeMainThread mainThread;
     const ScanEnvironment environment{
-        fileManager, resourceValues, fileSystem, mainThread, [] { return 0.0; }, "/nobody"};
+        .fileManager = fileManager,
+        .resourceValues = resourceValues,
+        .fileSystemAttributes = fileSystem,
+        .mainThread = mainThread,
+        .clock = [] { return 0.0; },
+        .homeDirectory = "/nobody"};
     const auto scanner = Scanner::create(environment);
     scanner->scan(Url(path, true));
     environment.workers->waitForNone();

@@ -113,17 +113,18 @@ struct FakeMainWindowServices {
     MainWindowServices get()
     {
         return {
-            model,
-            treeScreen.get(),
-            rootModel.defaults,
-            openPanel,
-            volumes,
-            [this](const std::function<void()>& openFolder) {
-                screens.openFolder = openFolder;
-                return std::make_unique<FakeHomeScreen>(screens);
-            },
-            [this] { return std::make_unique<FakeScanScreen>(screens); },
-            [this] { return now; }};
+            .model = model,
+            .treeScreen = treeScreen.get(),
+            .defaults = rootModel.defaults,
+            .openPanel = openPanel,
+            .volumes = volumes,
+            .makeHomeScreen =
+                [this](const std::function<void()>& openFolder) {
+                    screens.openFolder = openFolder;
+                    return std::make_unique<FakeHomeScreen>(screens);
+                },
+            .makeScanScreen = [this] { return std::make_unique<FakeScanScreen>(screens); },
+            .slideClock = [this] { return now; }};
     }
 };
 

@@ -33,7 +33,10 @@ struct FakeRootModelServices {
     FakeRecentDocuments documents;
     FakeStandardFolders folders;
 
-    RootModelServices get() { return {defaults, documents, folders}; }
+    RootModelServices get()
+    {
+        return {.defaults = defaults, .recentDocuments = documents, .standardFolders = folders};
+    }
 };
 
 } // namespace tessera::test

@@ -67,31 +67,34 @@ struct FakeTreeViewServices {
     TreeViewServices get()
     {
         return {
-            {files,
-             scanResourceValues,
-             fileSystem,
-             mainThread,
-             [this] { return scanClock.load(); },
-             home,
-             workers},
-            resourceValues,
-            fileSystem,
-            defaults,
-            workspace,
-            alert,
-            {"/archiver",
-             [this] { return FakeTask::make(archiver); },
-             workspace,
-             resourceValues,
-             icons,
-             targetsInUse,
-             alert},
-            motion,
-            [this](const std::string& path) {
-                checkedFolder = path;
-                return folderProblem;
-            },
-            [this] { return now; }};
+            .scanEnvironment
+            = {.fileManager = files,
+               .resourceValues = scanResourceValues,
+               .fileSystemAttributes = fileSystem,
+               .mainThread = mainThread,
+               .clock = [this] { return scanClock.load(); },
+               .homeDirectory = home,
+               .workers = workers},
+            .resourceValues = WithTimeLimit<ResourceValues>(resourceValues),
+            .fileSystemAttributes = WithTimeLimit<FileSystemAttributes>(fileSystem),
+            .defaults = defaults,
+            .workspace = workspace,
+            .alert = alert,
+            .compressing
+            = {.archiver = "/archiver",
+               .makeTask = [this] { return FakeTask::make(archiver); },
+               .workspace = workspace,
+               .resourceValues = WithTimeLimit<ResourceValues>(resourceValues),
+               .icons = icons,
+               .targetsInUse = targetsInUse,
+               .alert = alert},
+            .motion = motion,
+            .checkFolder =
+                [this](const std::string& path) {
+                    checkedFolder = path;
+                    return folderProblem;
+                },
+            .zoomClock = [this] { return now; }};
     }
 };
 
