@@ -31,7 +31,6 @@ namespace tessera {
 namespace {
 
 constexpr int kVolumes = 0;
-constexpr int kSections = 2;
 constexpr int kLeastVolumeWidth = 200;
 constexpr int kGreatestVolumeWidth = 400;
 constexpr int kLeastLocationWidth = 100;
@@ -60,6 +59,17 @@ std::unique_ptr<View> highEnough(std::unique_ptr<View> view)
 {
     view->resize(view->width(), std::max(view->height(), view->minimumSizeHint().height()));
     return view;
+}
+
+CollectionSection emptySection(const QString& title, int leastWidth, int greatestWidth)
+{
+    auto header = std::make_unique<CollectionHeaderView>();
+    header->nameLabel().setText(title);
+    CollectionSection section;
+    section.header = highEnough(std::move(header));
+    section.minimumWidth = static_cast<float>(widthWithDesktopFont(leastWidth));
+    section.maximumWidth = static_cast<float>(widthWithDesktopFont(greatestWidth));
+    return section;
 }
 
 std::optional<Location> firstDirectory(
@@ -133,7 +143,7 @@ void HomeViewController::loadView()
     m_questions.waitBriefly(kPatience);
     m_isGridLoaded = true;
     takeLocations();
-    locationsCollection().reloadData();
+    locationsCollection().setSections(sections());
     loadRecents();
     updateButtons();
 }
@@ -165,25 +175,22 @@ bool HomeViewController::eventFilter(QObject* watched, QEvent* event)
 
 void HomeViewController::connectGrid()
 {
-    SectionedCollectionView& grid = locationsCollection();
-    m_gridDelegate.didSelectView = [this](CollectionItemView& item, int, int) {
-        dynamic_cast<HomeItemView&>(item).setSelected(true);
+    SectionedCollectionView::Handlers handlers;
+    handlers.didSelectView = [this](CollectionItemView& item, int, int) {
+        item.setSelected(true);
         // Without a current row either, from which an arrow would go on later.
         recentsTable().selectionModel()->clear();
         updateButtons();
     };
-    m_gridDelegate.didDeselectView = [](CollectionItemView& item, int, int) {
-        dynamic_cast<HomeItemView&>(item).setSelected(false);
-    };
-    m_gridDelegate.didDoubleClickView = [this](CollectionItemView& item, int, int) {
+    handlers.didDeselectView = [](CollectionItemView& item, int, int) { item.setSelected(false); };
+    handlers.didDoubleClickView = [this](CollectionItemView& item, int, int) {
         // It was deselected just before, and is what stays selected should the scan be cancelled.
-        dynamic_cast<HomeItemView&>(item).setSelected(true);
+        item.setSelected(true);
         scanSelected();
     };
-    grid.setDataSource(this);
-    grid.setDelegate(&m_gridDelegate);
+    locationsCollection().setHandlers(std::move(handlers));
     m_ui->locationsScrollView->viewport()->setBackgroundRole(QPalette::Base);
-    grid.setScrollView(m_ui->locationsScrollView);
+    locationsCollection().setScrollView(m_ui->locationsScrollView);
 }
 
 void HomeViewController::loadVolumes()
@@ -232,7 +239,7 @@ void HomeViewController::showLateLocations()
     const Url* const selected = selectedUrl();
     const Url kept = selected != nullptr ? *selected : Url();
     takeLocations();
-    locationsCollection().reloadData();
+    locationsCollection().setSections(sections());
     if (section >= 0) {
         selectUrl(section, kept);
     }
@@ -241,7 +248,8 @@ void HomeViewController::showLateLocations()
 
 void HomeViewController::selectUrl(int section, const Url& url)
 {
-    for (int index = 0; index < numberOfViewsInSection(section); ++index) {
+    const std::size_t count = section == kVolumes ? m_volumes.size() : m_locations.size();
+    for (int index = 0; index < static_cast<int>(count); ++index) {
         if (*urlAt(section, index) == url) {
             locationsCollection().selectItem(section, index);
         }
@@ -297,7 +305,7 @@ void HomeViewController::setEnabled(bool enabled)
     m_enabled = enabled;
     openButton().setEnabled(enabled);
     recentsTable().setEnabled(enabled);
-    locationsCollection().setEnabled(enabled);
+    locationsCollection().setInteractive(enabled);
     showUsable(locationsCollection(), enabled);
     scanButton().setVisible(enabled);
     clearRecentsButton().setVisible(enabled);
@@ -363,42 +371,25 @@ int HomeViewController::selectedRecent() const
     return rows.isEmpty() ? -1 : rows.first().row();
 }
 
-int HomeViewController::numberOfSections() const
+std::vector<CollectionSection> HomeViewController::sections() const
 {
-    return kSections;
+    CollectionSection disks = emptySection(tr("Disks"), kLeastVolumeWidth, kGreatestVolumeWidth);
+    for (const MountedVolume& volume : m_volumes) {
+        disks.items.push_back(volumeView(volume));
+    }
+    CollectionSection locations
+        = emptySection(tr("Locations"), kLeastLocationWidth, kGreatestLocationWidth);
+    for (const Location& location : m_locations) {
+        locations.items.push_back(locationView(location));
+    }
+    std::vector<CollectionSection> result;
+    result.push_back(std::move(disks));
+    result.push_back(std::move(locations));
+    return result;
 }
 
-int HomeViewController::numberOfViewsInSection(int section) const
-{
-    return static_cast<int>(section == kVolumes ? m_volumes.size() : m_locations.size());
-}
-
-double HomeViewController::minimumWidthInSection(int section) const
-{
-    return widthWithDesktopFont(section == kVolumes ? kLeastVolumeWidth : kLeastLocationWidth);
-}
-
-double HomeViewController::maximumWidthInSection(int section) const
-{
-    return widthWithDesktopFont(
-        section == kVolumes ? kGreatestVolumeWidth : kGreatestLocationWidth);
-}
-
-std::unique_ptr<QWidget> HomeViewController::headerForSection(int section)
-{
-    auto header = std::make_unique<CollectionHeaderView>();
-    header->nameLabel().setText(section == kVolumes ? tr("Disks") : tr("Locations"));
-    return highEnough(std::move(header));
-}
-
-std::unique_ptr<CollectionItemView> HomeViewController::viewForSection(int section, int index)
-{
-    const auto place = static_cast<std::size_t>(index);
-    return section == kVolumes ? volumeView(m_volumes.at(place))
-                               : locationView(m_locations.at(place));
-}
-
-std::unique_ptr<CollectionItemView> HomeViewController::volumeView(const MountedVolume& volume)
+std::unique_ptr<CollectionItemView> HomeViewController::volumeView(
+    const MountedVolume& volume) const
 {
     auto view = std::make_unique<VolumeCollectionView>();
     view->setUrl(volume.url, volumeIcon(volume.kind));

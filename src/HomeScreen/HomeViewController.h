@@ -2,8 +2,6 @@
 #pragma once
 
 #include "Desktop/MountedVolumes.h"
-#include "HomeScreen/Grid/SectionedCollectionViewDataSource.h"
-#include "HomeScreen/Grid/SectionedCollectionViewDelegate.h"
 #include "HomeScreen/HomeViewServices.h"
 #include "HomeScreen/Places/BackgroundQuestions.h"
 #include "HomeScreen/Places/KnownPlaces.h"
@@ -27,18 +25,20 @@ class HomeView;
 
 namespace tessera {
 
+class CollectionItemView;
 class HiddenButtonCell;
 class RecentsTableModel;
 class RootModel;
 class SectionedCollectionView;
 class VolumeCollectionView;
+struct CollectionSection;
 
 /// The screen from which every scan starts: the mounted volumes and the user's well-known folders
 /// in a grid, and the recent scans. Posts "ScanURL" with the URL to scan; scans nothing itself.
 ///
 /// A file system that is slow to answer delays nothing: its volume is shown with an empty bar, its
 /// folder is left out, and both are made good when the answer comes.
-class HomeViewController final : public QObject, private SectionedCollectionViewDataSource {
+class HomeViewController final : public QObject {
     Q_OBJECT
 
 public:
@@ -85,14 +85,6 @@ private:
     /// Enter presses the focused button, or else the scan button.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-    [[nodiscard]] int numberOfSections() const override;
-    [[nodiscard]] int numberOfViewsInSection(int section) const override;
-    [[nodiscard]] std::unique_ptr<QWidget> headerForSection(int section) override;
-    [[nodiscard]] double minimumWidthInSection(int section) const override;
-    [[nodiscard]] double maximumWidthInSection(int section) const override;
-    [[nodiscard]] std::unique_ptr<CollectionItemView> viewForSection(
-        int section, int index) override;
-
     void loadView();
     void connectControls();
     void connectGrid();
@@ -109,7 +101,8 @@ private:
     int selectedRecent() const;
     const Url* selectedUrl() const;
     const Url* urlAt(int section, int index) const;
-    std::unique_ptr<CollectionItemView> volumeView(const MountedVolume& volume);
+    std::vector<CollectionSection> sections() const;
+    std::unique_ptr<CollectionItemView> volumeView(const MountedVolume& volume) const;
     static std::unique_ptr<CollectionItemView> locationView(const Location& location);
 
     RootModel& m_model;
@@ -122,7 +115,6 @@ private:
     std::vector<std::optional<Location>> m_foundLocations; ///< by the candidates' places
     /// Of the volumes that have answered, by path; nothing for one that could not say.
     std::map<std::string, std::optional<FileSystemSizes>> m_sizes;
-    SectionedCollectionViewDelegate m_gridDelegate;
     RecentsTableModel* m_recents = nullptr;
     bool m_enabled = true;
     bool m_isGridLoaded = false;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Base/NotificationCenter.h"
+#include "Grid/ShownViews.h"
 #include "HomeScreen/Grid/SectionedCollectionView.h"
 #include "HomeScreen/HomeViewController.h"
 #include "HomeScreen/Parts/VolumeCollectionView.h"
@@ -84,9 +85,10 @@ protected:
     SectionedCollectionView& grid() const { return home->locationsCollection(); }
     QListView& table() const { return home->recentsTable(); }
 
-    HomeItemView& item(std::size_t metric) const
+    /// By its place among all headers and items of the grid.
+    HomeItemView& item(std::size_t place) const
     {
-        return dynamic_cast<HomeItemView&>(*grid().layoutMetrics().at(metric).view);
+        return dynamic_cast<HomeItemView&>(*shownViews(grid()).at(place));
     }
     VolumeCollectionView& firstVolume() const
     {
@@ -107,10 +109,10 @@ protected:
         ASSERT_TRUE(QTest::qWaitFor([&] { return home->locations().size() == count; }));
     }
 
-    QPoint centerOf(std::size_t metric) const { return item(metric).geometry().center(); }
-    void click(std::size_t metric) const
+    QPoint centerOf(std::size_t place) const { return item(place).geometry().center(); }
+    void click(std::size_t place) const
     {
-        QTest::mouseClick(&grid(), Qt::LeftButton, {}, centerOf(metric));
+        QTest::mouseClick(&grid(), Qt::LeftButton, {}, centerOf(place));
     }
     void clickRecent(int row) const
     {

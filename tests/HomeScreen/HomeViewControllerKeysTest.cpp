@@ -72,8 +72,8 @@ TEST_F(HomeViewControllerKeysTest, TheFirstArrowInTheListTakesTheRowWithTheOutli
 TEST_F(HomeViewControllerKeysTest, ScreenReadersLearnWhatIsSelected)
 {
     show();
-    const auto isSelected = [this](std::size_t metric) {
-        return bool(QAccessible::queryAccessibleInterface(&item(metric))->state().selected);
+    const auto isSelected = [this](std::size_t place) {
+        return bool(QAccessible::queryAccessibleInterface(&item(place))->state().selected);
     };
     EXPECT_FALSE(isSelected(1));
     grid().selectItem(0, 0);

@@ -85,11 +85,11 @@ TEST_F(HomeViewControllerTest, RunByRootItHasNoLocationsButTheirHeader)
 TEST_F(HomeViewControllerTest, SectionsHaveTheirLeastAndGreatestWidths)
 {
     show();
-    const auto& metrics = grid().layoutMetrics();
-    EXPECT_EQ(metrics.at(0).minWidth, 200.0F);
-    EXPECT_EQ(metrics.at(0).maxWidth, 400.0F);
-    EXPECT_EQ(metrics.at(3).minWidth, 100.0F);
-    EXPECT_EQ(metrics.at(3).maxWidth, 200.0F);
+    const auto& sections = grid().sections();
+    EXPECT_EQ(sections.at(0).minimumWidth, 200.0F);
+    EXPECT_EQ(sections.at(0).maximumWidth, 400.0F);
+    EXPECT_EQ(sections.at(1).minimumWidth, 100.0F);
+    EXPECT_EQ(sections.at(1).maximumWidth, 200.0F);
 }
 
 TEST_F(HomeViewControllerTest, ScanIsEnabledWhileSomethingIsSelected)
@@ -186,7 +186,7 @@ TEST_F(HomeViewControllerTest, DisabledItHidesItsButtonsAndHearsNothing)
     EXPECT_FALSE(home->clearRecentsButton().isEnabled());
     EXPECT_FALSE(home->openButton().isEnabled());
     EXPECT_FALSE(table().isEnabled());
-    EXPECT_FALSE(grid().enabled());
+    EXPECT_FALSE(grid().isInteractive());
 }
 
 TEST_F(HomeViewControllerTest, EnabledAgainItShowsItsButtons)
@@ -199,7 +199,7 @@ TEST_F(HomeViewControllerTest, EnabledAgainItShowsItsButtons)
     EXPECT_TRUE(home->scanButton().isEnabled());
     EXPECT_TRUE(home->openButton().isEnabled());
     EXPECT_TRUE(table().isEnabled());
-    EXPECT_TRUE(grid().enabled());
+    EXPECT_TRUE(grid().isInteractive());
 }
 
 TEST_F(HomeViewControllerTest, TheScreenIsLaidOutInFixedMeasures)

@@ -13,7 +13,10 @@ public:
     using QWidget::QWidget;
 
     /// Whether clicks on the item do nothing.
-    virtual bool disabled() const = 0;
+    virtual bool unavailable() const = 0;
+
+    /// Has the item show whether it is what the user has chosen.
+    virtual void setSelected(bool selected) = 0;
 
     /// Whether a key would select this item first, which shows a user of the keyboard where it is
     /// while nothing is selected.

@@ -1,15 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "HomeScreen/Grid/SectionedCollectionView.h"
 
-#include "HomeScreen/Grid/CollectionItemView.h"
-#include "HomeScreen/Grid/SectionedCollectionViewDataSource.h"
-#include "HomeScreen/Grid/SectionedCollectionViewDelegate.h"
-
 #include <QCoreApplication>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QResizeEvent>
 
 #include <algorithm>
 #include <array>
@@ -21,7 +16,6 @@ namespace tessera {
 
 namespace {
 
-constexpr std::size_t kUsualCount = 100;
 constexpr int kDoubleClick = 2;
 
 /// A view narrower than a section's least width has no columns there, and items of no limited
@@ -31,12 +25,12 @@ int toPoints(float length)
     return static_cast<int>(std::fmin(length, static_cast<float>(QWIDGETSIZE_MAX)));
 }
 
-float itemWidthInSection(float width, const SectionedCollectionView::LayoutMetric& header)
+float itemWidthInSection(float width, const CollectionSection& section)
 {
-    const float columns
-        = std::min(std::floor(width / header.minWidth), static_cast<float>(header.count));
+    const float columns = std::min(
+        std::floor(width / section.minimumWidth), static_cast<float>(section.items.size()));
     const float itemWidth = std::floor(width / columns);
-    return header.maxWidth > 0 ? std::fmin(itemWidth, header.maxWidth) : itemWidth;
+    return section.maximumWidth > 0 ? std::fmin(itemWidth, section.maximumWidth) : itemWidth;
 }
 
 bool movesSelection(int key)
@@ -51,7 +45,6 @@ bool movesSelection(int key)
 SectionedCollectionView::SectionedCollectionView(QWidget* parent)
     : QWidget(parent)
 {
-    m_layoutMetrics.reserve(kUsualCount);
     setFocusPolicy(Qt::StrongFocus);
     if (parent != nullptr) {
         parent->installEventFilter(this);
@@ -60,75 +53,54 @@ SectionedCollectionView::SectionedCollectionView(QWidget* parent)
 
 SectionedCollectionView::~SectionedCollectionView() = default;
 
-void SectionedCollectionView::reloadData()
+void SectionedCollectionView::setSections(std::vector<CollectionSection> sections)
 {
-    clearSelection();
-    m_layoutMetrics.clear();
-    m_rightEdge.reset();
-    const int sections = m_dataSource != nullptr ? m_dataSource->numberOfSections() : 0;
-    for (int section = 0; section < sections; ++section) {
-        addSection(section);
+    m_selected = {};
+    m_sections = std::move(sections);
+    const auto takeIn = [this](QWidget& view) {
+        view.setParent(this);
+        view.show();
+    };
+    for (const CollectionSection& section : m_sections) {
+        takeIn(*section.header);
+        for (const auto& item : section.items) {
+            takeIn(*item);
+        }
     }
-    // The last of the views, as wide as a point, keeps its distance to the right edge.
-    m_rightEdge = std::make_unique<QWidget>(this);
-    m_rightEdge->setGeometry(0, 0, 1, 1);
     updateLayout();
-}
-
-void SectionedCollectionView::addSection(int section)
-{
-    LayoutMetric header;
-    header.count = m_dataSource->numberOfViewsInSection(section);
-    header.minWidth = static_cast<float>(m_dataSource->minimumWidthInSection(section));
-    header.maxWidth = static_cast<float>(m_dataSource->maximumWidthInSection(section));
-    const int count = header.count;
-    addView(m_dataSource->headerForSection(section), std::move(header));
-    for (int index = 0; index < count; ++index) {
-        LayoutMetric item;
-        item.type = LayoutMetric::Type::View;
-        item.final = index == count - 1;
-        addView(m_dataSource->viewForSection(section, index), std::move(item));
-    }
-}
-
-void SectionedCollectionView::addView(std::unique_ptr<QWidget> view, LayoutMetric metric)
-{
-    view->setParent(this);
-    view->show();
-    metric.view = std::move(view);
-    m_layoutMetrics.push_back(std::move(metric));
 }
 
 void SectionedCollectionView::updateLayout()
 {
-    const auto width = static_cast<float>(this->width());
-    float y = 0;
+    int height = 0;
+    for (const CollectionSection& section : m_sections) {
+        height = placeSection(section, height);
+    }
+    if (this->height() != height) {
+        resize(parentWidget() != nullptr ? parentWidget()->width() : width(), height);
+    }
+}
+
+/// Returns where the section ends.
+int SectionedCollectionView::placeSection(const CollectionSection& section, int top) const
+{
+    QWidget& header = *section.header;
+    int y = top + header.height();
+    header.setGeometry(0, top, width(), header.height());
+    const auto rowWidth = static_cast<float>(width());
+    const float itemWidth = itemWidthInSection(rowWidth, section);
+    // In single precision, how many fit in a row may be another number than in double precision.
     float x = 0;
-    float itemWidth = 0;
-    for (const LayoutMetric& metric : m_layoutMetrics) {
-        QWidget& view = *metric.view;
-        const auto height = static_cast<float>(view.height());
-        if (metric.type == LayoutMetric::Type::Header) {
-            view.setGeometry(0, toPoints(y), this->width(), view.height());
-            y += height;
-            itemWidth = itemWidthInSection(width, metric);
-            x = 0;
-            continue;
-        }
-        view.setGeometry(toPoints(x), toPoints(y), toPoints(itemWidth), view.height());
-        if (metric.final) {
-            y += height;
-            continue;
-        }
+    for (const auto& item : section.items) {
+        const int height = item->height();
+        item->setGeometry(toPoints(x), y, toPoints(itemWidth), height);
         x += itemWidth;
-        if (x + itemWidth > width) {
+        if (item == section.items.back() || x + itemWidth > rowWidth) {
             y += height;
             x = 0;
         }
     }
-    if (height() != toPoints(std::floor(y))) {
-        resize(parentWidget() != nullptr ? parentWidget()->width() : this->width(), toPoints(y));
-    }
+    return y;
 }
 
 void SectionedCollectionView::selectItem(int section, int index)
@@ -142,18 +114,11 @@ void SectionedCollectionView::selectItem(int section, int index)
 
 void SectionedCollectionView::deselectAll()
 {
-    if (m_selectedView == nullptr || m_delegate == nullptr || !m_delegate->didDeselectView) {
+    if (m_selected.view == nullptr || !m_handlers.didDeselectView) {
         return;
     }
-    m_delegate->didDeselectView(*m_selectedView, m_selectedSection, m_selectedIndex);
-    clearSelection();
-}
-
-void SectionedCollectionView::clearSelection()
-{
-    m_selectedView = nullptr;
-    m_selectedSection = -1;
-    m_selectedIndex = -1;
+    m_handlers.didDeselectView(*m_selected.view, m_selected.section, m_selected.index);
+    m_selected = {};
 }
 
 void SectionedCollectionView::markNextForKeys(CollectionItemView* view)
@@ -171,7 +136,7 @@ void SectionedCollectionView::focusInEvent(QFocusEvent* event)
 {
     const bool isByKeys
         = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
-    if (isByKeys && m_enabled && m_selectedView == nullptr) {
+    if (isByKeys && m_isInteractive && m_selected.view == nullptr) {
         markNextForKeys(placeForKey(Qt::Key_Home).view);
     }
     QWidget::focusInEvent(event);
@@ -183,12 +148,8 @@ void SectionedCollectionView::focusOutEvent(QFocusEvent* event)
     QWidget::focusOutEvent(event);
 }
 
-void SectionedCollectionView::resizeEvent(QResizeEvent* event)
+void SectionedCollectionView::resizeEvent(QResizeEvent* /*event*/)
 {
-    if (m_rightEdge != nullptr && event->oldSize().isValid()) {
-        const int wider = event->size().width() - event->oldSize().width();
-        m_rightEdge->move(m_rightEdge->x() + wider, m_rightEdge->y());
-    }
     updateLayout();
     // The scroll area may be in the middle of taking in an earlier size of this view, whose scroll
     // range it would then keep.
@@ -229,14 +190,14 @@ void SectionedCollectionView::mouseDoubleClickEvent(QMouseEvent* event)
 
 void SectionedCollectionView::mouseDown(QMouseEvent& event, int clickCount)
 {
-    if (!m_enabled || event.button() != Qt::LeftButton) {
+    if (!m_isInteractive || event.button() != Qt::LeftButton) {
         return;
     }
     for (const Place& place : places()) {
         if (!place.view->geometry().contains(event.position().toPoint())) {
             continue;
         }
-        if (place.view->disabled()) {
+        if (place.view->unavailable()) {
             break;
         }
         select(place, clickCount);
@@ -245,40 +206,32 @@ void SectionedCollectionView::mouseDown(QMouseEvent& event, int clickCount)
 
 void SectionedCollectionView::select(const Place& place, int clickCount)
 {
-    if (m_delegate == nullptr) {
-        return;
-    }
-    if (m_selectedView != nullptr && m_delegate->didDeselectView) {
-        m_delegate->didDeselectView(*m_selectedView, m_selectedSection, m_selectedIndex);
+    if (m_selected.view != nullptr && m_handlers.didDeselectView) {
+        m_handlers.didDeselectView(*m_selected.view, m_selected.section, m_selected.index);
     }
     // Who is not told of a selection gets no double clicks either.
-    if (!m_delegate->didSelectView) {
+    if (!m_handlers.didSelectView) {
         return;
     }
     markNextForKeys(nullptr);
-    m_selectedView = place.view;
-    m_selectedSection = place.section;
-    m_selectedIndex = place.index;
+    m_selected = place;
     if (clickCount < kDoubleClick) {
-        m_delegate->didSelectView(*place.view, place.section, place.index);
-    } else if (m_delegate->didDoubleClickView) {
-        m_delegate->didDoubleClickView(*place.view, place.section, place.index);
+        m_handlers.didSelectView(*place.view, place.section, place.index);
+    } else if (m_handlers.didDoubleClickView) {
+        m_handlers.didDoubleClickView(*place.view, place.section, place.index);
     }
 }
 
 std::vector<SectionedCollectionView::Place> SectionedCollectionView::places() const
 {
     std::vector<Place> result;
-    int section = -1;
-    int index = -1;
-    for (const LayoutMetric& metric : m_layoutMetrics) {
-        if (metric.type == LayoutMetric::Type::Header) {
-            ++section;
-            index = -1;
-            continue;
+    int section = 0;
+    for (const CollectionSection& shown : m_sections) {
+        int index = 0;
+        for (const auto& item : shown.items) {
+            result.push_back({item.get(), section, index++});
         }
-        ++index;
-        result.push_back({qobject_cast<CollectionItemView*>(metric.view.get()), section, index});
+        ++section;
     }
     return result;
 }
@@ -286,14 +239,14 @@ std::vector<SectionedCollectionView::Place> SectionedCollectionView::places() co
 std::vector<SectionedCollectionView::Place> SectionedCollectionView::openPlaces() const
 {
     std::vector<Place> result = places();
-    std::erase_if(result, [](const Place& place) { return place.view->disabled(); });
+    std::erase_if(result, [](const Place& place) { return place.view->unavailable(); });
     return result;
 }
 
 SectionedCollectionView::Place SectionedCollectionView::placeForKey(int key) const
 {
     const std::vector<Place> open = openPlaces();
-    const auto selected = std::ranges::find(open, m_selectedView, &Place::view);
+    const auto selected = std::ranges::find(open, m_selected.view, &Place::view);
     if (open.empty()) {
         return {};
     }
@@ -333,13 +286,13 @@ SectionedCollectionView::Place SectionedCollectionView::nearestInNextRow(
 
 void SectionedCollectionView::keyPressEvent(QKeyEvent* event)
 {
-    const bool isHeard = m_enabled && movesSelection(event->key());
+    const bool isHeard = m_isInteractive && movesSelection(event->key());
     const Place place = isHeard ? placeForKey(event->key()) : Place();
     if (place.view == nullptr) {
         QWidget::keyPressEvent(event);
         return;
     }
-    if (place.view != m_selectedView) {
+    if (place.view != m_selected.view) {
         select(place, 1);
     }
     if (m_scrollView != nullptr) {

@@ -1,18 +1,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "HomeScreen/Grid/CollectionSection.h"
+
 #include <QPointer>
 #include <QScrollArea>
 #include <QWidget>
 
-#include <memory>
+#include <functional>
+#include <utility>
 #include <vector>
 
 namespace tessera {
-
-class CollectionItemView;
-class SectionedCollectionViewDataSource;
-struct SectionedCollectionViewDelegate;
 
 /// A grid of item views in sections, one below the other: a header, then the section's items from
 /// left to right in columns of equal width, wrapped into rows. Draws nothing itself; the items
@@ -22,50 +21,46 @@ class SectionedCollectionView final : public QWidget {
     Q_OBJECT
 
 public:
-    /// What is laid out, in the order in which it is shown.
-    struct LayoutMetric {
-        enum class Type { Header, View };
+    using Handler = std::function<void(CollectionItemView& item, int section, int index)>;
 
-        Type type = Type::Header;
-        std::unique_ptr<QWidget> view;
-        int count = 0; ///< of a header: how many items its section has
-        float minWidth = 0; ///< of a header: of its section's items
-        float maxWidth = 0;
-        bool final = false; ///< of an item: it is the last of its section
+    /// What the user's choices lead to; sections and indices count from 0. Each may be left empty.
+    struct Handlers {
+        Handler didSelectView; ///< a single click; without it nothing can be selected
+        /// The selected item is selected no more, or clicked again.
+        Handler didDeselectView;
+        Handler didDoubleClickView; ///< a click with a click count of 2 or more
     };
 
     explicit SectionedCollectionView(QWidget* parent = nullptr);
     ~SectionedCollectionView() override;
 
-    /// Neither is owned; null for none. A new data source shows with the next reloadData().
-    void setDataSource(SectionedCollectionViewDataSource* dataSource) { m_dataSource = dataSource; }
-    void setDelegate(const SectionedCollectionViewDelegate* delegate) { m_delegate = delegate; }
+    /// Shows these sections in the place of those before. Nothing is selected then, and no handler
+    /// is told so.
+    void setSections(std::vector<CollectionSection> sections);
+    const std::vector<CollectionSection>& sections() const { return m_sections; }
 
-    const std::vector<LayoutMetric>& layoutMetrics() const { return m_layoutMetrics; }
+    void setHandlers(Handlers handlers) { m_handlers = std::move(handlers); }
 
-    CollectionItemView* selectedView() const { return m_selectedView; }
-    int selectedSection() const { return m_selectedSection; } ///< -1: nothing is selected
-    int selectedIndex() const { return m_selectedIndex; } ///< -1: nothing is selected
+    CollectionItemView* selectedView() const { return m_selected.view; }
+    int selectedSection() const { return m_selected.section; } ///< -1: nothing is selected
+    int selectedIndex() const { return m_selected.index; } ///< -1: nothing is selected
 
     /// The scroll area around it, where items selected by a key are scrolled into sight.
     QScrollArea* scrollView() const { return m_scrollView; }
     void setScrollView(QScrollArea* scrollView) { m_scrollView = scrollView; }
 
-    /// Whether clicks and keys are heard. Not QWidget's own flag: the item views are not told.
-    bool enabled() const { return m_enabled; }
-    void setEnabled(bool enabled) { m_enabled = enabled; }
-
-    /// Makes all views afresh. Nothing is selected then, and the delegate is not told so.
-    void reloadData();
+    /// Whether clicks and keys are heard. The item views look the same when they are not.
+    bool isInteractive() const { return m_isInteractive; }
+    void setInteractive(bool isInteractive) { m_isInteractive = isInteractive; }
 
     /// Places the views in the present width.
     void updateLayout();
 
-    /// Selects an item as a click on it would; nothing when there is none or it is disabled.
+    /// Selects an item as a click on it would; nothing when there is none or it is
+    /// unavailable.
     void selectItem(int section, int index);
 
-    /// Tells the delegate and then forgets the selection; keeps it when the delegate does not
-    /// answer that message.
+    /// Forgets the selection after telling so; keeps it where there is no handler to tell.
     void deselectAll();
 
 protected:
@@ -79,7 +74,7 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
-    /// Where an item stands in the data source.
+    /// An item and where it stands.
     struct Place {
         CollectionItemView* view = nullptr;
         int section = -1;
@@ -87,9 +82,7 @@ private:
     };
 
     void mouseDown(QMouseEvent& event, int clickCount);
-    void addSection(int section);
-    void addView(std::unique_ptr<QWidget> view, LayoutMetric metric);
-    void clearSelection();
+    int placeSection(const CollectionSection& section, int top) const;
     void markNextForKeys(CollectionItemView* view);
     void select(const Place& place, int clickCount);
     std::vector<Place> places() const;
@@ -98,16 +91,12 @@ private:
     Place placeForKey(int key) const;
     static Place nearestInNextRow(const std::vector<Place>& open, const Place& from, int downward);
 
-    SectionedCollectionViewDataSource* m_dataSource = nullptr;
-    const SectionedCollectionViewDelegate* m_delegate = nullptr;
-    std::vector<LayoutMetric> m_layoutMetrics;
-    std::unique_ptr<QWidget> m_rightEdge;
-    CollectionItemView* m_selectedView = nullptr;
+    std::vector<CollectionSection> m_sections;
+    Handlers m_handlers;
+    Place m_selected;
     QPointer<CollectionItemView> m_nextForKeys;
-    int m_selectedSection = -1;
-    int m_selectedIndex = -1;
     QPointer<QScrollArea> m_scrollView;
-    bool m_enabled = true;
+    bool m_isInteractive = true;
 };
 
 } // namespace tessera

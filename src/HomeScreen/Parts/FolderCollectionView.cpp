@@ -12,7 +12,7 @@ namespace tessera {
 
 namespace {
 
-constexpr double kDisabledAlpha = 0.6;
+constexpr double kUnavailableAlpha = 0.6;
 
 } // namespace
 
@@ -54,7 +54,7 @@ void FolderCollectionView::updateColors()
 
 void FolderCollectionView::updateAlphaValue()
 {
-    setAlphaValue(disabled() ? kDisabledAlpha : 1.0);
+    setAlphaValue(unavailable() ? kUnavailableAlpha : 1.0);
 }
 
 } // namespace tessera

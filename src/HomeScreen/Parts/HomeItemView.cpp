@@ -31,9 +31,9 @@ void HomeItemView::tellScreenReaders()
     QAccessible::updateAccessibility(&event);
 }
 
-void HomeItemView::setDisabled(bool disabled)
+void HomeItemView::setUnavailable(bool unavailable)
 {
-    m_disabled = disabled;
+    m_unavailable = unavailable;
     updateAlphaValue();
     update();
 }

@@ -21,11 +21,11 @@ public:
     const Url& url() const { return m_url; }
 
     bool selected() const { return m_selected; }
-    void setSelected(bool selected);
+    void setSelected(bool selected) override;
 
-    /// Not QWidget's own flag: the view keeps its colours and only becomes paler.
-    bool disabled() const override { return m_disabled; }
-    void setDisabled(bool disabled);
+    /// An unavailable item keeps its colours and only becomes paler.
+    bool unavailable() const override { return m_unavailable; }
+    void setUnavailable(bool unavailable);
 
     /// Holds the icon.
     virtual QLabel& imageView() const = 0;
@@ -57,7 +57,7 @@ private:
 
     Url m_url;
     bool m_selected = false;
-    bool m_disabled = false;
+    bool m_unavailable = false;
 };
 
 } // namespace tessera

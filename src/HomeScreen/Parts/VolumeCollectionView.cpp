@@ -17,7 +17,7 @@ namespace tessera {
 
 namespace {
 
-constexpr double kDisabledDiskAlpha = 0.7;
+constexpr double kUnavailableDiskAlpha = 0.7;
 
 float filledShare(const FileSystemSizes& sizes)
 {
@@ -99,9 +99,9 @@ void VolumeCollectionView::updateColors()
 
 void VolumeCollectionView::updateAlphaValue()
 {
-    // A volume that was disabled once stays pale, unlike a folder.
-    if (disabled()) {
-        setAlphaValue(kDisabledDiskAlpha);
+    // A volume that was unavailable once stays pale, unlike a folder.
+    if (unavailable()) {
+        setAlphaValue(kUnavailableDiskAlpha);
     }
 }
 

@@ -3,8 +3,7 @@
 
 #include "HomeScreen/Grid/CollectionItemView.h"
 #include "HomeScreen/Grid/SectionedCollectionView.h"
-#include "HomeScreen/Grid/SectionedCollectionViewDataSource.h"
-#include "HomeScreen/Grid/SectionedCollectionViewDelegate.h"
+#include "ShownViews.h"
 #include "support/BecomesActive.h"
 
 #include <QTest>
@@ -13,7 +12,6 @@
 
 #include <memory>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace tessera::test {
@@ -23,9 +21,10 @@ inline constexpr int kItemHeight = 72;
 
 class PlainItem final : public CollectionItemView {
 public:
-    bool disabled() const override { return isDisabled; }
+    bool unavailable() const override { return isUnavailable; }
+    void setSelected(bool /*selected*/) override { }
 
-    bool isDisabled = false;
+    bool isUnavailable = false;
 };
 
 struct Section {
@@ -34,53 +33,42 @@ struct Section {
     double maximumWidth = 0;
 };
 
-class FixedSections final : public SectionedCollectionViewDataSource {
-public:
-    explicit FixedSections(std::vector<Section> given)
-        : sections(std::move(given))
-    {
+inline CollectionSection madeSection(const Section& section)
+{
+    CollectionSection result;
+    result.header = std::make_unique<QWidget>();
+    result.header->resize(1, kHeaderHeight);
+    for (int index = 0; index < section.count; ++index) {
+        result.items.push_back(std::make_unique<PlainItem>());
+        result.items.back()->resize(1, kItemHeight);
     }
+    result.minimumWidth = static_cast<float>(section.minimumWidth);
+    result.maximumWidth = static_cast<float>(section.maximumWidth);
+    return result;
+}
 
-    int numberOfSections() const override { return static_cast<int>(sections.size()); }
-    int numberOfViewsInSection(int section) const override { return at(section).count; }
-    double minimumWidthInSection(int section) const override { return at(section).minimumWidth; }
-    double maximumWidthInSection(int section) const override { return at(section).maximumWidth; }
-
-    std::unique_ptr<QWidget> headerForSection(int /*section*/) override
-    {
-        auto header = std::make_unique<QWidget>();
-        header->resize(1, kHeaderHeight);
-        return header;
+inline std::vector<CollectionSection> made(const std::vector<Section>& sections)
+{
+    std::vector<CollectionSection> result;
+    for (const Section& section : sections) {
+        result.push_back(madeSection(section));
     }
-
-    std::unique_ptr<CollectionItemView> viewForSection(int /*section*/, int /*index*/) override
-    {
-        auto item = std::make_unique<PlainItem>();
-        item->resize(1, kItemHeight);
-        return item;
-    }
-
-    std::vector<Section> sections;
-
-private:
-    const Section& at(int section) const { return sections.at(static_cast<std::size_t>(section)); }
-};
+    return result;
+}
 
 inline std::string toText(const std::string& what, int section, int index)
 {
     return what + ' ' + std::to_string(section) + '.' + std::to_string(index);
 }
 
-/// A grid of plain items in surroundings of a given width, and what it tells its delegate.
+/// A grid of plain items in surroundings of a given width, and what it tells.
 class SectionedCollectionViewFixture : public testing::Test {
 protected:
-    void show(std::vector<Section> sections, int width)
+    void show(const std::vector<Section>& sections, int width)
     {
-        dataSource.sections = std::move(sections);
         surroundings.resize(width, 1000);
-        view.setDataSource(&dataSource);
-        view.setDelegate(&delegate);
-        view.reloadData();
+        view.setHandlers(handlers);
+        view.setSections(made(sections));
         surroundings.show();
         told.clear();
     }
@@ -92,35 +80,36 @@ protected:
         view.setFocus(reason);
     }
 
-    SectionedCollectionViewDelegate::Message tell(const std::string& what)
+    SectionedCollectionView::Handler tell(const std::string& what)
     {
         return [this, what](CollectionItemView&, int section, int index) {
             told.push_back(toText(what, section, index));
         };
     }
 
-    PlainItem& item(std::size_t metric)
+    /// By its place among all headers and items.
+    PlainItem& item(std::size_t place)
     {
-        return dynamic_cast<PlainItem&>(*view.layoutMetrics().at(metric).view);
+        return dynamic_cast<PlainItem&>(*shownViews(view).at(place));
     }
 
     std::vector<QRect> frames() const
     {
         std::vector<QRect> result;
-        for (const auto& metric : view.layoutMetrics()) {
-            result.push_back(metric.view->geometry());
+        for (const QWidget* shown : shownViews(view)) {
+            result.push_back(shown->geometry());
         }
         return result;
     }
 
-    void click(std::size_t metric)
+    void click(std::size_t place)
     {
-        QTest::mouseClick(&view, Qt::LeftButton, {}, item(metric).geometry().center());
+        QTest::mouseClick(&view, Qt::LeftButton, {}, item(place).geometry().center());
     }
 
-    void doubleClick(std::size_t metric)
+    void doubleClick(std::size_t place)
     {
-        QTest::mouseDClick(&view, Qt::LeftButton, {}, item(metric).geometry().center());
+        QTest::mouseDClick(&view, Qt::LeftButton, {}, item(place).geometry().center());
     }
 
     std::string selection() const
@@ -130,9 +119,8 @@ protected:
 
     QWidget surroundings;
     SectionedCollectionView view{&surroundings};
-    FixedSections dataSource{{}};
     std::vector<std::string> told;
-    SectionedCollectionViewDelegate delegate{tell("select"), tell("deselect"), tell("double")};
+    SectionedCollectionView::Handlers handlers{tell("select"), tell("deselect"), tell("double")};
 };
 
 } // namespace tessera::test

@@ -56,19 +56,19 @@ TEST_F(SectionedCollectionViewKeysTest, HomeAndEndGoToTheFirstAndTheLast)
     EXPECT_EQ(selection(), "selected 0.0");
 }
 
-TEST_F(SectionedCollectionViewKeysTest, KeysPassOverDisabledItems)
+TEST_F(SectionedCollectionViewKeysTest, KeysPassOverUnavailableItems)
 {
     show({{3, 100, 100}}, 450);
     click(1);
-    item(2).isDisabled = true;
+    item(2).isUnavailable = true;
     QTest::keyClick(&view, Qt::Key_Right);
     EXPECT_EQ(selection(), "selected 0.2");
 }
 
-TEST_F(SectionedCollectionViewKeysTest, WhileDisabledKeysChangeNothing)
+TEST_F(SectionedCollectionViewKeysTest, WhileNotInteractiveKeysChangeNothing)
 {
     show({{2, 200, 400}}, 450);
-    view.setEnabled(false);
+    view.setInteractive(false);
     QTest::keyClick(&view, Qt::Key_Down);
     EXPECT_THAT(told, IsEmpty());
 }
@@ -112,7 +112,7 @@ TEST_F(SectionedCollectionViewKeysTest, AMarkedItemMayGo)
 {
     show({{2, 200, 400}}, 450);
     focus(Qt::TabFocusReason);
-    view.reloadData();
+    view.setSections(test::made({{2, 200, 400}}));
     QTest::keyClick(&view, Qt::Key_Right);
     EXPECT_EQ(view.selectedView(), &item(1));
 }

@@ -96,7 +96,7 @@ TEST_F(SectionedCollectionViewTest, PositionsAreSinglePrecisionNumbers)
 {
     // In double precision 25 times 30.4 would be 760, and a 25th item would fit.
     show({{26, 31, 30.4}}, 760);
-    EXPECT_EQ(view.layoutMetrics().front().maxWidth, 30.4F);
+    EXPECT_EQ(view.sections().front().maximumWidth, 30.4F);
     EXPECT_EQ(frames().at(24), QRect(699, 30, 30, 72));
     EXPECT_EQ(frames().at(25), QRect(0, 102, 30, 72));
 }
@@ -123,10 +123,8 @@ TEST_F(SectionedCollectionViewTest, AScrollAreaScrollsOverTheWholeContent)
     auto grid = std::make_unique<SectionedCollectionView>();
     SectionedCollectionView& scrolled = *grid;
     area.setWidget(grid.release());
-    dataSource.sections = {{5, 200, 200}};
     scrolled.setScrollView(&area);
-    scrolled.setDataSource(&dataSource);
-    scrolled.reloadData();
+    scrolled.setSections(test::made({{5, 200, 200}}));
     area.show();
     for (const int width : {450, 800, 300, 1200}) {
         area.resize(width, 100);
@@ -137,25 +135,15 @@ TEST_F(SectionedCollectionViewTest, AScrollAreaScrollsOverTheWholeContent)
     }
 }
 
-TEST_F(SectionedCollectionViewTest, TheMetricsSayWhatIsShownInItsOrder)
+TEST_F(SectionedCollectionViewTest, TheSectionsSayWhatIsShownInItsOrder)
 {
     show({{2, 200, 400}}, 450);
-    const auto& metrics = view.layoutMetrics();
-    ASSERT_EQ(metrics.size(), 3U);
-    EXPECT_EQ(metrics[0].type, SectionedCollectionView::LayoutMetric::Type::Header);
-    EXPECT_EQ(metrics[0].count, 2);
-    EXPECT_EQ(metrics[1].type, SectionedCollectionView::LayoutMetric::Type::View);
-    EXPECT_FALSE(metrics[1].final);
-    EXPECT_TRUE(metrics[2].final);
-}
-
-TEST_F(SectionedCollectionViewTest, TheLastViewKeepsItsDistanceToTheRightEdge)
-{
-    show({{1, 200, 400}}, 450);
-    const auto* const last = qobject_cast<QWidget*>(view.children().last());
-    EXPECT_EQ(last->geometry(), QRect(0, 0, 1, 1));
-    surroundings.resize(470, 1000);
-    EXPECT_EQ(last->geometry(), QRect(20, 0, 1, 1));
+    ASSERT_EQ(view.sections().size(), 1U);
+    const CollectionSection& section = view.sections().front();
+    ASSERT_EQ(section.items.size(), 2U);
+    EXPECT_EQ(section.header->geometry(), frames().at(0));
+    EXPECT_EQ(section.items[0].get(), &item(1));
+    EXPECT_EQ(section.items[1].get(), &item(2));
 }
 
 TEST_F(SectionedCollectionViewTest, AClickSelectsTheItem)
@@ -194,12 +182,12 @@ TEST_F(SectionedCollectionViewTest, ADoubleClickSelectsDeselectsAndTellsOfItself
     EXPECT_EQ(selection(), "selected 0.1");
 }
 
-TEST_F(SectionedCollectionViewTest, AClickOnADisabledItemChangesNothing)
+TEST_F(SectionedCollectionViewTest, AClickOnAnUnavailableItemChangesNothing)
 {
     show({{2, 200, 400}}, 450);
     click(1);
     told.clear();
-    item(2).isDisabled = true;
+    item(2).isUnavailable = true;
     click(2);
     EXPECT_THAT(told, IsEmpty());
     EXPECT_EQ(selection(), "selected 0.0");
@@ -222,54 +210,56 @@ TEST_F(SectionedCollectionViewTest, OtherButtonsChangeNothing)
     EXPECT_EQ(selection(), "selected -1.-1");
 }
 
-TEST_F(SectionedCollectionViewTest, WithoutAMessageForSelectionNothingIsSelected)
+TEST_F(SectionedCollectionViewTest, WithoutAHandlerOfSelectionsNothingIsSelected)
 {
     show({{2, 200, 400}}, 450);
-    delegate.didSelectView = nullptr;
+    handlers.didSelectView = nullptr;
+    view.setHandlers(handlers);
     doubleClick(1);
     EXPECT_THAT(told, IsEmpty());
     EXPECT_EQ(selection(), "selected -1.-1");
 }
 
-TEST_F(SectionedCollectionViewTest, WhileDisabledClicksChangeNothing)
+TEST_F(SectionedCollectionViewTest, WhileNotInteractiveClicksChangeNothing)
 {
     show({{2, 200, 400}}, 450);
     click(1);
     told.clear();
-    view.setEnabled(false);
+    view.setInteractive(false);
     doubleClick(2);
     EXPECT_THAT(told, IsEmpty());
     EXPECT_EQ(selection(), "selected 0.0");
 }
 
-TEST_F(SectionedCollectionViewTest, WhileDisabledItCanBeDeselected)
+TEST_F(SectionedCollectionViewTest, WhileNotInteractiveItCanBeDeselected)
 {
     show({{2, 200, 400}}, 450);
     click(1);
     told.clear();
-    view.setEnabled(false);
+    view.setInteractive(false);
     view.deselectAll();
     EXPECT_THAT(told, ElementsAre("deselect 0.0"));
     EXPECT_EQ(selection(), "selected -1.-1");
     EXPECT_EQ(view.selectedView(), nullptr);
 }
 
-TEST_F(SectionedCollectionViewTest, DisablingItLeavesTheItemViewsAsTheyAre)
+TEST_F(SectionedCollectionViewTest, NotInteractiveItLeavesTheItemViewsAsTheyAre)
 {
     show({{1, 200, 400}}, 450);
-    view.setEnabled(false);
-    EXPECT_FALSE(view.enabled());
+    view.setInteractive(false);
+    EXPECT_FALSE(view.isInteractive());
     EXPECT_TRUE(item(1).isEnabled());
 }
 
-TEST_F(SectionedCollectionViewTest, KeepsItsSelectionFromADelegateThatIsNotToldOfItsEnd)
+TEST_F(SectionedCollectionViewTest, KeepsItsSelectionWhereNobodyIsToldOfItsEnd)
 {
     show({{2, 200, 400}}, 450);
     click(1);
-    delegate.didDeselectView = nullptr;
+    handlers.didDeselectView = nullptr;
+    view.setHandlers(handlers);
     view.deselectAll();
     EXPECT_EQ(selection(), "selected 0.0");
-    view.setDelegate(nullptr);
+    view.setHandlers({});
     view.deselectAll();
     EXPECT_EQ(selection(), "selected 0.0");
 }
@@ -279,7 +269,7 @@ TEST_F(SectionedCollectionViewTest, LoadingAfreshForgetsTheSelectionSilently)
     show({{2, 200, 400}}, 450);
     click(1);
     told.clear();
-    view.reloadData();
+    view.setSections(test::made({{2, 200, 400}}));
     EXPECT_THAT(told, IsEmpty());
     EXPECT_EQ(selection(), "selected -1.-1");
 }
@@ -287,9 +277,8 @@ TEST_F(SectionedCollectionViewTest, LoadingAfreshForgetsTheSelectionSilently)
 TEST_F(SectionedCollectionViewTest, LoadingAfreshReplacesTheViews)
 {
     show({{2, 200, 400}}, 450);
-    dataSource.sections = {{1, 200, 400}};
-    view.reloadData();
-    EXPECT_EQ(view.layoutMetrics().size(), 2U);
+    view.setSections(test::made({{1, 200, 400}}));
+    EXPECT_EQ(frames().size(), 2U);
     EXPECT_EQ(view.findChildren<test::PlainItem*>().size(), 1);
     EXPECT_EQ(view.height(), 30 + 72);
 }
@@ -303,10 +292,10 @@ TEST_F(SectionedCollectionViewTest, AnItemCanBeSelectedWithoutAClick)
     EXPECT_EQ(view.selectedView(), &item(4));
 }
 
-TEST_F(SectionedCollectionViewTest, ADisabledOrMissingItemIsNotSelected)
+TEST_F(SectionedCollectionViewTest, AnUnavailableOrMissingItemIsNotSelected)
 {
     show({{2, 200, 400}}, 450);
-    item(2).isDisabled = true;
+    item(2).isUnavailable = true;
     view.selectItem(0, 1);
     view.selectItem(0, 2);
     view.selectItem(1, 0);
@@ -314,12 +303,11 @@ TEST_F(SectionedCollectionViewTest, ADisabledOrMissingItemIsNotSelected)
     EXPECT_EQ(view.selectedView(), nullptr);
 }
 
-TEST_F(SectionedCollectionViewTest, WithoutADataSourceItIsEmpty)
+TEST_F(SectionedCollectionViewTest, WithoutSectionsItIsEmpty)
 {
     show({{2, 200, 400}}, 450);
-    view.setDataSource(nullptr);
-    view.reloadData();
-    EXPECT_THAT(view.layoutMetrics(), IsEmpty());
+    view.setSections({});
+    EXPECT_THAT(view.sections(), IsEmpty());
     EXPECT_EQ(view.height(), 0);
 }
 

@@ -147,21 +147,21 @@ TEST_F(HomeItemViewsTest, AFolderWithoutANameKeepsItsLabel)
     EXPECT_EQ(folder->url(), Url("/home/eve/Other", true));
 }
 
-TEST_F(HomeItemViewsTest, ADisabledVolumeBecomesPaleAndStaysSo)
+TEST_F(HomeItemViewsTest, AnUnavailableVolumeBecomesPaleAndStaysSo)
 {
-    volume->setDisabled(true);
-    EXPECT_TRUE(volume->disabled());
+    volume->setUnavailable(true);
+    EXPECT_TRUE(volume->unavailable());
     EXPECT_DOUBLE_EQ(volume->alphaValue(), 0.7);
-    volume->setDisabled(false);
-    EXPECT_FALSE(volume->disabled());
+    volume->setUnavailable(false);
+    EXPECT_FALSE(volume->unavailable());
     EXPECT_DOUBLE_EQ(volume->alphaValue(), 0.7);
 }
 
-TEST_F(HomeItemViewsTest, ADisabledFolderIsPaleUntilItIsEnabled)
+TEST_F(HomeItemViewsTest, AnUnavailableFolderIsPaleUntilItIsAvailable)
 {
-    folder->setDisabled(true);
+    folder->setUnavailable(true);
     EXPECT_DOUBLE_EQ(folder->alphaValue(), 0.6);
-    folder->setDisabled(false);
+    folder->setUnavailable(false);
     EXPECT_DOUBLE_EQ(folder->alphaValue(), 1.0);
 }
 
