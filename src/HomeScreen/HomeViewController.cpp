@@ -7,8 +7,8 @@
 #include "HomeScreen/Grid/CollectionHeaderView.h"
 #include "HomeScreen/Grid/SectionedCollectionView.h"
 #include "HomeScreen/Parts/FolderCollectionView.h"
-#include "HomeScreen/Parts/HiddenButtonCell.h"
 #include "HomeScreen/Parts/HomeItemAccessible.h"
+#include "HomeScreen/Parts/HoverButton.h"
 #include "HomeScreen/Parts/VolumeCollectionView.h"
 #include "HomeScreen/Places/PlaceIcons.h"
 #include "HomeScreen/Places/PlaceNames.h"
@@ -16,7 +16,7 @@
 #include "HomeScreen/Recents/RecentsTableModel.h"
 #include "Model/RootModel.h"
 #include "Widgets/DesktopFont.h"
-#include "Widgets/NonBlockingTextField.h"
+#include "Widgets/PassiveLabel.h"
 #include "ui_HomeView.h"
 
 #include <QGraphicsOpacityEffect>
@@ -100,7 +100,7 @@ HomeViewController::HomeViewController(RootModel& model, const HomeViewServices&
 
 HomeViewController::~HomeViewController() = default;
 
-HiddenButtonCell& HomeViewController::openButton() const
+HoverButton& HomeViewController::openButton() const
 {
     return *m_ui->openButton;
 }

@@ -26,7 +26,7 @@ class HomeView;
 namespace tessera {
 
 class CollectionItemView;
-class HiddenButtonCell;
+class HoverButton;
 class RecentsTableModel;
 class RootModel;
 class SectionedCollectionView;
@@ -50,7 +50,7 @@ public:
     /// before it goes away itself.
     QWidget& view() const { return *m_view; }
 
-    HiddenButtonCell& openButton() const;
+    HoverButton& openButton() const;
     SectionedCollectionView& locationsCollection() const;
     QListView& recentsTable() const;
     QPushButton& scanButton() const;

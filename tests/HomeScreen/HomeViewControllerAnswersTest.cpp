@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "HomeViewControllerFixture.h"
 #include "Widgets/Bar.h"
-#include "Widgets/NonBlockingTextField.h"
+#include "Widgets/PassiveLabel.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

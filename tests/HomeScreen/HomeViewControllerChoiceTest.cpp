@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "HomeScreen/Parts/HiddenButtonCell.h"
+#include "HomeScreen/Parts/HoverButton.h"
 #include "HomeViewControllerFixture.h"
 #include "support/BecomesActive.h"
 

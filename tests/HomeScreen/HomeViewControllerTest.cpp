@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "HomeScreen/Grid/CollectionHeaderView.h"
-#include "HomeScreen/Parts/HiddenButtonCell.h"
+#include "HomeScreen/Parts/HoverButton.h"
 #include "HomeScreen/Recents/RecentsTableCell.h"
 #include "HomeViewControllerFixture.h"
 #include "Widgets/Bar.h"
-#include "Widgets/NonBlockingTextField.h"
+#include "Widgets/PassiveLabel.h"
 
 #include <QApplication>
 #include <QImage>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "HomeScreen/Grid/CollectionHeaderView.h"
 
-#include "Widgets/NonBlockingTextField.h"
+#include "Widgets/PassiveLabel.h"
 #include "ui_CollectionHeaderView.h"
 
 namespace tessera {
@@ -15,7 +15,7 @@ CollectionHeaderView::CollectionHeaderView(QWidget* parent)
 
 CollectionHeaderView::~CollectionHeaderView() = default;
 
-NonBlockingTextField& CollectionHeaderView::nameLabel() const
+PassiveLabel& CollectionHeaderView::nameLabel() const
 {
     return *m_ui->nameLabel;
 }

@@ -11,7 +11,7 @@ class CollectionHeaderView;
 
 namespace tessera {
 
-class NonBlockingTextField;
+class PassiveLabel;
 
 /// The title of a section of the home screen's grid.
 class CollectionHeaderView final : public QWidget {
@@ -21,7 +21,7 @@ public:
     explicit CollectionHeaderView(QWidget* parent = nullptr);
     ~CollectionHeaderView() override;
 
-    NonBlockingTextField& nameLabel() const;
+    PassiveLabel& nameLabel() const;
 
 private:
     std::unique_ptr<Ui::CollectionHeaderView> m_ui;

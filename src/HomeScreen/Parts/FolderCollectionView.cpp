@@ -3,7 +3,7 @@
 
 #include "Base/DisplayText.h"
 #include "HomeScreen/Places/PlaceIcons.h"
-#include "Widgets/NonBlockingTextField.h"
+#include "Widgets/PassiveLabel.h"
 #include "ui_FolderCollectionView.h"
 
 #include <QLabel>
@@ -42,7 +42,7 @@ QLabel& FolderCollectionView::imageView() const
     return *m_ui->imageView;
 }
 
-NonBlockingTextField& FolderCollectionView::nameLabel() const
+PassiveLabel& FolderCollectionView::nameLabel() const
 {
     return *m_ui->nameLabel;
 }

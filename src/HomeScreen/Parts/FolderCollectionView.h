@@ -13,7 +13,7 @@ class FolderCollectionView;
 
 namespace tessera {
 
-class NonBlockingTextField;
+class PassiveLabel;
 
 /// A well-known folder on the home screen: its icon above its name.
 class FolderCollectionView final : public HomeItemView {
@@ -27,7 +27,7 @@ public:
     void setUrl(const Url& url, const QIcon& icon, const QString& name);
 
     QLabel& imageView() const override;
-    NonBlockingTextField& nameLabel() const;
+    PassiveLabel& nameLabel() const;
 
 private:
     void updateColors() override;

@@ -6,7 +6,7 @@
 #include "HomeScreen/Places/PlaceIcons.h"
 #include "HomeScreen/Places/PlaceNames.h"
 #include "Widgets/Bar.h"
-#include "Widgets/NonBlockingTextField.h"
+#include "Widgets/PassiveLabel.h"
 #include "ui_VolumeCollectionView.h"
 
 #include <QLabel>
@@ -75,12 +75,12 @@ QLabel& VolumeCollectionView::imageView() const
     return *m_ui->imageView;
 }
 
-NonBlockingTextField& VolumeCollectionView::nameLabel() const
+PassiveLabel& VolumeCollectionView::nameLabel() const
 {
     return *m_ui->nameLabel;
 }
 
-NonBlockingTextField& VolumeCollectionView::spaceLabel() const
+PassiveLabel& VolumeCollectionView::spaceLabel() const
 {
     return *m_ui->spaceLabel;
 }

@@ -16,7 +16,7 @@ class VolumeCollectionView;
 namespace tessera {
 
 class Bar;
-class NonBlockingTextField;
+class PassiveLabel;
 
 /// A mounted volume on the home screen: its icon and name, and how full it is.
 class VolumeCollectionView final : public HomeItemView {
@@ -33,8 +33,8 @@ public:
     void setFileSystemSizes(const std::optional<FileSystemSizes>& sizes);
 
     QLabel& imageView() const override;
-    NonBlockingTextField& nameLabel() const;
-    NonBlockingTextField& spaceLabel() const;
+    PassiveLabel& nameLabel() const;
+    PassiveLabel& spaceLabel() const;
     Bar& spaceBar() const;
 
 private:

@@ -4,7 +4,7 @@
 #include "HomeScreen/Parts/VolumeCollectionView.h"
 #include "Widgets/Bar.h"
 #include "Widgets/ColorHelper.h"
-#include "Widgets/NonBlockingTextField.h"
+#include "Widgets/PassiveLabel.h"
 #include "Widgets/ProgramColors.h"
 #include "support/BecomesActive.h"
 
@@ -210,18 +210,6 @@ TEST_F(HomeItemViewsTest, WhatAKeyWouldSelectHasAnOutline)
     const QImage image = picture(*folder);
     EXPECT_EQ(image.pixelColor(50, 2), colorWithHex(0x2E66C4));
     EXPECT_NE(image.pixelColor(50, 6), colorWithHex(0x2E66C4));
-}
-
-TEST(NonBlockingTextField, NeverTakesTheMouse)
-{
-    EXPECT_TRUE(NonBlockingTextField().testAttribute(Qt::WA_TransparentForMouseEvents));
-}
-
-TEST(NonBlockingTextField, MayBeNarrowerThanItsText)
-{
-    NonBlockingTextField field;
-    field.setText(QStringLiteral("a rather long name"));
-    EXPECT_EQ(field.minimumSizeHint().width(), 0);
 }
 
 /// By the formula of the Web Content Accessibility Guidelines.

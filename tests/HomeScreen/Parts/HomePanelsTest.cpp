@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "HomeScreen/Parts/HiddenButtonCell.h"
+#include "HomeScreen/Parts/HoverButton.h"
 #include "HomeScreen/Recents/RoundHeaderView.h"
 #include "Widgets/ProgramColors.h"
 
@@ -59,14 +59,14 @@ TEST(RoundHeaderView, ItsCornersHaveARadiusOfEight)
     EXPECT_TRUE(isAbout(image.pixelColor(4, 4), QColor(205, 205, 206)));
 }
 
-class HiddenButtonCellTest : public testing::Test {
+class HoverButtonTest : public testing::Test {
 protected:
     QImage shown() { return picture(button, {290, 60}); }
 
-    HiddenButtonCell button;
+    HoverButton button;
 };
 
-TEST_F(HiddenButtonCellTest, DrawsItsBezelFromLightToDarkWithinAnOutline)
+TEST_F(HoverButtonTest, DrawsItsBezelFromLightToDarkWithinAnOutline)
 {
     const QImage image = shown();
     EXPECT_TRUE(isAbout(image.pixelColor(200, 1), QColor(248, 248, 248)));
@@ -76,7 +76,7 @@ TEST_F(HiddenButtonCellTest, DrawsItsBezelFromLightToDarkWithinAnOutline)
     EXPECT_EQ(image.pixelColor(0, 0), QColor(Qt::magenta));
 }
 
-TEST_F(HiddenButtonCellTest, ItsCornersHaveARadiusOfFive)
+TEST_F(HoverButtonTest, ItsCornersHaveARadiusOfFive)
 {
     const QImage image = shown();
     // The arc crosses the diagonal 5 - 5 / sqrt(2), about 1.5, from the corner.
@@ -86,7 +86,7 @@ TEST_F(HiddenButtonCellTest, ItsCornersHaveARadiusOfFive)
     EXPECT_TRUE(isAbout(image.pixelColor(3, 3), QColor(248, 248, 248)));
 }
 
-TEST_F(HiddenButtonCellTest, ItsArrowStandsInAFixedPlaceHoweverLargeItIs)
+TEST_F(HoverButtonTest, ItsArrowStandsInAFixedPlaceHoweverLargeItIs)
 {
     for (const QSize size : {QSize(290, 60), QSize(400, 60)}) {
         const QImage image = picture(button, size);
@@ -103,7 +103,7 @@ TEST_F(HiddenButtonCellTest, ItsArrowStandsInAFixedPlaceHoweverLargeItIs)
     }
 }
 
-TEST_F(HiddenButtonCellTest, HidesItsBezelUntilTheMouseIsInside)
+TEST_F(HoverButtonTest, HidesItsBezelUntilTheMouseIsInside)
 {
     button.setShowsBorderOnlyWhileMouseInside(true);
     EXPECT_EQ(shown().pixelColor(200, 50), QColor(Qt::magenta));
@@ -111,7 +111,7 @@ TEST_F(HiddenButtonCellTest, HidesItsBezelUntilTheMouseIsInside)
     EXPECT_NE(shown().pixelColor(200, 50), QColor(Qt::magenta));
 }
 
-TEST_F(HiddenButtonCellTest, ADisabledOneHidesItsBezelFromTheMouseToo)
+TEST_F(HoverButtonTest, ADisabledOneHidesItsBezelFromTheMouseToo)
 {
     button.setShowsBorderOnlyWhileMouseInside(true);
     button.setAttribute(Qt::WA_UnderMouse);

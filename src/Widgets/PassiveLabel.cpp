@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "Widgets/NonBlockingTextField.h"
+#include "Widgets/PassiveLabel.h"
 
 #include "Widgets/DesktopFont.h"
 
@@ -7,38 +7,38 @@
 
 namespace tessera {
 
-NonBlockingTextField::NonBlockingTextField(QWidget* parent)
+PassiveLabel::PassiveLabel(QWidget* parent)
     : QLabel(parent)
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setTextFormat(Qt::PlainText);
 }
 
-void NonBlockingTextField::setTextPixels(int pixels)
+void PassiveLabel::setTextPixels(int pixels)
 {
     QFont changed = font();
     changed.setPixelSize(withDesktopFont(pixels));
     setFont(changed);
 }
 
-void NonBlockingTextField::setTextColor(const QColor& color)
+void PassiveLabel::setTextColor(const QColor& color)
 {
     QPalette colors = palette();
     colors.setColor(QPalette::WindowText, color);
     setPalette(colors);
 }
 
-QColor NonBlockingTextField::textColor() const
+QColor PassiveLabel::textColor() const
 {
     return palette().color(QPalette::WindowText);
 }
 
-QSize NonBlockingTextField::minimumSizeHint() const
+QSize PassiveLabel::minimumSizeHint() const
 {
     return {0, QLabel::minimumSizeHint().height()};
 }
 
-void NonBlockingTextField::paintEvent(QPaintEvent* /*event*/)
+void PassiveLabel::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     painter.setPen(textColor());

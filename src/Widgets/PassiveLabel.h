@@ -7,12 +7,12 @@ namespace tessera {
 
 /// A label of one line that is laid over other views and never takes the mouse from them. Plain
 /// text, shortened at its end where there is no room for it.
-class NonBlockingTextField final : public QLabel {
+class PassiveLabel final : public QLabel {
     Q_OBJECT
     Q_PROPERTY(int textPixels READ textPixels WRITE setTextPixels)
 
 public:
-    explicit NonBlockingTextField(QWidget* parent = nullptr);
+    explicit PassiveLabel(QWidget* parent = nullptr);
 
     /// The height of the letters; set in the interface file for the usual font of a desktop, and
     /// larger where that font is.

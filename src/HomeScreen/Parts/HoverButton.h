@@ -7,11 +7,11 @@ namespace tessera {
 
 /// A button that draws its own bezel, with an arrow in a fixed place of it, and can hide that
 /// bezel until the mouse is inside.
-class HiddenButtonCell final : public QPushButton {
+class HoverButton final : public QPushButton {
     Q_OBJECT
 
 public:
-    explicit HiddenButtonCell(QWidget* parent = nullptr);
+    explicit HoverButton(QWidget* parent = nullptr);
 
     bool showsBorderOnlyWhileMouseInside() const { return m_showsBorderOnlyWhileMouseInside; }
     void setShowsBorderOnlyWhileMouseInside(bool on);

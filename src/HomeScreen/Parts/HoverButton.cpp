@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "HomeScreen/Parts/HiddenButtonCell.h"
+#include "HomeScreen/Parts/HoverButton.h"
 
 #include "HomeScreen/Parts/HomeColors.h"
 #include "HomeScreen/Places/PlaceIcons.h"
@@ -15,7 +15,7 @@ namespace tessera {
 namespace {
 
 constexpr double kRadius = 5;
-/// In every cell alike, however large it is.
+/// In every button alike, however large it is.
 constexpr QRect kArrowFrame{246, 20, 20, 20};
 constexpr int kIconLeft = 16;
 constexpr int kTextGap = 12;
@@ -26,20 +26,20 @@ constexpr int kPressedFactor = 108;
 
 } // namespace
 
-HiddenButtonCell::HiddenButtonCell(QWidget* parent)
+HoverButton::HoverButton(QWidget* parent)
     : QPushButton(parent)
 {
     // Moving in and out repaints it.
     setAttribute(Qt::WA_Hover);
 }
 
-void HiddenButtonCell::setShowsBorderOnlyWhileMouseInside(bool on)
+void HoverButton::setShowsBorderOnlyWhileMouseInside(bool on)
 {
     m_showsBorderOnlyWhileMouseInside = on;
     update();
 }
 
-void HiddenButtonCell::paintEvent(QPaintEvent* /*event*/)
+void HoverButton::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     const bool isMouseInside = isEnabled() && underMouse();
@@ -55,7 +55,7 @@ void HiddenButtonCell::paintEvent(QPaintEvent* /*event*/)
     }
 }
 
-void HiddenButtonCell::drawBezel(QPainter& painter) const
+void HoverButton::drawBezel(QPainter& painter) const
 {
     HomeColors colors(palette());
     if (isDown()) {
@@ -67,7 +67,7 @@ void HiddenButtonCell::drawBezel(QPainter& painter) const
     imageNamed("gobutton").paint(&painter, kArrowFrame);
 }
 
-void HiddenButtonCell::drawInterior(QPainter& painter) const
+void HoverButton::drawInterior(QPainter& painter) const
 {
     const QSize size = iconSize();
     const QRect iconFrame(QPoint(kIconLeft, (height() - size.height()) / 2), size);
