@@ -85,8 +85,8 @@ void UserSession::planTree()
     plan(
         "hovering over the tree", [this] { m_moves = 0; }, [this] { return hoverOn(); });
     plan("selecting a folder", [] { select(largestFolder()); });
-    plan("zooming in", [] { perform(MainCommand::ZoomIn); });
-    plan("zooming out", [] { perform(MainCommand::ZoomOut); });
+    plan("zooming in", [] { perform(Command::ZoomIn); });
+    plan("zooming out", [] { perform(Command::ZoomOut); });
     for (const int key : {Qt::Key_Down, Qt::Key_Right, Qt::Key_Right, Qt::Key_Up}) {
         plan("moving the selection", [key] { press(key); });
     }
@@ -97,7 +97,7 @@ void UserSession::planTree()
         [this] {
             select(largestFolder());
             m_rescanned = &largestFolder();
-            perform(MainCommand::Rescan);
+            perform(Command::Rescan);
         },
         [this] {
             const auto& children = RootModel::sharedInstance().topFolder()->children();
@@ -109,33 +109,33 @@ void UserSession::planIgnoring()
 {
     plan("ignoring a folder", [] {
         select(largestFolder());
-        perform(MainCommand::Ignore);
+        perform(Command::Ignore);
     });
-    plan("ignoring hidden files", [] { chooseIgnoreEntry(IgnoreMenu::HiddenFilesTag); });
-    plan("ignoring free space", [] { chooseIgnoreEntry(IgnoreMenu::FreeSpaceTag); });
-    plan("ignoring nothing", [] { chooseIgnoreEntry(IgnoreMenu::ResetTag); });
+    plan("ignoring hidden files", [] { chooseIgnoreEntry(IgnoreEntry::HiddenFiles); });
+    plan("ignoring free space", [] { chooseIgnoreEntry(IgnoreEntry::FreeSpace); });
+    plan("ignoring nothing", [] { chooseIgnoreEntry(IgnoreEntry::Reset); });
 }
 
 void UserSession::planWindows()
 {
     plan("quick look at a folder", [] {
         select(largestFolder());
-        perform(MainCommand::QuickLook);
+        perform(Command::QuickLook);
     });
     plan("moving on with quick look", [] { press(Qt::Key_Right); });
     plan("closing quick look", [] { QuickLookPanel::sharedInstance().orderOut(); });
-    plan("preferences", [] { perform(MainCommand::Preferences); });
+    plan("preferences", [] { perform(Command::Preferences); });
     plan("closing the preferences", [] { topLevel<QDialog>()->close(); });
     plan(
         "the panel to choose a folder",
-        [] { perform(MainCommand::OpenFolder); },
+        [] { perform(Command::OpenFolder); },
         [] { return topLevel<QFileDialog>() != nullptr; });
     plan("closing that panel", [] { topLevel<QFileDialog>()->reject(); });
 }
 
 void UserSession::planSecondTree()
 {
-    plan("going home", [] { perform(MainCommand::Home); });
+    plan("going home", [] { perform(Command::Home); });
     plan(
         "the first tree once more",
         [this] { MainWindowController::scanURL(Url(m_folders.tree, true)); },
@@ -148,14 +148,14 @@ void UserSession::planSecondTree()
         "moving a large folder to the trash",
         [this] {
             select(*nodeAtPath(*RootModel::sharedInstance().topFolder(), m_folders.doomed));
-            perform(MainCommand::MoveToTrash);
+            perform(Command::MoveToTrash);
         },
         [this] {
             return nodeAtPath(*RootModel::sharedInstance().topFolder(), m_folders.doomed)
                 == nullptr;
         });
     plan(
-        "the end", [] { perform(MainCommand::Quit); }, [] { return false; });
+        "the end", [] { perform(Command::Quit); }, [] { return false; });
 }
 
 void UserSession::plan(std::string name, std::function<void()> begin, std::function<bool()> isDone)
@@ -203,19 +203,20 @@ bool UserSession::showsTreeOf(const std::string& path)
     return map() != nullptr && top != nullptr && top->origin() == path;
 }
 
-void UserSession::perform(MainCommand command)
+void UserSession::perform(Command command)
 {
     window().findChild<MainActions*>()->action(command).trigger();
 }
 
-void UserSession::chooseIgnoreEntry(int tag)
+void UserSession::chooseIgnoreEntry(IgnoreEntry entry)
 {
     const QList<QToolButton*> buttons = window().findChildren<QToolButton*>();
     for (const QToolButton* const button : buttons) {
         if (auto* const menu = qobject_cast<IgnoreMenu*>(button->menu())) {
             const QList<QAction*> entries = menu->actions();
-            const auto found = std::ranges::find(
-                entries, tag, [](const QAction* entry) { return entry->data().toInt(); });
+            const auto found = std::ranges::find(entries, entry, [](const QAction* action) {
+                return action->data().value<IgnoreEntry>();
+            });
             (*found)->trigger();
         }
     }

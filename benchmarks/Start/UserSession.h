@@ -20,7 +20,8 @@ namespace tessera {
 class File;
 class Folder;
 class TreeMapView;
-enum class MainCommand : std::uint8_t;
+enum class Command : std::uint8_t;
+enum class IgnoreEntry : std::uint8_t;
 
 } // namespace tessera
 
@@ -62,8 +63,8 @@ private:
     static QMainWindow& window();
     static TreeMapView* map();
     static bool showsTreeOf(const std::string& path);
-    static void perform(MainCommand command);
-    static void chooseIgnoreEntry(int tag);
+    static void perform(Command command);
+    static void chooseIgnoreEntry(IgnoreEntry entry);
     static void pointAt(QPointF place, QEvent::Type type);
     static void press(int key);
     static void select(const File& file);

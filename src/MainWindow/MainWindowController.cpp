@@ -24,7 +24,6 @@
 #include <QToolButton>
 
 #include <algorithm>
-#include <optional>
 #include <utility>
 #include <variant>
 
@@ -58,29 +57,6 @@ Url urlOf(const NotificationObject& object)
     return url == nullptr ? Url() : *url;
 }
 
-/// What the command asks to be done with the selected item of the tree screen, if anything.
-std::optional<TreeCommand> treeCommandOf(MainCommand command)
-{
-    switch (command) {
-    case MainCommand::QuickLook:
-        return TreeCommand::QuickLook;
-    case MainCommand::ShowInFinder:
-        return TreeCommand::ShowInFinder;
-    case MainCommand::ZoomIn:
-        return TreeCommand::ZoomIn;
-    case MainCommand::Rescan:
-        return TreeCommand::Rescan;
-    case MainCommand::Ignore:
-        return TreeCommand::Ignore;
-    case MainCommand::Compress:
-        return TreeCommand::Compress;
-    case MainCommand::MoveToTrash:
-        return TreeCommand::MoveToTrash;
-    default:
-        return std::nullopt;
-    }
-}
-
 } // namespace
 
 MainWindowController::MainWindowController(const MainWindowServices& services)
@@ -92,7 +68,7 @@ MainWindowController::MainWindowController(const MainWindowServices& services)
     , m_actions(new MainActions(
           *m_window,
           [this](int tag) { return validateMenuItem(tag); },
-          [this](MainCommand command) { return whyNot(command); }))
+          [this](Command command) { return whyNot(command); }))
     , m_ignoreMenu(services.model)
     , m_slide(services.treeScreen.motion, services.slideClock)
 {
@@ -331,31 +307,31 @@ bool MainWindowController::validateMenuItem(int tag) const
         context.isRootInView = m_treeVC->currentFolder() == m_services.model.topFolder();
         context.selectedFile = m_treeVC->selectedFile();
         // Not for every entry: it takes a question to the system.
-        context.canRescan = tag == menu_tag::kRescan && m_treeVC->validate(TreeCommand::Rescan);
+        context.canRescan = tag == menu_tag::kRescan && m_treeVC->validate(Command::Rescan);
     }
     return tessera::validateMenuItem(tag, context);
 }
 
-void MainWindowController::perform(MainCommand command)
+void MainWindowController::perform(Command command)
 {
     switch (command) {
-    case MainCommand::OpenFolder:
+    case Command::OpenFolder:
         openFolder();
         break;
-    case MainCommand::Home:
+    case Command::Home:
         homeSelected();
         break;
-    case MainCommand::Preferences:
+    case Command::Preferences:
         emit preferencesRequested();
         break;
-    case MainCommand::Quit:
+    case Command::Quit:
         m_window->close();
         break;
-    case MainCommand::FullScreen:
+    case Command::FullScreen:
         toggleFullScreen();
         break;
-    case MainCommand::Features:
-    case MainCommand::Questions:
+    case Command::Features:
+    case Command::Questions:
         emit helpRequested(m_actions->action(command).data().toInt());
         break;
     default:
@@ -364,16 +340,16 @@ void MainWindowController::perform(MainCommand command)
     }
 }
 
-void MainWindowController::performOnTree(MainCommand command)
+void MainWindowController::performOnTree(Command command)
 {
     if (m_treeVC == nullptr) {
         return;
     }
-    if (command == MainCommand::ZoomOut) {
+    if (command == Command::ZoomOut) {
         m_treeVC->zoomOut();
         return;
     }
-    if (command == MainCommand::Rescan) {
+    if (command == Command::Rescan) {
         rescan();
         return;
     }
@@ -381,22 +357,22 @@ void MainWindowController::performOnTree(MainCommand command)
         return;
     }
     switch (command) {
-    case MainCommand::QuickLook:
+    case Command::QuickLook:
         m_treeVC->quickLook();
         break;
-    case MainCommand::ShowInFinder:
+    case Command::ShowInFinder:
         m_treeVC->showInFinder();
         break;
-    case MainCommand::ZoomIn:
+    case Command::ZoomIn:
         m_treeVC->zoomIn();
         break;
-    case MainCommand::Ignore:
+    case Command::Ignore:
         m_ignoreMenu.ignoreFolder();
         break;
-    case MainCommand::Compress:
+    case Command::Compress:
         m_treeVC->compressItem();
         break;
-    case MainCommand::MoveToTrash:
+    case Command::MoveToTrash:
         m_treeVC->trashItem();
         break;
     default:
@@ -408,7 +384,7 @@ void MainWindowController::performOnTree(MainCommand command)
 /// the user had chosen it again, which ends the tree screen.
 void MainWindowController::rescan()
 {
-    if (!m_treeVC->validate(TreeCommand::Rescan)) {
+    if (!m_treeVC->validate(Command::Rescan)) {
         return;
     }
     const Folder& folder = *m_treeVC->folderToRescan();
@@ -420,16 +396,9 @@ void MainWindowController::rescan()
 }
 
 /// Without a tree nothing needs to be said: there is nothing that the commands could be about.
-QString MainWindowController::whyNot(MainCommand command) const
+QString MainWindowController::whyNot(Command command) const
 {
-    if (m_treeVC == nullptr) {
-        return {};
-    }
-    if (command == MainCommand::ZoomOut) {
-        return m_treeVC->whyNotOut();
-    }
-    const std::optional<TreeCommand> onItem = treeCommandOf(command);
-    return onItem ? m_treeVC->whyNot(*onItem) : QString();
+    return m_treeVC == nullptr ? QString() : m_treeVC->whyNot(command);
 }
 
 void MainWindowController::openFolder()

@@ -2,10 +2,10 @@
 #pragma once
 
 #include "Base/Observation.h"
+#include "Commands/CommandTable.h"
 #include "MainWindow/ChangesDuringScan.h"
 #include "MainWindow/MainToolbar.h"
 #include "MainWindow/MainWindowServices.h"
-#include "MainWindow/Menus/ActionTable.h"
 #include "MainWindow/Menus/IgnoreMenu.h"
 #include "MainWindow/Menus/MenuValidation.h"
 #include "MainWindow/ScanPanelSlide.h"
@@ -72,7 +72,7 @@ public:
     /// Whether the menu entry of that tag is enabled now.
     bool validateMenuItem(int tag) const;
     /// Carries out a menu's command. One that makes no sense now does nothing.
-    void perform(MainCommand command);
+    void perform(Command command);
 
 signals:
     void preferencesRequested();
@@ -97,9 +97,9 @@ private:
     void cleanUp();
     void displayTree();
     void placeScreens();
-    void performOnTree(MainCommand command);
+    void performOnTree(Command command);
     void rescan();
-    QString whyNot(MainCommand command) const;
+    QString whyNot(Command command) const;
     void folderChosen(const std::vector<Url>& urls);
     void refuseTimeMachine(const Url& url);
     void toggleFullScreen();

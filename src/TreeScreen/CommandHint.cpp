@@ -30,21 +30,17 @@ QString whyNoRescan(const Folder* toRescan, RescanObstacle obstacle)
 
 } // namespace
 
-QString whyNot(TreeCommand command, const Folder* toRescan, RescanObstacle obstacle)
+QString whyNot(Command command, const Folder* toRescan, RescanObstacle obstacle)
 {
     switch (command) {
-    case TreeCommand::Rescan:
+    case Command::Rescan:
         return whyNoRescan(toRescan, obstacle);
-    case TreeCommand::ZoomIn:
-    case TreeCommand::Ignore:
+    case Command::ZoomIn:
+    case Command::Ignore:
         return CommandHintTexts::tr("Select a folder first.");
-    case TreeCommand::QuickLook:
-    case TreeCommand::ShowInFinder:
-    case TreeCommand::Compress:
-    case TreeCommand::MoveToTrash:
-        break;
+    default:
+        return nothingSelected();
     }
-    return nothingSelected();
 }
 
 QString nothingSelected()

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "TreeScreen/TreeCommand.h"
+#include "Commands/Command.h"
 
 #include <QString>
 
@@ -16,7 +16,7 @@ enum class RescanObstacle { None, AnotherRescan, MountPoint };
 namespace command_hint {
 
 /// For a command that is disabled. `toRescan` is the folder that a rescan would be of, or null.
-[[nodiscard]] QString whyNot(TreeCommand command, const Folder* toRescan, RescanObstacle obstacle);
+[[nodiscard]] QString whyNot(Command command, const Folder* toRescan, RescanObstacle obstacle);
 
 /// For the way out of the folder in view, which is the scanned one.
 [[nodiscard]] QString nothingAround(const Folder& scanned);

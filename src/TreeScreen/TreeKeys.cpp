@@ -13,6 +13,7 @@ namespace {
 struct Binding {
     Qt::Key key;
     TreeKeyAction action;
+    bool mayRepeat = true; ///< while the key is held down
 };
 
 constexpr std::array kBindings{
@@ -20,12 +21,12 @@ constexpr std::array kBindings{
     Binding{Qt::Key_Right, Direction::Right},
     Binding{Qt::Key_Up, Direction::Up},
     Binding{Qt::Key_Down, Direction::Down},
-    Binding{Qt::Key_Return, TreeKey::Open},
-    Binding{Qt::Key_Enter, TreeKey::Open},
-    Binding{Qt::Key_Backspace, TreeKey::ZoomOut},
-    Binding{Qt::Key_Escape, TreeKey::ZoomOut},
-    Binding{Qt::Key_Space, TreeCommand::QuickLook},
-    Binding{Qt::Key_Delete, TreeCommand::MoveToTrash},
+    Binding{Qt::Key_Return, Command::Open},
+    Binding{Qt::Key_Enter, Command::Open},
+    Binding{Qt::Key_Backspace, Command::ZoomOut},
+    Binding{Qt::Key_Escape, Command::ZoomOut},
+    Binding{Qt::Key_Space, Command::QuickLook, false},
+    Binding{Qt::Key_Delete, Command::MoveToTrash, false},
 };
 
 } // namespace
@@ -40,7 +41,10 @@ std::optional<TreeKeyAction> treeKeyAction(const QKeyEvent& event)
         = std::find_if(kBindings.begin(), kBindings.end(), [&event](const Binding& binding) {
               return binding.key == event.key();
           });
-    return found == kBindings.end() ? std::nullopt : std::optional(found->action);
+    if (found == kBindings.end() || (event.isAutoRepeat() && !found->mayRepeat)) {
+        return std::nullopt;
+    }
+    return found->action;
 }
 
 } // namespace tessera

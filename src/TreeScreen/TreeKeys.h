@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Commands/Command.h"
 #include "TreeScreen/Map/BoxNavigation.h"
-#include "TreeScreen/TreeCommand.h"
 
 #include <optional>
 #include <variant>
@@ -11,15 +11,11 @@ class QKeyEvent;
 
 namespace tessera {
 
-/// What else than a command or a move of the selection a key can ask for.
-enum class TreeKey : std::uint8_t {
-    Open, ///< zoom into a folder, preview a document
-    ZoomOut,
-};
+/// A move of the selection or a command.
+using TreeKeyAction = std::variant<Direction, Command>;
 
-using TreeKeyAction = std::variant<Direction, TreeKey, TreeCommand>;
-
-/// What a key press on the tree screen stands for; nothing when it is none of the screen's keys.
+/// What a key press on the tree screen stands for; nothing when it is none of the screen's keys, or
+/// one that is held down and counts once.
 /// docs/keyboard.md lists them.
 [[nodiscard]] std::optional<TreeKeyAction> treeKeyAction(const QKeyEvent& event);
 

@@ -2,47 +2,43 @@
 #include "TreeScreen/TreeMenu.h"
 
 #include "Base/DisplayText.h"
+#include "Commands/CommandTable.h"
 #include "Model/File.h"
-#include "TreeScreen/TreeCommand.h"
+#include "TreeScreen/TreeCommandTarget.h"
 
 #include <QCoreApplication>
 #include <QMenu>
 
 #include <array>
+#include <optional>
 #include <span>
 
 namespace tessera {
 
 namespace {
 
-constexpr const char* kContext = "TreeMenu";
+using Entry = std::optional<Command>;
 
-/// A null title is a separator.
-struct Entry {
-    const char* title;
-    TreeCommand command;
-};
-
-constexpr Entry kSeparator{nullptr, TreeCommand::QuickLook};
+constexpr Entry kSeparator;
 
 constexpr std::array kFolderEntries{
-    Entry{QT_TRANSLATE_NOOP("TreeMenu", "Quick Look"), TreeCommand::QuickLook},
-    Entry{QT_TRANSLATE_NOOP("TreeMenu", "Show in Finder"), TreeCommand::ShowInFinder},
+    Entry(Command::QuickLook),
+    Entry(Command::ShowInFinder),
     kSeparator,
-    Entry{QT_TRANSLATE_NOOP("TreeMenu", "Zoom In"), TreeCommand::ZoomIn},
-    Entry{QT_TRANSLATE_NOOP("TreeMenu", "Rescan"), TreeCommand::Rescan},
-    Entry{QT_TRANSLATE_NOOP("TreeMenu", "Ignore"), TreeCommand::Ignore},
+    Entry(Command::ZoomIn),
+    Entry(Command::Rescan),
+    Entry(Command::Ignore),
     kSeparator,
-    Entry{QT_TRANSLATE_NOOP("TreeMenu", "Compress Folder"), TreeCommand::Compress},
-    Entry{QT_TRANSLATE_NOOP("TreeMenu", "Move to Trash"), TreeCommand::MoveToTrash},
+    Entry(Command::Compress),
+    Entry(Command::MoveToTrash),
 };
 
 constexpr std::array kDocumentEntries{
-    Entry{QT_TRANSLATE_NOOP("TreeMenu", "Quick Look"), TreeCommand::QuickLook},
-    Entry{QT_TRANSLATE_NOOP("TreeMenu", "Show in Finder"), TreeCommand::ShowInFinder},
+    Entry(Command::QuickLook),
+    Entry(Command::ShowInFinder),
     kSeparator,
-    Entry{QT_TRANSLATE_NOOP("TreeMenu", "Compress File"), TreeCommand::Compress},
-    Entry{QT_TRANSLATE_NOOP("TreeMenu", "Move to Trash"), TreeCommand::MoveToTrash},
+    Entry(Command::Compress),
+    Entry(Command::MoveToTrash),
 };
 
 std::span<const Entry> entriesFor(const File& item)
@@ -56,19 +52,14 @@ std::span<const Entry> entriesFor(const File& item)
     return {};
 }
 
-void addEntry(QMenu& menu, const Entry& entry, TreeCommandTarget* target)
+void addEntry(QMenu& menu, Command command, const QString& title, TreeCommandTarget* target)
 {
-    if (entry.title == nullptr) {
-        menu.addSeparator();
-        return;
-    }
-    QAction* action = menu.addAction(QCoreApplication::translate(kContext, entry.title));
-    action->setEnabled(target != nullptr && target->validate(entry.command));
+    QAction* const action = menu.addAction(title);
+    action->setEnabled(target != nullptr && target->validate(command));
     if (target != nullptr) {
-        action->setToolTip(plainTooltip(target->whyNot(entry.command)));
-        QObject::connect(action, &QAction::triggered, &menu, [target, command = entry.command] {
-            target->perform(command);
-        });
+        action->setToolTip(plainTooltip(target->whyNot(command)));
+        QObject::connect(
+            action, &QAction::triggered, &menu, [target, command] { target->perform(command); });
     }
 }
 
@@ -80,12 +71,17 @@ std::unique_ptr<QMenu> makeTreeMenu(const File& item, TreeCommandTarget* target)
     if (entries.empty()) {
         return nullptr;
     }
-    auto menu = std::make_unique<QMenu>(
-        QCoreApplication::translate(kContext, QT_TRANSLATE_NOOP("TreeMenu", "Contextual Menu")));
+    auto menu = std::make_unique<QMenu>(QCoreApplication::translate("TreeMenu", "Contextual Menu"));
     // Of disabled entries, whose tooltip says why they are.
     menu->setToolTipsVisible(true);
     for (const Entry& entry : entries) {
-        addEntry(*menu, entry, target);
+        if (entry) {
+            const CommandRow& row = rowOf(*entry);
+            const QString title = item.isFolder() ? titleForFolder(row) : titleForDocument(row);
+            addEntry(*menu, *entry, title, target);
+        } else {
+            menu->addSeparator();
+        }
     }
     return menu;
 }

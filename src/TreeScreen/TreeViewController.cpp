@@ -189,7 +189,7 @@ bool TreeViewController::isMountPoint(const Folder& toRescan) const
 
 void TreeViewController::refreshFolder()
 {
-    if (validate(TreeCommand::Rescan)) {
+    if (validate(Command::Rescan)) {
         rescanSelectedFolder(*folderToRescan());
         setSelectedFile(nullptr);
     }
@@ -264,36 +264,39 @@ void TreeViewController::itemCompressed(const Url& archive)
     renderTree();
 }
 
-bool TreeViewController::validate(TreeCommand command) const
+bool TreeViewController::validate(Command command) const
 {
     const bool isFolder = m_selectedFile != nullptr && m_selectedFile->isFolder();
     switch (command) {
-    case TreeCommand::QuickLook:
-    case TreeCommand::ShowInFinder:
+    case Command::ZoomOut:
+        return m_currentFolder != nullptr && m_currentFolder->parent() != nullptr;
+    case Command::Open:
+    case Command::QuickLook:
+    case Command::ShowInFinder:
         return m_selectedFile != nullptr;
-    case TreeCommand::Compress:
-    case TreeCommand::MoveToTrash:
+    case Command::Compress:
+    case Command::MoveToTrash:
         return m_selectedFile != nullptr && isItem(*m_selectedFile);
-    case TreeCommand::ZoomIn:
-    case TreeCommand::Ignore:
+    case Command::ZoomIn:
+    case Command::Ignore:
         return isFolder;
-    case TreeCommand::Rescan:
+    case Command::Rescan:
         return folderToRescan() != nullptr && rescanObstacle() == RescanObstacle::None;
+    default:
+        return true;
     }
-    return false;
 }
 
-QString TreeViewController::whyNot(TreeCommand command) const
+QString TreeViewController::whyNot(Command command) const
 {
-    return validate(command) ? QString()
-                             : command_hint::whyNot(command, folderToRescan(), rescanObstacle());
-}
-
-QString TreeViewController::whyNotOut() const
-{
-    return m_currentFolder == nullptr || m_currentFolder->parent() != nullptr
-        ? QString()
-        : command_hint::nothingAround(*m_currentFolder);
+    if (validate(command)) {
+        return {};
+    }
+    if (command == Command::ZoomOut) {
+        return m_currentFolder == nullptr ? QString()
+                                          : command_hint::nothingAround(*m_currentFolder);
+    }
+    return command_hint::whyNot(command, folderToRescan(), rescanObstacle());
 }
 
 void TreeViewController::say(const QString& why)
@@ -303,29 +306,37 @@ void TreeViewController::say(const QString& why)
     }
 }
 
-void TreeViewController::perform(TreeCommand command)
+void TreeViewController::perform(Command command)
 {
     switch (command) {
-    case TreeCommand::QuickLook:
+    case Command::Open:
+        doubleClickTreeItem();
+        break;
+    case Command::QuickLook:
         SelectionPreview::toggle();
         break;
-    case TreeCommand::ShowInFinder:
+    case Command::ShowInFinder:
         showInFinder();
         break;
-    case TreeCommand::ZoomIn:
+    case Command::ZoomIn:
         zoomIn();
         break;
-    case TreeCommand::Rescan:
+    case Command::ZoomOut:
+        zoomOut();
+        break;
+    case Command::Rescan:
         refreshFolder();
         break;
-    case TreeCommand::Compress:
+    case Command::Compress:
         compressItem();
         break;
-    case TreeCommand::MoveToTrash:
+    case Command::MoveToTrash:
         trashItem();
         break;
-    case TreeCommand::Ignore:
+    case Command::Ignore:
         emit ignoreRequested();
+        break;
+    default:
         break;
     }
 }

@@ -9,7 +9,7 @@
 #include "TreeScreen/ItemTrasher.h"
 #include "TreeScreen/Map/BoxNavigation.h"
 #include "TreeScreen/SelectionPreview.h"
-#include "TreeScreen/TreeCommand.h"
+#include "TreeScreen/TreeCommandTarget.h"
 #include "TreeScreen/TreeKeys.h"
 #include "TreeScreen/TreeNote.h"
 #include "TreeScreen/TreeScreen.h"
@@ -82,16 +82,13 @@ public:
     /// Compresses the selected item beside itself, in a window of its own.
     void compressItem();
 
-    bool validate(TreeCommand command) const override;
-    QString whyNot(TreeCommand command) const override;
-    void perform(TreeCommand command) override;
+    bool validate(Command command) const override;
+    QString whyNot(Command command) const override;
+    void perform(Command command) override;
 
     /// A key was pressed on the tree screen; false when it does nothing now. Why not is said on
     /// the picture.
     bool keyDown(const QKeyEvent& event);
-
-    /// Why there is no way out of the folder in view; empty when there is.
-    QString whyNotOut() const;
 
     /// Says on the picture, for a while, why something cannot be done; an empty text is nothing.
     void say(const QString& why);
@@ -140,8 +137,6 @@ private:
     RescanObstacle rescanObstacle() const;
     bool isMountPoint(const Folder& toRescan) const;
     bool moveSelection(Direction direction);
-    bool openSelected();
-    bool leaveFolder();
     bool carryOut(const TreeKeyAction& action);
     void sayWhyNot(const TreeKeyAction& action);
 

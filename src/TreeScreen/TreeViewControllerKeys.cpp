@@ -21,11 +21,8 @@ bool TreeViewController::keyDown(const QKeyEvent& event)
     if (!action) {
         return false;
     }
-    // A key that is held down asks once, and is told once.
-    if (event.isAutoRepeat() && std::holds_alternative<TreeCommand>(*action)) {
-        return false;
-    }
     const bool isDone = carryOut(*action);
+    // Whoever holds a key down is told once.
     if (!isDone && !event.isAutoRepeat()) {
         sayWhyNot(*action);
     }
@@ -37,26 +34,20 @@ bool TreeViewController::carryOut(const TreeKeyAction& action)
     if (const auto* direction = std::get_if<Direction>(&action)) {
         return moveSelection(*direction);
     }
-    if (const auto* command = std::get_if<TreeCommand>(&action)) {
-        if (!validate(*command)) {
-            return false;
-        }
-        perform(*command);
-        return true;
+    const Command command = std::get<Command>(action);
+    if (!validate(command)) {
+        return false;
     }
-    return std::get<TreeKey>(action) == TreeKey::Open ? openSelected() : leaveFolder();
+    perform(command);
+    return true;
 }
 
 void TreeViewController::sayWhyNot(const TreeKeyAction& action)
 {
-    if (const auto* command = std::get_if<TreeCommand>(&action)) {
+    if (const auto* command = std::get_if<Command>(&action)) {
         say(whyNot(*command));
-    } else if (const auto* key = std::get_if<TreeKey>(&action); key == nullptr) {
-        m_note.say(command_hint::noBoxThatWay());
-    } else if (*key == TreeKey::Open) {
-        say(whyNot(TreeCommand::QuickLook));
     } else {
-        say(whyNotOut());
+        m_note.say(command_hint::noBoxThatWay());
     }
 }
 
@@ -69,24 +60,6 @@ bool TreeViewController::moveSelection(Direction direction)
         return false;
     }
     select(next);
-    return true;
-}
-
-bool TreeViewController::openSelected()
-{
-    if (m_selectedFile == nullptr) {
-        return false;
-    }
-    doubleClickTreeItem();
-    return true;
-}
-
-bool TreeViewController::leaveFolder()
-{
-    if (m_currentFolder == nullptr || m_currentFolder->parent() == nullptr) {
-        return false;
-    }
-    zoomOut();
     return true;
 }
 

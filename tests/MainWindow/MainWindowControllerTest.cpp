@@ -44,12 +44,12 @@ protected:
         services.openPanel.choose({Url(folder, true)});
     }
 
-    const QAction& action(MainCommand command) const
+    const QAction& action(Command command) const
     {
         const QList<QAction*> actions = controller->window().actions();
         return **std::ranges::find(actions, titleOf(rowOf(command)), &QAction::text);
     }
-    bool isEnabled(MainCommand command) const { return action(command).isEnabled(); }
+    bool isEnabled(Command command) const { return action(command).isEnabled(); }
 
     /// A tree in which a disk is mounted at "mnt".
     void showTreeWithMountPoint()
@@ -78,14 +78,6 @@ protected:
     {
         const auto* const note = controller->window().findChild<TreeNote*>();
         return note != nullptr && note->isVisible() ? note->text() : QString();
-    }
-
-    static const ActionRow& rowOf(MainCommand command)
-    {
-        const auto table = actionTable();
-        return *std::find_if(table.begin(), table.end(), [command](const ActionRow& row) {
-            return row.command == command;
-        });
     }
 };
 
@@ -121,20 +113,20 @@ TEST_F(MainWindowControllerTest, WithoutATreeThePathBarIsLeftAlone)
 TEST_F(MainWindowControllerTest, ZoomOutIsDisabledWithTheRootInViewAndEnabledInAnyFolder)
 {
     showTree();
-    EXPECT_FALSE(isEnabled(MainCommand::ZoomOut));
+    EXPECT_FALSE(isEnabled(Command::ZoomOut));
     zoomIntoDocs();
-    EXPECT_TRUE(isEnabled(MainCommand::ZoomOut));
+    EXPECT_TRUE(isEnabled(Command::ZoomOut));
 }
 
 TEST_F(MainWindowControllerTest, TheCommandsFollowTheSelectionAtOnce)
 {
     showTree();
-    EXPECT_FALSE(isEnabled(MainCommand::QuickLook));
+    EXPECT_FALSE(isEnabled(Command::QuickLook));
     select("c");
-    EXPECT_TRUE(isEnabled(MainCommand::QuickLook));
-    EXPECT_FALSE(isEnabled(MainCommand::Rescan));
+    EXPECT_TRUE(isEnabled(Command::QuickLook));
+    EXPECT_FALSE(isEnabled(Command::Rescan));
     select("docs");
-    EXPECT_TRUE(isEnabled(MainCommand::Rescan));
+    EXPECT_TRUE(isEnabled(Command::Rescan));
 }
 
 TEST_F(MainWindowControllerTest, ASelectionTakesOneQuestionToTheSystem)
@@ -142,7 +134,7 @@ TEST_F(MainWindowControllerTest, ASelectionTakesOneQuestionToTheSystem)
     showTreeWithMountPoint();
     const int before = mountPointQuestions();
     select("mnt");
-    EXPECT_FALSE(isEnabled(MainCommand::Rescan));
+    EXPECT_FALSE(isEnabled(Command::Rescan));
     EXPECT_EQ(mountPointQuestions(), before + 1);
 }
 
@@ -162,7 +154,7 @@ TEST_F(MainWindowControllerTest, WhatIsMountedOrNotIsAskedAnewWithTheNextSelecti
     select("mnt");
     services.treeScreen.resourceValues.mountPoints.clear();
     select("mnt");
-    EXPECT_TRUE(isEnabled(MainCommand::Rescan));
+    EXPECT_TRUE(isEnabled(Command::Rescan));
 }
 
 TEST_F(MainWindowControllerTest, ADisabledEntryOfTheItemMenuSaysWhyInItsTooltip)
@@ -170,7 +162,7 @@ TEST_F(MainWindowControllerTest, ADisabledEntryOfTheItemMenuSaysWhyInItsTooltip)
     showTreeWithMountPoint();
     select("mnt");
     EXPECT_EQ(
-        action(MainCommand::Rescan).toolTip(),
+        action(Command::Rescan).toolTip(),
         QStringLiteral("A disk is mounted at 'mnt'. It is not part of this scan; scan it by "
                        "itself."));
 }
@@ -179,7 +171,7 @@ TEST_F(MainWindowControllerTest, TheDisabledWayOutSaysWhyInItsTooltip)
 {
     showTree();
     EXPECT_EQ(
-        action(MainCommand::ZoomOut).toolTip(),
+        action(Command::ZoomOut).toolTip(),
         QStringLiteral("'data' is all that was scanned. There is no folder around it here."));
 }
 
@@ -187,19 +179,19 @@ TEST_F(MainWindowControllerTest, RescanIsDisabledWhileOneRunsAndEnabledWhenItHas
 {
     showTree();
     select("docs");
-    controller->perform(MainCommand::Rescan);
-    EXPECT_FALSE(isEnabled(MainCommand::Rescan));
+    controller->perform(Command::Rescan);
+    EXPECT_FALSE(isEnabled(Command::Rescan));
     const File* const before = &test::at(*services.model.topFolder(), "docs");
     services.treeScreen.mainThread.runUntil(
         [&] { return &test::at(*services.model.topFolder(), "docs") != before; });
-    EXPECT_TRUE(isEnabled(MainCommand::Rescan));
+    EXPECT_TRUE(isEnabled(Command::Rescan));
 }
 
 TEST_F(MainWindowControllerTest, WithNothingSelectedRescanAtTheTopScansAllAgain)
 {
     showTree();
     services.screens.scanned.clear();
-    controller->perform(MainCommand::Rescan);
+    controller->perform(Command::Rescan);
     EXPECT_THAT(services.screens.scanned, ElementsAre("/data"));
     EXPECT_EQ(controller->state(), ScreenState::Scanning);
 }
@@ -209,7 +201,7 @@ TEST_F(MainWindowControllerTest, WithNothingSelectedRescanIsOfTheFolderInView)
     showTree();
     zoomIntoDocs();
     services.screens.scanned.clear();
-    controller->perform(MainCommand::Rescan);
+    controller->perform(Command::Rescan);
     EXPECT_THAT(services.screens.scanned, IsEmpty());
     EXPECT_TRUE(test::at(*services.model.topFolder(), "docs").rescanning());
     const File* const before = &test::at(*services.model.topFolder(), "docs");
@@ -221,9 +213,9 @@ TEST_F(MainWindowControllerTest, WhileAFolderIsRescannedNothingElseIs)
 {
     showTree();
     select("docs");
-    controller->perform(MainCommand::Rescan);
+    controller->perform(Command::Rescan);
     services.screens.scanned.clear();
-    controller->perform(MainCommand::Rescan);
+    controller->perform(Command::Rescan);
     EXPECT_THAT(services.screens.scanned, IsEmpty());
     EXPECT_EQ(controller->state(), ScreenState::Tree);
     const File* const before = &test::at(*services.model.topFolder(), "docs");
@@ -275,22 +267,22 @@ TEST_F(MainWindowControllerTest, AShortcutThatIsHeldDownSaysItOnce)
 
 TEST_F(MainWindowControllerTest, TheWayHomeIsDisabledOnTheHomeScreen)
 {
-    EXPECT_FALSE(isEnabled(MainCommand::Home));
+    EXPECT_FALSE(isEnabled(Command::Home));
     requestScan();
-    EXPECT_FALSE(isEnabled(MainCommand::Home));
+    EXPECT_FALSE(isEnabled(Command::Home));
     finishScan();
-    EXPECT_TRUE(isEnabled(MainCommand::Home));
+    EXPECT_TRUE(isEnabled(Command::Home));
 }
 
 TEST_F(MainWindowControllerTest, CommandsOnItemsDoNothingWithoutATree)
 {
-    for (const ActionRow& row : actionTable()) {
+    for (const CommandRow& row : commandTable()) {
         if (row.menu == MainMenu::Item) {
             controller->perform(row.command);
         }
     }
-    controller->perform(MainCommand::ZoomIn);
-    controller->perform(MainCommand::ZoomOut);
+    controller->perform(Command::ZoomIn);
+    controller->perform(Command::ZoomOut);
     EXPECT_EQ(controller->state(), ScreenState::Home);
     EXPECT_THAT(services.treeScreen.workspace.revealed, IsEmpty());
 }
@@ -298,9 +290,9 @@ TEST_F(MainWindowControllerTest, CommandsOnItemsDoNothingWithoutATree)
 TEST_F(MainWindowControllerTest, CommandsOnItemsDoNothingWithoutASelection)
 {
     showTree();
-    controller->perform(MainCommand::ShowInFinder);
-    controller->perform(MainCommand::MoveToTrash);
-    controller->perform(MainCommand::QuickLook);
+    controller->perform(Command::ShowInFinder);
+    controller->perform(Command::MoveToTrash);
+    controller->perform(Command::QuickLook);
     EXPECT_THAT(services.treeScreen.workspace.revealed, IsEmpty());
     EXPECT_THAT(services.treeScreen.workspace.recycled, IsEmpty());
     EXPECT_FALSE(QuickLookPanel::sharedInstance().isOpen());
@@ -310,9 +302,9 @@ TEST_F(MainWindowControllerTest, CommandsReachTheTreeScreen)
 {
     showTree();
     select("c");
-    controller->perform(MainCommand::ShowInFinder);
+    controller->perform(Command::ShowInFinder);
     EXPECT_THAT(services.treeScreen.workspace.revealed, ElementsAre("/data/c"));
-    controller->perform(MainCommand::MoveToTrash);
+    controller->perform(Command::MoveToTrash);
     ASSERT_EQ(services.treeScreen.workspace.recycled.size(), 1U);
     EXPECT_EQ(services.treeScreen.workspace.recycled[0][0].path(), "/data/c");
 }
@@ -322,7 +314,7 @@ TEST_F(MainWindowControllerTest, ZoomOutNeedsNoSelection)
     showTree();
     zoomIntoDocs();
     ASSERT_EQ(controller->treeVC()->selectedFile(), nullptr);
-    controller->perform(MainCommand::ZoomOut);
+    controller->perform(Command::ZoomOut);
     EXPECT_EQ(controller->treeVC()->currentFolder(), services.model.topFolder());
 }
 
@@ -390,9 +382,9 @@ TEST_F(MainWindowControllerTest, PreferencesAndHelpAreAskedForByTheirTags)
 {
     const QSignalSpy preferences(controller.get(), &MainWindowController::preferencesRequested);
     const QSignalSpy help(controller.get(), &MainWindowController::helpRequested);
-    controller->perform(MainCommand::Preferences);
-    controller->perform(MainCommand::Features);
-    controller->perform(MainCommand::Questions);
+    controller->perform(Command::Preferences);
+    controller->perform(Command::Features);
+    controller->perform(Command::Questions);
     EXPECT_EQ(preferences.size(), 1);
     ASSERT_EQ(help.size(), 2);
     EXPECT_EQ(help.at(0).at(0).toInt(), 62);
@@ -402,16 +394,16 @@ TEST_F(MainWindowControllerTest, PreferencesAndHelpAreAskedForByTheirTags)
 TEST_F(MainWindowControllerTest, QuitClosesTheWindow)
 {
     const QSignalSpy closed(controller.get(), &MainWindowController::closed);
-    controller->perform(MainCommand::Quit);
+    controller->perform(Command::Quit);
     EXPECT_EQ(closed.size(), 1);
     EXPECT_FALSE(controller->window().isVisible());
 }
 
 TEST_F(MainWindowControllerTest, FullScreenIsSwitchedOnAndOff)
 {
-    controller->perform(MainCommand::FullScreen);
+    controller->perform(Command::FullScreen);
     EXPECT_TRUE(controller->window().isFullScreen());
-    controller->perform(MainCommand::FullScreen);
+    controller->perform(Command::FullScreen);
     EXPECT_FALSE(controller->window().isFullScreen());
 }
 

@@ -64,7 +64,7 @@ protected:
     void zoomIntoDocs() const
     {
         select("docs");
-        controller->perform(MainCommand::ZoomIn);
+        controller->perform(Command::ZoomIn);
     }
 
     QRect homeFrame() const { return services.screens.home->geometry(); }

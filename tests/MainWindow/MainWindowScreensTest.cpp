@@ -212,7 +212,7 @@ TEST_F(MainWindowScreensTest, OnTheHomeScreenTheIgnoreMenuHasItsFixedEntriesOnly
 {
     showTree();
     select("docs");
-    controller->perform(MainCommand::Ignore);
+    controller->perform(Command::Ignore);
     EXPECT_TRUE(test::at(*services.model.topFolder(), "docs").ignored());
     EXPECT_EQ(controller->ignoreMenu().actions().size(), 8);
     requestScan();
@@ -262,7 +262,7 @@ TEST_F(MainWindowScreensTest, AnItemWhoseMoveEndsDuringTheNextScanIsNotInTheNewT
 {
     showTree();
     select("docs/a");
-    controller->perform(MainCommand::MoveToTrash);
+    controller->perform(Command::MoveToTrash);
     requestScan();
     RecycleResult result;
     result.newUrls["file:///data/docs/a"] = Url("/trash/a", false);

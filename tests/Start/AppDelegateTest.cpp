@@ -212,7 +212,7 @@ TEST_F(AppDelegateTest, AnotherStartOnAFolderHasItScanned)
 TEST_F(AppDelegateTest, EachPreferencesWindowTakesThePreviousOnesPlace)
 {
     delegate.start();
-    delegate.mainWindow()->perform(MainCommand::Preferences);
+    delegate.mainWindow()->perform(Command::Preferences);
     ASSERT_NE(delegate.prefWindow(), nullptr);
     const QPointer<QWidget> first = &delegate.prefWindow()->window();
     EXPECT_TRUE(first->isVisible());
@@ -224,7 +224,7 @@ TEST_F(AppDelegateTest, EachPreferencesWindowTakesThePreviousOnesPlace)
 TEST_F(AppDelegateTest, HelpPagesAreOpenedByTheTagsOfTheirEntries)
 {
     delegate.start();
-    delegate.mainWindow()->perform(MainCommand::Features);
+    delegate.mainWindow()->perform(Command::Features);
     delegate.showHelpItem(64);
     delegate.showHelpItem(63);
     delegate.showHelpItem(0);
@@ -281,7 +281,7 @@ protected:
     void closeAnswering(int button)
     {
         services.treeScreen.alert.answer = Alert::kFirstButton + button;
-        delegate.mainWindow()->perform(MainCommand::Quit);
+        delegate.mainWindow()->perform(Command::Quit);
     }
 
     void endCompression()

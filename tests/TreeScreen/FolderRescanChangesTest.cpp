@@ -137,10 +137,10 @@ TEST_F(FolderRescanChanges, AnEmptyMountPointIsNotRescanned)
     folder("other").removeChild(node("other/o"));
     services.resourceValues.mountPoints = {"/data/other"};
     controller->setSelectedFile(&node("other"));
-    EXPECT_FALSE(controller->validate(TreeCommand::Rescan));
+    EXPECT_FALSE(controller->validate(Command::Rescan));
     controller->refreshFolder();
     EXPECT_FALSE(folder("other").rescanning());
-    EXPECT_TRUE(controller->whyNot(TreeCommand::Rescan)
+    EXPECT_TRUE(controller->whyNot(Command::Rescan)
                     .startsWith(QStringLiteral("A disk is mounted at 'other'.")));
 }
 
@@ -148,7 +148,7 @@ TEST_F(FolderRescanChanges, AMountPointThatASecondScanFilledIsRescanned)
 {
     services.resourceValues.mountPoints = {"/data/docs"};
     controller->setSelectedFile(&node("docs"));
-    EXPECT_TRUE(controller->validate(TreeCommand::Rescan));
+    EXPECT_TRUE(controller->validate(Command::Rescan));
 }
 
 TEST_F(FolderRescanChanges, TheScannedFolderMayBeAMountPoint)
@@ -156,7 +156,7 @@ TEST_F(FolderRescanChanges, TheScannedFolderMayBeAMountPoint)
     model.setTopFolder(test::makeTree("/data", ""));
     services.resourceValues.mountPoints = {"/data"};
     controller = std::make_unique<TreeViewController>(model, view, services.get());
-    EXPECT_TRUE(controller->validate(TreeCommand::Rescan));
+    EXPECT_TRUE(controller->validate(Command::Rescan));
 }
 
 TEST_F(FolderRescanChanges, TheBarHidesDuringAZoom)
@@ -209,7 +209,7 @@ TEST_F(FolderRescanChanges, TrashingTheFolderEndsIt)
     EXPECT_EQ(indicator(), nullptr);
     EXPECT_EQ(model.topFolder()->totalAllocation(), 601U);
     controller->setSelectedFile(&node("other"));
-    EXPECT_TRUE(controller->validate(TreeCommand::Rescan));
+    EXPECT_TRUE(controller->validate(Command::Rescan));
 }
 
 TEST_F(FolderRescanChanges, TrashingAFolderAroundItEndsIt)

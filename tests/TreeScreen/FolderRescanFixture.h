@@ -57,7 +57,7 @@ protected:
     }
 
     const RescanIndicator* indicator() const { return view.findChild<RescanIndicator*>(); }
-    bool isRescanning() const { return !controller->validate(TreeCommand::Rescan); }
+    bool isRescanning() const { return !controller->validate(Command::Rescan); }
 
     /// Moves the item to a trash outside the tree.
     void trash(std::string_view path) { trashTo(path, "/trash/item"); }

@@ -209,17 +209,17 @@ TEST_F(FolderRescanTest, AnEmptyFolderIsRescanned)
 {
     folder("other").removeChild(node("other/o"));
     controller->setSelectedFile(&node("other"));
-    EXPECT_TRUE(controller->validate(TreeCommand::Rescan));
+    EXPECT_TRUE(controller->validate(Command::Rescan));
 }
 
 TEST_F(FolderRescanTest, WhileOneRunsThereIsAReasonAgainstAnother)
 {
     rescan("docs");
     controller->setSelectedFile(&node("other"));
-    EXPECT_TRUE(controller->whyNot(TreeCommand::Rescan)
+    EXPECT_TRUE(controller->whyNot(Command::Rescan)
                     .startsWith(QStringLiteral("A rescan is running already.")));
     finish();
-    EXPECT_EQ(controller->whyNot(TreeCommand::Rescan), QString());
+    EXPECT_EQ(controller->whyNot(Command::Rescan), QString());
 }
 
 TEST_F(FolderRescanTest, AnotherCanFollow)
@@ -227,7 +227,7 @@ TEST_F(FolderRescanTest, AnotherCanFollow)
     rescan("docs");
     finish();
     controller->setSelectedFile(&node("other"));
-    EXPECT_TRUE(controller->validate(TreeCommand::Rescan));
+    EXPECT_TRUE(controller->validate(Command::Rescan));
 }
 
 TEST_F(FolderRescanTest, TheTopFolderHasNoPlaceToBeReplacedIn)
@@ -348,7 +348,7 @@ TEST_F(FolderRescanTest, WithoutAThreadForItTheTreeStaysAndTheUserIsTold)
     EXPECT_FALSE(folder("docs").rescanning());
     EXPECT_TRUE(view.findRectForFile(node("docs/a")).has_value());
     controller->setSelectedFile(&node("docs"));
-    EXPECT_TRUE(controller->validate(TreeCommand::Rescan)) << "it can be tried again";
+    EXPECT_TRUE(controller->validate(Command::Rescan)) << "it can be tried again";
 }
 
 TEST_F(FolderRescanTest, GoingAwayEndsIt)

@@ -4,7 +4,7 @@
 #include "Model/Document.h"
 #include "Model/Folder.h"
 #include "Model/FreeSpace.h"
-#include "TreeScreen/TreeCommand.h"
+#include "TreeScreen/TreeCommandTarget.h"
 
 #include <QMenu>
 #include <QTextDocumentFragment>
@@ -20,15 +20,15 @@ namespace {
 /// Allows all commands but one, and remembers the last one performed.
 class FakeTarget final : public TreeCommandTarget {
 public:
-    bool validate(TreeCommand command) const override { return command != TreeCommand::ZoomIn; }
-    QString whyNot(TreeCommand command) const override
+    bool validate(Command command) const override { return command != Command::ZoomIn; }
+    QString whyNot(Command command) const override
     {
         return validate(command) ? QString() : reason;
     }
-    void perform(TreeCommand command) override { performed = command; }
+    void perform(Command command) override { performed = command; }
 
     QString reason = QStringLiteral("Not now.");
-    std::optional<TreeCommand> performed;
+    std::optional<Command> performed;
 };
 
 /// The titles in order, "-" for separators.
@@ -113,13 +113,13 @@ TEST(TreeMenu, ANameInAReasonIsNoMarkup)
 
 TEST(TreeMenu, PerformsTheCommandsOfItsEntries)
 {
-    const std::vector<std::pair<QString, TreeCommand>> expected{
-        {QStringLiteral("Quick Look"), TreeCommand::QuickLook},
-        {QStringLiteral("Show in Finder"), TreeCommand::ShowInFinder},
-        {QStringLiteral("Rescan"), TreeCommand::Rescan},
-        {QStringLiteral("Ignore"), TreeCommand::Ignore},
-        {QStringLiteral("Compress Folder"), TreeCommand::Compress},
-        {QStringLiteral("Move to Trash"), TreeCommand::MoveToTrash},
+    const std::vector<std::pair<QString, Command>> expected{
+        {QStringLiteral("Quick Look"), Command::QuickLook},
+        {QStringLiteral("Show in Finder"), Command::ShowInFinder},
+        {QStringLiteral("Rescan"), Command::Rescan},
+        {QStringLiteral("Ignore"), Command::Ignore},
+        {QStringLiteral("Compress Folder"), Command::Compress},
+        {QStringLiteral("Move to Trash"), Command::MoveToTrash},
     };
     FakeTarget target;
     const auto menu = makeTreeMenu(*makeNode<Folder>("a"), &target);

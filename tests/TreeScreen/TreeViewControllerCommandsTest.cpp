@@ -10,14 +10,14 @@ class TreeViewControllerCommandsTest : public test::TreeViewControllerFixture { 
 
 TEST_F(TreeViewControllerCommandsTest, WithoutASelectionNoCommandButRescanMakesSense)
 {
-    EXPECT_TRUE(canDo(TreeCommand::Rescan));
-    for (const TreeCommand command :
-         {TreeCommand::QuickLook,
-          TreeCommand::ShowInFinder,
-          TreeCommand::ZoomIn,
-          TreeCommand::Ignore,
-          TreeCommand::Compress,
-          TreeCommand::MoveToTrash}) {
+    EXPECT_TRUE(canDo(Command::Rescan));
+    for (const Command command :
+         {Command::QuickLook,
+          Command::ShowInFinder,
+          Command::ZoomIn,
+          Command::Ignore,
+          Command::Compress,
+          Command::MoveToTrash}) {
         EXPECT_FALSE(canDo(command));
     }
 }
@@ -25,19 +25,19 @@ TEST_F(TreeViewControllerCommandsTest, WithoutASelectionNoCommandButRescanMakesS
 TEST_F(TreeViewControllerCommandsTest, OnlyFoldersAreZoomedIntoAndRescanned)
 {
     select("docs");
-    EXPECT_TRUE(canDo(TreeCommand::ZoomIn));
-    EXPECT_TRUE(canDo(TreeCommand::Rescan));
+    EXPECT_TRUE(canDo(Command::ZoomIn));
+    EXPECT_TRUE(canDo(Command::Rescan));
     select("docs/a");
-    EXPECT_FALSE(canDo(TreeCommand::ZoomIn));
-    EXPECT_FALSE(canDo(TreeCommand::Rescan));
-    EXPECT_TRUE(canDo(TreeCommand::MoveToTrash));
+    EXPECT_FALSE(canDo(Command::ZoomIn));
+    EXPECT_FALSE(canDo(Command::Rescan));
+    EXPECT_TRUE(canDo(Command::MoveToTrash));
 }
 
 TEST_F(TreeViewControllerCommandsTest, SpaceIsNeitherMovedNorCompressed)
 {
     const auto space = makeNode<FreeSpace>("");
     controller->setSelectedFile(space.get());
-    for (const TreeCommand command : {TreeCommand::Compress, TreeCommand::MoveToTrash}) {
+    for (const Command command : {Command::Compress, Command::MoveToTrash}) {
         EXPECT_FALSE(canDo(command));
         controller->perform(command);
     }
@@ -49,7 +49,7 @@ TEST_F(TreeViewControllerCommandsTest, SpaceIsNeitherMovedNorCompressed)
 TEST_F(TreeViewControllerCommandsTest, ShowsAFileInTheFileManager)
 {
     select("docs/a");
-    controller->perform(TreeCommand::ShowInFinder);
+    controller->perform(Command::ShowInFinder);
     EXPECT_EQ(services.workspace.revealed, std::vector<std::string>{"/data/docs/a"});
 }
 
@@ -57,7 +57,7 @@ TEST_F(TreeViewControllerCommandsTest, SaysWhenThereIsNoFileManager)
 {
     services.workspace.answer = false;
     select("docs/a");
-    controller->perform(TreeCommand::ShowInFinder);
+    controller->perform(Command::ShowInFinder);
     EXPECT_EQ(services.alert.told.size(), 1U);
 }
 
@@ -65,7 +65,7 @@ TEST_F(TreeViewControllerCommandsTest, SaysSoAlsoWhenThatIsKnownLater)
 {
     services.workspace.answersLater = true;
     select("docs");
-    controller->perform(TreeCommand::ShowInFinder);
+    controller->perform(Command::ShowInFinder);
     ASSERT_TRUE(services.alert.told.empty());
     services.workspace.lateAnswer(false);
     ASSERT_EQ(services.alert.told.size(), 1U);
@@ -76,7 +76,7 @@ TEST_F(TreeViewControllerCommandsTest, NobodyIsToldWhenTheScreenIsGoneByThen)
 {
     services.workspace.answersLater = true;
     select("docs");
-    controller->perform(TreeCommand::ShowInFinder);
+    controller->perform(Command::ShowInFinder);
     controller.reset();
     services.workspace.lateAnswer(false);
     EXPECT_TRUE(services.alert.told.empty());
@@ -85,7 +85,7 @@ TEST_F(TreeViewControllerCommandsTest, NobodyIsToldWhenTheScreenIsGoneByThen)
 TEST_F(TreeViewControllerCommandsTest, MovesTheSelectedItemToTheTrash)
 {
     select("c\xFF");
-    controller->perform(TreeCommand::MoveToTrash);
+    controller->perform(Command::MoveToTrash);
     ASSERT_EQ(services.workspace.recycled.size(), 1U);
     EXPECT_EQ(services.workspace.recycled[0][0].path(), "/data/c\xFF");
 }
@@ -108,7 +108,7 @@ TEST_F(TreeViewControllerCommandsTest, WhatIsInViewEndsWhenItIsTrashed)
 TEST_F(TreeViewControllerCommandsTest, CompressesTheSelectedItem)
 {
     select("docs");
-    controller->perform(TreeCommand::Compress);
+    controller->perform(Command::Compress);
     EXPECT_EQ(services.archiver.program, "/archiver");
     EXPECT_EQ(
         services.archiver.arguments,
@@ -140,7 +140,7 @@ TEST_F(TreeViewControllerCommandsTest, AnArchiveOfAScanOverALinkIsMadeWhereTheIt
 {
     model.topFolder()->setRealOrigin("/disk");
     select("docs");
-    controller->perform(TreeCommand::Compress);
+    controller->perform(Command::Compress);
     EXPECT_EQ(
         services.archiver.arguments,
         (std::vector<std::string>{

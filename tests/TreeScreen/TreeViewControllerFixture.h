@@ -71,7 +71,7 @@ protected:
         QTest::qWait(0);
     }
 
-    bool canDo(TreeCommand command) const { return controller->validate(command); }
+    bool canDo(Command command) const { return controller->validate(command); }
 
     /// What is said on the picture; empty while nothing is.
     QString said() const

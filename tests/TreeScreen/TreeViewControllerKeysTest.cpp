@@ -140,14 +140,14 @@ TEST_F(TreeViewControllerKeysTest, EachCommandHasItsReason)
 {
     const QString anything = QStringLiteral("Select a file or a folder first.");
     const QString folder = QStringLiteral("Select a folder first.");
-    EXPECT_EQ(controller->whyNot(TreeCommand::ShowInFinder), anything);
-    EXPECT_EQ(controller->whyNot(TreeCommand::Compress), anything);
-    EXPECT_EQ(controller->whyNot(TreeCommand::ZoomIn), folder);
-    EXPECT_EQ(controller->whyNot(TreeCommand::Ignore), folder);
+    EXPECT_EQ(controller->whyNot(Command::ShowInFinder), anything);
+    EXPECT_EQ(controller->whyNot(Command::Compress), anything);
+    EXPECT_EQ(controller->whyNot(Command::ZoomIn), folder);
+    EXPECT_EQ(controller->whyNot(Command::Ignore), folder);
     select("docs/a");
-    EXPECT_EQ(controller->whyNot(TreeCommand::ShowInFinder), QString());
-    EXPECT_EQ(controller->whyNot(TreeCommand::ZoomIn), folder);
-    EXPECT_TRUE(controller->whyNot(TreeCommand::Rescan)
+    EXPECT_EQ(controller->whyNot(Command::ShowInFinder), QString());
+    EXPECT_EQ(controller->whyNot(Command::ZoomIn), folder);
+    EXPECT_TRUE(controller->whyNot(Command::Rescan)
                     .startsWith(QStringLiteral("Only folders can be scanned again.")));
 }
 

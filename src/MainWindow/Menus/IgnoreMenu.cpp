@@ -8,6 +8,7 @@
 #include "TreeScreen/TreeViewController.h"
 
 #include <algorithm>
+#include <optional>
 #include <string>
 
 namespace tessera {
@@ -34,6 +35,13 @@ QString folderTitle(const std::string& path)
     return displayText(shown).replace(QLatin1Char('&'), QStringLiteral("&&"));
 }
 
+/// Nothing for the entries of folders.
+std::optional<IgnoreEntry> fixedEntry(const QAction& action)
+{
+    const QVariant data = action.data();
+    return data.isValid() ? std::optional(data.value<IgnoreEntry>()) : std::nullopt;
+}
+
 } // namespace
 
 IgnoreMenuItem::IgnoreMenuItem(Folder& file, const QString& title, QObject* parent)
@@ -51,30 +59,30 @@ IgnoreMenu::IgnoreMenu(RootModel& model, QWidget* parent)
     setTitle(tr("Ignore"));
     addAction(tr("Leave Out of the Picture"))->setEnabled(false);
     const PictureFilter& filter = model.pictureFilter();
-    addKind(tr("&Free Space"), FreeSpaceTag, filter.ignoreFreeSpace());
-    addKind(tr("&Hidden Files"), HiddenFilesTag, filter.ignoreHiddenFiles());
-    addKind(tr("&Restricted Files"), RestrictedFilesTag, filter.ignoreRestrictedFiles());
+    addKind(tr("&Free Space"), IgnoreEntry::FreeSpace, filter.ignoreFreeSpace());
+    addKind(tr("&Hidden Files"), IgnoreEntry::HiddenFiles, filter.ignoreHiddenFiles());
+    addKind(tr("&Restricted Files"), IgnoreEntry::RestrictedFiles, filter.ignoreRestrictedFiles());
     addSeparator();
-    QAction& reset = addFixedEntry(tr("&Show Everything"), ResetTag);
+    QAction& reset = addFixedEntry(tr("&Show Everything"), IgnoreEntry::Reset);
     connect(&reset, &QAction::triggered, this, [this, &reset] { ignoreItemSelected(reset); });
 }
 
-QAction& IgnoreMenu::addFixedEntry(const QString& title, Tag tag)
+QAction& IgnoreMenu::addFixedEntry(const QString& title, IgnoreEntry entry)
 {
-    QAction* const entry = addAction(title);
-    entry->setData(static_cast<int>(tag));
-    return *entry;
+    QAction* const action = addAction(title);
+    action->setData(QVariant::fromValue(entry));
+    return *action;
 }
 
-void IgnoreMenu::addKind(const QString& title, Tag tag, bool isOn)
+void IgnoreMenu::addKind(const QString& title, IgnoreEntry entry, bool isOn)
 {
-    QAction& entry = addFixedEntry(title, tag);
-    entry.setCheckable(true);
-    entry.setChecked(isOn);
-    connect(&entry, &QAction::triggered, this, [this, &entry] {
+    QAction& action = addFixedEntry(title, entry);
+    action.setCheckable(true);
+    action.setChecked(isOn);
+    connect(&action, &QAction::triggered, this, [this, &action] {
         // Qt has flipped the entry already, and toggleIgnore() does so too.
-        entry.toggle();
-        ignoreItemSelected(entry);
+        action.toggle();
+        ignoreItemSelected(action);
     });
 }
 
@@ -135,7 +143,7 @@ QAction* IgnoreMenu::entryOf(const Folder& folder) const
 
 void IgnoreMenu::ignoreItemSelected(QAction& sender)
 {
-    if (sender.data().toInt() == ResetTag) {
+    if (fixedEntry(sender) == IgnoreEntry::Reset) {
         turnAllOff();
     } else {
         toggleIgnore(sender);
@@ -158,21 +166,29 @@ void IgnoreMenu::turnAllOff()
 void IgnoreMenu::toggleIgnore(QAction& item)
 {
     item.toggle();
-    switch (item.data().toInt()) {
-    case RestrictedFilesTag:
-        m_model.pictureFilter().setIgnoreRestrictedFiles(item.isChecked());
-        break;
-    case HiddenFilesTag:
-        m_model.pictureFilter().setIgnoreHiddenFiles(item.isChecked());
-        break;
-    case FreeSpaceTag:
-        m_model.pictureFilter().setIgnoreFreeSpace(item.isChecked());
-        break;
-    default:
-        break;
+    if (const auto entry = fixedEntry(item)) {
+        setFilter(*entry, item.isChecked());
     }
     if (const auto* const folderItem = qobject_cast<IgnoreMenuItem*>(&item)) {
         folderItem->file().setIgnored(!folderItem->file().ignored());
+    }
+}
+
+void IgnoreMenu::setFilter(IgnoreEntry entry, bool isOn)
+{
+    Settings& settings = m_model.pictureFilter();
+    switch (entry) {
+    case IgnoreEntry::RestrictedFiles:
+        settings.setIgnoreRestrictedFiles(isOn);
+        break;
+    case IgnoreEntry::HiddenFiles:
+        settings.setIgnoreHiddenFiles(isOn);
+        break;
+    case IgnoreEntry::FreeSpace:
+        settings.setIgnoreFreeSpace(isOn);
+        break;
+    case IgnoreEntry::Reset:
+        break;
     }
 }
 

@@ -5,12 +5,22 @@
 #include <QMenu>
 #include <QPointer>
 
+#include <cstdint>
+
 namespace tessera {
 
 class File;
 class Folder;
 class RootModel;
 class TreeViewController;
+
+/// The fixed entries of the ignore menu but its title.
+enum class IgnoreEntry : std::uint8_t {
+    FreeSpace = 1,
+    HiddenFiles = 2,
+    RestrictedFiles = 4,
+    Reset = 31
+};
 
 /// Stands for one folder that the user left out of the picture.
 class IgnoreMenuItem final : public QAction {
@@ -28,14 +38,12 @@ private:
 
 /// The menu of what the picture leaves out. An entry that is on is left out. What the first three
 /// entries say is kept by the model's picture filter, what the entries of folders say by the
-/// folders themselves. Main thread only.
+/// folders themselves. The data() of a fixed entry is its IgnoreEntry; entries of folders have
+/// none. Main thread only.
 class IgnoreMenu final : public QMenu {
     Q_OBJECT
 
 public:
-    /// What the data() of the fixed entries is. Entries of folders have none.
-    enum Tag { FreeSpaceTag = 1, HiddenFilesTag = 2, RestrictedFilesTag = 4, ResetTag = 31 };
-
     /// The model must outlive the menu.
     explicit IgnoreMenu(RootModel& model, QWidget* parent = nullptr);
 
@@ -57,9 +65,10 @@ public:
     void removeFolders();
 
 private:
-    QAction& addFixedEntry(const QString& title, Tag tag);
-    void addKind(const QString& title, Tag tag, bool isOn);
+    QAction& addFixedEntry(const QString& title, IgnoreEntry entry);
+    void addKind(const QString& title, IgnoreEntry entry, bool isOn);
     QAction* entryOf(const Folder& folder) const;
+    void setFilter(IgnoreEntry entry, bool isOn);
     void turnAllOff();
     void remove(QAction& item);
     void removeFoldersIn(const File& leaving);

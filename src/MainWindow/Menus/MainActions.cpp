@@ -19,14 +19,14 @@ MainActions::MainActions(QWidget& window, Validator validator, WhyNot whyNot)
     , m_validator(std::move(validator))
     , m_whyNot(std::move(whyNot))
 {
-    for (const ActionRow& row : actionTable()) {
+    for (const CommandRow& row : commandTable()) {
         m_actions.emplace(row.command, makeAction(window, row));
     }
 }
 
 MainActions::~MainActions() = default;
 
-QAction* MainActions::makeAction(QWidget& window, const ActionRow& row)
+QAction* MainActions::makeAction(QWidget& window, const CommandRow& row)
 {
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the parent owns it
     auto* const action = new QAction(titleOf(row), this);
@@ -50,7 +50,7 @@ void MainActions::fill(QMenuBar& menuBar) const
 
 void MainActions::fill(QMenu& menu, MainMenu entries) const
 {
-    for (const ActionRow& row : actionTable()) {
+    for (const CommandRow& row : commandTable()) {
         if (row.menu != entries) {
             continue;
         }
@@ -64,7 +64,7 @@ void MainActions::fill(QMenu& menu, MainMenu entries) const
     connect(&menu, &QMenu::aboutToShow, this, &MainActions::validate);
 }
 
-std::optional<MainCommand> MainActions::disabledCommand(const QKeyEvent& pressed) const
+std::optional<Command> MainActions::disabledCommand(const QKeyEvent& pressed) const
 {
     Qt::KeyboardModifiers modifiers = pressed.modifiers();
     modifiers.setFlag(Qt::KeypadModifier, false);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "MainWindow/Menus/ActionTable.h"
+#include "Commands/CommandTable.h"
 
 #include <QObject>
 
@@ -26,16 +26,16 @@ public:
     /// Says by its tag whether an entry is enabled.
     using Validator = std::function<bool(int tag)>;
     /// Says why the entry of a command is disabled, if there is anything to say.
-    using WhyNot = std::function<QString(MainCommand command)>;
+    using WhyNot = std::function<QString(Command command)>;
 
     /// The shortcuts work in `window`, which owns this object.
     MainActions(QWidget& window, Validator validator, WhyNot whyNot);
     ~MainActions() override;
 
-    QAction& action(MainCommand command) const { return *m_actions.at(command); }
+    QAction& action(Command command) const { return *m_actions.at(command); }
 
     /// The command whose shortcut was pressed in vain, because its entry is disabled.
-    [[nodiscard]] std::optional<MainCommand> disabledCommand(const QKeyEvent& pressed) const;
+    [[nodiscard]] std::optional<Command> disabledCommand(const QKeyEvent& pressed) const;
 
     /// Adds all menus of the table.
     void fill(QMenuBar& menuBar) const;
@@ -47,14 +47,14 @@ public:
     void validate();
 
 signals:
-    void triggered(tessera::MainCommand command);
+    void triggered(tessera::Command command);
 
 private:
-    QAction* makeAction(QWidget& window, const ActionRow& row);
+    QAction* makeAction(QWidget& window, const CommandRow& row);
 
     Validator m_validator;
     WhyNot m_whyNot;
-    std::map<MainCommand, QAction*> m_actions;
+    std::map<Command, QAction*> m_actions;
 };
 
 } // namespace tessera

@@ -8,7 +8,6 @@
 #include "TreeScreen/Picture/TreePainter.h"
 #include "TreeScreen/Tooltip/TooltipController.h"
 #include "TreeScreen/Tooltip/TooltipPlacement.h"
-#include "TreeScreen/TreeCommand.h"
 #include "TreeScreen/Zoom/ZoomAnimation.h"
 
 #include <QContextMenuEvent>

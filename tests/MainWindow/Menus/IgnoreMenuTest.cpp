@@ -163,8 +163,8 @@ TEST_F(IgnoreMenuTest, NothingHappensWithoutASelectionOrATree)
 TEST_F(IgnoreMenuTest, TheTreesOwnCommandIgnores)
 {
     tree->setSelectedFile(&node("docs"));
-    EXPECT_TRUE(tree->validate(TreeCommand::Ignore));
-    tree->perform(TreeCommand::Ignore);
+    EXPECT_TRUE(tree->validate(Command::Ignore));
+    tree->perform(Command::Ignore);
     EXPECT_TRUE(node("docs").ignored());
 }
 

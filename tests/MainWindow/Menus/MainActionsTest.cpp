@@ -59,7 +59,7 @@ protected:
     MainActions* actions = new MainActions(
         window,
         [this](int tag) { return !disabledTags.contains(tag); },
-        [this](MainCommand) { return reason; });
+        [this](Command) { return reason; });
     QSignalSpy triggered{actions, &MainActions::triggered};
 };
 
@@ -88,8 +88,8 @@ TEST_F(MainActionsTest, ADisabledEntrySaysWhyInItsTooltip)
 {
     disabledTags = {35};
     actions->validate();
-    EXPECT_EQ(actions->action(MainCommand::Rescan).toolTip(), QStringLiteral("Not now."));
-    EXPECT_NE(actions->action(MainCommand::Ignore).toolTip(), QStringLiteral("Not now."));
+    EXPECT_EQ(actions->action(Command::Rescan).toolTip(), QStringLiteral("Not now."));
+    EXPECT_NE(actions->action(Command::Ignore).toolTip(), QStringLiteral("Not now."));
 }
 
 TEST_F(MainActionsTest, AnEntryThatIsEnabledAgainSaysNothingOfTheKind)
@@ -98,7 +98,7 @@ TEST_F(MainActionsTest, AnEntryThatIsEnabledAgainSaysNothingOfTheKind)
     actions->validate();
     disabledTags.clear();
     actions->validate();
-    EXPECT_NE(actions->action(MainCommand::Rescan).toolTip(), QStringLiteral("Not now."));
+    EXPECT_NE(actions->action(Command::Rescan).toolTip(), QStringLiteral("Not now."));
 }
 
 TEST_F(MainActionsTest, TheTooltipsAreShownInTheMenus)
@@ -113,30 +113,29 @@ TEST_F(MainActionsTest, ANameInAReasonIsNoMarkup)
     reason = QStringLiteral("A disk is mounted at '<img src=\"/a.png\">'.");
     actions->validate();
     EXPECT_EQ(
-        QTextDocumentFragment::fromHtml(actions->action(MainCommand::Rescan).toolTip())
-            .toPlainText(),
+        QTextDocumentFragment::fromHtml(actions->action(Command::Rescan).toolTip()).toPlainText(),
         reason);
 }
 
 TEST_F(MainActionsTest, EachCommandHasItsTag)
 {
-    const std::map<MainCommand, int> tags{
-        {MainCommand::OpenFolder, 21},
-        {MainCommand::Home, 41},
-        {MainCommand::Preferences, 0},
-        {MainCommand::Quit, 0},
-        {MainCommand::QuickLook, 33},
-        {MainCommand::ShowInFinder, 34},
-        {MainCommand::Rescan, 35},
-        {MainCommand::Ignore, 36},
-        {MainCommand::Compress, 37},
-        {MainCommand::MoveToTrash, 38},
-        {MainCommand::ZoomIn, 32},
-        {MainCommand::ZoomOut, 31},
-        {MainCommand::FullScreen, 0},
-        {MainCommand::Features, 62},
-        {MainCommand::Questions, 64}};
-    ASSERT_EQ(tags.size(), actionTable().size());
+    const std::map<Command, int> tags{
+        {Command::OpenFolder, 21},
+        {Command::Home, 41},
+        {Command::Preferences, 0},
+        {Command::Quit, 0},
+        {Command::QuickLook, 33},
+        {Command::ShowInFinder, 34},
+        {Command::Rescan, 35},
+        {Command::Ignore, 36},
+        {Command::Compress, 37},
+        {Command::MoveToTrash, 38},
+        {Command::ZoomIn, 32},
+        {Command::ZoomOut, 31},
+        {Command::FullScreen, 0},
+        {Command::Features, 62},
+        {Command::Questions, 64}};
+    ASSERT_EQ(tags.size(), commandTable().size());
     for (const auto& [command, tag] : tags) {
         EXPECT_EQ(actions->action(command).data().toInt(), tag);
     }
@@ -145,7 +144,7 @@ TEST_F(MainActionsTest, EachCommandHasItsTag)
 TEST_F(MainActionsTest, NoTwoCommandsShareAShortcut)
 {
     std::set<QKeySequence> seen;
-    for (const ActionRow& row : actionTable()) {
+    for (const CommandRow& row : commandTable()) {
         for (const QKeySequence& shortcut : actions->action(row.command).shortcuts()) {
             EXPECT_TRUE(seen.insert(shortcut).second) << shortcut.toString().toStdString();
         }
@@ -169,30 +168,30 @@ TEST_F(MainActionsTest, NoTwoEntriesOfAMenuShareAMnemonic)
 TEST_F(MainActionsTest, AShortcutTriggersItsCommand)
 {
     showActiveWindow();
-    const std::vector<std::pair<const char*, MainCommand>> expectations{
-        {"Ctrl+O", MainCommand::OpenFolder},
-        {"Alt+Home", MainCommand::Home},
-        {"Ctrl+,", MainCommand::Preferences},
-        {"Ctrl+Q", MainCommand::Quit},
-        {"Ctrl+Y", MainCommand::QuickLook},
-        {"Ctrl+Shift+R", MainCommand::ShowInFinder},
-        {"Ctrl+R", MainCommand::Rescan},
-        {"F5", MainCommand::Rescan},
-        {"Ctrl+I", MainCommand::Ignore},
-        {"Ctrl+Shift+C", MainCommand::Compress},
-        {"Ctrl+Del", MainCommand::MoveToTrash},
-        {"Ctrl++", MainCommand::ZoomIn},
-        {"Ctrl+=", MainCommand::ZoomIn},
-        {"Alt+Down", MainCommand::ZoomIn},
-        {"Ctrl+-", MainCommand::ZoomOut},
-        {"Alt+Up", MainCommand::ZoomOut},
-        {"F11", MainCommand::FullScreen},
-        {"F1", MainCommand::Features},
-        {"Ctrl+F1", MainCommand::Questions}};
+    const std::vector<std::pair<const char*, Command>> expectations{
+        {"Ctrl+O", Command::OpenFolder},
+        {"Alt+Home", Command::Home},
+        {"Ctrl+,", Command::Preferences},
+        {"Ctrl+Q", Command::Quit},
+        {"Ctrl+Y", Command::QuickLook},
+        {"Ctrl+Shift+R", Command::ShowInFinder},
+        {"Ctrl+R", Command::Rescan},
+        {"F5", Command::Rescan},
+        {"Ctrl+I", Command::Ignore},
+        {"Ctrl+Shift+C", Command::Compress},
+        {"Ctrl+Del", Command::MoveToTrash},
+        {"Ctrl++", Command::ZoomIn},
+        {"Ctrl+=", Command::ZoomIn},
+        {"Alt+Down", Command::ZoomIn},
+        {"Ctrl+-", Command::ZoomOut},
+        {"Alt+Up", Command::ZoomOut},
+        {"F11", Command::FullScreen},
+        {"F1", Command::Features},
+        {"Ctrl+F1", Command::Questions}};
     for (const auto& [keys, command] : expectations) {
         pressKeys(keys);
         ASSERT_EQ(triggered.size(), 1) << keys;
-        EXPECT_EQ(triggered.takeFirst().at(0).value<MainCommand>(), command) << keys;
+        EXPECT_EQ(triggered.takeFirst().at(0).value<Command>(), command) << keys;
     }
 }
 
@@ -209,8 +208,8 @@ TEST_F(MainActionsTest, AMenuValidatesItsEntriesWhenItOpens)
 {
     disabledTags = {31, 62};
     emit window.menuBar()->actions().at(2)->menu()->aboutToShow();
-    EXPECT_FALSE(actions->action(MainCommand::ZoomOut).isEnabled());
-    EXPECT_TRUE(actions->action(MainCommand::ZoomIn).isEnabled());
+    EXPECT_FALSE(actions->action(Command::ZoomOut).isEnabled());
+    EXPECT_TRUE(actions->action(Command::ZoomIn).isEnabled());
 }
 
 TEST_F(MainActionsTest, AnotherMenuMayHoldTheSameEntries)

@@ -1,112 +1,111 @@
 // SPDX-License-Identifier: MIT
-#include "MainWindow/Menus/ActionTable.h"
-
-#include "MainWindow/Menus/MenuValidation.h"
+#include "Commands/CommandTable.h"
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <array>
+#include <cassert>
 
 namespace tessera {
 
 namespace {
 
 constexpr const char* kContext = "MainMenu";
+constexpr int kNoTag = 0;
 
 constexpr std::array kRows{
-    ActionRow{
-        MainCommand::OpenFolder,
+    CommandRow{
+        Command::OpenFolder,
         MainMenu::File,
-        menu_tag::kOpenFolder,
+        21,
         QT_TRANSLATE_NOOP("MainMenu", "&Open Folder…"),
         "Ctrl+O"},
-    ActionRow{
-        MainCommand::Home,
+    CommandRow{
+        Command::Home,
         MainMenu::File,
-        menu_tag::kHome,
+        41,
         QT_TRANSLATE_NOOP("MainMenu", "Choose &Another Disk or Folder"),
         "Alt+Home"},
-    ActionRow{
-        MainCommand::Preferences,
+    CommandRow{
+        Command::Preferences,
         MainMenu::File,
-        menu_tag::kNone,
+        kNoTag,
         QT_TRANSLATE_NOOP("MainMenu", "&Preferences…"),
         "Ctrl+,",
         true},
-    ActionRow{
-        MainCommand::Quit,
+    CommandRow{
+        Command::Quit,
         MainMenu::File,
-        menu_tag::kNone,
+        kNoTag,
         QT_TRANSLATE_NOOP("MainMenu", "&Quit"),
         "Ctrl+Q",
         true},
-    ActionRow{
-        MainCommand::QuickLook,
+    CommandRow{
+        Command::QuickLook,
         MainMenu::Item,
-        menu_tag::kQuickLook,
+        33,
         QT_TRANSLATE_NOOP("MainMenu", "&Quick Look"),
         "Ctrl+Y"},
-    ActionRow{
-        MainCommand::ShowInFinder,
+    CommandRow{
+        Command::ShowInFinder,
         MainMenu::Item,
-        menu_tag::kShowInFinder,
+        34,
         QT_TRANSLATE_NOOP("MainMenu", "&Show in Finder"),
         "Ctrl+Shift+R"},
-    ActionRow{
-        MainCommand::Rescan,
+    CommandRow{
+        Command::Rescan,
         MainMenu::Item,
-        menu_tag::kRescan,
+        35,
         QT_TRANSLATE_NOOP("MainMenu", "&Rescan"),
         "Ctrl+R; F5",
         true},
-    ActionRow{
-        MainCommand::Ignore,
+    CommandRow{
+        Command::Ignore, MainMenu::Item, 36, QT_TRANSLATE_NOOP("MainMenu", "&Ignore"), "Ctrl+I"},
+    CommandRow{
+        Command::Compress,
         MainMenu::Item,
-        menu_tag::kIgnore,
-        QT_TRANSLATE_NOOP("MainMenu", "&Ignore"),
-        "Ctrl+I"},
-    ActionRow{
-        MainCommand::Compress,
-        MainMenu::Item,
-        menu_tag::kCompress,
+        37,
         QT_TRANSLATE_NOOP("MainMenu", "&Compress"),
         "Ctrl+Shift+C",
-        true},
-    ActionRow{
-        MainCommand::MoveToTrash,
+        true,
+        QT_TRANSLATE_NOOP("MainMenu", "Compress Folder"),
+        QT_TRANSLATE_NOOP("MainMenu", "Compress File")},
+    CommandRow{
+        Command::MoveToTrash,
         MainMenu::Item,
-        menu_tag::kMoveToTrash,
+        38,
         QT_TRANSLATE_NOOP("MainMenu", "Move to &Trash"),
         "Ctrl+Del"},
-    ActionRow{
-        MainCommand::ZoomIn,
+    CommandRow{
+        Command::ZoomIn,
         MainMenu::View,
-        menu_tag::kZoomIn,
+        32,
         QT_TRANSLATE_NOOP("MainMenu", "Zoom &In"),
         "Ctrl++; Ctrl+=; Alt+Down"},
-    ActionRow{
-        MainCommand::ZoomOut,
+    CommandRow{
+        Command::ZoomOut,
         MainMenu::View,
-        menu_tag::kZoomOut,
+        31,
         QT_TRANSLATE_NOOP("MainMenu", "Zoom &Out"),
         "Ctrl+-; Alt+Up"},
-    ActionRow{
-        MainCommand::FullScreen,
+    CommandRow{
+        Command::FullScreen,
         MainMenu::View,
-        menu_tag::kNone,
+        kNoTag,
         QT_TRANSLATE_NOOP("MainMenu", "&Full Screen"),
         "F11",
         true},
-    ActionRow{
-        MainCommand::Features,
+    CommandRow{
+        Command::Features,
         MainMenu::Help,
-        menu_tag::kFeatures,
+        62,
         QT_TRANSLATE_NOOP("MainMenu", "What Tessera &Does"),
         "F1"},
-    ActionRow{
-        MainCommand::Questions,
+    CommandRow{
+        Command::Questions,
         MainMenu::Help,
-        menu_tag::kQuestions,
+        64,
         QT_TRANSLATE_NOOP("MainMenu", "Frequently Asked &Questions"),
         "Ctrl+F1"},
 };
@@ -118,14 +117,27 @@ constexpr std::array kMenuTitles{
     QT_TRANSLATE_NOOP("MainMenu", "&Help"),
 };
 
+QString titleInItemMenu(const CommandRow& row, const char* ownTitle)
+{
+    return ownTitle == nullptr ? titleOf(row).remove(QLatin1Char('&'))
+                               : QCoreApplication::translate(kContext, ownTitle);
+}
+
 } // namespace
 
-std::span<const ActionRow> actionTable()
+std::span<const CommandRow> commandTable()
 {
     return kRows;
 }
 
-QString titleOf(const ActionRow& row)
+const CommandRow& rowOf(Command command)
+{
+    const auto* const found = std::ranges::find(kRows, command, &CommandRow::command);
+    assert(found != kRows.end());
+    return *found;
+}
+
+QString titleOf(const CommandRow& row)
 {
     return QCoreApplication::translate(kContext, row.title);
 }
@@ -133,6 +145,16 @@ QString titleOf(const ActionRow& row)
 QString titleOf(MainMenu menu)
 {
     return QCoreApplication::translate(kContext, kMenuTitles[static_cast<std::size_t>(menu)]);
+}
+
+QString titleForFolder(const CommandRow& row)
+{
+    return titleInItemMenu(row, row.folderTitle);
+}
+
+QString titleForDocument(const CommandRow& row)
+{
+    return titleInItemMenu(row, row.documentTitle);
 }
 
 } // namespace tessera

@@ -1,22 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Commands/Command.h"
+
 #include <QString>
 
 namespace tessera {
 
-/// What the user can ask to be done with the selected item of the tree screen.
-enum class TreeCommand {
-    QuickLook,
-    ShowInFinder,
-    ZoomIn,
-    Rescan,
-    Ignore,
-    Compress,
-    MoveToTrash,
-};
-
-/// Carries out the commands of the tree screen's menus on the selected item.
+/// Carries out the commands of the menus and of the keys on the tree screen, most of them on the
+/// selected item.
 class TreeCommandTarget {
 public:
     TreeCommandTarget() = default;
@@ -25,10 +17,10 @@ public:
     virtual ~TreeCommandTarget() = default;
 
     /// Whether the command can be performed now; its menu entry is enabled accordingly.
-    virtual bool validate(TreeCommand command) const = 0;
+    virtual bool validate(Command command) const = 0;
     /// Why it cannot be performed now, a sentence for the user; empty when it can.
-    virtual QString whyNot(TreeCommand command) const = 0;
-    virtual void perform(TreeCommand command) = 0;
+    virtual QString whyNot(Command command) const = 0;
+    virtual void perform(Command command) = 0;
 };
 
 } // namespace tessera
