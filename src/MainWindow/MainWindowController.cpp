@@ -331,8 +331,10 @@ void MainWindowController::perform(Command command)
         toggleFullScreen();
         break;
     case Command::Features:
+        emit helpRequested(HelpPage::Features);
+        break;
     case Command::Questions:
-        emit helpRequested(m_actions->action(command).data().toInt());
+        emit helpRequested(HelpPage::Questions);
         break;
     default:
         performOnTree(command);

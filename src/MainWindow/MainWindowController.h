@@ -4,6 +4,7 @@
 #include "Base/Observation.h"
 #include "Commands/CommandTable.h"
 #include "MainWindow/ChangesDuringScan.h"
+#include "MainWindow/HelpPage.h"
 #include "MainWindow/MainToolbar.h"
 #include "MainWindow/MainWindowServices.h"
 #include "MainWindow/Menus/IgnoreMenu.h"
@@ -76,8 +77,7 @@ public:
 
 signals:
     void preferencesRequested();
-    /// By the tag of the menu entry.
-    void helpRequested(int tag);
+    void helpRequested(tessera::HelpPage page);
     /// The user closed the window.
     void closed();
 

@@ -16,7 +16,6 @@
 #include <QPointer>
 #include <QThread>
 
-#include <optional>
 #include <utility>
 
 namespace tessera {
@@ -30,18 +29,6 @@ constexpr int kWaitMilliseconds = 250;
 bool isInNestedEventLoop()
 {
     return QThread::currentThread()->loopLevel() > 1;
-}
-
-std::optional<HelpPage> helpPageOf(int tag)
-{
-    switch (tag) {
-    case menu_tag::kFeatures:
-        return HelpPage::Features;
-    case menu_tag::kQuestions:
-        return HelpPage::Questions;
-    default:
-        return std::nullopt;
-    }
 }
 
 void bringToFront(QWidget& window)
@@ -79,7 +66,7 @@ void AppDelegate::start()
         &MainWindowController::preferencesRequested,
         this,
         &AppDelegate::showPreferences);
-    connect(&mainWindow, &MainWindowController::helpRequested, this, &AppDelegate::showHelpItem);
+    connect(&mainWindow, &MainWindowController::helpRequested, this, &AppDelegate::showHelp);
     mainWindow.setMayClose([this] { return mayCloseMainWindow(); });
     // Not from within the handling of its close event, and whatever other windows there are.
     connect(
@@ -179,15 +166,11 @@ void AppDelegate::showPreferences()
     m_prefWindow->showWindow(m_mainWindow == nullptr ? nullptr : &m_mainWindow->window());
 }
 
-void AppDelegate::showHelpItem(int tag)
+void AppDelegate::showHelp(HelpPage page)
 {
-    const std::optional<HelpPage> page = helpPageOf(tag);
-    if (!page) {
-        return;
-    }
     Workspace& workspace = m_services.mainWindow.treeScreen.workspace;
     workspace.openUrl(
-        m_services.helpAddress(*page), [self = QPointer<AppDelegate>(this)](bool isOpened) {
+        m_services.helpAddress(page), [self = QPointer<AppDelegate>(this)](bool isOpened) {
             if (self != nullptr && !isOpened) {
                 self->sayThatThereIsNoHelp();
             }

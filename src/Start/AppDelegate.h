@@ -3,12 +3,12 @@
 
 #include "Base/Observation.h"
 #include "Base/Url.h"
+#include "MainWindow/HelpPage.h"
 #include "MainWindow/MainWindowServices.h"
 
 #include <QObject>
 #include <QTimer>
 
-#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -20,9 +20,6 @@ class MainWindowController;
 class PreferencesWindowController;
 class UserAccount;
 class Workspace;
-
-/// The pages of the program's help.
-enum class HelpPage : std::uint8_t { Features, Questions };
 
 /// What the application needs; whatever is referred to must outlive it.
 struct AppDelegateServices {
@@ -66,8 +63,8 @@ public:
     /// Opens a new preferences window in place of the previous one.
     void showPreferences();
 
-    /// By the tag of the menu entry; other tags do nothing.
-    void showHelpItem(int tag);
+    /// Opens the page in the desktop's browser, or says that it cannot be shown.
+    void showHelp(HelpPage page);
 
 private:
     void openWaiting();

@@ -378,7 +378,7 @@ TEST_F(MainWindowControllerTest, ShortcutsOfTheWindowReachTheirCommands)
     EXPECT_EQ(services.openPanel.shown, 1);
 }
 
-TEST_F(MainWindowControllerTest, PreferencesAndHelpAreAskedForByTheirTags)
+TEST_F(MainWindowControllerTest, PreferencesAndHelpAreAskedForByTheirEntries)
 {
     const QSignalSpy preferences(controller.get(), &MainWindowController::preferencesRequested);
     const QSignalSpy help(controller.get(), &MainWindowController::helpRequested);
@@ -387,8 +387,10 @@ TEST_F(MainWindowControllerTest, PreferencesAndHelpAreAskedForByTheirTags)
     controller->perform(Command::Questions);
     EXPECT_EQ(preferences.size(), 1);
     ASSERT_EQ(help.size(), 2);
-    EXPECT_EQ(help.at(0).at(0).toInt(), 62);
-    EXPECT_EQ(help.at(1).at(0).toInt(), 64);
+    EXPECT_EQ(help.at(0).at(0).value<HelpPage>(), HelpPage::Features);
+    EXPECT_EQ(help.at(1).at(0).value<HelpPage>(), HelpPage::Questions);
+    EXPECT_EQ(rowOf(Command::Features).tag, 62);
+    EXPECT_EQ(rowOf(Command::Questions).tag, 64);
 }
 
 TEST_F(MainWindowControllerTest, QuitClosesTheWindow)

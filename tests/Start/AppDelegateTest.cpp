@@ -221,13 +221,12 @@ TEST_F(AppDelegateTest, EachPreferencesWindowTakesThePreviousOnesPlace)
     EXPECT_TRUE(delegate.prefWindow()->window().isVisible());
 }
 
-TEST_F(AppDelegateTest, HelpPagesAreOpenedByTheTagsOfTheirEntries)
+TEST_F(AppDelegateTest, HelpPagesAreOpenedByTheirEntries)
 {
     delegate.start();
     delegate.mainWindow()->perform(Command::Features);
-    delegate.showHelpItem(64);
-    delegate.showHelpItem(63);
-    delegate.showHelpItem(0);
+    delegate.mainWindow()->perform(Command::ZoomIn);
+    delegate.showHelp(HelpPage::Questions);
     EXPECT_THAT(
         services.treeScreen.workspace.opened, ElementsAre("file:///features", "file:///faq"));
     EXPECT_THAT(services.treeScreen.alert.told, IsEmpty());
@@ -236,7 +235,7 @@ TEST_F(AppDelegateTest, HelpPagesAreOpenedByTheTagsOfTheirEntries)
 TEST_F(AppDelegateTest, HelpThatCannotBeShownIsSaidSo)
 {
     services.treeScreen.workspace.answer = false;
-    delegate.showHelpItem(62);
+    delegate.showHelp(HelpPage::Features);
     ASSERT_EQ(services.treeScreen.alert.told.size(), 1U);
     EXPECT_EQ(
         services.treeScreen.alert.told[0].messageText, QStringLiteral("The help cannot be shown"));
@@ -246,7 +245,7 @@ TEST_F(AppDelegateTest, NobodyIsToldOfHelpWhenTheProgramHasEndedByThen)
 {
     services.treeScreen.workspace.answersLater = true;
     auto ended = std::make_unique<AppDelegate>(appServices());
-    ended->showHelpItem(62);
+    ended->showHelp(HelpPage::Features);
     ended.reset();
     services.treeScreen.workspace.lateAnswer(false);
     EXPECT_THAT(services.treeScreen.alert.told, IsEmpty());
