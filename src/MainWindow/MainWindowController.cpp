@@ -67,7 +67,7 @@ MainWindowController::MainWindowController(const MainWindowServices& services)
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the window owns it
     , m_actions(new MainActions(
           *m_window,
-          [this](int tag) { return validateMenuItem(tag); },
+          [this] { return commandContext(); },
           [this](Command command) { return whyNot(command); }))
     , m_ignoreMenu(services.model)
     , m_slide(services.treeScreen.motion, services.slideClock)
@@ -298,18 +298,11 @@ void MainWindowController::refreshPathControl()
     path.refreshWidth();
 }
 
-bool MainWindowController::validateMenuItem(int tag) const
+CommandContext MainWindowController::commandContext() const
 {
-    MenuContext context;
+    CommandContext context = m_treeVC == nullptr ? CommandContext() : m_treeVC->commandContext();
     context.hasHomeScreen = m_homeVC != nullptr;
-    context.hasTreeScreen = m_treeVC != nullptr;
-    if (m_treeVC != nullptr) {
-        context.isRootInView = m_treeVC->currentFolder() == m_services.model.topFolder();
-        context.selectedFile = m_treeVC->selectedFile();
-        // Not for every entry: it takes a question to the system.
-        context.canRescan = tag == menu_tag::kRescan && m_treeVC->validate(Command::Rescan);
-    }
-    return tessera::validateMenuItem(tag, context);
+    return context;
 }
 
 void MainWindowController::perform(Command command)

@@ -2,13 +2,12 @@
 #pragma once
 
 #include "Base/Observation.h"
-#include "Commands/CommandTable.h"
+#include "Commands/CommandContext.h"
 #include "MainWindow/ChangesDuringScan.h"
 #include "MainWindow/HelpPage.h"
 #include "MainWindow/MainToolbar.h"
 #include "MainWindow/MainWindowServices.h"
 #include "MainWindow/Menus/IgnoreMenu.h"
-#include "MainWindow/Menus/MenuValidation.h"
 #include "MainWindow/ScanPanelSlide.h"
 #include "MainWindow/ScreenStates.h"
 
@@ -70,8 +69,8 @@ public:
     /// Shows in the path bar where the folder in view lies; nothing without a tree.
     void refreshPathControl();
 
-    /// Whether the menu entry of that tag is enabled now.
-    bool validateMenuItem(int tag) const;
+    /// What decides which commands can be performed now.
+    CommandContext commandContext() const;
     /// Carries out a menu's command. One that makes no sense now does nothing.
     void perform(Command command);
 

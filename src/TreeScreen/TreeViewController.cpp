@@ -264,27 +264,19 @@ void TreeViewController::itemCompressed(const Url& archive)
     renderTree();
 }
 
+CommandContext TreeViewController::commandContext() const
+{
+    CommandContext context;
+    context.hasTreeScreen = true;
+    context.isRootInView = m_currentFolder == m_model.topFolder();
+    context.selectedFile = m_selectedFile;
+    context.canRescan = folderToRescan() != nullptr && rescanObstacle() == RescanObstacle::None;
+    return context;
+}
+
 bool TreeViewController::validate(Command command) const
 {
-    const bool isFolder = m_selectedFile != nullptr && m_selectedFile->isFolder();
-    switch (command) {
-    case Command::ZoomOut:
-        return m_currentFolder != nullptr && m_currentFolder->parent() != nullptr;
-    case Command::Open:
-    case Command::QuickLook:
-    case Command::ShowInFinder:
-        return m_selectedFile != nullptr;
-    case Command::Compress:
-    case Command::MoveToTrash:
-        return m_selectedFile != nullptr && isItem(*m_selectedFile);
-    case Command::ZoomIn:
-    case Command::Ignore:
-        return isFolder;
-    case Command::Rescan:
-        return folderToRescan() != nullptr && rescanObstacle() == RescanObstacle::None;
-    default:
-        return true;
-    }
+    return isEnabled(command, commandContext());
 }
 
 QString TreeViewController::whyNot(Command command) const

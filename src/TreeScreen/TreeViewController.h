@@ -3,6 +3,7 @@
 
 #include "Base/Observation.h"
 #include "Base/Rect.h"
+#include "Commands/CommandContext.h"
 #include "TreeScreen/CommandHint.h"
 #include "TreeScreen/FolderRescan.h"
 #include "TreeScreen/FolderZoom.h"
@@ -82,6 +83,8 @@ public:
     /// Compresses the selected item beside itself, in a window of its own.
     void compressItem();
 
+    /// What decides which commands can be performed, as far as this screen knows it.
+    CommandContext commandContext() const;
     bool validate(Command command) const override;
     QString whyNot(Command command) const override;
     void perform(Command command) override;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "MainWindow/MainWindowController.h"
 
+#include "Commands/CommandTable.h"
 #include "MainWindowFixture.h"
 #include "Model/UserDefaults.h"
 #include "QuickLook/QuickLookPanel.h"

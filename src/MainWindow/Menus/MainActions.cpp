@@ -14,9 +14,9 @@
 
 namespace tessera {
 
-MainActions::MainActions(QWidget& window, Validator validator, WhyNot whyNot)
+MainActions::MainActions(QWidget& window, Context context, WhyNot whyNot)
     : QObject(&window)
-    , m_validator(std::move(validator))
+    , m_context(std::move(context))
     , m_whyNot(std::move(whyNot))
 {
     for (const CommandRow& row : commandTable()) {
@@ -77,8 +77,9 @@ std::optional<Command> MainActions::disabledCommand(const QKeyEvent& pressed) co
 
 void MainActions::validate()
 {
+    const CommandContext context = m_context();
     for (const auto& [command, action] : m_actions) {
-        action->setEnabled(m_validator(action->data().toInt()));
+        action->setEnabled(isEnabled(command, context));
         action->setToolTip(action->isEnabled() ? QString() : plainTooltip(m_whyNot(command)));
     }
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Commands/CommandContext.h"
 #include "Commands/CommandTable.h"
 
 #include <QObject>
@@ -23,13 +24,13 @@ class MainActions final : public QObject {
     Q_OBJECT
 
 public:
-    /// Says by its tag whether an entry is enabled.
-    using Validator = std::function<bool(int tag)>;
+    /// Says what decides which entries are enabled.
+    using Context = std::function<CommandContext()>;
     /// Says why the entry of a command is disabled, if there is anything to say.
     using WhyNot = std::function<QString(Command command)>;
 
     /// The shortcuts work in `window`, which owns this object.
-    MainActions(QWidget& window, Validator validator, WhyNot whyNot);
+    MainActions(QWidget& window, Context context, WhyNot whyNot);
     ~MainActions() override;
 
     QAction& action(Command command) const { return *m_actions.at(command); }
@@ -42,8 +43,8 @@ public:
     /// Adds the entries of one menu, and validates them whenever the menu opens.
     void fill(QMenu& menu, MainMenu entries) const;
 
-    /// To be called when what the validator goes by has changed: the shortcuts of disabled entries
-    /// do nothing, and the key press goes on to whatever has the keyboard. Their tooltips say why.
+    /// To be called when the context has changed: the shortcuts of disabled entries do nothing, and
+    /// the key press goes on to whatever has the keyboard. Their tooltips say why.
     void validate();
 
 signals:
@@ -52,7 +53,7 @@ signals:
 private:
     QAction* makeAction(QWidget& window, const CommandRow& row);
 
-    Validator m_validator;
+    Context m_context;
     WhyNot m_whyNot;
     std::map<Command, QAction*> m_actions;
 };

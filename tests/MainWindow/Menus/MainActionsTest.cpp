@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "MainWindow/Menus/MainActions.h"
 
+#include "Model/Folder.h"
 #include "support/BecomesActive.h"
 
 #include <QAction>
@@ -15,7 +16,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <map>
+#include <memory>
 #include <set>
 #include <string>
 #include <vector>
@@ -52,14 +53,14 @@ protected:
         ASSERT_TRUE(test::becomesActive(window));
     }
 
-    std::set<int> disabledTags;
+    std::unique_ptr<Folder> folder = makeNode<Folder>("docs");
+    /// In which all is enabled.
+    CommandContext context{false, true, false, folder.get(), true};
     QString reason = QStringLiteral("Not now."); ///< for all
     QMainWindow window;
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the window owns it
     MainActions* actions = new MainActions(
-        window,
-        [this](int tag) { return !disabledTags.contains(tag); },
-        [this](Command) { return reason; });
+        window, [this] { return context; }, [this](Command) { return reason; });
     QSignalSpy triggered{actions, &MainActions::triggered};
 };
 
@@ -86,7 +87,7 @@ TEST_F(MainActionsTest, TheMenuBarHoldsEveryCommand)
 
 TEST_F(MainActionsTest, ADisabledEntrySaysWhyInItsTooltip)
 {
-    disabledTags = {35};
+    context.canRescan = false;
     actions->validate();
     EXPECT_EQ(actions->action(Command::Rescan).toolTip(), QStringLiteral("Not now."));
     EXPECT_NE(actions->action(Command::Ignore).toolTip(), QStringLiteral("Not now."));
@@ -94,9 +95,9 @@ TEST_F(MainActionsTest, ADisabledEntrySaysWhyInItsTooltip)
 
 TEST_F(MainActionsTest, AnEntryThatIsEnabledAgainSaysNothingOfTheKind)
 {
-    disabledTags = {35};
+    context.canRescan = false;
     actions->validate();
-    disabledTags.clear();
+    context.canRescan = true;
     actions->validate();
     EXPECT_NE(actions->action(Command::Rescan).toolTip(), QStringLiteral("Not now."));
 }
@@ -109,7 +110,7 @@ TEST_F(MainActionsTest, TheTooltipsAreShownInTheMenus)
 
 TEST_F(MainActionsTest, ANameInAReasonIsNoMarkup)
 {
-    disabledTags = {35};
+    context.canRescan = false;
     reason = QStringLiteral("A disk is mounted at '<img src=\"/a.png\">'.");
     actions->validate();
     EXPECT_EQ(
@@ -117,27 +118,10 @@ TEST_F(MainActionsTest, ANameInAReasonIsNoMarkup)
         reason);
 }
 
-TEST_F(MainActionsTest, EachCommandHasItsTag)
+TEST_F(MainActionsTest, EachEntryCarriesItsTag)
 {
-    const std::map<Command, int> tags{
-        {Command::OpenFolder, 21},
-        {Command::Home, 41},
-        {Command::Preferences, 0},
-        {Command::Quit, 0},
-        {Command::QuickLook, 33},
-        {Command::ShowInFinder, 34},
-        {Command::Rescan, 35},
-        {Command::Ignore, 36},
-        {Command::Compress, 37},
-        {Command::MoveToTrash, 38},
-        {Command::ZoomIn, 32},
-        {Command::ZoomOut, 31},
-        {Command::FullScreen, 0},
-        {Command::Features, 62},
-        {Command::Questions, 64}};
-    ASSERT_EQ(tags.size(), commandTable().size());
-    for (const auto& [command, tag] : tags) {
-        EXPECT_EQ(actions->action(command).data().toInt(), tag);
+    for (const CommandRow& row : commandTable()) {
+        EXPECT_EQ(actions->action(row.command).data().toInt(), row.tag);
     }
 }
 
@@ -198,7 +182,7 @@ TEST_F(MainActionsTest, AShortcutTriggersItsCommand)
 TEST_F(MainActionsTest, TheShortcutOfADisabledCommandDoesNothing)
 {
     showActiveWindow();
-    disabledTags = {35};
+    context.canRescan = false;
     actions->validate();
     pressKeys("Ctrl+R");
     EXPECT_EQ(triggered.size(), 0);
@@ -206,7 +190,7 @@ TEST_F(MainActionsTest, TheShortcutOfADisabledCommandDoesNothing)
 
 TEST_F(MainActionsTest, AMenuValidatesItsEntriesWhenItOpens)
 {
-    disabledTags = {31, 62};
+    context.isRootInView = true;
     emit window.menuBar()->actions().at(2)->menu()->aboutToShow();
     EXPECT_FALSE(actions->action(Command::ZoomOut).isEnabled());
     EXPECT_TRUE(actions->action(Command::ZoomIn).isEnabled());
