@@ -94,8 +94,8 @@ void MainWindowController::loadWindow()
     connect(
         &m_toolbar->toolbarHomeButton(),
         &QToolButton::clicked,
-        this,
-        &MainWindowController::homeSelected);
+        &m_actions->action(Command::Home),
+        &QAction::trigger);
     connect(
         &m_toolbar->toolbarPathControl(),
         &ToolbarPathControl::clicked,
@@ -330,48 +330,23 @@ void MainWindowController::perform(Command command)
         emit helpRequested(HelpPage::Questions);
         break;
     default:
-        performOnTree(command);
+        if (m_treeVC != nullptr) {
+            performOnTree(command);
+        }
         break;
     }
 }
 
+/// All but two commands are the same from the menu bar as from the picture's own menu and keys.
 void MainWindowController::performOnTree(Command command)
 {
-    if (m_treeVC == nullptr) {
-        return;
-    }
-    if (command == Command::ZoomOut) {
-        m_treeVC->zoomOut();
-        return;
-    }
     if (command == Command::Rescan) {
         rescan();
-        return;
-    }
-    if (m_treeVC->selectedFile() == nullptr) {
-        return;
-    }
-    switch (command) {
-    case Command::QuickLook:
+    } else if (command != Command::QuickLook) {
+        m_treeVC->perform(command);
+    } else if (m_treeVC->validate(command)) {
+        // An open preview comes to the front, where the picture's Space would close it.
         m_treeVC->quickLook();
-        break;
-    case Command::ShowInFinder:
-        m_treeVC->showInFinder();
-        break;
-    case Command::ZoomIn:
-        m_treeVC->zoomIn();
-        break;
-    case Command::Ignore:
-        m_ignoreMenu.ignoreFolder();
-        break;
-    case Command::Compress:
-        m_treeVC->compressItem();
-        break;
-    case Command::MoveToTrash:
-        m_treeVC->trashItem();
-        break;
-    default:
-        break;
     }
 }
 

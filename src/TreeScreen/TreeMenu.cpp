@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "TreeScreen/TreeMenu.h"
 
-#include "Base/DisplayText.h"
+#include "Commands/CommandEntry.h"
 #include "Commands/CommandTable.h"
 #include "Model/File.h"
 #include "TreeScreen/TreeCommandTarget.h"
@@ -52,15 +52,19 @@ std::span<const Entry> entriesFor(const File& item)
     return {};
 }
 
-void addEntry(QMenu& menu, Command command, const QString& title, TreeCommandTarget* target)
+void addEntry(QMenu& menu, Command command, const File& item, TreeCommandTarget* target)
 {
-    QAction* const action = menu.addAction(title);
-    action->setEnabled(target != nullptr && target->validate(command));
-    if (target != nullptr) {
-        action->setToolTip(plainTooltip(target->whyNot(command)));
-        QObject::connect(
-            action, &QAction::triggered, &menu, [target, command] { target->perform(command); });
+    const CommandRow& row = rowOf(command);
+    QAction* const entry = makeCommandEntry(
+        row, item.isFolder() ? titleForFolder(row) : titleForDocument(row), &menu);
+    menu.addAction(entry);
+    if (target == nullptr) {
+        entry->setEnabled(false);
+        return;
     }
+    enableCommandEntry(*entry, target->validate(command), target->whyNot(command));
+    QObject::connect(
+        entry, &QAction::triggered, &menu, [target, command] { target->perform(command); });
 }
 
 } // namespace
@@ -76,9 +80,7 @@ std::unique_ptr<QMenu> makeTreeMenu(const File& item, TreeCommandTarget* target)
     menu->setToolTipsVisible(true);
     for (const Entry& entry : entries) {
         if (entry) {
-            const CommandRow& row = rowOf(*entry);
-            const QString title = item.isFolder() ? titleForFolder(row) : titleForDocument(row);
-            addEntry(*menu, *entry, title, target);
+            addEntry(*menu, *entry, item, target);
         } else {
             menu->addSeparator();
         }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "MainWindow/Menus/MainActions.h"
 
-#include "Base/DisplayText.h"
+#include "Commands/CommandEntry.h"
 
 #include <QAction>
 #include <QKeyEvent>
@@ -28,12 +28,8 @@ MainActions::~MainActions() = default;
 
 QAction* MainActions::makeAction(QWidget& window, const CommandRow& row)
 {
-    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the parent owns it
-    auto* const action = new QAction(titleOf(row), this);
+    QAction* const action = makeCommandEntry(row, titleOf(row), this);
     action->setShortcuts(QKeySequence::listFromString(QString::fromLatin1(row.shortcuts)));
-    // Titles must not make an entry move elsewhere in the menus of some desktops.
-    action->setMenuRole(QAction::NoRole);
-    action->setData(row.tag);
     connect(action, &QAction::triggered, this, [this, command = row.command] {
         emit triggered(command);
     });
@@ -79,8 +75,8 @@ void MainActions::validate()
 {
     const CommandContext context = m_context();
     for (const auto& [command, action] : m_actions) {
-        action->setEnabled(isEnabled(command, context));
-        action->setToolTip(action->isEnabled() ? QString() : plainTooltip(m_whyNot(command)));
+        const bool canBeDone = isEnabled(command, context);
+        enableCommandEntry(*action, canBeDone, canBeDone ? QString() : m_whyNot(command));
     }
 }
 
