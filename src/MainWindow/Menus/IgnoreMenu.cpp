@@ -176,16 +176,16 @@ void IgnoreMenu::toggleIgnore(QAction& item)
 
 void IgnoreMenu::setFilter(IgnoreEntry entry, bool isOn)
 {
-    Settings& settings = m_model.pictureFilter();
+    PictureFilter& filter = m_model.pictureFilter();
     switch (entry) {
     case IgnoreEntry::RestrictedFiles:
-        settings.setIgnoreRestrictedFiles(isOn);
+        filter.setIgnoreRestrictedFiles(isOn);
         break;
     case IgnoreEntry::HiddenFiles:
-        settings.setIgnoreHiddenFiles(isOn);
+        filter.setIgnoreHiddenFiles(isOn);
         break;
     case IgnoreEntry::FreeSpace:
-        settings.setIgnoreFreeSpace(isOn);
+        filter.setIgnoreFreeSpace(isOn);
         break;
     case IgnoreEntry::Reset:
         break;
