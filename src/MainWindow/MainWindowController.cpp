@@ -128,8 +128,7 @@ void MainWindowController::observe()
     m_observations
         = {observed("ScanURL", ScreenEvent::ScanUrl),
            observed("ScanCancelled", ScreenEvent::ScanCancelled),
-           observed("ScanComplete", ScreenEvent::ScanComplete),
-           observed("CurrentFolderChanged", ScreenEvent::CurrentFolderChanged)};
+           observed("ScanComplete", ScreenEvent::ScanComplete)};
 }
 
 void MainWindowController::handle(ScreenEvent event, const Url& url)
@@ -244,6 +243,9 @@ void MainWindowController::displayTree()
     placeScreens();
     m_treeVC = std::make_unique<TreeViewController>(
         m_services.model, *m_treeView, m_services.treeScreen);
+    connect(m_treeVC.get(), &TreeViewController::currentFolderChanged, this, [this] {
+        handle(ScreenEvent::CurrentFolderChanged, {});
+    });
     connect(
         m_treeVC.get(),
         &TreeViewController::treeChanged,

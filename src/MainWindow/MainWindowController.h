@@ -123,7 +123,7 @@ private:
     std::vector<std::variant<std::unique_ptr<HomeScreen>, std::unique_ptr<ScanScreen>>> m_retired;
     QTimer m_release;
     ChangesDuringScan m_changes;
-    std::array<Observation, 4> m_observations;
+    std::array<Observation, 3> m_observations;
 };
 
 } // namespace tessera

@@ -87,8 +87,7 @@ void TreeViewController::setCurrentFolder(Folder* folder)
 {
     m_currentFolder = folder;
     m_isMountPoint.reset();
-    NotificationCenter::defaultCenter().post(
-        "CurrentFolderChanged", static_cast<const void*>(this));
+    emit currentFolderChanged();
 }
 
 void TreeViewController::setSelectedFile(File* file)

@@ -45,7 +45,7 @@ public:
 
     /// The folder that fills the view; null when there is no tree.
     Folder* currentFolder() const { return m_currentFolder; }
-    /// Posts "CurrentFolderChanged". Does not draw.
+    /// Does not draw.
     void setCurrentFolder(Folder* folder);
 
     /// The selected item or null. Its node carries the mark as well.
@@ -110,6 +110,8 @@ public:
         Folder* folder, const Rect& inRect, TreeBranch* inView, long level);
 
 signals:
+    /// Another folder fills the view.
+    void currentFolderChanged();
     /// Sizes or names in the tree are others than before.
     void treeChanged();
     /// Another item is selected, or none any more.

@@ -181,7 +181,7 @@ TEST_F(MainWindowScreensTest, AfterTheTreeThePanelSlidesInFromBelowAgain)
 
 TEST_F(MainWindowScreensTest, EventsThatMakeNoSenseChangeNothing)
 {
-    for (const char* name : {"ScanCancelled", "ScanComplete", "CurrentFolderChanged"}) {
+    for (const char* name : {"ScanCancelled", "ScanComplete"}) {
         post(name);
         EXPECT_EQ(controller->state(), ScreenState::Home) << name;
     }

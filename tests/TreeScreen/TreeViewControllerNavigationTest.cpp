@@ -252,14 +252,10 @@ TEST_F(TreeViewControllerNavigationTest, AFolderAsksForNoSizes)
     EXPECT_EQ(viewServices.fileSystem.askedFor(), "");
 }
 
-TEST_F(TreeViewControllerNavigationTest, TheFirstFolderIsAnnounced)
+TEST_F(TreeViewControllerNavigationTest, TheFirstFolderIsInViewFromTheStart)
 {
-    const void* announcedBy = nullptr;
-    const Observation observation = NotificationCenter::defaultCenter().addObserver(
-        "CurrentFolderChanged",
-        [&](const NotificationObject& object) { announcedBy = std::get<const void*>(object); });
     const TreeViewController other(model, view, viewServices.get());
-    EXPECT_EQ(announcedBy, &other);
+    EXPECT_EQ(other.currentFolder(), model.topFolder());
 }
 
 } // namespace

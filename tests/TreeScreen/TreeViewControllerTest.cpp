@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "TreeScreen/TreeViewController.h"
 
-#include "Base/NotificationCenter.h"
 #include "Model/RootModel.h"
 #include "TreeScreen/Map/TreeMapView.h"
 #include "TreeScreen/Picture/TreeBranch.h"
@@ -167,12 +166,9 @@ TEST_F(TreeViewControllerTest, SelectingNothingClearsTheMark)
 TEST_F(TreeViewControllerTest, ChangingTheFolderIsAnnouncedAndDrawnOnRequest)
 {
     TreeViewController controller(model, view, viewServices.get());
-    const void* announcedBy = nullptr;
-    const Observation observation = NotificationCenter::defaultCenter().addObserver(
-        "CurrentFolderChanged",
-        [&](const NotificationObject& object) { announcedBy = std::get<const void*>(object); });
+    const QSignalSpy changes(&controller, &TreeViewController::currentFolderChanged);
     controller.setCurrentFolder(static_cast<Folder*>(&node("docs")));
-    EXPECT_EQ(announcedBy, &controller);
+    EXPECT_EQ(changes.count(), 1);
     EXPECT_EQ(topBranch().name(), "data");
     controller.renderTree();
     EXPECT_EQ(topBranch().name(), "docs");
