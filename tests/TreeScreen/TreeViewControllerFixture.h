@@ -69,6 +69,9 @@ protected:
         ASSERT_TRUE(services.workspace.finishRecycling({}));
         QTRY_VERIFY(services.archiver.isDestroyed);
         QTest::qWait(0);
+        // Its window would stay for a second, and outlive the services that it works with.
+        emit qApp->aboutToQuit({});
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
     bool canDo(Command command) const { return controller->validate(command); }
