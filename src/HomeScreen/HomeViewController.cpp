@@ -2,7 +2,6 @@
 #include "HomeScreen/HomeViewController.h"
 
 #include "Base/Log.h"
-#include "Base/NotificationCenter.h"
 #include "Desktop/UserAccount.h"
 #include "HomeScreen/Grid/CollectionHeaderView.h"
 #include "HomeScreen/Grid/SectionedCollectionView.h"
@@ -321,13 +320,14 @@ void HomeViewController::updateButtons()
 
 void HomeViewController::scanSelected()
 {
-    if (const int row = selectedRecent(); row >= 0) {
-        scanURL(Url(m_recents->record(row).path, true));
+    const int row = selectedRecent();
+    const Url* const inGrid = selectedUrl();
+    if (row < 0 && inGrid == nullptr) {
         return;
     }
-    if (const Url* const url = selectedUrl()) {
-        scanURL(*url);
-    }
+    const Url url = row < 0 ? *inGrid : Url(m_recents->record(row).path, true);
+    logLine("scanning %s", url.absoluteString().c_str());
+    emit scanUrl(url);
 }
 
 /// In the grid; null when nothing is.
@@ -342,12 +342,6 @@ const Url* HomeViewController::urlAt(int section, int index) const
 {
     const auto place = static_cast<std::size_t>(index);
     return section == kVolumes ? &m_volumes.at(place).url : &m_locations.at(place).url;
-}
-
-void HomeViewController::scanURL(const Url& url)
-{
-    logLine("scanning %s", url.absoluteString().c_str());
-    NotificationCenter::defaultCenter().post("ScanURL", url);
 }
 
 void HomeViewController::clearList()

@@ -34,7 +34,7 @@ class VolumeCollectionView;
 struct CollectionSection;
 
 /// The screen from which every scan starts: the mounted volumes and the user's well-known folders
-/// in a grid, and the recent scans. Posts "ScanURL" with the URL to scan; scans nothing itself.
+/// in a grid, and the recent scans. Scans nothing itself.
 ///
 /// A file system that is slow to answer delays nothing: its volume is shown with an empty bar, its
 /// folder is left out, and both are made good when the answer comes.
@@ -71,15 +71,14 @@ public:
     /// Scans what is selected, in the list of recent scans before the grid; else does nothing.
     void scanSelected();
 
-    /// Asks for a scan of that folder.
-    static void scanURL(const Url& url);
-
     /// Empties the list of recent scans.
     void clearList();
 
 signals:
     /// The open button was clicked: a folder is to be chosen.
     void openFolder();
+    /// That folder is to be scanned.
+    void scanUrl(const Url& url);
 
 private:
     /// Enter presses the focused button, or else the scan button.

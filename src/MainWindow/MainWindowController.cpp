@@ -7,6 +7,7 @@
 #include "Desktop/OpenPanel.h"
 #include "HomeScreen/Places/PlaceNames.h"
 #include "MainWindow/BackupFolder.h"
+#include "MainWindow/HomeScreen.h"
 #include "MainWindow/Menus/MainActions.h"
 #include "MainWindow/WindowFrame.h"
 #include "Model/RootModel.h"
@@ -49,12 +50,6 @@ QRect wholePoints(const Rect& rect)
 double panelHeight(const QWidget& panel)
 {
     return std::max(ScanPanelPlace::kPanelHeight, 1.0 * panel.heightForWidth(kLeastWidth));
-}
-
-Url urlOf(const NotificationObject& object)
-{
-    const Url* const url = std::get_if<Url>(&object);
-    return url == nullptr ? Url() : *url;
 }
 
 } // namespace
@@ -121,13 +116,11 @@ void MainWindowController::observe()
 {
     NotificationCenter& center = NotificationCenter::defaultCenter();
     const auto observed = [&](std::string_view name, ScreenEvent event) {
-        return center.addObserver(name, [this, event](const NotificationObject& object) {
-            handle(event, urlOf(object));
-        });
+        return center.addObserver(
+            name, [this, event](const NotificationObject&) { handle(event, {}); });
     };
     m_observations
-        = {observed("ScanURL", ScreenEvent::ScanUrl),
-           observed("ScanCancelled", ScreenEvent::ScanCancelled),
+        = {observed("ScanCancelled", ScreenEvent::ScanCancelled),
            observed("ScanComplete", ScreenEvent::ScanComplete)};
 }
 
@@ -181,6 +174,9 @@ void MainWindowController::showHome()
     m_treeView.reset();
     m_toolbar->setTreeDisplayed(false);
     m_homeVC = m_services.makeHomeScreen([this] { openFolder(); });
+    connect(m_homeVC.get(), &HomeScreen::scanUrl, this, [this](const Url& url) {
+        handle(ScreenEvent::ScanUrl, url);
+    });
     QWidget& home = m_homeVC->view();
     home.setParent(m_view);
     placeScreens();
@@ -209,6 +205,7 @@ void MainWindowController::startScan(const Url& url)
     panel.show();
     panel.raise();
     panel.setFocus();
+    emit scanStarted(url);
 }
 
 template <typename Screen>
@@ -361,7 +358,7 @@ void MainWindowController::rescan()
     }
     const Folder& folder = *m_treeVC->folderToRescan();
     if (&folder == m_services.model.topFolder()) {
-        scanURL(folder.url());
+        scanUrl(folder.url());
     } else {
         m_treeVC->refreshFolder();
     }
@@ -388,7 +385,7 @@ void MainWindowController::folderChosen(const std::vector<Url>& urls)
         refuseTimeMachine(urls.back());
         return;
     }
-    scanURL(urls.back());
+    scanUrl(urls.back());
 }
 
 void MainWindowController::refuseTimeMachine(const Url& url)
@@ -402,10 +399,10 @@ void MainWindowController::refuseTimeMachine(const Url& url)
          {tr("OK")}});
 }
 
-void MainWindowController::scanURL(const Url& url)
+void MainWindowController::scanUrl(const Url& url)
 {
     logLine("Scan: %s", url.absoluteString().c_str());
-    NotificationCenter::defaultCenter().post("ScanURL", url);
+    handle(ScreenEvent::ScanUrl, url);
 }
 
 void MainWindowController::showWindow()

@@ -30,6 +30,7 @@ class MainWindow;
 
 namespace tessera {
 
+class HomeScreen;
 class MainActions;
 class TreeMapView;
 class TreeViewController;
@@ -62,8 +63,8 @@ public:
     void homeSelected();
     /// Lets the user choose a folder to scan.
     void openFolder();
-    /// Posts "ScanURL".
-    static void scanURL(const Url& url);
+    /// Scans the folder, whatever is displayed now; another scan that runs ends.
+    void scanUrl(const Url& url);
     /// A folder of the path bar was clicked.
     void pathSelected();
     /// Shows in the path bar where the folder in view lies; nothing without a tree.
@@ -79,6 +80,8 @@ signals:
     void helpRequested(tessera::HelpPage page);
     /// The user closed the window.
     void closed();
+    /// The scan of that folder has begun.
+    void scanStarted(const Url& url);
 
 private:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -123,7 +126,7 @@ private:
     std::vector<std::variant<std::unique_ptr<HomeScreen>, std::unique_ptr<ScanScreen>>> m_retired;
     QTimer m_release;
     ChangesDuringScan m_changes;
-    std::array<Observation, 3> m_observations;
+    std::array<Observation, 2> m_observations;
 };
 
 } // namespace tessera

@@ -14,7 +14,8 @@ public:
         RootModel& model, const HomeViewServices& services, const std::function<void()>& openFolder)
         : m_homeVC(model, services)
     {
-        QObject::connect(&m_homeVC, &HomeViewController::openFolder, &m_homeVC, openFolder);
+        connect(&m_homeVC, &HomeViewController::scanUrl, this, &HomeScreen::scanUrl);
+        connect(&m_homeVC, &HomeViewController::openFolder, this, openFolder);
     }
 
     QWidget& view() const override { return m_homeVC.view(); }

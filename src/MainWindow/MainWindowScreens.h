@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "MainWindow/HomeScreen.h"
 #include "MainWindow/MainWindowServices.h"
 
 #include <functional>

@@ -12,25 +12,12 @@ class QWidget;
 
 namespace tessera {
 
+class HomeScreen;
 class MountedVolumes;
 class OpenPanel;
 class RootModel;
 class Url;
 class UserDefaults;
-
-/// The screen where the user chooses what to scan. It asks for a scan by posting "ScanURL".
-class HomeScreen {
-public:
-    HomeScreen() = default;
-    HomeScreen(const HomeScreen&) = delete;
-    HomeScreen& operator=(const HomeScreen&) = delete;
-    virtual ~HomeScreen() = default;
-
-    virtual QWidget& view() const = 0;
-    virtual void setEnabled(bool enabled) = 0;
-    /// Gives the keyboard to what the user is most likely to need it for.
-    virtual void takeFocus() = 0;
-};
 
 /// The panel that shows how far a scan is. It posts "ScanComplete" when the model has the tree, or
 /// else "ScanCancelled"; when it is destroyed before, its scan is cancelled without a word.

@@ -102,7 +102,7 @@ void AppDelegate::openWaiting()
     if (m_waiting.empty()) {
         m_wait.stop();
     } else {
-        MainWindowController::scanURL(std::exchange(m_waiting, {}));
+        m_mainWindow->scanUrl(std::exchange(m_waiting, {}));
     }
 }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Base/NotificationCenter.h"
 #include "Grid/ShownViews.h"
 #include "HomeScreen/Grid/SectionedCollectionView.h"
 #include "HomeScreen/HomeViewController.h"
@@ -78,6 +77,9 @@ protected:
                 .homeDirectory = homeDirectory,
                 .fileSystemAttributes = attributes,
                 .resourceValues = resourceValues});
+        QObject::connect(home.get(), &HomeViewController::scanUrl, [this](const Url& url) {
+            scanned.push_back(url.absoluteString());
+        });
         home->view().resize(1080, 660);
         home->view().show();
     }
@@ -141,10 +143,6 @@ protected:
     std::unique_ptr<RootModel> model;
     std::unique_ptr<HomeViewController> home;
     std::vector<std::string> scanned;
-    Observation scans = NotificationCenter::defaultCenter().addObserver(
-        "ScanURL", [this](const NotificationObject& object) {
-            scanned.push_back(std::get<Url>(object).absoluteString());
-        });
 };
 
 } // namespace tessera::test

@@ -30,10 +30,7 @@ protected:
     }
 
     static void post(const char* name) { NotificationCenter::defaultCenter().post(name); }
-    static void requestScan(const char* path = "/data")
-    {
-        NotificationCenter::defaultCenter().post("ScanURL", Url(path, true));
-    }
+    void requestScan(const char* path = "/data") const { controller->scanUrl(Url(path, true)); }
 
     /// Lets the scan panel slide on for that many seconds.
     void slideFor(double seconds)

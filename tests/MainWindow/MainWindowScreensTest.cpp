@@ -40,6 +40,13 @@ TEST_F(MainWindowScreensTest, AScanRequestDisablesTheHomeScreenAndStartsTheScan)
     EXPECT_TRUE(services.screens.scan->isVisible());
 }
 
+TEST_F(MainWindowScreensTest, WhatTheHomeScreenAsksForIsScanned)
+{
+    emit services.screens.homeScreen->scanUrl(Url("/data/some\xFF", true));
+    EXPECT_THAT(services.screens.scanned, ElementsAre("/data/some\xFF"));
+    EXPECT_EQ(controller->state(), ScreenState::Scanning);
+}
+
 TEST_F(MainWindowScreensTest, TheScanPanelBeginsJustBelowTheLowerEdge)
 {
     requestScan();

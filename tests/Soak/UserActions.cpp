@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "UserActions.h"
 
-#include "Base/NotificationCenter.h"
+#include "Base/Url.h"
 #include "MainWindow/MainWindowController.h"
 #include "Model/File.h"
 #include "OpenWindows.h"
@@ -43,10 +43,11 @@ UserActions::UserActions(AppDelegate& program, const Sandbox& sandbox, Random& r
     : m_program(program)
     , m_sandbox(sandbox)
     , m_random(random)
-    , m_scanObservation(NotificationCenter::defaultCenter().addObserver(
-          "ScanURL",
-          [this](const NotificationObject& url) { m_scanned = std::get<Url>(url).path(); }))
 {
+    QObject::connect(
+        &controller(), &MainWindowController::scanStarted, &m_scanListener, [this](const Url& url) {
+            m_scanned = url.path();
+        });
 }
 
 std::span<const UserActions::Row> UserActions::rows()

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Base/Observation.h"
 #include "Random.h"
 #include "Sandbox.h"
 #include "UserInput.h"
 
+#include <QObject>
 #include <QRect>
 
 #include <cstdint>
@@ -117,7 +117,7 @@ private:
     UserInput m_input;
     bool m_isWatchingScan = false;
     std::string m_scanned;
-    Observation m_scanObservation;
+    QObject m_scanListener;
 };
 
 } // namespace tessera::test

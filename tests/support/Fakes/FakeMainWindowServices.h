@@ -3,6 +3,7 @@
 
 #include "Base/NotificationCenter.h"
 #include "Desktop/OpenPanel.h"
+#include "MainWindow/HomeScreen.h"
 #include "MainWindow/MainWindowServices.h"
 #include "Model/RootModel.h"
 #include "support/Fakes/FakePlaces.h"
@@ -27,7 +28,8 @@ struct ScreenRecord {
     int homeScreensMade = 0;
     int scanScreens = 0;
     std::vector<std::string> scanned; ///< paths
-    QWidget* home = nullptr; ///< the view of the latest
+    HomeScreen* homeScreen = nullptr; ///< the latest
+    QWidget* home = nullptr; ///< its view
     QWidget* scan = nullptr;
     int leastScanHeight = 0; ///< what the scan panels to come need
     bool homeEnabled = true;
@@ -42,6 +44,7 @@ public:
     {
         ++record.homeScreens;
         ++record.homeScreensMade;
+        record.homeScreen = this;
         record.home = m_view.get();
         record.homeEnabled = true;
     }
