@@ -2,13 +2,13 @@
 #include "MainWindow/MainWindowController.h"
 
 #include "Base/Log.h"
-#include "Base/NotificationCenter.h"
 #include "Desktop/Alert.h"
 #include "Desktop/OpenPanel.h"
 #include "HomeScreen/Places/PlaceNames.h"
 #include "MainWindow/BackupFolder.h"
 #include "MainWindow/HomeScreen.h"
 #include "MainWindow/Menus/MainActions.h"
+#include "MainWindow/ScanScreen.h"
 #include "MainWindow/WindowFrame.h"
 #include "Model/RootModel.h"
 #include "TreeScreen/Map/TreeMapView.h"
@@ -68,7 +68,6 @@ MainWindowController::MainWindowController(const MainWindowServices& services)
     , m_slide(services.treeScreen.motion, services.slideClock)
 {
     loadWindow();
-    observe();
     m_services.model.recents().reload();
     handle(ScreenEvent::WindowLoaded, {});
 }
@@ -110,18 +109,6 @@ void MainWindowController::loadWindow()
             saveFrame(*m_window, m_services.defaults);
         }
     });
-}
-
-void MainWindowController::observe()
-{
-    NotificationCenter& center = NotificationCenter::defaultCenter();
-    const auto observed = [&](std::string_view name, ScreenEvent event) {
-        return center.addObserver(
-            name, [this, event](const NotificationObject&) { handle(event, {}); });
-    };
-    m_observations
-        = {observed("ScanCancelled", ScreenEvent::ScanCancelled),
-           observed("ScanComplete", ScreenEvent::ScanComplete)};
 }
 
 void MainWindowController::handle(ScreenEvent event, const Url& url)
@@ -198,6 +185,12 @@ void MainWindowController::startScan(const Url& url)
     m_changes.scanBegins();
     m_scanVC.reset();
     m_scanVC = m_services.makeScanScreen();
+    connect(m_scanVC.get(), &ScanScreen::scanCancelled, this, [this] {
+        handle(ScreenEvent::ScanCancelled, {});
+    });
+    connect(m_scanVC.get(), &ScanScreen::scanComplete, this, [this] {
+        handle(ScreenEvent::ScanComplete, {});
+    });
     QWidget& panel = m_scanVC->view();
     panel.setParent(m_view);
     placeScreens();

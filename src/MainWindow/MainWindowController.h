@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Base/Observation.h"
 #include "Commands/CommandContext.h"
 #include "MainWindow/ChangesDuringScan.h"
 #include "MainWindow/HelpPage.h"
@@ -15,7 +14,6 @@
 #include <QObject>
 #include <QTimer>
 
-#include <array>
 #include <functional>
 #include <memory>
 #include <utility>
@@ -32,6 +30,7 @@ namespace tessera {
 
 class HomeScreen;
 class MainActions;
+class ScanScreen;
 class TreeMapView;
 class TreeViewController;
 class Url;
@@ -87,7 +86,6 @@ private:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
     void loadWindow();
-    void observe();
     void handle(ScreenEvent event, const Url& url);
     void act(ScreenAction action, const Url& url);
     void showHome();
@@ -126,7 +124,6 @@ private:
     std::vector<std::variant<std::unique_ptr<HomeScreen>, std::unique_ptr<ScanScreen>>> m_retired;
     QTimer m_release;
     ChangesDuringScan m_changes;
-    std::array<Observation, 2> m_observations;
 };
 
 } // namespace tessera

@@ -31,6 +31,12 @@ public:
     Scan(RootModel& model, const ScanningServices& services)
         : m_scanVC(model, services)
     {
+        connect(&m_scanVC, &ScanningViewController::scanComplete, this, &ScanScreen::scanComplete);
+        connect(
+            &m_scanVC,
+            qOverload<>(&ScanningViewController::scanCancelled),
+            this,
+            &ScanScreen::scanCancelled);
     }
 
     QWidget& view() const override { return m_scanVC.view(); }

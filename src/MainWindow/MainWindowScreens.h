@@ -2,7 +2,7 @@
 #pragma once
 
 #include "MainWindow/HomeScreen.h"
-#include "MainWindow/MainWindowServices.h"
+#include "MainWindow/ScanScreen.h"
 
 #include <functional>
 #include <memory>

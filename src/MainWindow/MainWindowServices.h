@@ -8,29 +8,14 @@
 #include <functional>
 #include <memory>
 
-class QWidget;
-
 namespace tessera {
 
 class HomeScreen;
 class MountedVolumes;
 class OpenPanel;
 class RootModel;
-class Url;
+class ScanScreen;
 class UserDefaults;
-
-/// The panel that shows how far a scan is. It posts "ScanComplete" when the model has the tree, or
-/// else "ScanCancelled"; when it is destroyed before, its scan is cancelled without a word.
-class ScanScreen {
-public:
-    ScanScreen() = default;
-    ScanScreen(const ScanScreen&) = delete;
-    ScanScreen& operator=(const ScanScreen&) = delete;
-    virtual ~ScanScreen() = default;
-
-    virtual QWidget& view() const = 0;
-    virtual void startScanning(const Url& url) = 0;
-};
 
 /// What the main window needs; whatever is referred to must outlive it.
 struct MainWindowServices {

@@ -3,7 +3,6 @@
 
 #include "Base/ByteSize.h"
 #include "Base/DisplayText.h"
-#include "Base/NotificationCenter.h"
 #include "Base/ProgressSteps.h"
 #include "Desktop/Alert.h"
 #include "Desktop/DockTile.h"
@@ -129,7 +128,7 @@ void ScanningViewController::scanEnded(Scanner& scanner)
     m_services.dockTile.requestAttention();
     m_services.dockTile.removeContentView(m_dockImage);
     m_ui->cancelButton->setEnabled(false);
-    NotificationCenter::defaultCenter().post("ScanComplete", static_cast<const void*>(this));
+    emit scanComplete();
 }
 
 void ScanningViewController::scanCancelled(Scanner& /*scanner*/)
@@ -150,7 +149,7 @@ void ScanningViewController::endWithoutTree()
 {
     m_services.dockTile.removeContentView(m_dockImage);
     m_ui->cancelButton->setEnabled(false);
-    NotificationCenter::defaultCenter().post("ScanCancelled", static_cast<const void*>(this));
+    emit scanCancelled();
 }
 
 /// From the scanned folder's own name on: where that folder lies is known to who chose it.

@@ -42,9 +42,9 @@ struct ScanningServices {
 };
 
 /// The controller of the panel that shows how far a scan is. It serves one scan: at the end it
-/// gives the tree to the model, notes it as recent and posts "ScanComplete", or else
-/// "ScanCancelled", with itself as the object. An observer may destroy it. A folder that cannot be
-/// read at all is told to the user and counts as cancelled. Main thread only.
+/// gives the tree to the model, notes it as recent and emits scanComplete(), or else
+/// scanCancelled(). Who hears that may destroy it. A folder that cannot be read at all is told to
+/// the user and counts as cancelled. Main thread only.
 class ScanningViewController final : public QObject, private ScannerDelegate {
     Q_OBJECT
 
@@ -55,7 +55,7 @@ public:
 
     /// The model must outlive the controller.
     ScanningViewController(RootModel& model, ScanningServices services);
-    /// Stops a scan that still runs, and posts nothing.
+    /// Stops a scan that still runs, and emits nothing.
     ~ScanningViewController() override;
 
     /// The panel. It may be put into another widget, which must not die before the controller.
@@ -71,6 +71,12 @@ public:
     /// The home folder's surroundings, while an encrypted home folder is scanned in a second pass.
     const TopFolder* fileVault() const { return m_homePass.surroundings(); }
     const DockImage& dockImage() const { return m_dockImage; }
+
+signals:
+    /// The model has the tree.
+    void scanComplete();
+    /// The scan has ended without a tree.
+    void scanCancelled();
 
 private:
     void scanUpdated(Scanner& scanner) override;

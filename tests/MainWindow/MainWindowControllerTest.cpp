@@ -60,7 +60,7 @@ protected:
         File& onlyOne = test::at(*services.model.topFolder(), "mnt/a");
         onlyOne.parent()->removeChild(onlyOne);
         services.treeScreen.resourceValues.mountPoints = {"/data/mnt"};
-        post("ScanComplete");
+        emit services.screens.scanScreen->scanComplete();
         QCoreApplication::processEvents();
     }
     int mountPointQuestions() const

@@ -29,8 +29,9 @@ protected:
         endWorkers(services.treeScreen);
     }
 
-    static void post(const char* name) { NotificationCenter::defaultCenter().post(name); }
     void requestScan(const char* path = "/data") const { controller->scanUrl(Url(path, true)); }
+
+    void cancelScan() const { emit services.screens.scanScreen->scanCancelled(); }
 
     /// Lets the scan panel slide on for that many seconds.
     void slideFor(double seconds)
@@ -42,7 +43,7 @@ protected:
     void finishScan()
     {
         services.model.setTopFolder(makeTree("/data", "docs/ ( a:700 b:200 ) c:50"));
-        post("ScanComplete");
+        emit services.screens.scanScreen->scanComplete();
         QCoreApplication::processEvents();
     }
 

@@ -27,7 +27,7 @@ TEST_F(MainWindowScreensTest, AfterACancelTheHomeScreenGetsTheKeyboardBack)
 {
     requestScan();
     slideFor(0.5);
-    post("ScanCancelled");
+    cancelScan();
     slideFor(0.5625);
     EXPECT_EQ(services.screens.homeFocused, 2);
 }
@@ -85,7 +85,7 @@ TEST_F(
 {
     requestScan();
     slideFor(0.5);
-    post("ScanCancelled");
+    cancelScan();
     slideFor(0.5);
     EXPECT_EQ(homeFrame(), QRect(QPoint(0, 0), area()));
     EXPECT_FALSE(services.screens.homeEnabled);
@@ -100,7 +100,7 @@ TEST_F(MainWindowScreensTest, AScanRequestedWhileTheCancelledPanelSlidesAwayIsNo
 {
     requestScan();
     slideFor(0.5);
-    post("ScanCancelled");
+    cancelScan();
     slideFor(0.25);
     requestScan("/other");
     slideFor(1);
@@ -125,7 +125,7 @@ TEST_F(MainWindowScreensTest, AScanThatEndsWhileItsPanelSlidesAwayShowsItsTreeAn
 {
     requestScan();
     slideFor(0.5);
-    post("ScanCancelled");
+    cancelScan();
     slideFor(0.25);
     finishScan();
     slideFor(1);
@@ -139,7 +139,7 @@ TEST_F(MainWindowScreensTest, AReplacedScanIsGoneAtOnceSoThatItsEndIsNotTakenFor
     requestScan("/other");
     EXPECT_EQ(services.screens.scanScreens, 1);
     slideFor(0.5);
-    post("ScanCancelled");
+    cancelScan();
     slideFor(0.25);
     requestScan("/third");
     EXPECT_EQ(services.screens.scanScreens, 1);
@@ -188,10 +188,14 @@ TEST_F(MainWindowScreensTest, AfterTheTreeThePanelSlidesInFromBelowAgain)
 
 TEST_F(MainWindowScreensTest, EventsThatMakeNoSenseChangeNothing)
 {
-    for (const char* name : {"ScanCancelled", "ScanComplete"}) {
-        post(name);
-        EXPECT_EQ(controller->state(), ScreenState::Home) << name;
-    }
+    requestScan();
+    cancelScan();
+    slideFor(0.5625);
+    ASSERT_EQ(controller->state(), ScreenState::Home);
+    cancelScan();
+    EXPECT_EQ(controller->state(), ScreenState::Home);
+    emit services.screens.scanScreen->scanComplete();
+    EXPECT_EQ(controller->state(), ScreenState::Home);
     controller->homeSelected();
     EXPECT_EQ(services.screens.homeScreensMade, 1);
 }

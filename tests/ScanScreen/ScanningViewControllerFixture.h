@@ -2,7 +2,6 @@
 #pragma once
 
 #include "Base/DisplayText.h"
-#include "Base/NotificationCenter.h"
 #include "Model/RootModel.h"
 #include "ScanScreen/PathLabel.h"
 #include "ScanScreen/ScanningViewController.h"
@@ -18,7 +17,6 @@
 #include <memory>
 #include <string>
 #include <thread>
-#include <variant>
 #include <vector>
 
 namespace tessera::test {
@@ -72,6 +70,13 @@ protected:
                     checked.push_back(path);
                     return problem;
                 }});
+        QObject::connect(controller.get(), &ScanningViewController::scanComplete, [this] {
+            posted.emplace_back("complete");
+        });
+        QObject::connect(
+            controller.get(), qOverload<>(&ScanningViewController::scanCancelled), [this] {
+                posted.emplace_back("cancelled");
+            });
     }
 
     void start(std::string_view items, std::string_view path = "/Users/me/Documents")
@@ -125,12 +130,6 @@ protected:
 
     std::string text(const char* name) const { return outlet<QLabel>(name)->text().toStdString(); }
 
-    void note(const char* name, const NotificationObject& object)
-    {
-        posted.emplace_back(name);
-        EXPECT_EQ(std::get<const void*>(object), controller.get());
-    }
-
     FakeDockTile tile;
     FakeRootModelServices modelServices;
     RootModel model{modelServices.get()};
@@ -145,10 +144,6 @@ protected:
     std::vector<std::string> paths;
     std::vector<std::string> rates;
     std::vector<std::string> amounts;
-    Observation complete = NotificationCenter::defaultCenter().addObserver(
-        "ScanComplete", [this](const NotificationObject& object) { note("complete", object); });
-    Observation cancelled = NotificationCenter::defaultCenter().addObserver(
-        "ScanCancelled", [this](const NotificationObject& object) { note("cancelled", object); });
 };
 
 } // namespace tessera::test

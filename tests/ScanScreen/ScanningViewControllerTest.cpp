@@ -165,8 +165,8 @@ TEST_F(ScanningViewControllerTest, AtTheEndItAsksForAttentionOnceAndRestoresTheI
 TEST_F(ScanningViewControllerTest, WhoHearsOfTheEndMayDestroyIt)
 {
     start("a:700");
-    const Observation observation = NotificationCenter::defaultCenter().addObserver(
-        "ScanComplete", [this](const NotificationObject&) { controller.reset(); });
+    QObject::connect(
+        controller.get(), &ScanningViewController::scanComplete, [this] { controller.reset(); });
     system->mainThread.runUntil([this] { return !posted.empty(); });
 
     EXPECT_EQ(controller, nullptr);

@@ -58,7 +58,7 @@ protected:
     {
         delegate.openFile(Url("/data", true));
         services.model.setTopFolder(test::makeTree("/data", "a:700"));
-        NotificationCenter::defaultCenter().post("ScanComplete");
+        emit services.screens.scanScreen->scanComplete();
     }
 
     std::vector<std::string> tokens;

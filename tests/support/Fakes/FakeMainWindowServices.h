@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Base/NotificationCenter.h"
 #include "Desktop/OpenPanel.h"
 #include "MainWindow/HomeScreen.h"
 #include "MainWindow/MainWindowServices.h"
+#include "MainWindow/ScanScreen.h"
 #include "Model/RootModel.h"
 #include "support/Fakes/FakePlaces.h"
 #include "support/Fakes/FakeRootModelServices.h"
@@ -30,6 +30,7 @@ struct ScreenRecord {
     std::vector<std::string> scanned; ///< paths
     HomeScreen* homeScreen = nullptr; ///< the latest
     QWidget* home = nullptr; ///< its view
+    ScanScreen* scanScreen = nullptr;
     QWidget* scan = nullptr;
     int leastScanHeight = 0; ///< what the scan panels to come need
     bool homeEnabled = true;
@@ -65,6 +66,7 @@ public:
         : m_record(record)
     {
         ++record.scanScreens;
+        record.scanScreen = this;
         record.scan = m_view.get();
         // Only a text that is wrapped depends on the width, as the panel's tip does.
         // NOLINTBEGIN(cppcoreguidelines-owning-memory): the view owns them
