@@ -3,7 +3,6 @@
 
 #include "Base/DisplayText.h"
 #include "Base/Log.h"
-#include "Base/NotificationCenter.h"
 #include "Base/ProgressSteps.h"
 #include "Compress/ArchivePaths.h"
 #include "Compress/ArchiverStatus.h"
@@ -223,10 +222,9 @@ void CompressWindowController::compressFinished(const std::optional<Url>& archiv
     m_targetPath.clear();
     m_ui->progress->reset();
     if (archive) {
-        NotificationCenter::defaultCenter().post("ItemGone", part);
+        emit itemGone(part);
     }
-    NotificationCenter::defaultCenter().post(
-        "ItemCompressed", archive ? NotificationObject(*archive) : NotificationObject());
+    emit itemCompressed(archive);
     release();
 }
 

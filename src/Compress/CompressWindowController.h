@@ -49,10 +49,7 @@ struct CompressServices {
 using CallLater = std::function<void(std::chrono::milliseconds, std::function<void()>)>;
 
 /// Makes a zip archive of an item beside the item, in a small window of its own. The progress is
-/// estimated from the archive's growing size. Whatever the end, the notification "ItemCompressed"
-/// is posted: with the URL of the archive, or of the incomplete archive in the trash, or of none.
-/// With the former two "ItemGone" is posted right before, with the URL that the archive had while
-/// it was incomplete: a scan may have met it there.
+/// estimated from the archive's growing size. Whatever the end, it emits itemCompressed().
 ///
 /// Until it is complete the archive has another name (partPath()). What goes to the trash is the
 /// very file that the archiving program said it made, under whichever of the two names.
@@ -90,6 +87,14 @@ public:
     QDialog& window() const { return *m_window; }
     /// Runs updateProgress() while there is something to wait for.
     const QTimer& updateTimer() const { return m_updateTimer; }
+
+signals:
+    /// There is an archive, or an incomplete one in the trash, and right after this
+    /// itemCompressed() says where. This is where it was while it was incomplete: a scan may have
+    /// met it there.
+    void itemGone(const Url& place);
+    /// The end: with the archive, or the incomplete archive in the trash, or none.
+    void itemCompressed(const std::optional<Url>& archive);
 
 private:
     explicit CompressWindowController(CompressServices services, CallLater callLater);

@@ -1,27 +1,32 @@
 // SPDX-License-Identifier: MIT
 #include "MainWindow/ChangesDuringScan.h"
 
+#include "TreeScreen/DiskChanges.h"
+#include "TreeScreen/TreeViewController.h"
+
+#include <utility>
+
 namespace tessera {
 
-ChangesDuringScan::ChangesDuringScan()
+ChangesDuringScan::ChangesDuringScan(const DiskChanges& changes)
 {
-    m_observations.push_back(observe("ItemGone"));
-    m_observations.push_back(observe("ItemCompressed"));
+    connect(&changes, &DiskChanges::itemGone, this, [this](const Url& place) {
+        m_changes.emplace_back([place](TreeViewController& screen) { screen.itemGone(place); });
+    });
+    connect(
+        &changes, &DiskChanges::itemCompressed, this, [this](const std::optional<Url>& archive) {
+            if (archive) {
+                m_changes.emplace_back(
+                    [url = *archive](TreeViewController& screen) { screen.itemCompressed(url); });
+            }
+        });
 }
 
-Observation ChangesDuringScan::observe(const std::string& name)
+void ChangesDuringScan::tell(TreeViewController& screen)
 {
-    return NotificationCenter::defaultCenter().addObserver(
-        name,
-        [this, name](const NotificationObject& object) { m_changes.emplace_back(name, object); });
-}
-
-void ChangesDuringScan::tellAgain()
-{
-    for (const auto& [name, object] : std::exchange(m_changes, {})) {
-        NotificationCenter::defaultCenter().post(name, object);
+    for (const auto& change : std::exchange(m_changes, {})) {
+        change(screen);
     }
-    m_changes.clear();
 }
 
 } // namespace tessera

@@ -66,6 +66,7 @@ MainWindowController::MainWindowController(const MainWindowServices& services)
           [this](Command command) { return whyNot(command); }))
     , m_ignoreMenu(services.model)
     , m_slide(services.treeScreen.motion, services.slideClock)
+    , m_changes(services.treeScreen.diskChanges)
 {
     loadWindow();
     m_services.model.recents().reload();
@@ -246,7 +247,7 @@ void MainWindowController::displayTree()
     // A rescan has begun or ended, perhaps.
     connect(m_treeVC.get(), &TreeViewController::pictureRebuilt, m_actions, &MainActions::validate);
     m_ignoreMenu.setTreeViewController(m_treeVC.get());
-    m_changes.tellAgain();
+    m_changes.tell(*m_treeVC);
     m_treeView->show();
     m_treeView->setFocus();
 }

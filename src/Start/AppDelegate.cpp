@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Start/AppDelegate.h"
 
-#include "Base/NotificationCenter.h"
 #include "Desktop/Alert.h"
 #include "Desktop/UserAccount.h"
 #include "Desktop/Workspace.h"
@@ -10,6 +9,7 @@
 #include "Model/Defaults.h"
 #include "Model/RootModel.h"
 #include "Preferences/PreferencesWindowController.h"
+#include "TreeScreen/DiskChanges.h"
 
 #include <QApplication>
 #include <QMainWindow>
@@ -75,8 +75,11 @@ void AppDelegate::start()
         this,
         &AppDelegate::mainWindowClosed,
         Qt::QueuedConnection);
-    m_compressObservation = NotificationCenter::defaultCenter().addObserver(
-        "ItemCompressed", [this](const NotificationObject&) { quitIfFinished(); });
+    connect(
+        &m_services.mainWindow.treeScreen.diskChanges,
+        &DiskChanges::itemCompressed,
+        this,
+        &AppDelegate::quitIfFinished);
     m_folderDrop = std::make_unique<FolderDrop>(
         mainWindow.window(), m_services.mainWindow.treeScreen.resourceValues);
     connect(m_folderDrop.get(), &FolderDrop::dropped, this, &AppDelegate::openFile);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Base/Observation.h"
 #include "Base/Url.h"
 #include "MainWindow/HelpPage.h"
 #include "MainWindow/MainWindowServices.h"
@@ -81,7 +80,6 @@ private:
     Url m_waiting; ///< to be opened as soon as may be; empty when nothing is
     QTimer m_wait; ///< runs from one opening until the next may follow
     bool m_isFinishing = false; ///< without its main window, until the last archive is made
-    Observation m_compressObservation;
 };
 
 } // namespace tessera

@@ -14,6 +14,7 @@
 #include "ScanScreen/ScanningViewController.h"
 #include "Start/AppDelegate.h"
 #include "Start/LaunchServices.h"
+#include "TreeScreen/DiskChanges.h"
 #include "TreeScreen/Tooltip/TooltipController.h"
 #include "Widgets/ApplicationPalette.h"
 #include "Widgets/DesktopIconProvider.h"
@@ -87,6 +88,7 @@ struct WindowedProgram::Desktop {
                .targetsInUse = targetsInUse,
                .alert = alert},
             .motion = services.motion,
+            .diskChanges = diskChanges,
             .checkFolder = [files = services.filesWithTimeLimit](const std::string& path) {
                 return files->checkFolderWithoutLinks(path);
             }};
@@ -105,6 +107,7 @@ struct WindowedProgram::Desktop {
 
     DesktopIconProvider icons;
     std::set<std::string> targetsInUse;
+    DiskChanges diskChanges;
     ApplicationDockTile dockTile;
     MessageBoxAlert alert;
     FileDialogOpenPanel openPanel;

@@ -2,12 +2,12 @@
 #include "TreeScreen/ItemTrasher.h"
 
 #include "Base/DisplayText.h"
-#include "Base/NotificationCenter.h"
 #include "Desktop/Alert.h"
 #include "Desktop/Workspace.h"
 #include "Model/NodeLookup.h"
 #include "Model/RootModel.h"
 #include "Model/UserDefaults.h"
+#include "TreeScreen/DiskChanges.h"
 #include "TreeScreen/TreeScreen.h"
 
 #include <QPointer>
@@ -93,11 +93,13 @@ ItemTrasher::ItemTrasher(
     const UserDefaults& defaults,
     Workspace& workspace,
     Alert& alert,
+    DiskChanges& diskChanges,
     TreeScreen& screen)
     : m_model(model)
     , m_defaults(defaults)
     , m_workspace(workspace)
     , m_alert(alert)
+    , m_diskChanges(diskChanges)
     , m_screen(screen)
 {
 }
@@ -115,12 +117,16 @@ void ItemTrasher::trash(const File& item)
     }
     m_onTheirWay.insert(place.path());
     m_workspace.recycleURLs(
-        {place}, [self = QPointer<ItemTrasher>(this), place, path](const RecycleResult& result) {
+        {place},
+        [self = QPointer<ItemTrasher>(this),
+         changes = QPointer<DiskChanges>(&m_diskChanges),
+         place,
+         path](const RecycleResult& result) {
             if (self != nullptr) {
                 self->recycled(place, path, result);
-            } else if (result.error.empty()) {
+            } else if (changes != nullptr && result.error.empty()) {
                 // The tree is another one by now, or is still being read.
-                NotificationCenter::defaultCenter().post("ItemGone", place);
+                emit changes->itemGone(place);
             }
         });
 }

@@ -11,6 +11,7 @@
 namespace tessera {
 
 class Alert;
+class DiskChanges;
 class File;
 class RootModel;
 class TreeScreen;
@@ -20,7 +21,7 @@ struct RecycleResult;
 
 /// Moves items to the trash, after a warning where that is risky, and their nodes after them. At
 /// most one warning is given: who accepts the one for system folders gets none for hidden items.
-/// Main thread only.
+/// A move that ends when the trasher is gone is told as a change of the disk. Main thread only.
 class ItemTrasher final : public QObject {
     Q_OBJECT
 
@@ -31,6 +32,7 @@ public:
         const UserDefaults& defaults,
         Workspace& workspace,
         Alert& alert,
+        DiskChanges& diskChanges,
         TreeScreen& screen);
 
     /// Asks the desktop to move the item and returns; the tree changes when that is done. Does
@@ -53,6 +55,7 @@ private:
     const UserDefaults& m_defaults;
     Workspace& m_workspace;
     Alert& m_alert;
+    DiskChanges& m_diskChanges;
     TreeScreen& m_screen;
     std::set<std::string> m_onTheirWay; ///< absolute paths on the disk
 };

@@ -12,6 +12,7 @@
 #include "Model/RootModel.h"
 #include "Model/Volume.h"
 #include "Scanning/ResourceValues.h"
+#include "TreeScreen/DiskChanges.h"
 #include "TreeScreen/Map/TreeMapView.h"
 #include "TreeScreen/Picture/TreeBranch.h"
 #include "TreeScreen/TreeViewServices.h"
@@ -31,7 +32,8 @@ TreeViewController::TreeViewController(
     , m_services(services)
     , m_zoom(*this, treeView, services)
     , m_rescan(services.scanEnvironment, services.checkFolder, treeView, services.alert, *this)
-    , m_trasher(model, services.defaults, services.workspace, services.alert, *this)
+    , m_trasher(
+          model, services.defaults, services.workspace, services.alert, services.diskChanges, *this)
     , m_preview(*this, treeView)
     , m_note(&treeView)
 {
@@ -53,6 +55,14 @@ void TreeViewController::observe()
     connect(&m_treeView, &TreeMapView::menuKeyInVain, this, [this] {
         m_note.say(command_hint::nothingSelected());
     });
+    const DiskChanges& changes = m_services.diskChanges;
+    connect(&changes, &DiskChanges::itemGone, this, &TreeViewController::itemGone);
+    connect(
+        &changes, &DiskChanges::itemCompressed, this, [this](const std::optional<Url>& archive) {
+            if (archive) {
+                itemCompressed(*archive);
+            }
+        });
     m_treeView.installEventFilter(this);
     m_treeView.setCommandTarget(this);
     NotificationCenter& center = NotificationCenter::defaultCenter();
@@ -63,15 +73,6 @@ void TreeViewController::observe()
           });
     m_doubleClickObservation = center.addObserver(
         "DoubleClickTreeItem", [this](const NotificationObject&) { doubleClickTreeItem(); });
-    const auto observed = [&](const char* name, void (TreeViewController::*hear)(const Url&)) {
-        return center.addObserver(name, [this, hear](const NotificationObject& object) {
-            if (const Url* url = std::get_if<Url>(&object)) {
-                (this->*hear)(*url);
-            }
-        });
-    };
-    m_compressObservation = observed("ItemCompressed", &TreeViewController::itemCompressed);
-    m_goneObservation = observed("ItemGone", &TreeViewController::itemGone);
 }
 
 void TreeViewController::doubleClickTreeItem()
@@ -228,6 +229,17 @@ void TreeViewController::compressItem()
         return;
     }
     const auto compressing = CompressWindowController::make(m_services.compressing);
+    // It may end when this screen is gone.
+    connect(
+        compressing.get(),
+        &CompressWindowController::itemGone,
+        &m_services.diskChanges,
+        &DiskChanges::itemGone);
+    connect(
+        compressing.get(),
+        &CompressWindowController::itemCompressed,
+        &m_services.diskChanges,
+        &DiskChanges::itemCompressed);
     compressing->showWindow(m_treeView.window());
     compressing->compressURL(placeOnDisk(*m_selectedFile), m_selectedFile->totalAllocation());
 }

@@ -83,6 +83,11 @@ public:
     /// Compresses the selected item beside itself, in a window of its own.
     void compressItem();
 
+    /// The program has made an archive: it joins the tree.
+    void itemCompressed(const Url& archive);
+    /// The program has moved an item away: it leaves the tree.
+    void itemGone(const Url& place);
+
     /// What decides which commands can be performed, as far as this screen knows it.
     CommandContext commandContext() const;
     bool validate(Command command) const override;
@@ -134,8 +139,6 @@ private:
 
     void observe();
     void doubleClickTreeItem();
-    void itemCompressed(const Url& archive);
-    void itemGone(const Url& place);
     bool removeNodeAt(std::string_view path);
     void sayThatThereIsNoFileManager(const QString& itemName);
     void select(File* file);
@@ -159,8 +162,6 @@ private:
     mutable std::optional<bool> m_isMountPoint;
     Observation m_clickObservation;
     Observation m_doubleClickObservation;
-    Observation m_compressObservation;
-    Observation m_goneObservation;
 };
 
 } // namespace tessera

@@ -13,6 +13,7 @@
 namespace tessera {
 
 class Alert;
+class DiskChanges;
 class MotionPreference;
 class UserDefaults;
 class Workspace;
@@ -27,6 +28,7 @@ struct TreeViewServices {
     Alert& alert;
     CompressServices compressing;
     const MotionPreference& motion;
+    DiskChanges& diskChanges;
     /// Why the folder of that path cannot be read; no error when it can. No part of the path is a
     /// link. Answers at once.
     std::function<std::error_code(const std::string& path)> checkFolder;

@@ -56,7 +56,7 @@ TEST_F(CompressEndTest, WhatTheArchiverFoundInItsWayIsNotMovedToTheTrash)
     EXPECT_THAT(workspace.recycled, IsEmpty());
     EXPECT_FALSE(controller->updateTimer().isActive());
     endDelay();
-    EXPECT_THAT(posted, ElementsAre(NotificationObject()));
+    EXPECT_THAT(posted, ElementsAre(std::nullopt));
 }
 
 TEST_F(CompressEndTest, WhoeverSaysNothingOfAFileHasMadeNone)
@@ -177,7 +177,7 @@ TEST_F(CompressEndTest, ThePartIsGoneWhenTheArchiveHasItsName)
     files.sizes["/data/X.zip"] = 0;
     EXPECT_EQ(ticksUntilPosted(20), 12);
 
-    EXPECT_THAT(gone, ElementsAre(NotificationObject(Url("/data/X.zip.part", false))));
+    EXPECT_THAT(gone, ElementsAre(Url("/data/X.zip.part", false)));
 }
 
 TEST_F(CompressEndTest, ThePartIsGoneWhenItIsInTheTrash)
@@ -188,7 +188,7 @@ TEST_F(CompressEndTest, ThePartIsGoneWhenItIsInTheTrash)
     moveToTrash();
     endDelay();
 
-    EXPECT_THAT(gone, ElementsAre(NotificationObject(Url("/data/X.zip.part", false))));
+    EXPECT_THAT(gone, ElementsAre(Url("/data/X.zip.part", false)));
 }
 
 TEST_F(CompressEndTest, APartThatCannotBeTrashedIsNotGone)
@@ -223,7 +223,7 @@ TEST_F(CompressEndTest, TheTrashedArchiveIsAnnouncedASecondLater)
     EXPECT_THAT(posted, IsEmpty());
     endDelay();
 
-    EXPECT_THAT(posted, ElementsAre(NotificationObject(Url("/trash/X.zip.part", false))));
+    EXPECT_THAT(posted, ElementsAre(Url("/trash/X.zip.part", false)));
 }
 
 TEST_F(CompressEndTest, WhatCannotBeTrashedIsLoggedAndNothingAnnounced)
@@ -238,7 +238,7 @@ TEST_F(CompressEndTest, WhatCannotBeTrashedIsLoggedAndNothingAnnounced)
         testing::internal::GetCapturedStderr(), HasSubstr("Error deleting incomplete archive"));
     endDelay();
 
-    EXPECT_THAT(posted, ElementsAre(NotificationObject()));
+    EXPECT_THAT(posted, ElementsAre(std::nullopt));
     EXPECT_FALSE(controller->window().isVisible());
 }
 

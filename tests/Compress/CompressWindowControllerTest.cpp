@@ -211,7 +211,7 @@ TEST_F(CompressWindowControllerTest, SuccessIsAnnouncedWithTheArchive)
     endTool(0);
     controller->updateProgress();
 
-    EXPECT_THAT(posted, ElementsAre(NotificationObject(Url("/data/X.zip", false))));
+    EXPECT_THAT(posted, ElementsAre(Url("/data/X.zip", false)));
     EXPECT_THAT(workspace.recycled, IsEmpty());
 }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Base/NotificationCenter.h"
 #include "Compress/CompressWindowController.h"
 #include "support/BecomesActive.h"
 #include "support/Fakes/FakeAlert.h"
@@ -20,10 +19,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <set>
 #include <string>
 #include <utility>
-#include <variant>
 #include <vector>
 
 namespace tessera::test {
@@ -46,7 +45,7 @@ protected:
 
     std::shared_ptr<CompressWindowController> makeController()
     {
-        return CompressWindowController::make(
+        auto made = CompressWindowController::make(
             {.archiver = "/opt/archiver",
              .makeTask = [this] { return FakeTask::make(task); },
              .workspace = workspace,
@@ -58,6 +57,14 @@ protected:
                 delays.push_back(delay);
                 delayed.push_back(std::move(work));
             });
+        QObject::connect(
+            made.get(),
+            &CompressWindowController::itemCompressed,
+            [this](const std::optional<Url>& archive) { posted.push_back(archive); });
+        QObject::connect(made.get(), &CompressWindowController::itemGone, [this](const Url& place) {
+            gone.push_back(place);
+        });
+        return made;
     }
 
     void compress(std::string_view path = "/data/X", std::uint64_t bytes = 1'000'000)
@@ -119,12 +126,8 @@ protected:
     std::vector<std::chrono::milliseconds> delays;
     std::vector<std::function<void()>> delayed;
     std::shared_ptr<CompressWindowController> controller = makeController();
-    std::vector<NotificationObject> posted;
-    Observation observation = NotificationCenter::defaultCenter().addObserver(
-        "ItemCompressed", [this](const NotificationObject& object) { posted.push_back(object); });
-    std::vector<NotificationObject> gone;
-    Observation goneObservation = NotificationCenter::defaultCenter().addObserver(
-        "ItemGone", [this](const NotificationObject& object) { gone.push_back(object); });
+    std::vector<std::optional<Url>> posted;
+    std::vector<Url> gone;
 };
 
 } // namespace tessera::test

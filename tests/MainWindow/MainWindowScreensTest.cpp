@@ -247,7 +247,7 @@ TEST_F(MainWindowScreensTest, WithReducedMotionNothingSlides)
 TEST_F(MainWindowScreensTest, WhatLeavesItsPlaceDuringAScanIsNotInTheNewTree)
 {
     requestScan();
-    NotificationCenter::defaultCenter().post("ItemGone", Url("/data/docs/a", false));
+    emit services.treeScreen.diskChanges.itemGone(Url("/data/docs/a", false));
     finishScan();
     EXPECT_EQ(services.model.topFolder()->totalAllocation(), 250U);
 }
@@ -256,14 +256,14 @@ TEST_F(MainWindowScreensTest, AnArchiveThatComesDuringAScanIsInTheNewTree)
 {
     services.treeScreen.resourceValues.size = 4096;
     requestScan();
-    NotificationCenter::defaultCenter().post("ItemCompressed", Url("/data/docs/x.zip", false));
+    emit services.treeScreen.diskChanges.itemCompressed(Url("/data/docs/x.zip", false));
     finishScan();
     EXPECT_EQ(services.model.topFolder()->totalAllocation(), 950U + 4096U);
 }
 
 TEST_F(MainWindowScreensTest, WhatLeftBeforeTheScanMayBeBack)
 {
-    NotificationCenter::defaultCenter().post("ItemGone", Url("/data/docs/a", false));
+    emit services.treeScreen.diskChanges.itemGone(Url("/data/docs/a", false));
     requestScan();
     finishScan();
     EXPECT_EQ(services.model.topFolder()->totalAllocation(), 950U);

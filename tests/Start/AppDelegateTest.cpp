@@ -286,7 +286,7 @@ protected:
     void endCompression()
     {
         services.treeScreen.targetsInUse.clear();
-        NotificationCenter::defaultCenter().post("ItemCompressed");
+        emit services.treeScreen.diskChanges.itemCompressed(std::nullopt);
     }
 
     bool isWindowOpen() const { return delegate.mainWindow()->window().isVisible(); }
@@ -367,7 +367,7 @@ TEST_F(AppDelegateWhileCompressing, OneOfSeveralThatIsFinishedDoesNotQuit)
     compressWindow.show();
     EXPECT_FALSE(quitsAfter([this] {
         closeAnswering(0);
-        NotificationCenter::defaultCenter().post("ItemCompressed");
+        emit services.treeScreen.diskChanges.itemCompressed(std::nullopt);
     }));
 }
 

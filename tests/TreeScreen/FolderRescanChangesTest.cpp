@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "Base/NotificationCenter.h"
 #include "FolderRescanFixture.h"
 
 #include <system_error>
@@ -44,7 +43,7 @@ TEST_F(FolderRescanChanges, AnArchiveThatComesMeanwhileIsInTheNewTree)
 {
     services.resourceValues.size = 4096;
     rescan("docs");
-    NotificationCenter::defaultCenter().post("ItemCompressed", Url("/data/docs/x.zip", false));
+    emit services.diskChanges.itemCompressed(Url("/data/docs/x.zip", false));
     finish();
     EXPECT_EQ(node("docs/x.zip").totalAllocation(), 4096U);
     EXPECT_EQ(node("docs").totalAllocation(), 5096U);
@@ -55,7 +54,7 @@ TEST_F(FolderRescanChanges, AnArchiveThatWasReadHalfWrittenHasItsWholeSize)
 {
     services.resourceValues.size = 4096;
     rescan("docs");
-    NotificationCenter::defaultCenter().post("ItemCompressed", Url("/data/docs/a", false));
+    emit services.diskChanges.itemCompressed(Url("/data/docs/a", false));
     finish();
     EXPECT_EQ(node("docs/a").totalAllocation(), 4096U);
     EXPECT_EQ(node("docs").totalAllocation(), 4196U);
@@ -64,7 +63,7 @@ TEST_F(FolderRescanChanges, AnArchiveThatWasReadHalfWrittenHasItsWholeSize)
 TEST_F(FolderRescanChanges, WhatHasLeftItsPlaceIsInTheTreeNoMore)
 {
     controller->setSelectedFile(&node("docs/a"));
-    NotificationCenter::defaultCenter().post("ItemGone", Url("/data/docs/a", false));
+    emit services.diskChanges.itemGone(Url("/data/docs/a", false));
     EXPECT_FALSE(has("docs/a"));
     EXPECT_EQ(controller->selectedFile(), nullptr);
     EXPECT_EQ(model.topFolder()->totalAllocation(), 801U);
@@ -73,7 +72,7 @@ TEST_F(FolderRescanChanges, WhatHasLeftItsPlaceIsInTheTreeNoMore)
 TEST_F(FolderRescanChanges, WhatAScanMetBeforeItLeftIsNotInTheNewTree)
 {
     rescan("docs");
-    NotificationCenter::defaultCenter().post("ItemGone", Url("/data/docs/new/b", false));
+    emit services.diskChanges.itemGone(Url("/data/docs/new/b", false));
     finish();
     EXPECT_FALSE(has("docs/new/b"));
     EXPECT_EQ(node("docs").totalAllocation(), 900U);
@@ -81,7 +80,7 @@ TEST_F(FolderRescanChanges, WhatAScanMetBeforeItLeftIsNotInTheNewTree)
 
 TEST_F(FolderRescanChanges, TheScannedFolderItselfStaysInView)
 {
-    NotificationCenter::defaultCenter().post("ItemGone", Url("/data", true));
+    emit services.diskChanges.itemGone(Url("/data", true));
     EXPECT_EQ(model.topFolder()->totalAllocation(), 1301U);
 }
 
@@ -89,7 +88,7 @@ TEST_F(FolderRescanChanges, AnArchiveInAFolderThatVanishedIsInNoTree)
 {
     services.resourceValues.size = 4096;
     rescan("docs");
-    NotificationCenter::defaultCenter().post("ItemCompressed", Url("/data/docs/gone/x.zip", false));
+    emit services.diskChanges.itemCompressed(Url("/data/docs/gone/x.zip", false));
     controller->setSelectedFile(&node("docs/gone/x.zip"));
     finish();
     EXPECT_FALSE(has("docs/gone"));

@@ -5,6 +5,7 @@
 #include "Model/TimeMachine.h"
 #include "Model/UserDefaults.h"
 #include "Model/Volume.h"
+#include "TreeScreen/DiskChanges.h"
 #include "TreeScreen/TreeScreen.h"
 #include "support/Fakes/FakeAlert.h"
 #include "support/Fakes/FakeFileSystem.h"
@@ -84,8 +85,9 @@ protected:
     RootModel model{modelServices.get()};
     test::FakeWorkspace workspace;
     test::FakeAlert alert;
+    DiskChanges diskChanges;
     FakeScreen screen;
-    ItemTrasher trasher{model, modelServices.defaults, workspace, alert, screen};
+    ItemTrasher trasher{model, modelServices.defaults, workspace, alert, diskChanges, screen};
 };
 
 TEST_F(ItemTrasherTest, MovesAnItemOfTheUsersWithoutAWord)
@@ -434,13 +436,17 @@ TEST_F(ItemTrasherTest, ATreeWithoutTheItemStaysAsItIs)
 
 TEST_F(ItemTrasherTest, AMoveMayEndWhenTheTrasherIsGone)
 {
-    auto other
-        = std::make_unique<ItemTrasher>(model, modelServices.defaults, workspace, alert, screen);
+    auto other = std::make_unique<ItemTrasher>(
+        model, modelServices.defaults, workspace, alert, diskChanges, screen);
     const Url url = node("docs/a").url();
+    std::vector<Url> gone;
+    QObject::connect(
+        &diskChanges, &DiskChanges::itemGone, [&gone](const Url& place) { gone.push_back(place); });
     other->trash(node("docs/a"));
     other.reset();
     moveEnds(url, "a");
     EXPECT_EQ(node("docs").totalAllocation(), 700U);
+    EXPECT_EQ(gone, std::vector{url});
 }
 
 class ItemTrasherOverLinks : public ItemTrasherTest {

@@ -120,7 +120,7 @@ TEST_F(TreeViewControllerCommandsTest, CompressesTheSelectedItem)
 TEST_F(TreeViewControllerCommandsTest, AnArchiveJoinsTheTree)
 {
     services.resourceValues.size = 4096;
-    NotificationCenter::defaultCenter().post("ItemCompressed", Url("/data/docs/a.zip", false));
+    emit services.diskChanges.itemCompressed(Url("/data/docs/a.zip", false));
     EXPECT_EQ(node("docs/a.zip").totalAllocation(), 4096U);
     EXPECT_EQ(node("docs/a.zip").type(), NodeType::Document);
     EXPECT_EQ(node("docs").totalAllocation(), 704096U);
@@ -152,7 +152,7 @@ TEST_F(TreeViewControllerCommandsTest, AnArchiveOfAScanOverALinkJoinsTheTree)
 {
     model.topFolder()->setRealOrigin("/disk");
     services.resourceValues.sizes["/disk/docs/a.zip"] = 4096;
-    NotificationCenter::defaultCenter().post("ItemCompressed", Url("/disk/docs/a.zip", false));
+    emit services.diskChanges.itemCompressed(Url("/disk/docs/a.zip", false));
     EXPECT_EQ(node("docs/a.zip").totalAllocation(), 4096U);
 }
 
@@ -160,7 +160,7 @@ TEST_F(TreeViewControllerCommandsTest, AnArchiveThatARescanMetIsNotAddedTwice)
 {
     services.resourceValues.size = 4096;
     select("docs/a");
-    NotificationCenter::defaultCenter().post("ItemCompressed", Url("/data/docs/a", false));
+    emit services.diskChanges.itemCompressed(Url("/data/docs/a", false));
     EXPECT_EQ(node("docs/a").totalAllocation(), 4096U);
     EXPECT_EQ(node("docs").totalAllocation(), 204096U);
     EXPECT_EQ(controller->selectedFile(), nullptr);
@@ -168,14 +168,14 @@ TEST_F(TreeViewControllerCommandsTest, AnArchiveThatARescanMetIsNotAddedTwice)
 
 TEST_F(TreeViewControllerCommandsTest, AnArchiveThatCannotBeReadHasNoSize)
 {
-    NotificationCenter::defaultCenter().post("ItemCompressed", Url("/data/docs/a.zip", false));
+    emit services.diskChanges.itemCompressed(Url("/data/docs/a.zip", false));
     EXPECT_EQ(node("docs/a.zip").totalAllocation(), 0U);
 }
 
 TEST_F(TreeViewControllerCommandsTest, AnArchiveElsewhereIsNobodysConcern)
 {
-    NotificationCenter::defaultCenter().post("ItemCompressed", Url("/trash/a.zip", false));
-    NotificationCenter::defaultCenter().post("ItemCompressed");
+    emit services.diskChanges.itemCompressed(Url("/trash/a.zip", false));
+    emit services.diskChanges.itemCompressed(std::nullopt);
     EXPECT_EQ(model.topFolder()->totalAllocation(), 1000000U);
 }
 

@@ -139,7 +139,7 @@ TEST_F(TreeViewControllerNavigationTest, ASelectionEndsBeforeAnArchiveTakesItsFo
     QObject::connect(controller.get(), &TreeViewController::selectionChanged, [this, &wasThere] {
         wasThere = wasThere || nodeAtPath(*model.topFolder(), "/data/docs/deep/a") != nullptr;
     });
-    NotificationCenter::defaultCenter().post("ItemCompressed", Url("/data/docs/deep", false));
+    emit viewServices.diskChanges.itemCompressed(Url("/data/docs/deep", false));
     EXPECT_TRUE(wasThere);
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Desktop/MotionPreference.h"
+#include "TreeScreen/DiskChanges.h"
 #include "TreeScreen/TreeViewServices.h"
 #include "support/Fakes/FakeAlert.h"
 #include "support/Fakes/FakeDirectoryEnumerator.h"
@@ -50,6 +51,7 @@ struct FakeTreeViewServices {
     FakeTaskRecord archiver;
     std::set<std::string> targetsInUse;
     FakeMotionPreference motion;
+    DiskChanges diskChanges;
     std::error_code folderProblem; ///< that every folder has
     std::string checkedFolder; ///< the last one
     std::atomic<bool> hasThreads = true; ///< whether a scan gets a worker
@@ -89,6 +91,7 @@ struct FakeTreeViewServices {
                .targetsInUse = targetsInUse,
                .alert = alert},
             .motion = motion,
+            .diskChanges = diskChanges,
             .checkFolder =
                 [this](const std::string& path) {
                     checkedFolder = path;
