@@ -20,6 +20,8 @@ public:
     virtual void takeFocus() = 0;
 
 signals:
+    /// A folder is to be chosen.
+    void openFolder();
     /// The user has chosen what to scan.
     void scanUrl(const Url& url);
 };

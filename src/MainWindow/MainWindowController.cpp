@@ -161,7 +161,8 @@ void MainWindowController::showHome()
     m_treeVC.reset();
     m_treeView.reset();
     m_toolbar->setTreeDisplayed(false);
-    m_homeVC = m_services.makeHomeScreen([this] { openFolder(); });
+    m_homeVC = m_services.makeHomeScreen();
+    connect(m_homeVC.get(), &HomeScreen::openFolder, this, &MainWindowController::openFolder);
     connect(m_homeVC.get(), &HomeScreen::scanUrl, this, [this](const Url& url) {
         handle(ScreenEvent::ScanUrl, url);
     });

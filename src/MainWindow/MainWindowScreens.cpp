@@ -10,12 +10,11 @@ namespace {
 
 class Home final : public HomeScreen {
 public:
-    Home(
-        RootModel& model, const HomeViewServices& services, const std::function<void()>& openFolder)
+    Home(RootModel& model, const HomeViewServices& services)
         : m_homeVC(model, services)
     {
         connect(&m_homeVC, &HomeViewController::scanUrl, this, &HomeScreen::scanUrl);
-        connect(&m_homeVC, &HomeViewController::openFolder, this, openFolder);
+        connect(&m_homeVC, &HomeViewController::openFolder, this, &HomeScreen::openFolder);
     }
 
     QWidget& view() const override { return m_homeVC.view(); }
@@ -48,10 +47,9 @@ private:
 
 } // namespace
 
-std::unique_ptr<HomeScreen> makeHomeScreen(
-    RootModel& model, const HomeViewServices& services, const std::function<void()>& openFolder)
+std::unique_ptr<HomeScreen> makeHomeScreen(RootModel& model, const HomeViewServices& services)
 {
-    return std::make_unique<Home>(model, services, openFolder);
+    return std::make_unique<Home>(model, services);
 }
 
 std::unique_ptr<ScanScreen> makeScanScreen(RootModel& model, const ScanningServices& services)

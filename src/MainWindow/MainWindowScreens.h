@@ -4,7 +4,6 @@
 #include "MainWindow/HomeScreen.h"
 #include "MainWindow/ScanScreen.h"
 
-#include <functional>
 #include <memory>
 
 namespace tessera {
@@ -13,10 +12,8 @@ class RootModel;
 struct HomeViewServices;
 struct ScanningServices;
 
-/// The home screen, as the main window deals with it. `openFolder` is called when a folder is to be
-/// chosen.
-std::unique_ptr<HomeScreen> makeHomeScreen(
-    RootModel& model, const HomeViewServices& services, const std::function<void()>& openFolder);
+/// The home screen, as the main window deals with it.
+std::unique_ptr<HomeScreen> makeHomeScreen(RootModel& model, const HomeViewServices& services);
 
 /// The scan panel, as the main window deals with it.
 std::unique_ptr<ScanScreen> makeScanScreen(RootModel& model, const ScanningServices& services);

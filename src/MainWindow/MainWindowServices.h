@@ -24,9 +24,7 @@ struct MainWindowServices {
     UserDefaults& defaults; ///< where the window's place on the screen is remembered
     OpenPanel& openPanel;
     const MountedVolumes& volumes;
-    /// Gets what the home screen calls when a folder is to be chosen.
-    std::function<std::unique_ptr<HomeScreen>(const std::function<void()>& openFolder)>
-        makeHomeScreen;
+    std::function<std::unique_ptr<HomeScreen>()> makeHomeScreen;
     std::function<std::unique_ptr<ScanScreen>()> makeScanScreen;
     ScanPanelSlide::Clock slideClock = ZoomAnimation::steadyClock;
 };

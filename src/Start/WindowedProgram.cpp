@@ -164,10 +164,8 @@ MainWindowServices WindowedProgram::mainWindowServices(
         .defaults = services.rootModelServices.defaults,
         .openPanel = m_desktop->openPanel,
         .volumes = services.homeScreen.volumes,
-        .makeHomeScreen =
-            [&model, homeScreen = services.homeScreen](const std::function<void()>& openFolder) {
-                return makeHomeScreen(model, homeScreen, openFolder);
-            },
+        .makeHomeScreen
+        = [&model, homeScreen = services.homeScreen] { return makeHomeScreen(model, homeScreen); },
         .makeScanScreen =
             [&model, scanScreen = m_desktop->scanScreen(services)] {
                 return makeScanScreen(model, scanScreen);

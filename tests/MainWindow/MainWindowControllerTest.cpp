@@ -329,7 +329,7 @@ TEST_F(MainWindowControllerTest, AChosenFolderIsScanned)
 
 TEST_F(MainWindowControllerTest, TheHomeScreensButtonLetsTheUserChooseAFolder)
 {
-    services.screens.openFolder();
+    emit services.screens.homeScreen->openFolder();
     EXPECT_EQ(services.openPanel.shown, 1);
 }
 

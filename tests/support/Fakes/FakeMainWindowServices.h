@@ -14,7 +14,6 @@
 #include <QVBoxLayout>
 #include <QWidget>
 
-#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -35,7 +34,6 @@ struct ScreenRecord {
     int leastScanHeight = 0; ///< what the scan panels to come need
     bool homeEnabled = true;
     int homeFocused = 0; ///< how often a home screen was given the keyboard
-    std::function<void()> openFolder; ///< what the home screen's button does
 };
 
 class FakeHomeScreen final : public HomeScreen {
@@ -123,11 +121,7 @@ struct FakeMainWindowServices {
             .defaults = rootModel.defaults,
             .openPanel = openPanel,
             .volumes = volumes,
-            .makeHomeScreen =
-                [this](const std::function<void()>& openFolder) {
-                    screens.openFolder = openFolder;
-                    return std::make_unique<FakeHomeScreen>(screens);
-                },
+            .makeHomeScreen = [this] { return std::make_unique<FakeHomeScreen>(screens); },
             .makeScanScreen = [this] { return std::make_unique<FakeScanScreen>(screens); },
             .slideClock = [this] { return now; }};
     }
