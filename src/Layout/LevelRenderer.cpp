@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Layout/LevelRenderer.h"
 
+#include "Layout/BoxMetrics.h"
 #include "Layout/LayoutBuilder.h"
 #include "Layout/MultiLayoutObject.h"
 #include "Model/Allocation.h"
@@ -12,28 +13,6 @@
 namespace tessera {
 
 namespace {
-
-/// Margin between the view's bounds and the top level.
-constexpr double kTopInset = 3.0;
-
-/// Where a level starts inside its folder's box, and how much smaller than the box it is: 8
-/// points at the left, right and bottom, 24 at the top for the folder's name.
-constexpr double kChildOffsetX = 8.0;
-constexpr double kChildOffsetY = 24.0;
-constexpr double kChildWidthReduction = 16.0;
-constexpr double kChildHeightReduction = 32.0;
-
-/// A level is shown only where it is wider and higher than this.
-constexpr double kNestingThreshold = 40.0;
-
-Rect childFrame(const Rect& box)
-{
-    return {
-        box.x + kChildOffsetX,
-        box.y + kChildOffsetY,
-        box.width - kChildWidthReduction,
-        box.height - kChildHeightReduction};
-}
 
 std::unique_ptr<LayoutObject> boxFor(File& file, std::uint64_t totalAllocation)
 {
@@ -125,13 +104,14 @@ private:
 
 } // namespace
 
-// Calls itself once a level on screen: each is at least 32 points lower than the one around it,
-// so the depth is bounded by the window's height, not by the disk.
+// Calls itself once a level on screen: each is lower than the one around it by what a box takes
+// for itself, so the depth is bounded by the window's height, not by the disk.
 RenderedLevel LevelRenderer::render(
     Folder* folder, const Rect& frame, Placement placement, long level) const
 {
-    const Rect layoutArea = placement == Placement::Top ? frame.inset(kTopInset, kTopInset)
-                                                        : Rect{0, 0, frame.width, frame.height};
+    const Rect layoutArea = placement == Placement::Top
+        ? frame.inset(kTopLevelMargin, kTopLevelMargin)
+        : Rect{0, 0, frame.width, frame.height};
     RenderedLevel result{folder, frame, level, {}, {}};
     if (folder == nullptr || !(layoutArea.width > 0) || !(layoutArea.height > 0)) {
         return result;
@@ -160,10 +140,9 @@ std::vector<RenderedLevel> LevelRenderer::renderNested(
 {
     std::vector<RenderedLevel> nested;
     for (const LayoutObject* item : folderItems) {
-        const Rect frame = childFrame(item->rect);
-        const bool hasRoom = frame.width > kNestingThreshold && frame.height > kNestingThreshold;
-        if (hasRoom && !item->ref->rescanning()) {
+        if (hasRoomForLevel(item->rect) && !item->ref->rescanning()) {
             auto* folder = static_cast<Folder*>(item->ref);
+            const Rect frame = nestedLevelFrame(item->rect);
             nested.push_back(render(folder, frame, Placement::Nested, level));
         }
     }

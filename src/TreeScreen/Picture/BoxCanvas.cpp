@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "TreeScreen/Picture/BoxCanvas.h"
 
+#include "Layout/BoxMetrics.h"
 #include "TreeScreen/Picture/LabelCache.h"
-#include "TreeScreen/Picture/LevelMetrics.h"
 #include "TreeScreen/Picture/Styles.h"
 #include "Widgets/RoundedRect.h"
 

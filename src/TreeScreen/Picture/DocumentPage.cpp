@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "TreeScreen/Picture/DocumentPage.h"
 
+#include "Layout/BoxMetrics.h"
 #include "Model/Document.h"
 #include "TreeScreen/Picture/BoxCanvas.h"
 #include "TreeScreen/Picture/Label.h"
-#include "TreeScreen/Picture/LevelMetrics.h"
 #include "TreeScreen/Picture/Styles.h"
 #include "TreeScreen/Picture/TreeBranch.h"
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "TreeScreen/Picture/FolderBox.h"
 
+#include "Layout/BoxMetrics.h"
 #include "Model/Folder.h"
 #include "TreeScreen/Picture/BoxCanvas.h"
 #include "TreeScreen/Picture/BranchPalette.h"
-#include "TreeScreen/Picture/LevelMetrics.h"
 #include "TreeScreen/Picture/Styles.h"
 #include "TreeScreen/Picture/TreeBranch.h"
 
@@ -15,8 +15,6 @@
 namespace tessera {
 
 namespace {
-
-constexpr double kRimWidth = 1.0;
 
 constexpr double kLabelLeft = 8.0;
 constexpr double kLabelTop = 7.0;

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "TreeScreen/Picture/GroupBox.h"
 
+#include "Layout/BoxMetrics.h"
 #include "Layout/MultiLayoutObject.h"
 #include "TreeScreen/Picture/BoxCanvas.h"
 #include "TreeScreen/Picture/BranchPalette.h"
-#include "TreeScreen/Picture/LevelMetrics.h"
 #include "TreeScreen/Picture/TreeBranch.h"
 #include "Widgets/ColorHelper.h"
 

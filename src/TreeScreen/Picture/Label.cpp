@@ -2,9 +2,9 @@
 #include "TreeScreen/Picture/Label.h"
 
 #include "Base/ByteSize.h"
+#include "Layout/BoxMetrics.h"
 #include "Model/File.h"
 #include "TreeScreen/Picture/BoxCanvas.h"
-#include "TreeScreen/Picture/LevelMetrics.h"
 #include "TreeScreen/Picture/Styles.h"
 
 #include <cmath>
@@ -12,9 +12,6 @@
 namespace tessera {
 
 namespace {
-
-constexpr double kMinHeightForSize = 80.0;
-constexpr double kMinWidthForSize = 60.0;
 
 constexpr float kSideMargin = 5.0F;
 constexpr float kLineHeight = 16.0F;
@@ -48,7 +45,7 @@ void drawCenteredLabel(
         return;
     }
     const LabelLine line(box);
-    if (box.height <= kMinHeightForSize || box.width <= kMinWidthForSize) {
+    if (!hasRoomForSize(box)) {
         canvas.drawText(item.name(), line.movedDown(0), attributes);
         return;
     }

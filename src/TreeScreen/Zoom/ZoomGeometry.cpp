@@ -1,39 +1,33 @@
 // SPDX-License-Identifier: MIT
 #include "TreeScreen/Zoom/ZoomGeometry.h"
 
+#include "Layout/BoxMetrics.h"
+
 namespace tessera {
 
 namespace {
 
-/// Margin between the view's bounds and the top level's boxes.
-constexpr float kTopInset = 3.0F;
+/// In single precision, as the scales are that it is multiplied by.
+constexpr auto kMargin = static_cast<float>(kTopLevelMargin);
 
-/// Boxes beyond this size show a level of their own, below their header.
-constexpr double kNestedWidth = 56;
-constexpr double kNestedHeight = 72;
-/// Boxes beyond this size have a header at least.
-constexpr double kHeaderWidth = 30;
-constexpr double kHeaderHeight = 20;
+/// What counts as the inside of a box that has no level in it: below the name, where it has one.
+constexpr Insets kInsideBelowName{3, 10, 3, 3};
+constexpr Insets kInsideWithoutName{2, 2, 2, 2};
 
 /// A folder without a box grows out of a rectangle of this size.
 constexpr double kStandInWidth = 10;
 constexpr double kStandInHeight = 7;
 
-/// Small content sits slightly inside its folder's frame, and moved this far lines up with the
-/// margin of the top level.
+/// Small content sits slightly inside its folder's frame.
 constexpr double kInsideFrame = 0.975;
 constexpr double kShrunkOffset = 1;
-constexpr double kEnlargedOffset = 3;
 
 Rect insideOfFolder(const Rect& box)
 {
-    if (box.width > kNestedWidth && box.height > kNestedHeight) {
-        return {box.x + 8, box.y + 24, box.width - 16, box.height - 32};
+    if (hasRoomForLevel(box)) {
+        return nestedLevelFrame(box);
     }
-    if (box.height > kHeaderHeight && box.width > kHeaderWidth) {
-        return {box.x + 3, box.y + 10, box.width - 6, box.height - 13};
-    }
-    return {box.x + 2, box.y + 2, box.width - 4, box.height - 4};
+    return hasRoomForLabel(box) ? kInsideBelowName.of(box) : kInsideWithoutName.of(box);
 }
 
 Rect standIn(const Rect& box)
@@ -60,7 +54,7 @@ QTransform shrink(const Rect& inner, const Rect& area, const Rect& bounds)
     const auto scaleY = static_cast<float>(inner.height / area.height);
     QTransform result;
     result.translate(
-        inner.x - kTopInset * scaleX, (bounds.height - inner.bottom()) - kTopInset * scaleY);
+        inner.x - kMargin * scaleX, (bounds.height - inner.bottom()) - kMargin * scaleY);
     result.translate(kShrunkOffset, kShrunkOffset);
     result.scale(scaleX, scaleY);
     result.scale(kInsideFrame, kInsideFrame);
@@ -75,7 +69,7 @@ QTransform enlarge(const Rect& inner, const Rect& area, const Rect& bounds)
     result.translate(
         -(inner.x * scaleX - bounds.x * scaleX),
         -(bounds.height * scaleY - (inner.height * scaleY + inner.y * scaleY)));
-    result.translate(kEnlargedOffset, kEnlargedOffset);
+    result.translate(kTopLevelMargin, kTopLevelMargin);
     result.scale(scaleX, scaleY);
     return result;
 }
@@ -84,8 +78,8 @@ QTransform enlarge(const Rect& inner, const Rect& area, const Rect& bounds)
 
 ZoomGeometry::ZoomGeometry(const Rect& box, Box stands, const Rect& bounds)
     : inner(innerRect(box, stands))
-    , shrunk(shrink(inner, bounds.inset(kTopInset, kTopInset), bounds))
-    , enlarged(enlarge(inner, bounds.inset(kTopInset, kTopInset), bounds))
+    , shrunk(shrink(inner, bounds.inset(kTopLevelMargin, kTopLevelMargin), bounds))
+    , enlarged(enlarge(inner, bounds.inset(kTopLevelMargin, kTopLevelMargin), bounds))
 {
 }
 
