@@ -92,15 +92,6 @@ int blended(int from, int to, double part)
 
 } // namespace
 
-PixelRect PixelRect::intersected(const PixelRect& other) const
-{
-    return {
-        std::max(left, other.left),
-        std::max(top, other.top),
-        std::min(right, other.right),
-        std::min(bottom, other.bottom)};
-}
-
 QRgb RowColors::at(int row) const
 {
     if (m_from == m_to) {

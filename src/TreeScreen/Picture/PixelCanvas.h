@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "TreeScreen/Picture/PixelRect.h"
+
 #include <QRgb>
 
 #include <cstddef>
@@ -13,30 +15,6 @@ class QImage;
 namespace tessera {
 
 class StretchMask;
-
-/// Whole device pixels; right and bottom are exclusive.
-struct PixelRect {
-    int left = 0;
-    int top = 0;
-    int right = 0;
-    int bottom = 0;
-
-    int width() const { return right - left; }
-    int height() const { return bottom - top; }
-    bool isEmpty() const { return left >= right || top >= bottom; }
-    PixelRect intersected(const PixelRect& other) const;
-};
-
-/// A rectangle in device pixels, whose edges may lie within pixels.
-struct DeviceRect {
-    double left = 0;
-    double top = 0;
-    double right = 0;
-    double bottom = 0;
-
-    double width() const { return right - left; }
-    double height() const { return bottom - top; }
-};
 
 /// One glyph in pixels, `left` and `top` counted from the pen's place on the baseline.
 struct GlyphMask {

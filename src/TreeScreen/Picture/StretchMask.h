@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Base/Rect.h"
-#include "TreeScreen/Picture/PixelCanvas.h"
+#include "TreeScreen/Picture/PixelRect.h"
 
 #include <QPainterPath>
 
