@@ -123,7 +123,7 @@ void showTree(TreeMapView& map, Folder& tree)
     const Rect bounds{
         0, 0, static_cast<double>(kMapSize.width()), static_cast<double>(kMapSize.height())};
     map.resize(kMapSize);
-    map.addBranch(TreeBranch::make(LevelRenderer(false).renderTop(&tree, bounds), &map));
+    map.addBranch(TreeBranch::make(LevelRenderer(false).renderTop(&tree, bounds)));
     map.show();
     map.activateWindow();
     QCoreApplication::processEvents();

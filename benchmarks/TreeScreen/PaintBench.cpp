@@ -60,7 +60,7 @@ void report(const char* name, Folder& top, QSize size, double scale, int rounds)
         const double width = size.width() - round % 8;
         const auto begin = Clock::now();
         branch = TreeBranch::make(
-            renderer.renderTop(&top, {0, 0, width, static_cast<double>(size.height())}), nullptr);
+            renderer.renderTop(&top, {0, 0, width, static_cast<double>(size.height())}));
         const auto laidOut = Clock::now();
         const QImage image = painter.paint(*branch, QSizeF(width, size.height()), scale);
         const auto end = Clock::now();

@@ -44,8 +44,7 @@ std::string PictureWriter::writePng(const CommandLine& commandLine) const
 {
     const Rect bounds{
         0, 0, static_cast<double>(commandLine.width), static_cast<double>(commandLine.height)};
-    const auto top
-        = TreeBranch::make(LevelRenderer(false).renderTop(m_tree.get(), bounds), nullptr);
+    const auto top = TreeBranch::make(LevelRenderer(false).renderTop(m_tree.get(), bounds));
     const QImage picture
         = TreePainter().paint(*top, QSizeF(bounds.width, bounds.height), commandLine.scale);
     QByteArray png;

@@ -15,8 +15,10 @@
 #include "TreeScreen/DiskChanges.h"
 #include "TreeScreen/Map/TreeMapView.h"
 #include "TreeScreen/Picture/TreeBranch.h"
+#include "TreeScreen/TreeMenu.h"
 #include "TreeScreen/TreeViewServices.h"
 
+#include <QMenu>
 #include <QPointer>
 
 #include <optional>
@@ -38,23 +40,31 @@ TreeViewController::TreeViewController(
     , m_note(&treeView)
 {
     setCurrentFolder(m_model.topFolder());
+    observeTreeView();
     observe();
     objectTreeRefreshed();
     renderTree();
 }
 
-TreeViewController::~TreeViewController()
+TreeViewController::~TreeViewController() = default;
+
+void TreeViewController::observeTreeView()
 {
-    m_treeView.setCommandTarget(nullptr);
+    m_treeView.installEventFilter(this);
+    connect(&m_treeView, &TreeMapView::frameChanged, this, &TreeViewController::renderTree);
+    connect(&m_treeView, &TreeMapView::zoomEnded, this, &TreeViewController::animationDidStop);
+    connect(&m_treeView, &TreeMapView::clickTreeItem, this, [this](File& node) { select(&node); });
+    // The click has selected what it is on.
+    connect(
+        &m_treeView, &TreeMapView::doubleClickTreeItem, this, &TreeViewController::openSelected);
+    connect(&m_treeView, &TreeMapView::menuRequested, this, &TreeViewController::showMenu);
+    connect(&m_treeView, &TreeMapView::menuKeyInVain, this, [this] {
+        m_note.say(command_hint::nothingSelected());
+    });
 }
 
 void TreeViewController::observe()
 {
-    connect(&m_treeView, &TreeMapView::frameChanged, this, &TreeViewController::renderTree);
-    connect(&m_treeView, &TreeMapView::zoomEnded, this, &TreeViewController::animationDidStop);
-    connect(&m_treeView, &TreeMapView::menuKeyInVain, this, [this] {
-        m_note.say(command_hint::nothingSelected());
-    });
     const DiskChanges& changes = m_services.diskChanges;
     connect(&changes, &DiskChanges::itemGone, this, &TreeViewController::itemGone);
     connect(
@@ -63,24 +73,22 @@ void TreeViewController::observe()
                 itemCompressed(*archive);
             }
         });
-    m_treeView.installEventFilter(this);
-    m_treeView.setCommandTarget(this);
-    NotificationCenter& center = NotificationCenter::defaultCenter();
-    m_clickObservation
-        = center.addObserver("ClickTreeItem", [this](const NotificationObject& object) {
-              File* const* clicked = std::get_if<File*>(&object);
-              select(clicked == nullptr ? nullptr : *clicked);
-          });
-    m_doubleClickObservation = center.addObserver(
-        "DoubleClickTreeItem", [this](const NotificationObject&) { doubleClickTreeItem(); });
 }
 
-void TreeViewController::doubleClickTreeItem()
+void TreeViewController::openSelected()
 {
     if (nodeCast<Folder>(m_selectedFile) != nullptr) {
         zoomIn();
     } else if (nodeCast<Document>(m_selectedFile) != nullptr) {
         quickLook();
+    }
+}
+
+void TreeViewController::showMenu(const File& node, QPoint onScreen)
+{
+    m_menu = makeTreeMenu(node, this);
+    if (m_menu != nullptr) {
+        m_menu->popup(onScreen);
     }
 }
 
@@ -313,7 +321,7 @@ void TreeViewController::perform(Command command)
 {
     switch (command) {
     case Command::Open:
-        doubleClickTreeItem();
+        openSelected();
         break;
     case Command::QuickLook:
         SelectionPreview::toggle();
@@ -415,7 +423,7 @@ std::unique_ptr<TreeBranch> TreeViewController::renderFolder(
     const LevelRenderer renderer(m_model.pictureFilter().ignoreHiddenFiles());
     const auto placement
         = inView == nullptr ? LevelRenderer::Placement::Top : LevelRenderer::Placement::Nested;
-    auto branch = TreeBranch::make(renderer.render(folder, inRect, placement, level), &m_treeView);
+    auto branch = TreeBranch::make(renderer.render(folder, inRect, placement, level));
     if (inView != nullptr) {
         inView->addSubBranch(std::move(branch));
         return nullptr;

@@ -21,6 +21,7 @@
 #include <memory>
 
 class QKeyEvent;
+class QMenu;
 
 namespace tessera {
 
@@ -48,7 +49,7 @@ public:
     /// Does not draw.
     void setCurrentFolder(Folder* folder);
 
-    /// The selected item or null. Its node carries the mark as well.
+    /// The selected item or null. Its node carries the mark as well, which nobody else sets.
     File* selectedFile() const { return m_selectedFile; }
     /// Does not draw.
     void setSelectedFile(File* file) override;
@@ -138,8 +139,10 @@ private:
     const Folder* folderInView() const override { return m_currentFolder; }
 
     void observe();
-    void doubleClickTreeItem();
+    void openSelected();
     bool removeNodeAt(std::string_view path);
+    void observeTreeView();
+    void showMenu(const File& node, QPoint onScreen);
     void sayThatThereIsNoFileManager(const QString& itemName);
     void select(File* file);
     RescanObstacle rescanObstacle() const;
@@ -156,12 +159,11 @@ private:
     ItemTrasher m_trasher;
     SelectionPreview m_preview;
     TreeNote m_note;
+    std::unique_ptr<QMenu> m_menu;
     Folder* m_currentFolder = nullptr;
     File* m_selectedFile = nullptr;
     /// Of the folder to rescan, as far as the system was asked.
     mutable std::optional<bool> m_isMountPoint;
-    Observation m_clickObservation;
-    Observation m_doubleClickObservation;
 };
 
 } // namespace tessera

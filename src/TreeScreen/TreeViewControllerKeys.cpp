@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What keys do on the tree screen.
+#include "Model/Document.h"
 #include "Model/Folder.h"
 #include "TreeScreen/CommandHint.h"
 #include "TreeScreen/Map/BoxNavigation.h"

@@ -3,6 +3,7 @@
 
 #include "Base/NotificationCenter.h"
 #include "MainWindow/MainWindowController.h"
+#include "TreeScreen/Map/TreeMapView.h"
 #include "TreeScreen/TreeViewController.h"
 #include "support/EndWorkers.h"
 #include "support/Fakes/FakeMainWindowServices.h"
@@ -53,10 +54,11 @@ protected:
         finishScan();
     }
 
+    TreeMapView& map() const { return *controller->window().findChild<TreeMapView*>(); }
+
     void select(const char* path) const
     {
-        NotificationCenter::defaultCenter().post(
-            "ClickTreeItem", &at(*services.model.topFolder(), path));
+        emit map().clickTreeItem(at(*services.model.topFolder(), path));
     }
 
     void zoomIntoDocs() const

@@ -182,7 +182,7 @@ TEST_F(TreeViewControllerCommandsTest, AnArchiveElsewhereIsNobodysConcern)
 TEST_F(TreeViewControllerCommandsTest, ADoubleClickOnADocumentPreviewsIt)
 {
     select("docs/a");
-    NotificationCenter::defaultCenter().post("DoubleClickTreeItem");
+    emit view.doubleClickTreeItem(node("docs/a"));
     EXPECT_TRUE(panel.isOpen());
 }
 
@@ -196,7 +196,7 @@ TEST_F(TreeViewControllerCommandsTest, ADoubleClickOnWhatStandsForNoFileDoesNoth
           static_cast<File*>(unknown.get()),
           static_cast<File*>(backups.get())}) {
         controller->setSelectedFile(node);
-        NotificationCenter::defaultCenter().post("DoubleClickTreeItem");
+        emit view.doubleClickTreeItem(*node);
         EXPECT_FALSE(panel.isOpen()) << node->name();
         EXPECT_EQ(controller->currentFolder(), model.topFolder()) << node->name();
         EXPECT_EQ(controller->selectedFile(), node) << node->name();

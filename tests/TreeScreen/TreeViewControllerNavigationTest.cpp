@@ -51,7 +51,7 @@ protected:
         recycled.newUrls[url.absoluteString()] = Url("/trash/docs", true);
     }
 
-    static void doubleClick() { NotificationCenter::defaultCenter().post("DoubleClickTreeItem"); }
+    void doubleClick(File& file) { emit view.doubleClickTreeItem(file); }
 
     void showVolume()
     {
@@ -162,14 +162,14 @@ TEST_F(TreeViewControllerNavigationTest, TellsWhenTheTreeHasOtherSizes)
 TEST_F(TreeViewControllerNavigationTest, ADoubleClickZoomsIntoTheSelectedFolder)
 {
     controller->setSelectedFile(&node("docs"));
-    doubleClick();
+    doubleClick(node("docs"));
     EXPECT_EQ(controller->currentFolder(), &node("docs"));
     EXPECT_TRUE(view.isZooming());
 }
 
 TEST_F(TreeViewControllerNavigationTest, ADoubleClickWithoutASelectionDoesNothing)
 {
-    doubleClick();
+    doubleClick(node("docs"));
     EXPECT_EQ(controller->currentFolder(), model.topFolder());
     EXPECT_FALSE(view.isZooming());
 }
@@ -181,7 +181,7 @@ TEST_F(TreeViewControllerNavigationTest, ADoubleClickOnSpaceThatIsNoFileDoesNoth
     for (File* const space :
          {static_cast<File*>(&volume.freeFile()), static_cast<File*>(&volume.unreadFile())}) {
         controller->setSelectedFile(space);
-        doubleClick();
+        doubleClick(*space);
         EXPECT_EQ(controller->currentFolder(), &volume);
         EXPECT_EQ(controller->selectedFile(), space);
         EXPECT_FALSE(view.isZooming());

@@ -9,6 +9,8 @@
 #include "support/Fakes/FakeUserDefaults.h"
 #include "support/MakeTree.h"
 
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -68,7 +70,6 @@ TEST_F(TreeViewControllerTest, ShowsTheModelsTree)
     ASSERT_EQ(view.branches().size(), 1U);
     EXPECT_EQ(topBranch().name(), "data");
     EXPECT_EQ(topBranch().frame(), (Rect{0, 0, 400, 300}));
-    EXPECT_EQ(topBranch().treeView(), &view);
 }
 
 TEST_F(TreeViewControllerTest, ChildFoldersGetBranchesOfTheNextLevel)
@@ -152,6 +153,20 @@ TEST_F(TreeViewControllerTest, AnotherClickMovesTheSelection)
     click(node("docs/a"));
     EXPECT_EQ(controller.selectedFile(), &node("docs/a"));
     EXPECT_FALSE(node("c").selected());
+}
+
+TEST_F(TreeViewControllerTest, ARightClickSelectsAndOpensTheMenuThere)
+{
+    const TreeViewController controller(model, view, viewServices.get());
+    const Rect box = view.findRectForFile(node("c")).value();
+    const QPoint point(static_cast<int>(box.x) + 5, static_cast<int>(box.y) + 5);
+    QContextMenuEvent event(QContextMenuEvent::Mouse, point, view.mapToGlobal(point));
+    QApplication::sendEvent(&view, &event);
+    EXPECT_EQ(controller.selectedFile(), &node("c"));
+    EXPECT_TRUE(node("c").selected());
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    EXPECT_EQ(QApplication::activePopupWidget()->pos(), view.mapToGlobal(point));
+    QApplication::activePopupWidget()->close();
 }
 
 TEST_F(TreeViewControllerTest, SelectingNothingClearsTheMark)

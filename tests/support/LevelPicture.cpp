@@ -2,6 +2,7 @@
 #include "support/LevelPicture.h"
 
 #include "Layout/MultiLayoutObject.h"
+#include "support/LevelPainting.h"
 #include "support/ReferencePainting.h"
 
 #include <QPainter>
@@ -46,7 +47,7 @@ void LevelPicture::paint()
     startImage();
     takeItems();
     QPainter painter(&m_image);
-    m_branch->draw(painter);
+    paintWholeLevel(painter, *m_branch);
 }
 
 void LevelPicture::paintReference()

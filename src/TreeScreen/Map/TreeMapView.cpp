@@ -11,14 +11,12 @@
 #include "TreeScreen/Zoom/ZoomAnimation.h"
 
 #include <QContextMenuEvent>
-#include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
 #include <QWindow>
 
 #include <algorithm>
-#include <iterator>
 
 namespace tessera {
 
@@ -50,44 +48,7 @@ bool visitBranches(Branch& top, Visit visit)
     return false;
 }
 
-void paintOver(QImage& picture, const TreeBranch& top)
-{
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    visitBranches(top, [&painter](const TreeBranch& branch) {
-        const Point origin = branch.originInTreeView();
-        painter.save();
-        painter.translate(origin.x, origin.y);
-        branch.draw(painter);
-        painter.restore();
-        return false;
-    });
-}
-
 } // namespace
-
-/// While one lives, removed branches stay alive: a branch that reports a click is often replaced
-/// by whoever hears of it, before its own function has returned.
-class TreeMapView::Dispatch {
-public:
-    explicit Dispatch(TreeMapView& view)
-        : m_view(view)
-    {
-        ++m_view.m_dispatchDepth;
-    }
-    Dispatch(const Dispatch&) = delete;
-    Dispatch& operator=(const Dispatch&) = delete;
-    ~Dispatch()
-    {
-        --m_view.m_dispatchDepth;
-        if (m_view.m_dispatchDepth == 0) {
-            m_view.m_retiredBranches.clear();
-        }
-    }
-
-private:
-    TreeMapView& m_view;
-};
 
 TreeMapView::TreeMapView(const UserDefaults& defaults, QWidget* parent)
     : QWidget(parent)
@@ -124,11 +85,8 @@ void TreeMapView::removeAllBranches()
 {
     m_zoom.reset();
     hideTooltip();
-    if (m_dispatchDepth > 0) {
-        std::ranges::move(m_branches, std::back_inserter(m_retiredBranches));
-    }
     m_branches.clear();
-    m_cursor = nullptr;
+    m_hoveredBranch = nullptr;
     m_pressedBranch = nullptr;
     // The items went with the branches; one made later may get the same address.
     m_currentToolTip = nullptr;
@@ -204,9 +162,6 @@ const QImage& TreeMapView::picture()
     const bool isFresh = !m_picture.isNull() && m_picture.devicePixelRatio() == scale;
     if (!isFresh && !m_branches.empty()) {
         m_picture = paint(*m_branches.front());
-        std::for_each(std::next(m_branches.begin()), m_branches.end(), [this](const auto& branch) {
-            paintOver(m_picture, *branch);
-        });
     }
     return m_picture;
 }
@@ -261,11 +216,10 @@ TreeBranch* TreeMapView::branchAt(Point point) const
     return topmost;
 }
 
-void TreeMapView::updateCursor(Point point)
+void TreeMapView::updateHoveredBranch(Point point)
 {
-    TreeBranch* const branch = branchAt(point);
-    if (branch != nullptr && branch != m_cursor) {
-        branch->cursorUpdate();
+    if (const TreeBranch* const branch = branchAt(point)) {
+        m_hoveredBranch = branch;
     }
 }
 
@@ -276,18 +230,18 @@ void TreeMapView::mouseMoveEvent(QMouseEvent* event)
     if (event->buttons() != Qt::NoButton || !isActiveWindow() || isZooming()) {
         return;
     }
-    updateCursor(toPoint(event->position()));
+    updateHoveredBranch(toPoint(event->position()));
     hover(toPoint(event->position()), event->globalPosition());
 }
 
 void TreeMapView::hover(Point point, QPointF onScreen)
 {
     const TooltipType type = tooltipType(m_defaults);
-    if (type == TooltipType::None || m_cursor == nullptr) {
+    if (type == TooltipType::None || m_hoveredBranch == nullptr) {
         return;
     }
-    const Point inBranch = m_cursor->convertFromTreeView(point);
-    for (const auto& item : m_cursor->layoutItems()) {
+    const Point inBranch = m_hoveredBranch->convertFromTreeView(point);
+    for (const auto& item : m_hoveredBranch->layoutItems()) {
         if (item->rect.contains(inBranch) && item.get() != m_currentToolTip) {
             TooltipController::sharedInstance().setLayoutObject(*item);
             m_currentToolTip = item.get();
@@ -344,17 +298,29 @@ void TreeMapView::mouseReleaseEvent(QMouseEvent* event)
         return;
     }
     // A view gets the release of every press on it, and acts on the box where the release was.
-    TreeBranch& branch = *m_pressedBranch;
+    File* const node = m_pressedBranch->clickableAt(toPoint(event->position()));
     m_pressedBranch = nullptr;
-    const Dispatch dispatch(*this);
-    branch.mouseUp(toPoint(event->position()), m_clickCount);
+    if (node == nullptr) {
+        return;
+    }
+    click(*node);
+    if (m_clickCount == 2) {
+        emit doubleClickTreeItem(*node);
+    }
+}
+
+void TreeMapView::click(File& node)
+{
+    if (!node.selected()) {
+        emit clickTreeItem(node);
+    }
 }
 
 std::optional<TreeMapView::Box> TreeMapView::selectedBox() const
 {
     std::optional<Box> result;
     for (const auto& top : m_branches) {
-        const bool found = visitBranches(*top, [&result](TreeBranch& branch) {
+        const bool found = visitBranches(*top, [&result](const TreeBranch& branch) {
             const auto& items = branch.layoutItems();
             const auto selected = std::ranges::find_if(items, [](const auto& item) {
                 return item->ref != nullptr && item->ref->selected();
@@ -375,17 +341,17 @@ void TreeMapView::contextMenuEvent(QContextMenuEvent* event)
 {
     if (event->reason() != QContextMenuEvent::Keyboard) {
         const Point point = toPoint(event->pos());
-        if (TreeBranch* const branch = branchAt(point)) {
-            showMenu(*branch, point, event->globalPos());
+        if (const TreeBranch* const branch = branchAt(point)) {
+            requestMenu(*branch, point, event->globalPos());
         }
         return;
     }
-    if (!showMenuOfSelected()) {
+    if (!requestMenuOfSelected()) {
         emit menuKeyInVain();
     }
 }
 
-bool TreeMapView::showMenuOfSelected()
+bool TreeMapView::requestMenuOfSelected()
 {
     const std::optional<Box> box = selectedBox();
     if (!box) {
@@ -394,17 +360,19 @@ bool TreeMapView::showMenuOfSelected()
     const QRectF rect(
         box->inTreeView.x, box->inTreeView.y, box->inTreeView.width, box->inTreeView.height);
     const QPointF centre = rect.center();
-    return showMenu(*box->branch, toPoint(centre), mapToGlobal(centre).toPoint());
+    return requestMenu(*box->branch, toPoint(centre), mapToGlobal(centre).toPoint());
 }
 
-bool TreeMapView::showMenu(TreeBranch& branch, Point point, QPoint onScreen)
+bool TreeMapView::requestMenu(const TreeBranch& branch, Point point, QPoint onScreen)
 {
-    const Dispatch dispatch(*this);
-    m_menu = branch.menuForEvent(point, m_commandTarget);
-    if (m_menu != nullptr) {
-        m_menu->popup(onScreen);
+    File* const node = branch.clickableAt(point);
+    if (node == nullptr) {
+        return false;
     }
-    return m_menu != nullptr;
+    hideTooltip();
+    click(*node);
+    emit menuRequested(*node, onScreen);
+    return true;
 }
 
 } // namespace tessera

@@ -11,22 +11,19 @@
 #include <optional>
 #include <vector>
 
-class QMenu;
-
 namespace tessera {
 
 class File;
 class LayoutObject;
 class TreeBranch;
-class TreeCommandTarget;
 class TreePainter;
 class UserDefaults;
 class ZoomAnimation;
 enum class TooltipType : std::uint8_t;
 
-/// The black canvas of the tree screen: the one widget for all branches, to which it hands the
-/// pointer's events as if each were a view of its own. It moves the tooltip with the pointer and
-/// knows where a node's box lies. Coordinates are in points from its top left.
+/// The black canvas of the tree screen: the one widget for all branches. It tells which item the
+/// user points at and how, decides nothing, moves the tooltip with the pointer and knows where a
+/// node's box lies. Coordinates are in points from its top left.
 class TreeMapView final : public QWidget {
     Q_OBJECT
 
@@ -35,19 +32,16 @@ public:
     explicit TreeMapView(const UserDefaults& defaults, QWidget* parent = nullptr);
     ~TreeMapView() override;
 
-    /// The hovered branch, or null: the deepest one that the pointer was last over, until that
-    /// branch goes away. Hides QWidget's pointer shape on purpose: the map never changes the
-    /// shape.
-    TreeBranch* cursor() const { return m_cursor; }
-    void setCursor(TreeBranch* branch) { m_cursor = branch; }
+    /// The deepest branch that the pointer was last over, until that branch goes away; or null.
+    const TreeBranch* hoveredBranch() const { return m_hoveredBranch; }
 
     /// The top branches, bottom to top.
     const std::vector<std::unique_ptr<TreeBranch>>& branches() const { return m_branches; }
     /// Adds a branch above the others.
     void addBranch(std::unique_ptr<TreeBranch> branch);
     void addBranchBelow(std::unique_ptr<TreeBranch> branch);
-    /// May be called while a branch handles an event: that branch lives on until it has done so.
     /// Ends a zoom, without a word. The tooltip closes: what it describes may be gone or changed.
+    /// May be called by whoever hears of a click.
     void removeAllBranches();
 
     /// Shows the animation instead of the branches until these are removed. Until then the map has
@@ -66,19 +60,25 @@ public:
     /// Whether the picture has a box for the node, or one for several nodes of which it is one.
     bool shows(const File& file) const;
 
-    /// Performs the commands of context menus; null disables them all. Not owned.
-    void setCommandTarget(TreeCommandTarget* target) { m_commandTarget = target; }
-
     void hideTooltip();
 
     /// The item whose details the tooltip holds, also while it is hidden; null before the first
     /// and when its branch went away.
     const LayoutObject* currentToolTip() const { return m_currentToolTip; }
 
-    /// All branches painted at the screen's resolution; painted anew only after a change.
+    /// The branches at the screen's resolution, painted anew only after a change. Of several, as
+    /// there are while a zoom hides them, it is the lowest alone.
     const QImage& picture();
 
 signals:
+    /// A folder or document that is not selected was clicked, with either button.
+    void clickTreeItem(File& node);
+    /// A click on this folder or document was the second of two. What the first one led to has
+    /// been done.
+    void doubleClickTreeItem(File& node);
+    /// The menu of this folder or document is wanted, at that place on the screen. By now it has
+    /// been clicked.
+    void menuRequested(File& node, QPoint onScreen);
     /// The view's size changed.
     void frameChanged();
     /// The zoom came to its end, or a button was pressed meanwhile, whose press comes next. The
@@ -100,34 +100,28 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
-    class Dispatch;
     struct Box {
-        TreeBranch* branch = nullptr;
+        const TreeBranch* branch = nullptr;
         Rect inTreeView;
     };
 
     TreeBranch* branchAt(Point point) const;
-    void updateCursor(Point point);
+    void updateHoveredBranch(Point point);
     void hover(Point point, QPointF onScreen);
     void placeTooltip(QPointF pointerOnScreen, TooltipType type);
     void pressed(const QMouseEvent& event, int clickCount);
     std::optional<Box> selectedBox() const;
-    bool showMenu(TreeBranch& branch, Point point, QPoint onScreen);
-    bool showMenuOfSelected();
+    void click(File& node);
+    bool requestMenu(const TreeBranch& branch, Point point, QPoint onScreen);
+    bool requestMenuOfSelected();
 
     const UserDefaults& m_defaults;
-    TreeCommandTarget* m_commandTarget = nullptr;
 
     std::vector<std::unique_ptr<TreeBranch>> m_branches;
-    /// Removed while an event was being handled; released when that is over.
-    std::vector<std::unique_ptr<TreeBranch>> m_retiredBranches;
-    int m_dispatchDepth = 0;
-
-    TreeBranch* m_cursor = nullptr;
-    TreeBranch* m_pressedBranch = nullptr;
+    const TreeBranch* m_hoveredBranch = nullptr;
+    const TreeBranch* m_pressedBranch = nullptr;
     int m_clickCount = 0;
     const LayoutObject* m_currentToolTip = nullptr;
-    std::unique_ptr<QMenu> m_menu;
     std::unique_ptr<TreePainter> m_painter;
     QImage m_picture;
     std::unique_ptr<ZoomAnimation> m_zoom;

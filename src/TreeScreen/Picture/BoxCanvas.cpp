@@ -75,16 +75,11 @@ BoxCanvas::BoxCanvas(LabelCache& labels, double scale)
 }
 
 BoxCanvas::BoxCanvas(
-    const PixelCanvas& pixels,
-    StretchMaskCache& masks,
-    const LabelCache& labels,
-    double scale,
-    NestedLevels nestedLevels)
+    const PixelCanvas& pixels, StretchMaskCache& masks, const LabelCache& labels, double scale)
     : m_pixels(pixels)
     , m_masks(&masks)
     , m_labels(&labels)
     , m_scale(scale)
-    , m_nestedLevels(nestedLevels)
 {
 }
 

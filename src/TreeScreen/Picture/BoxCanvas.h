@@ -32,21 +32,12 @@ struct VerticalGradient {
 /// and part of the image, only read that.
 class BoxCanvas {
 public:
-    enum class NestedLevels { Painted, LeftOut };
-
     /// A canvas that collects labels and paints nothing. `scale` is device pixels per point.
     BoxCanvas(LabelCache& labels, double scale);
 
     /// A canvas that paints. `masks` serves this canvas's thread alone.
     BoxCanvas(
-        const PixelCanvas& pixels,
-        StretchMaskCache& masks,
-        const LabelCache& labels,
-        double scale,
-        NestedLevels nestedLevels);
-
-    /// Whether the levels nested in a branch are painted right after it.
-    bool paintsNestedLevels() const { return m_nestedLevels == NestedLevels::Painted; }
+        const PixelCanvas& pixels, StretchMaskCache& masks, const LabelCache& labels, double scale);
 
     /// Whether nothing painted in `rect` can have an effect.
     bool misses(const Rect& rect) const;
@@ -88,7 +79,6 @@ private:
     LabelCache* m_collected = nullptr;
     const LabelCache* m_labels = nullptr;
     double m_scale;
-    NestedLevels m_nestedLevels = NestedLevels::LeftOut;
     Point m_origin; ///< of the branch, in points of the picture
 };
 

@@ -6,7 +6,6 @@
 #include "TreeScreen/Picture/BoxCanvas.h"
 #include "TreeScreen/Picture/Label.h"
 #include "TreeScreen/Picture/Styles.h"
-#include "TreeScreen/Picture/TreeBranch.h"
 
 #include <algorithm>
 #include <cmath>
@@ -137,10 +136,9 @@ void paintPage(
 
 } // namespace
 
-void paintDocumentPage(
-    BoxCanvas& canvas, const TreeBranch& branch, const Document& document, const Rect& rect)
+void paintDocumentPage(BoxCanvas& canvas, const Document& document, const Rect& rect, long level)
 {
-    const double inset = levelInset(branch.level());
+    const double inset = levelInset(level);
     const Rect page = rect.inset(inset, inset);
     if (isTooSmall(page)) {
         return;
@@ -148,7 +146,7 @@ void paintDocumentPage(
     const double extent = std::min(page.width, page.height);
     const double fold = std::min(std::floor(extent / kFoldsPerExtent), kMaxFold);
     const bool isSelected = document.selected();
-    paintPage(canvas, page, fold, branch.level(), pageGradient(fold, isSelected));
+    paintPage(canvas, page, fold, level, pageGradient(fold, isSelected));
     drawCenteredLabel(
         canvas,
         document,

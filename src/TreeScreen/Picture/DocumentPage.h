@@ -5,11 +5,10 @@ namespace tessera {
 
 class BoxCanvas;
 class Document;
-class TreeBranch;
 struct Rect;
 
-/// Paints a document: a page with its upper right corner folded over, name and size in the middle.
-void paintDocumentPage(
-    BoxCanvas& canvas, const TreeBranch& branch, const Document& document, const Rect& rect);
+/// Paints a document, on a level of that depth: a page with its upper right corner folded over,
+/// name and size in the middle.
+void paintDocumentPage(BoxCanvas& canvas, const Document& document, const Rect& rect, long level);
 
 } // namespace tessera

@@ -6,11 +6,8 @@
 #include "TreeScreen/Picture/BoxCanvas.h"
 #include "TreeScreen/Picture/BranchPalette.h"
 #include "TreeScreen/Picture/Styles.h"
-#include "TreeScreen/Picture/TreeBranch.h"
 
 #include <array>
-#include <span>
-#include <vector>
 
 namespace tessera {
 
@@ -21,28 +18,6 @@ constexpr double kLabelTop = 7.0;
 constexpr double kLabelMargins = 11.0;
 constexpr double kLabelHeight = 14.0;
 constexpr double kShadowDrop = 1.0;
-
-Rect transformed(const Rect& rect, const QTransform& transform)
-{
-    if (transform.isIdentity()) {
-        return rect;
-    }
-    const QRectF mapped = transform.mapRect(QRectF(rect.x, rect.y, rect.width, rect.height));
-    return {mapped.x(), mapped.y(), mapped.width(), mapped.height()};
-}
-
-/// The branches two levels down lie on boxes of their own, inside this one; what is below those
-/// need not be painted.
-std::vector<Rect> coveredParts(const TreeBranch* nested)
-{
-    std::vector<Rect> covered;
-    if (nested != nullptr) {
-        for (const auto& branch : nested->subBranches()) {
-            covered.push_back(branch->frame().translated(nested->frame().x, nested->frame().y));
-        }
-    }
-    return covered;
-}
 
 void fillBox(
     BoxCanvas& canvas,
@@ -85,24 +60,16 @@ void drawLabel(BoxCanvas& canvas, const Rect& box, const Folder& folder)
 
 void paintFolderBox(
     BoxCanvas& canvas,
-    const TreeBranch& branch,
     const Folder& folder,
     const Rect& rect,
-    const TreeBranch* nested)
+    long level,
+    std::span<const Rect> covered)
 {
-    const Rect whole = transformed(rect, branch.scale());
-    const double inset = levelInset(branch.level());
-    const Rect box = whole.inset(inset, inset);
+    const Rect box = rect.inset(levelInset(level), levelInset(level));
     if (isTooSmall(box)) {
         return;
     }
-    fillBox(
-        canvas,
-        box,
-        cornerRadius(whole.area()),
-        branch.level(),
-        folderBoxColor(folder, branch.level()),
-        coveredParts(canvas.paintsNestedLevels() ? nested : nullptr));
+    fillBox(canvas, box, cornerRadius(rect.area()), level, folderBoxColor(folder, level), covered);
     drawLabel(canvas, box, folder);
 }
 

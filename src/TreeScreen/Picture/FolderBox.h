@@ -1,20 +1,22 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <span>
+
 namespace tessera {
 
 class BoxCanvas;
 class Folder;
-class TreeBranch;
 struct Rect;
 
 /// Paints a folder: a rounded box in its branch's colour, rimmed in black below the top level,
-/// with the name at the upper left. `nested` is the branch inside the box, or null.
+/// with the name at the upper left. `rect` is its rectangle on a level of that depth; `covered`
+/// names the parts of it that boxes of levels further down are painted over.
 void paintFolderBox(
     BoxCanvas& canvas,
-    const TreeBranch& branch,
     const Folder& folder,
     const Rect& rect,
-    const TreeBranch* nested);
+    long level,
+    std::span<const Rect> covered);
 
 } // namespace tessera

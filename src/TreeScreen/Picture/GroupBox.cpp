@@ -5,7 +5,6 @@
 #include "Layout/MultiLayoutObject.h"
 #include "TreeScreen/Picture/BoxCanvas.h"
 #include "TreeScreen/Picture/BranchPalette.h"
-#include "TreeScreen/Picture/TreeBranch.h"
 #include "Widgets/ColorHelper.h"
 
 #include <algorithm>
@@ -82,9 +81,8 @@ void drawColumns(BoxCanvas& canvas, const Rect& box, const QColor& light)
 
 } // namespace
 
-void paintGroupBox(BoxCanvas& canvas, const TreeBranch& branch, const MultiLayoutObject& group)
+void paintGroupBox(BoxCanvas& canvas, const MultiLayoutObject& group, long level)
 {
-    const long level = branch.level();
     const Rect outer = group.rect.inset(levelInset(level), levelInset(level));
     const Rect box = outer.inset(rimOffset(level), rimOffset(level));
     if (isTooSmall(outer) || isTooSmall(box) || group.refs.empty()) {

@@ -5,9 +5,9 @@ namespace tessera {
 
 class BoxCanvas;
 class MultiLayoutObject;
-class TreeBranch;
 
-/// Paints a group of small items: a box in its branch's colour, engraved with a grid.
-void paintGroupBox(BoxCanvas& canvas, const TreeBranch& branch, const MultiLayoutObject& group);
+/// Paints a group of small items, on a level of that depth: a box in its branch's colour, engraved
+/// with a grid.
+void paintGroupBox(BoxCanvas& canvas, const MultiLayoutObject& group, long level);
 
 } // namespace tessera

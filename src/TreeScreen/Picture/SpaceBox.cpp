@@ -6,7 +6,6 @@
 #include "TreeScreen/Picture/BoxCanvas.h"
 #include "TreeScreen/Picture/Label.h"
 #include "TreeScreen/Picture/Styles.h"
-#include "TreeScreen/Picture/TreeBranch.h"
 
 namespace tessera {
 
@@ -35,12 +34,11 @@ void paintFreeSpaceBox(BoxCanvas& canvas, const File& freeSpace, const Rect& rec
     paintPlainBox(canvas, freeSpace, rect, Qt::black, Styles::selectedTextAttributes());
 }
 
-void paintUnaccountedBox(
-    BoxCanvas& canvas, const TreeBranch& branch, const File& space, const Rect& rect)
+void paintUnaccountedBox(BoxCanvas& canvas, const File& space, const Rect& rect, long level)
 {
     static const QColor grey
         = QColor::fromRgbF(kUnaccountedGrey, kUnaccountedGrey, kUnaccountedGrey);
-    const double inset = levelInset(branch.level());
+    const double inset = levelInset(level);
     paintPlainBox(canvas, space, rect.inset(inset, inset), grey, Styles::textAttributes());
 }
 

@@ -1,37 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "TreeScreen/Picture/TreeBranch.h"
 
-#include "Base/NotificationCenter.h"
 #include "Layout/LevelRenderer.h"
-#include "Layout/MultiLayoutObject.h"
-#include "Model/Document.h"
 #include "Model/Folder.h"
-#include "TreeScreen/Map/TreeMapView.h"
-#include "TreeScreen/Picture/BoxCanvas.h"
-#include "TreeScreen/Picture/DocumentPage.h"
-#include "TreeScreen/Picture/FolderBox.h"
-#include "TreeScreen/Picture/GroupBox.h"
-#include "TreeScreen/Picture/SpaceBox.h"
-#include "TreeScreen/Picture/Styles.h"
-#include "TreeScreen/Picture/TreePainter.h"
-#include "TreeScreen/TreeMenu.h"
 
 #include <QCoreApplication>
-#include <QMenu>
 
 #include <algorithm>
 
 namespace tessera {
 
 namespace {
-
-constexpr double kTextHeight = 16;
-
-bool liesWithin(const Rect& inner, const Rect& outer)
-{
-    return inner.x >= outer.x && inner.y >= outer.y && inner.right() <= outer.right()
-        && inner.bottom() <= outer.bottom();
-}
 
 struct TreeBranchTexts {
     Q_DECLARE_TR_FUNCTIONS(TreeBranchTexts)
@@ -45,14 +24,6 @@ QString whyThereAreNoBoxes(const Folder& folder)
         : TreeBranchTexts::tr("Everything in this folder is left out of the picture");
 }
 
-void select(File& node)
-{
-    if (!node.selected()) {
-        node.setSelected(true);
-        NotificationCenter::defaultCenter().post("ClickTreeItem", &node);
-    }
-}
-
 } // namespace
 
 TreeBranch::TreeBranch(const Rect& frame)
@@ -60,10 +31,9 @@ TreeBranch::TreeBranch(const Rect& frame)
 {
 }
 
-std::unique_ptr<TreeBranch> TreeBranch::make(RenderedLevel level, TreeMapView* treeView)
+std::unique_ptr<TreeBranch> TreeBranch::make(RenderedLevel level)
 {
     auto branch = std::make_unique<TreeBranch>(level.frame);
-    branch->setTreeView(treeView);
     branch->setLevel(level.level);
     if (level.folder != nullptr) {
         branch->setName(std::string(level.folder->name()));
@@ -73,7 +43,7 @@ std::unique_ptr<TreeBranch> TreeBranch::make(RenderedLevel level, TreeMapView* t
     }
     branch->setLayoutItems(std::move(level.layoutItems));
     for (RenderedLevel& nested : level.nested) {
-        branch->addSubBranch(make(std::move(nested), treeView));
+        branch->addSubBranch(make(std::move(nested)));
     }
     return branch;
 }
@@ -132,84 +102,6 @@ TreeBranch* TreeBranch::branchAt(Point inTreeView)
     }
 }
 
-void TreeBranch::draw(QPainter& painter) const
-{
-    paintBranch(*this, painter);
-}
-
-void TreeBranch::draw(BoxCanvas& canvas) const
-{
-    // Nested branches come in the order of the folders that they lie in.
-    auto nested = m_subBranches.begin();
-    for (const auto& item : m_layoutItems) {
-        const bool hasNested
-            = nested != m_subBranches.end() && liesWithin((*nested)->frame(), item->rect);
-        const TreeBranch* inside = hasNested ? (nested++)->get() : nullptr;
-        if (!canvas.misses(item->rect)) {
-            drawItem(canvas, *item, inside);
-        }
-    }
-    if (!m_textWithoutBoxes.empty()) {
-        const Rect line{0, (m_frame.height - kTextHeight) / 2, m_frame.width, kTextHeight};
-        canvas.drawText(m_textWithoutBoxes, line, Styles::selectedTextAttributes());
-    }
-}
-
-void TreeBranch::drawItem(
-    BoxCanvas& canvas, const LayoutObject& item, const TreeBranch* nested) const
-{
-    if (item.ref == nullptr) {
-        if (const auto* group = dynamic_cast<const MultiLayoutObject*>(&item)) {
-            paintGroupBox(canvas, *this, *group);
-        }
-        return;
-    }
-    switch (item.ref->type()) {
-    case NodeType::Folder:
-    case NodeType::TopFolder:
-    case NodeType::Volume:
-        paintFolderBox(canvas, *this, static_cast<const Folder&>(*item.ref), item.rect, nested);
-        break;
-    case NodeType::Document:
-        paintDocumentPage(canvas, *this, static_cast<const Document&>(*item.ref), item.rect);
-        break;
-    case NodeType::FreeSpace:
-        paintFreeSpaceBox(canvas, *item.ref, item.rect);
-        break;
-    case NodeType::Unknown:
-    case NodeType::TimeMachine:
-        paintUnaccountedBox(canvas, *this, *item.ref, item.rect);
-        break;
-    case NodeType::File:
-        break;
-    }
-}
-
-void TreeBranch::mouseUp(Point inTreeView, int clickCount)
-{
-    File* node = clickableAt(inTreeView);
-    if (node == nullptr) {
-        return;
-    }
-    select(*node);
-    if (clickCount == 2) {
-        NotificationCenter::defaultCenter().post("DoubleClickTreeItem");
-    }
-}
-
-std::unique_ptr<QMenu> TreeBranch::menuForEvent(Point inTreeView, TreeCommandTarget* target)
-{
-    File* node = clickableAt(inTreeView);
-    if (node == nullptr) {
-        return nullptr;
-    }
-    if (m_treeView != nullptr) {
-        m_treeView->hideTooltip();
-    }
-    select(*node);
-    return makeTreeMenu(*node, target);
-}
-
 File* TreeBranch::clickableAt(Point inTreeView) const
 {
     const Point point = convertFromTreeView(inTreeView);
@@ -222,13 +114,6 @@ File* TreeBranch::clickableAt(Point inTreeView) const
     }
     File* node = (*hit)->ref;
     return node->isFolder() || node->type() == NodeType::Document ? node : nullptr;
-}
-
-void TreeBranch::cursorUpdate()
-{
-    if (m_treeView != nullptr) {
-        m_treeView->setCursor(this);
-    }
 }
 
 } // namespace tessera

@@ -3,11 +3,10 @@
 
 #include "TreeScreen/Picture/BoxCanvas.h"
 #include "TreeScreen/Picture/LabelCache.h"
+#include "TreeScreen/Picture/LevelPainter.h"
 #include "TreeScreen/Picture/StretchMask.h"
 #include "TreeScreen/Picture/Styles.h"
 #include "TreeScreen/Picture/TreeBranch.h"
-
-#include <QPainter>
 
 #include <array>
 #include <atomic>
@@ -42,7 +41,7 @@ void prepareFont(LabelCache& labels, double scale)
 void paintBranches(BoxCanvas canvas, const TreeBranch& branch)
 {
     canvas.enter(branch.frame());
-    branch.draw(canvas);
+    paintLevel(canvas, branch);
     for (const auto& nested : branch.subBranches()) {
         if (!canvas.misses(nested->frame())) {
             paintBranches(canvas, *nested);
@@ -69,8 +68,7 @@ public:
             PixelCanvas band = m_pixels;
             band.setClip(whole.intersected({0, top, whole.right, top + m_bandRows}));
             band.fillClip(kBackground);
-            paintBranches(
-                BoxCanvas(band, masks, m_labels, m_scale, BoxCanvas::NestedLevels::Painted), m_top);
+            paintBranches(BoxCanvas(band, masks, m_labels, m_scale), m_top);
         }
     }
 
@@ -134,37 +132,6 @@ QImage TreePainter::paint(const TreeBranch& top, QSizeF sizeInPoints, double sca
         helper.join();
     }
     return image;
-}
-
-void paintBranch(const TreeBranch& branch, QPainter& painter)
-{
-    const QTransform device = painter.deviceTransform();
-    const double scale = std::hypot(device.m11(), device.m12());
-    // The layer lies on whole pixels; the branch within it need not.
-    const Rect frame{
-        (device.dx() - std::floor(device.dx())) / scale,
-        (device.dy() - std::floor(device.dy())) / scale,
-        branch.frame().width,
-        branch.frame().height};
-    QImage layer(
-        devicePixels(frame.right(), scale),
-        devicePixels(frame.bottom(), scale),
-        QImage::Format_ARGB32_Premultiplied);
-    if (layer.isNull()) {
-        return;
-    }
-    layer.fill(Qt::transparent);
-    layer.setDevicePixelRatio(scale);
-    LabelCache labels;
-    StretchMaskCache masks;
-    prepareFont(labels, scale);
-    BoxCanvas collecting(labels, scale);
-    collecting.enter(frame);
-    branch.draw(collecting);
-    BoxCanvas canvas(PixelCanvas(layer), masks, labels, scale, BoxCanvas::NestedLevels::LeftOut);
-    canvas.enter(frame);
-    branch.draw(canvas);
-    painter.drawImage(QPointF(-frame.x, -frame.y), layer);
 }
 
 } // namespace tessera

@@ -8,8 +8,6 @@
 
 #include <memory>
 
-class QPainter;
-
 namespace tessera {
 
 class TreeBranch;
@@ -34,8 +32,5 @@ private:
     std::unique_ptr<Caches> m_caches;
     PixelMemory m_memory;
 };
-
-/// Paints the boxes of one branch alone; the painter's origin is the branch's. Main thread only.
-void paintBranch(const TreeBranch& branch, QPainter& painter);
 
 } // namespace tessera

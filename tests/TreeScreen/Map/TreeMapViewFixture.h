@@ -80,7 +80,6 @@ protected:
         nestedItems.push_back(box(&x, {0, 0, 184, 168}));
         nested->setLayoutItems(std::move(nestedItems));
         nested->setLevel(1);
-        nested->setTreeView(view);
 
         auto top = std::make_unique<TreeBranch>(Rect{0, 0, 400, 300});
         std::vector<std::unique_ptr<LayoutObject>> items;
@@ -91,7 +90,6 @@ protected:
         group->rect = {303, 3, 94, 294};
         items.push_back(std::move(group));
         top->setLayoutItems(std::move(items));
-        top->setTreeView(view);
         topBranch = top.get();
         nestedBranch = nested.get();
         top->addSubBranch(std::move(nested));

@@ -3,6 +3,7 @@
 #include "Model/Document.h"
 #include "Model/Folder.h"
 #include "TreeScreen/Picture/TreePainter.h"
+#include "support/LevelPainting.h"
 #include "support/LevelPicture.h"
 #include "support/Machine/WithoutThreads.h"
 #include "support/MakeTree.h"
@@ -115,7 +116,7 @@ void drawWithoutShortcuts(const TreeBranch& branch, QPainter& painter)
 {
     painter.save();
     painter.translate(branch.frame().x, branch.frame().y);
-    branch.draw(painter);
+    test::paintWholeLevel(painter, branch);
     for (const auto& nested : branch.subBranches()) {
         drawWithoutShortcuts(*nested, painter);
     }
@@ -130,8 +131,8 @@ TEST(TreePainter, LooksAsIfEveryLevelWasPaintedInFull)
         "q/ ( r/ ( s/ ( t:80 ) u:1 ) v/ ( w:50 ) )");
     TreePainter treePainter;
     for (const double scale : {1.0, 1.5, 2.0}) {
-        const auto branch = TreeBranch::make(
-            LevelRenderer(false).renderTop(top.get(), {0, 0, 800, 600}), nullptr);
+        const auto branch
+            = TreeBranch::make(LevelRenderer(false).renderTop(top.get(), {0, 0, 800, 600}));
         const QImage picture = treePainter.paint(*branch, QSizeF(800, 600), scale);
         QImage plain(picture.size(), QImage::Format_RGB32);
         plain.setDevicePixelRatio(scale);
@@ -147,7 +148,7 @@ TEST(TreePainter, PaintsTheSameWhereThereIsNoThreadToHelp)
 {
     const auto top = test::makeTree("/disk", "a/ ( b/ ( c:50 d:9 ) e:40 ) f:30 g/ ( h:80 )");
     const auto branch
-        = TreeBranch::make(LevelRenderer(false).renderTop(top.get(), {0, 0, 800, 600}), nullptr);
+        = TreeBranch::make(LevelRenderer(false).renderTop(top.get(), {0, 0, 800, 600}));
     TreePainter treePainter;
     const QImage usual = treePainter.paint(*branch, QSizeF(800, 600), 1.0);
     QImage alone;

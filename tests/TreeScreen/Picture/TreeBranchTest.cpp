@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "TreeScreen/Picture/TreeBranch.h"
 
-#include "TreeScreen/Map/TreeMapView.h"
-#include "support/Fakes/FakeUserDefaults.h"
-
 #include <gtest/gtest.h>
 
 namespace tessera {
@@ -27,11 +24,10 @@ protected:
     TreeBranch* m_inner = nullptr;
 };
 
-TEST(TreeBranch, StartsAtLevelZeroUnscaled)
+TEST(TreeBranch, StartsAtLevelZero)
 {
     const TreeBranch branch(Rect{0, 0, 10, 10});
     EXPECT_EQ(branch.level(), 0);
-    EXPECT_TRUE(branch.scale().isIdentity());
 }
 
 TEST_F(NestedBranches, KnowTheirParent)
@@ -75,22 +71,6 @@ TEST_F(NestedBranches, OfTwoThatOverlapTheTopmostIsFound)
     const TreeBranch* expected = above.get();
     m_top.addSubBranch(std::move(above));
     EXPECT_EQ(m_top.branchAt({20, 40}), expected);
-}
-
-TEST(TreeBranch, TellsItsMapThatThePointerCame)
-{
-    const test::FakeUserDefaults defaults;
-    TreeMapView map(defaults);
-    TreeBranch branch(Rect{0, 0, 10, 10});
-    branch.setTreeView(&map);
-    branch.cursorUpdate();
-    EXPECT_EQ(map.cursor(), &branch);
-}
-
-TEST(TreeBranch, WithoutAMapHearsOfThePointerInVain)
-{
-    TreeBranch branch(Rect{0, 0, 10, 10});
-    EXPECT_NO_FATAL_FAILURE(branch.cursorUpdate());
 }
 
 } // namespace
