@@ -63,14 +63,14 @@ private:
 };
 
 /// Notes when the map is painted.
-class FrameClock final : public QObject {
+class PaintTimes final : public QObject {
 public:
-    explicit FrameClock(TreeMapView& map) { map.installEventFilter(this); }
+    explicit PaintTimes(TreeMapView& map) { map.installEventFilter(this); }
 
     bool eventFilter(QObject* /*watched*/, QEvent* event) override
     {
         if (event->type() == QEvent::Paint) {
-            m_times.push_back(ZoomAnimation::steadyClock());
+            m_times.push_back(FrameClock::steadySeconds());
         }
         return false;
     }
@@ -94,9 +94,9 @@ public:
     void zoom(Start start)
     {
         (void)m_frames.takeTimes();
-        const double begin = ZoomAnimation::steadyClock();
+        const double begin = FrameClock::steadySeconds();
         start();
-        m_started.push_back((ZoomAnimation::steadyClock() - begin) * kMilliseconds);
+        m_started.push_back((FrameClock::steadySeconds() - begin) * kMilliseconds);
         while (m_map.isZooming()) {
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         }
@@ -139,7 +139,7 @@ private:
     }
 
     TreeMapView& m_map;
-    FrameClock m_frames;
+    PaintTimes m_frames;
     std::vector<double> m_rates;
     std::vector<double> m_frameTimes;
     std::vector<double> m_started;

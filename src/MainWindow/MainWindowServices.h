@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "MainWindow/ScanPanelSlide.h"
 #include "TreeScreen/TreeViewServices.h"
-#include "TreeScreen/Zoom/ZoomAnimation.h"
+#include "Widgets/FrameClock.h"
 
 #include <functional>
 #include <memory>
@@ -26,7 +25,7 @@ struct MainWindowServices {
     const MountedVolumes& volumes;
     std::function<std::unique_ptr<HomeScreen>()> makeHomeScreen;
     std::function<std::unique_ptr<ScanScreen>()> makeScanScreen;
-    ScanPanelSlide::Clock slideClock = ZoomAnimation::steadyClock;
+    FrameClock::Seconds slideClock = FrameClock::steadySeconds; ///< what the scan panel slides by
 };
 
 } // namespace tessera

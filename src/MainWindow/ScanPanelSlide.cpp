@@ -3,31 +3,15 @@
 
 #include "Desktop/MotionPreference.h"
 
-#include <algorithm>
-#include <cmath>
-#include <numbers>
 #include <utility>
 
 namespace tessera {
 
-namespace {
-
-constexpr int kFrameMilliseconds = 16;
-
-/// Half a wave of the cosine.
-double easeInOut(double timePassed)
-{
-    return (1 - std::cos(timePassed * std::numbers::pi)) / 2;
-}
-
-} // namespace
-
-ScanPanelSlide::ScanPanelSlide(const MotionPreference& motion, Clock clock)
+ScanPanelSlide::ScanPanelSlide(const MotionPreference& motion, FrameClock::Seconds now)
     : m_motion(motion)
-    , m_clock(std::move(clock))
+    , m_frames(std::move(now))
 {
-    m_frames.setTimerType(Qt::PreciseTimer);
-    connect(&m_frames, &QTimer::timeout, this, &ScanPanelSlide::advance);
+    connect(&m_frames, &FrameClock::frameDue, this, &ScanPanelSlide::advance);
 }
 
 ScanPanelSlide::~ScanPanelSlide() = default;
@@ -55,9 +39,8 @@ void ScanPanelSlide::start(const ScanPanelPlace& to)
     const bool isStill = m_motion.reducesMotion();
     m_from = m_place;
     m_to = to;
-    m_begin = m_clock();
     m_seconds = isStill ? 0 : kSeconds;
-    m_frames.start(isStill ? 0 : kFrameMilliseconds);
+    m_frames.start(isStill ? 0 : FrameClock::kFrameMilliseconds);
     if (isStill) {
         moveTo(m_to);
     }
@@ -73,11 +56,11 @@ void ScanPanelSlide::moveTo(const ScanPanelPlace& place)
 
 void ScanPanelSlide::advance()
 {
-    if (!m_frames.isActive()) {
+    if (!m_frames.isRunning()) {
         return;
     }
-    const double passed = m_clock() - m_begin;
-    const double share = m_seconds > 0 ? std::clamp(passed / m_seconds, 0.0, 1.0) : 1;
+    const double passed = m_frames.passed();
+    const double share = m_seconds > 0 ? m_frames.partOf(m_seconds) : 1;
     moveTo(share < 1 ? m_from.toward(m_to, easeInOut(share)) : m_to);
     const double end = m_isSlidingOut && m_seconds > 0 ? kCleanUpSeconds : m_seconds;
     if (passed < end) {

@@ -2,11 +2,9 @@
 #pragma once
 
 #include "MainWindow/ScanPanelPlace.h"
+#include "Widgets/FrameClock.h"
 
 #include <QObject>
-#include <QTimer>
-
-#include <functional>
 
 namespace tessera {
 
@@ -21,12 +19,9 @@ public:
     /// From the beginning of sliding out until nothing is left of it.
     static constexpr double kCleanUpSeconds = 0.55;
 
-    /// Seconds that never go back.
-    using Clock = std::function<double()>;
-
     /// `motion` must outlive it. Where it says so nothing slides, and the clean-up follows as soon
     /// as the event loop runs.
-    ScanPanelSlide(const MotionPreference& motion, Clock clock);
+    ScanPanelSlide(const MotionPreference& motion, FrameClock::Seconds now);
     ~ScanPanelSlide() override;
 
     const ScanPanelPlace& place() const { return m_place; }
@@ -51,9 +46,7 @@ private:
     void moveTo(const ScanPanelPlace& place);
 
     const MotionPreference& m_motion;
-    Clock m_clock;
-    QTimer m_frames;
-    double m_begin = 0;
+    FrameClock m_frames;
     double m_seconds = kSeconds; ///< 0 when nothing is to slide
     bool m_isSlidingOut = false;
     ScanPanelPlace m_from;

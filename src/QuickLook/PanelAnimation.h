@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Widgets/FrameClock.h"
+
 #include <QObject>
 #include <QRectF>
-#include <QTimer>
 
 #include <functional>
+#include <utility>
 
 namespace tessera {
 
@@ -17,7 +19,7 @@ public:
     explicit PanelAnimation(std::function<void(const QRectF&)> step);
 
     /// The time in seconds; the system's steady clock if nothing else is set.
-    void setClock(std::function<double()> clock) { m_clock = std::move(clock); }
+    void setClock(FrameClock::Seconds now) { m_frames.setTime(std::move(now)); }
 
     void start(const QRectF& from, const QRectF& to);
 
@@ -25,16 +27,14 @@ public:
     void retarget(const QRectF& to) { m_to = to; }
 
     void stop();
-    bool isRunning() const { return m_timer.isActive(); }
+    bool isRunning() const { return m_frames.isRunning(); }
 
     /// Takes the step that the clock asks for; a timer calls this about 60 times a second.
     void advance();
 
 private:
     std::function<void(const QRectF&)> m_step;
-    std::function<double()> m_clock;
-    QTimer m_timer;
-    double m_start = 0;
+    FrameClock m_frames;
     QRectF m_from;
     QRectF m_to;
 };

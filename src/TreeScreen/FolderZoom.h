@@ -60,7 +60,7 @@ private:
     TreeViewController& m_controller;
     TreeMapView& m_treeView;
     const MotionPreference& m_motion;
-    ZoomAnimation::Clock m_clock;
+    FrameClock::Seconds m_clock;
 };
 
 } // namespace tessera

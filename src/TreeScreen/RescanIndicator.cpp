@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "TreeScreen/RescanIndicator.h"
 
+#include "Base/ProgressSteps.h"
+
 #include <QProgressBar>
 #include <QVBoxLayout>
-
-#include <algorithm>
-#include <cmath>
 
 namespace tessera {
 
@@ -15,7 +14,6 @@ constexpr double kInset = 10;
 constexpr double kMinWidth = 20;
 constexpr double kMinHeight = 35;
 constexpr int kBarHeight = 12;
-constexpr int kSteps = 1000;
 
 } // namespace
 
@@ -24,7 +22,7 @@ RescanIndicator::RescanIndicator(QWidget* parent)
     , m_bar(new QProgressBar(this))
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    m_bar->setRange(0, kSteps);
+    m_bar->setRange(0, kProgressSteps);
     m_bar->setTextVisible(false);
     m_bar->setFixedHeight(kBarHeight);
     m_bar->setAccessibleName(tr("Rescan progress"));
@@ -52,8 +50,8 @@ void RescanIndicator::place(const Rect& frame)
 
 void RescanIndicator::setValue(double value)
 {
-    m_value = std::isfinite(value) ? std::clamp(value, 0.0, 1.0) : 0.0;
-    m_bar->setValue(static_cast<int>(m_value * kSteps));
+    m_value = shownProgress(value);
+    m_bar->setValue(progressSteps(m_value));
 }
 
 } // namespace tessera

@@ -4,7 +4,7 @@
 #include "Base/WithTimeLimit.h"
 #include "Compress/CompressWindowController.h"
 #include "Scanning/ScanEnvironment.h"
-#include "TreeScreen/Zoom/ZoomAnimation.h"
+#include "Widgets/FrameClock.h"
 
 #include <functional>
 #include <string>
@@ -32,7 +32,7 @@ struct TreeViewServices {
     /// Why the folder of that path cannot be read; no error when it can. No part of the path is a
     /// link. Answers at once.
     std::function<std::error_code(const std::string& path)> checkFolder;
-    ZoomAnimation::Clock zoomClock = ZoomAnimation::steadyClock; ///< what zooms go by
+    FrameClock::Seconds zoomClock = FrameClock::steadySeconds; ///< what zooms go by
 };
 
 } // namespace tessera

@@ -1,20 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "TreeScreen/Zoom/ZoomAnimation.h"
 
-#include "Widgets/EaseIn.h"
-
 #include <QPainter>
 
-#include <chrono>
 #include <cmath>
 #include <utility>
 
 namespace tessera {
 
 namespace {
-
-/// As often as screens show a new picture, or somewhat oftener.
-constexpr int kFrameMilliseconds = 16;
 
 QTransform between(const QTransform& from, const QTransform& to, double progress)
 {
@@ -46,35 +40,22 @@ void paintLayer(QPainter& painter, const ZoomLayer& layer, double progress)
 
 } // namespace
 
-ZoomAnimation::ZoomAnimation(ZoomLayer lower, ZoomLayer upper, Clock clock)
+ZoomAnimation::ZoomAnimation(ZoomLayer lower, ZoomLayer upper, FrameClock::Seconds now)
     : m_lower(std::move(lower))
     , m_upper(std::move(upper))
-    , m_clock(std::move(clock))
-    , m_begin(m_clock())
+    , m_frames(std::move(now))
 {
-    connect(&m_frames, &QTimer::timeout, this, &ZoomAnimation::advance);
+    connect(&m_frames, &FrameClock::frameDue, this, &ZoomAnimation::advance);
     // Whoever hears of the end drops the animation: not from within the timer's own function.
     connect(this, &ZoomAnimation::wayGone, this, &ZoomAnimation::finished, Qt::QueuedConnection);
-    m_frames.setTimerType(Qt::PreciseTimer);
-    m_frames.start(kFrameMilliseconds);
+    m_frames.start();
 }
 
 ZoomAnimation::~ZoomAnimation() = default;
 
-double ZoomAnimation::steadyClock()
-{
-    using Seconds = std::chrono::duration<double>;
-    return Seconds(std::chrono::steady_clock::now().time_since_epoch()).count();
-}
-
-double ZoomAnimation::timePassed() const
-{
-    return (m_clock() - m_begin) / kSeconds;
-}
-
 double ZoomAnimation::progress() const
 {
-    return easeIn(timePassed());
+    return easeIn(m_frames.partOf(kSeconds));
 }
 
 void ZoomAnimation::paint(QPainter& painter) const
@@ -87,7 +68,7 @@ void ZoomAnimation::paint(QPainter& painter) const
 
 void ZoomAnimation::advance()
 {
-    if (timePassed() < 1) {
+    if (m_frames.passed() < kSeconds) {
         emit frameDue();
         return;
     }

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Widgets/FrameClock.h"
+
 #include <QImage>
 #include <QObject>
-#include <QTimer>
 #include <QTransform>
-
-#include <functional>
 
 class QPainter;
 
@@ -31,11 +30,7 @@ class ZoomAnimation final : public QObject {
 public:
     static constexpr double kSeconds = 0.7;
 
-    /// Seconds that never go back.
-    using Clock = std::function<double()>;
-    static double steadyClock();
-
-    ZoomAnimation(ZoomLayer lower, ZoomLayer upper, Clock clock);
+    ZoomAnimation(ZoomLayer lower, ZoomLayer upper, FrameClock::Seconds now);
     ~ZoomAnimation() override;
 
     /// Part of the way that the layers have gone by now, 0 to 1.
@@ -53,14 +48,11 @@ signals:
     void wayGone(QPrivateSignal);
 
 private:
-    double timePassed() const;
     void advance();
 
     ZoomLayer m_lower;
     ZoomLayer m_upper;
-    Clock m_clock;
-    double m_begin;
-    QTimer m_frames;
+    FrameClock m_frames;
 };
 
 } // namespace tessera
