@@ -123,7 +123,7 @@ void UserSession::planWindows()
         perform(Command::QuickLook);
     });
     plan("moving on with quick look", [] { press(Qt::Key_Right); });
-    plan("closing quick look", [] { QuickLookPanel::sharedInstance().orderOut(); });
+    plan("closing quick look", [] { QuickLookPanel::sharedInstance().dismiss(); });
     plan("preferences", [] { perform(Command::Preferences); });
     plan("closing the preferences", [] { topLevel<QDialog>()->close(); });
     plan(

@@ -5,13 +5,11 @@
 #include "Base/Url.h"
 #include "Model/Folder.h"
 #include "Model/NodeLookup.h"
-#include "QuickLook/PreviewItem.h"
 
 namespace tessera {
 
-std::optional<ItemFacts> factsOf(const PreviewItem& item)
+std::optional<ItemFacts> factsOf(const File* node)
 {
-    const File* const node = item.previewItemNode();
     if (node == nullptr) {
         return std::nullopt;
     }
@@ -22,7 +20,7 @@ std::optional<ItemFacts> factsOf(const PreviewItem& item)
         facts.itemCount = folder->children().size();
     }
     if (isItem(*node)) {
-        facts.path = item.previewItemURL().path();
+        facts.path = placeOnDisk(*node).path();
     }
     facts.name = displayText(node->name().empty() ? facts.path : node->name());
     return facts;

@@ -9,12 +9,12 @@
 
 namespace tessera {
 
-class PreviewItem;
+class File;
 
 /// What the tree told of the item that the preview panel shows. Kept instead of the node, which
 /// may go away while the panel is open.
 struct ItemFacts {
-    std::string path; ///< as bytes; empty for space that no file accounts for
+    std::string path; ///< on the disk, as bytes; empty for space that no file accounts for
     QString name; ///< as shown
     std::uint64_t allocatedBytes = 0;
     std::optional<std::uint64_t> itemCount; ///< of a folder: what lies directly in it
@@ -22,7 +22,7 @@ struct ItemFacts {
     bool operator==(const ItemFacts&) const = default;
 };
 
-/// The facts of the item as it is now; nothing when it stands for no node.
-std::optional<ItemFacts> factsOf(const PreviewItem& item);
+/// The facts of the node as it is now; nothing for null.
+std::optional<ItemFacts> factsOf(const File* node);
 
 } // namespace tessera

@@ -1,47 +1,34 @@
 // SPDX-License-Identifier: MIT
 #include "QuickLook/QuickLookPanel.h"
 
-#include "Desktop/MotionPreference.h"
 #include "QuickLook/PanelBody.h"
-#include "QuickLook/PreviewItem.h"
 #include "QuickLook/PreviewView.h"
-#include "QuickLook/QuickLookPanelDataSource.h"
-#include "QuickLook/QuickLookPanelDelegate.h"
-#include "QuickLook/Reading/PreviewLoader.h"
-#include "QuickLook/Reading/PreviewThreads.h"
+#include "QuickLook/QuickLookServices.h"
 #include "QuickLook/Summary.h"
 #include "QuickLook/SummaryView.h"
 #include "Widgets/IconProvider.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QScreen>
 #include <QWindow>
 
-#include <algorithm>
-#include <chrono>
+#include <memory>
 #include <utility>
 
 namespace tessera {
 
 namespace {
 
-constexpr double kMostOfScreen = 0.7;
-constexpr int kPageWidth = 640;
-/// Most files are read sooner, and the item before stays in sight so long.
-constexpr int kPatienceMs = 150;
-/// A decoder is killed at once; a file system may take its time.
-constexpr std::chrono::milliseconds kEndOfProgramPatience{500};
-
 constexpr Qt::WindowFlags kPanelFlags = Qt::Tool | Qt::FramelessWindowHint;
 
-/// A Wayland client neither knows nor sets where on the screen its windows are.
-bool canPlaceWindows()
+/// Outlives the application object, whose end a static's destructor would come after.
+std::unique_ptr<QuickLookPanel>& sharedPanel()
 {
-    return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): never released
+    static auto* const panel = new std::unique_ptr<QuickLookPanel>;
+    return *panel;
 }
 
 bool closesPanel(const QKeyEvent& event)
@@ -54,164 +41,118 @@ bool closesPanel(const QKeyEvent& event)
 
 QuickLookPanel& QuickLookPanel::sharedInstance()
 {
-    // Outlives the application object, whose end a static's destructor would come after.
-    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): never released
-    static auto* const instance = new QuickLookPanel;
-    return *instance;
+    const std::unique_ptr<QuickLookPanel>& panel = sharedPanel();
+    return panel != nullptr ? *panel : makeSharedInstance({});
 }
 
-QuickLookPanel::QuickLookPanel()
+QuickLookPanel& QuickLookPanel::makeSharedInstance(const QuickLookServices& services)
+{
+    sharedPanel() = std::make_unique<QuickLookPanel>(services);
+    return *sharedPanel();
+}
+
+void QuickLookPanel::releaseSharedInstance()
+{
+    sharedPanel().reset();
+}
+
+QuickLookPanel::QuickLookPanel(const QuickLookServices& services)
     : QWidget(nullptr, kPanelFlags)
-    , m_animation([this](const QRectF& frame) { moveOn(frame); })
+    , m_icons(services.icons)
+    , m_mainWindow(services.mainWindow)
+    , m_place(services.mainWindow)
+    , m_motion(services.motion)
+    , m_loading(services)
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): its parent owns it
     , m_body(new PanelBody(this))
 {
     setObjectName(QStringLiteral("quickLookPanel"));
     setAttribute(Qt::WA_TranslucentBackground);
     setFocusPolicy(Qt::StrongFocus);
-    connect(m_body, &PanelBody::closeRequested, this, &QuickLookPanel::orderOut);
-    m_patience.setSingleShot(true);
-    m_patience.setInterval(kPatienceMs);
-    m_patience.callOnTimeout(this, &QuickLookPanel::showSummary);
-    connect(qApp, &QCoreApplication::aboutToQuit, this, [this] {
-        closeAtOnce();
-        if (m_loader != nullptr) {
-            m_loader->cancel();
-            (void)m_threads->waitForEnd(kEndOfProgramPatience);
-        }
-    });
+    connectParts();
+    if (m_mainWindow != nullptr) {
+        m_mainWindow->installEventFilter(this);
+    }
 }
 
 QuickLookPanel::~QuickLookPanel() = default;
 
-void QuickLookPanel::setFileReader(
-    const std::shared_ptr<const FileReader>& files,
-    const std::shared_ptr<const RasterDecoder>& decoder,
-    const std::shared_ptr<PreviewThreads>& threads)
+void QuickLookPanel::connectParts()
 {
-    m_loader.reset();
-    m_threads = threads;
-    if (files != nullptr) {
-        m_loader = std::make_unique<PreviewLoader>(
-            files, decoder, threads, [this](const Preview& preview) { showPreview(preview); });
-    }
-}
-
-void QuickLookPanel::setMainWindow(QWidget* window)
-{
-    if (window == m_mainWindow) {
-        return;
-    }
-    closeAtOnce();
-    if (m_mainWindow != nullptr) {
-        m_mainWindow->removeEventFilter(this);
-    }
-    m_mainWindow = window;
-    if (window != nullptr) {
-        window->installEventFilter(this);
-    }
-}
-
-void QuickLookPanel::setDataSource(QuickLookPanelDataSource* dataSource)
-{
-    m_dataSource = dataSource;
-    if (dataSource == nullptr) {
+    connect(m_body, &PanelBody::closeRequested, this, &QuickLookPanel::dismiss);
+    connect(&m_loading, &PanelLoading::loaded, this, &QuickLookPanel::showPreview);
+    connect(&m_loading, &PanelLoading::summaryDue, this, &QuickLookPanel::showSummary);
+    connect(&m_motion, &PanelMotion::started, this, &QuickLookPanel::takePicture);
+    connect(&m_motion, &PanelMotion::moved, this, &QuickLookPanel::moveTo);
+    connect(&m_motion, &PanelMotion::arrived, this, &QuickLookPanel::arrive);
+    connect(qApp, &QCoreApplication::aboutToQuit, this, [this] {
         closeAtOnce();
-    } else {
-        reloadData();
-    }
+        m_loading.stopForGood();
+    });
 }
 
-void QuickLookPanel::makeKeyAndOrderFront()
+void QuickLookPanel::open(const File* item, SourceFrame sourceFrame)
 {
     if (isOpen()) {
         raise();
         activateWindow();
         return;
     }
-    if (m_dataSource == nullptr) {
-        return;
-    }
-    const QRectF from = m_state == State::Closing ? QRectF(geometry()) : sourceFrame();
+    m_sourceFrame = std::move(sourceFrame);
+    const QRectF from = m_state == State::Closing ? QRectF(geometry()) : frameOfSource();
     if (m_state == State::Closed && parentWidget() != m_mainWindow) {
         // As the window's child it stays above it and leaves its shortcuts at work.
         setParent(m_mainWindow, kPanelFlags);
     }
     m_state = State::Opening;
-    adoptItem();
-    showSummary();
-    load();
-    m_frame = frameForContent();
-    startMoving(from, m_frame);
+    adopt(item);
+    load(PanelLoading::Meanwhile::Summary);
+    m_motion.start(from, m_place.frame());
     show();
     raise();
     activateWindow();
     setFocus();
 }
 
-void QuickLookPanel::orderOut()
+void QuickLookPanel::setItem(const File* item)
+{
+    if (!isOpen()) {
+        return;
+    }
+    const std::optional<ItemFacts> shown = m_facts;
+    adopt(item);
+    if (m_facts != shown) {
+        load(PanelLoading::Meanwhile::ItemBefore);
+    }
+}
+
+void QuickLookPanel::dismiss()
 {
     if (!isOpen()) {
         return;
     }
     m_state = State::Closing;
-    m_patience.stop();
-    if (m_loader != nullptr) {
-        m_loader->cancel();
-    }
-    startMoving(geometry(), sourceFrame());
+    m_loading.stop();
+    m_motion.start(geometry(), frameOfSource());
 }
 
-void QuickLookPanel::reloadData()
+void QuickLookPanel::adopt(const File* item)
 {
-    if (!isOpen() || m_dataSource == nullptr) {
-        return;
-    }
-    const std::optional<ItemFacts> shown = m_facts;
-    adoptItem();
-    if (m_facts == shown) {
-        return;
-    }
-    m_patience.start();
-    load();
-}
-
-void QuickLookPanel::adoptItem()
-{
-    m_facts.reset();
-    m_icon = {};
-    if (m_dataSource->numberOfPreviewItemsInPreviewPanel() < 1) {
-        return;
-    }
-    const PreviewItem& item = m_dataSource->previewItemAtIndex(0);
     m_facts = factsOf(item);
-    if (m_facts && m_icons != nullptr) {
-        m_icon
-            = m_icons->icon(*item.previewItemNode(), SummaryView::kIconPoints, devicePixelRatioF());
+    m_icon = {};
+    if (item != nullptr && m_icons != nullptr) {
+        m_icon = m_icons->icon(*item, SummaryView::kIconPoints, devicePixelRatioF());
     }
 }
 
-void QuickLookPanel::load()
+void QuickLookPanel::load(PanelLoading::Meanwhile meanwhile)
 {
-    if (m_loader != nullptr) {
-        m_loader->cancel();
-    }
-    if (!m_facts || m_facts->path.empty() || m_loader == nullptr) {
-        showSummary();
-        return;
-    }
-    const double scale = devicePixelRatioF();
-    const QSize most = PanelBody::mostContentSize(availableGeometry().size() * kMostOfScreen);
-    m_loader->load(
-        {m_facts->path,
-         m_facts->itemCount.has_value(),
-         most * scale,
-         static_cast<int>(kPageWidth * scale)});
+    const QSize most = PanelBody::mostContentSize(m_place.mostSize());
+    m_loading.load(m_facts, most, devicePixelRatioF(), meanwhile);
 }
 
 void QuickLookPanel::showPreview(const Preview& preview)
 {
-    m_patience.stop();
     PreviewView& view = m_body->view();
     view.showPreview(*m_facts, preview, m_icon);
     contentChanged(view.hasContent() ? captionOf(*m_facts, preview) : QString());
@@ -219,7 +160,6 @@ void QuickLookPanel::showPreview(const Preview& preview)
 
 void QuickLookPanel::showSummary()
 {
-    m_patience.stop();
     if (m_facts) {
         m_body->view().showSummary(*m_facts, m_icon);
     } else {
@@ -234,73 +174,35 @@ void QuickLookPanel::contentChanged(const QString& caption)
     setWindowTitle(name.isEmpty() ? tr("Quick Look") : name);
     setAccessibleName(tr("Quick Look: %1").arg(name));
     m_body->setTexts(name, caption);
-    if (m_movedTo) {
-        m_centre = std::exchange(m_movedTo, std::nullopt);
-    }
-    m_frame = frameForContent();
-    if (m_animation.isRunning()) {
-        m_moving = m_body->picture(m_frame.size(), devicePixelRatioF());
-        m_animation.retarget(m_frame);
+    m_place.setSize(m_body->preferredSize(m_place.mostSize()));
+    if (m_motion.isRunning()) {
+        m_moving = m_body->picture(m_place.frame().size(), devicePixelRatioF());
+        m_motion.retarget(m_place.frame());
     } else if (m_state == State::Open) {
         settle();
     }
 }
 
-QRect QuickLookPanel::availableGeometry() const
+QRectF QuickLookPanel::frameOfSource() const
 {
-    const QScreen* const screen
-        = m_mainWindow != nullptr ? m_mainWindow->screen() : QGuiApplication::primaryScreen();
-    return screen->availableGeometry();
+    return m_sourceFrame ? m_sourceFrame() : QRectF();
 }
 
-QRect QuickLookPanel::frameForContent() const
+void QuickLookPanel::takePicture()
 {
-    const QRect available = availableGeometry();
-    const QSize size = m_body->preferredSize(available.size() * kMostOfScreen);
-    const QPoint middle
-        = m_mainWindow != nullptr ? m_mainWindow->frameGeometry().center() : available.center();
-    QRect frame(QPoint(0, 0), size.boundedTo(available.size()));
-    frame.moveCenter(m_centre.value_or(middle));
-    frame.moveRight(std::min(frame.right(), available.right()));
-    frame.moveBottom(std::min(frame.bottom(), available.bottom()));
-    frame.moveLeft(std::max(frame.left(), available.left()));
-    frame.moveTop(std::max(frame.top(), available.top()));
-    return frame;
-}
-
-QRectF QuickLookPanel::sourceFrame() const
-{
-    if (m_delegate == nullptr || m_dataSource == nullptr
-        || m_dataSource->numberOfPreviewItemsInPreviewPanel() < 1) {
-        return {};
-    }
-    return m_delegate->sourceFrameOnScreenForPreviewItem(m_dataSource->previewItemAtIndex(0));
-}
-
-bool QuickLookPanel::canMove(const QRectF& source) const
-{
-    return !source.isEmpty() && canPlaceWindows()
-        && (m_motion == nullptr || !m_motion->reducesMotion());
-}
-
-void QuickLookPanel::startMoving(const QRectF& from, const QRectF& to)
-{
-    if (!canMove(from) || !canMove(to)) {
-        m_animation.stop();
-        moveOn(to);
-        return;
-    }
-    m_moving = m_body->picture(m_frame.size(), devicePixelRatioF());
+    m_moving = m_body->picture(m_place.frame().size(), devicePixelRatioF());
     m_body->hide();
-    m_animation.start(from, to);
 }
 
-void QuickLookPanel::moveOn(const QRectF& frame)
+void QuickLookPanel::moveTo(const QRect& frame)
 {
-    if (m_animation.isRunning()) {
-        setGeometry(frame.toAlignedRect());
-        update();
-    } else if (m_state == State::Closing) {
+    setGeometry(frame);
+    update();
+}
+
+void QuickLookPanel::arrive()
+{
+    if (m_state == State::Closing) {
         closeAtOnce();
     } else {
         m_state = State::Open;
@@ -311,7 +213,7 @@ void QuickLookPanel::moveOn(const QRectF& frame)
 void QuickLookPanel::settle()
 {
     m_moving = {};
-    setGeometry(m_frame);
+    setGeometry(m_place.frame());
     m_body->setGeometry(rect());
     m_body->show();
     update();
@@ -324,17 +226,14 @@ void QuickLookPanel::closeAtOnce()
     }
     const bool hadKeyboard = isActiveWindow();
     m_state = State::Closed;
-    m_animation.stop();
-    m_patience.stop();
-    if (m_loader != nullptr) {
-        m_loader->cancel();
-    }
+    m_motion.stop();
+    m_loading.stop();
     hide();
+    m_sourceFrame = nullptr;
     m_facts.reset();
     m_icon = {};
     m_moving = {};
-    m_centre.reset();
-    m_movedTo.reset();
+    m_place.forgetMoves();
     m_body->view().showNothing();
     // The window must not take the panel with it when it goes away.
     setParent(nullptr, kPanelFlags);
@@ -374,7 +273,7 @@ bool QuickLookPanel::eventFilter(QObject* watched, QEvent* event)
 void QuickLookPanel::closeEvent(QCloseEvent* event)
 {
     event->ignore();
-    orderOut();
+    dismiss();
 }
 
 void QuickLookPanel::keyPressEvent(QKeyEvent* event)
@@ -385,23 +284,16 @@ void QuickLookPanel::keyPressEvent(QKeyEvent* event)
             return;
         }
         if (m_state == State::Closing && event->key() == Qt::Key_Space) {
-            makeKeyAndOrderFront();
+            emit reopenRequested();
         } else {
-            orderOut();
+            dismiss();
         }
         return;
     }
-    event->setAccepted(m_body->view().handleKey(*event) || isHandledByDelegate(*event));
-}
-
-void QuickLookPanel::keyReleaseEvent(QKeyEvent* event)
-{
-    event->setAccepted(isHandledByDelegate(*event));
-}
-
-bool QuickLookPanel::isHandledByDelegate(QEvent& event)
-{
-    return m_delegate != nullptr && m_delegate->handleEvent(event);
+    if (!m_body->view().handleKey(*event)) {
+        emit keyPressed(*event);
+    }
+    event->accept();
 }
 
 bool QuickLookPanel::focusNextPrevChild(bool /*next*/)
@@ -420,13 +312,9 @@ void QuickLookPanel::mousePressEvent(QMouseEvent* event)
 void QuickLookPanel::moveEvent(QMoveEvent* event)
 {
     QWidget::moveEvent(event);
-    if (m_state != State::Open) {
-        return;
+    if (m_state == State::Open) {
+        m_place.windowMoved(event->pos(), geometry().center());
     }
-    // The window system reports the steps of the way here late: only the last one tells whether
-    // somebody has moved the panel.
-    m_movedTo
-        = event->pos() == m_frame.topLeft() ? std::nullopt : std::optional(geometry().center());
 }
 
 } // namespace tessera

@@ -2,91 +2,85 @@
 #pragma once
 
 #include "QuickLook/ItemFacts.h"
-#include "QuickLook/PanelAnimation.h"
+#include "QuickLook/PanelLoading.h"
+#include "QuickLook/PanelMotion.h"
+#include "QuickLook/PanelPlace.h"
 
 #include <QPixmap>
 #include <QPointer>
-#include <QTimer>
 #include <QWidget>
 
 #include <cstdint>
-#include <memory>
+#include <functional>
 #include <optional>
 
 namespace tessera {
 
-class FileReader;
+class File;
 class IconProvider;
-class MotionPreference;
 class PanelBody;
-class PreviewLoader;
-class PreviewThreads;
-class QuickLookPanelDataSource;
-class QuickLookPanelDelegate;
-class RasterDecoder;
 struct Preview;
+struct QuickLookServices;
 
 /// The floating panel that shows what is in the selected item: a picture, a text, a document's
 /// pages, or a summary. It floats above the main window, grows out of the item and shrinks back
 /// into it. Main thread only; files are looked at by workers, so that no file can hold it up.
 ///
 /// Escape and Space close it. Page Up and Page Down scroll what can be scrolled and Copy copies
-/// text that is selected in it; every other key press goes to the delegate.
+/// text that is selected in it; every other key press is told to whoever opened it.
 class QuickLookPanel final : public QWidget {
     Q_OBJECT
 
 public:
-    /// The panel of the program, made on first use and never released.
+    /// Where the item is drawn, in points of the screen; empty when it is nowhere to be seen.
+    using SourceFrame = std::function<QRectF()>;
+
+    /// The panel of the program. Before that is made, and after it is released, one without
+    /// services.
     static QuickLookPanel& sharedInstance();
 
-    QuickLookPanel();
+    /// Makes the panel of the program anew. Nobody may hold on to the one before.
+    static QuickLookPanel& makeSharedInstance(const QuickLookServices& services);
+
+    /// To be called before what the panel of the program works with goes away. Without that it is
+    /// never released.
+    static void releaseSharedInstance();
+
+    explicit QuickLookPanel(const QuickLookServices& services);
     ~QuickLookPanel() override;
 
-    /// Reads the files on these threads and has pictures and documents decoded; without a reader,
-    /// every item is shown by what the tree knows. Shared, because a look at a file that never
-    /// answers may outlive the panel.
-    void setFileReader(
-        const std::shared_ptr<const FileReader>& files,
-        const std::shared_ptr<const RasterDecoder>& decoder,
-        const std::shared_ptr<PreviewThreads>& threads);
+    /// Opens on the item, or on none for null, and takes the keyboard. The node is read on the spot
+    /// and not kept; the frame is asked for whenever the panel opens or closes. A panel that is
+    /// open already only comes to the front.
+    void open(const File* item, SourceFrame sourceFrame);
 
-    /// Not owned, may be null.
-    void setIconProvider(IconProvider* icons) { m_icons = icons; }
+    /// Shows another item, or none for null; nothing happens while what is known of it is the same
+    /// as before, or while the panel is closed.
+    void setItem(const File* item);
 
-    /// The window that the panel floats above. When it is hidden, minimised or gone, so is the
-    /// panel.
-    void setMainWindow(QWidget* window);
+    /// Shrinks back into the item and gives the keyboard back to the main window.
+    void dismiss();
 
-    /// Not owned; without one it moves.
-    void setMotionPreference(const MotionPreference* motion) { m_motion = motion; }
-    PanelAnimation& animation() { return m_animation; }
-
-    /// Neither is owned. Whoever is one of them takes himself back before he goes away; a panel
-    /// without a data source is closed.
-    void setDelegate(QuickLookPanelDelegate* delegate) { m_delegate = delegate; }
-    QuickLookPanelDelegate* delegate() const { return m_delegate; }
-    void setDataSource(QuickLookPanelDataSource* dataSource);
-    QuickLookPanelDataSource* dataSource() const { return m_dataSource; }
-
-    /// Opens the panel and gives it the keyboard.
-    void makeKeyAndOrderFront();
-
-    /// Closes the panel and gives the keyboard back to the main window.
-    void orderOut();
+    /// The same without the way there. To be called before what tells the frame goes away.
+    void closeAtOnce();
 
     /// Whether it is on the screen to stay, not on its way out.
     bool isOpen() const { return m_state == State::Opening || m_state == State::Open; }
 
-    /// Shows the item that the data source has now; nothing happens while that is the same item
-    /// or while the panel is closed.
-    void reloadData();
+    PanelAnimation& animation() { return m_motion.animation(); }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
+
+signals:
+    /// A key was pressed that the panel has no use for.
+    void keyPressed(const QKeyEvent& event);
+
+    /// On its way out it was asked to open on the selected item again.
+    void reopenRequested();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    void keyReleaseEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -96,37 +90,28 @@ protected:
 private:
     enum class State : std::uint8_t { Closed, Opening, Open, Closing };
 
-    void adoptItem();
-    void load();
+    void connectParts();
+    void adopt(const File* item);
+    void load(PanelLoading::Meanwhile meanwhile);
     void showPreview(const Preview& preview);
     void showSummary();
     void contentChanged(const QString& caption);
-    QRect frameForContent() const;
-    QRect availableGeometry() const;
-    QRectF sourceFrame() const;
-    bool canMove(const QRectF& source) const;
-    void startMoving(const QRectF& from, const QRectF& to);
-    void moveOn(const QRectF& frame);
+    QRectF frameOfSource() const;
+    void takePicture();
+    void moveTo(const QRect& frame);
+    void arrive();
     void settle();
-    void closeAtOnce();
-    bool isHandledByDelegate(QEvent& event);
 
-    std::shared_ptr<PreviewThreads> m_threads;
-    std::unique_ptr<PreviewLoader> m_loader;
-    IconProvider* m_icons = nullptr;
-    QuickLookPanelDelegate* m_delegate = nullptr;
-    QuickLookPanelDataSource* m_dataSource = nullptr;
-    QPointer<QWidget> m_mainWindow;
-    const MotionPreference* m_motion = nullptr;
-    PanelAnimation m_animation;
-    QTimer m_patience;
+    IconProvider* const m_icons;
+    const QPointer<QWidget> m_mainWindow;
+    PanelPlace m_place;
+    PanelMotion m_motion;
+    PanelLoading m_loading;
 
     State m_state = State::Closed;
+    SourceFrame m_sourceFrame; ///< while it is not closed
     std::optional<ItemFacts> m_facts;
     QPixmap m_icon;
-    QRect m_frame; ///< where it stands or is on its way to, on the screen
-    std::optional<QPoint> m_centre; ///< where the user wants its middle
-    std::optional<QPoint> m_movedTo; ///< where its middle is, if not where it was placed
     QPixmap m_moving; ///< its picture, while it grows or shrinks
 
     PanelBody* m_body;

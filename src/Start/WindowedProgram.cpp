@@ -9,6 +9,7 @@
 #include "MainWindow/MainWindowController.h"
 #include "MainWindow/MainWindowScreens.h"
 #include "QuickLook/QuickLookPanel.h"
+#include "QuickLook/QuickLookServices.h"
 #include "QuickLook/Reading/PreviewThreads.h"
 #include "ScanScreen/ApplicationDockTile.h"
 #include "ScanScreen/ScanningViewController.h"
@@ -34,11 +35,13 @@ namespace {
 
 void setUpPreview(QWidget& mainWindow, const LaunchServices& services, IconProvider& icons)
 {
-    QuickLookPanel& panel = QuickLookPanel::sharedInstance();
-    panel.setFileReader(services.fileReader, services.rasterDecoder, PreviewThreads::make());
-    panel.setIconProvider(&icons);
-    panel.setMainWindow(&mainWindow);
-    panel.setMotionPreference(&services.motion);
+    QuickLookPanel::makeSharedInstance(
+        {.files = services.fileReader,
+         .decoder = services.rasterDecoder,
+         .threads = PreviewThreads::make(),
+         .icons = &icons,
+         .motion = &services.motion,
+         .mainWindow = &mainWindow});
 }
 
 std::string helpAddress(const std::string& folder, HelpPage page)
@@ -67,7 +70,7 @@ struct WindowedProgram::Desktop {
     ~Desktop()
     {
         TooltipController::sharedInstance().setIconProvider(nullptr);
-        QuickLookPanel::sharedInstance().setIconProvider(nullptr);
+        QuickLookPanel::releaseSharedInstance();
     }
 
     TreeViewServices treeScreen(const LaunchServices& services)

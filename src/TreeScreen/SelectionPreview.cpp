@@ -2,7 +2,6 @@
 #include "TreeScreen/SelectionPreview.h"
 
 #include "Model/File.h"
-#include "Model/NodeLookup.h"
 #include "QuickLook/QuickLookPanel.h"
 #include "TreeScreen/Map/TreeMapView.h"
 #include "TreeScreen/TreeViewController.h"
@@ -17,53 +16,40 @@ SelectionPreview::SelectionPreview(TreeViewController& controller, const TreeMap
     : m_controller(controller)
     , m_treeView(treeView)
 {
-    QuickLookPanel& panel = QuickLookPanel::sharedInstance();
-    panel.setDataSource(this);
-    panel.setDelegate(this);
+    const QuickLookPanel* const panel = &QuickLookPanel::sharedInstance();
+    connect(panel, &QuickLookPanel::keyPressed, this, [this](const QKeyEvent& event) {
+        m_controller.keyDown(event);
+    });
+    connect(panel, &QuickLookPanel::reopenRequested, this, &SelectionPreview::open);
 }
 
 SelectionPreview::~SelectionPreview()
 {
-    QuickLookPanel& panel = QuickLookPanel::sharedInstance();
-    panel.setDelegate(nullptr);
-    panel.setDataSource(nullptr);
+    QuickLookPanel::sharedInstance().closeAtOnce();
 }
 
 void SelectionPreview::toggle()
 {
     QuickLookPanel& panel = QuickLookPanel::sharedInstance();
     if (panel.isOpen()) {
-        panel.orderOut();
+        panel.dismiss();
     } else {
-        panel.makeKeyAndOrderFront();
+        open();
     }
 }
 
 void SelectionPreview::open()
 {
-    QuickLookPanel::sharedInstance().makeKeyAndOrderFront();
+    QuickLookPanel::sharedInstance().open(
+        m_controller.selectedFile(), [this] { return frameOnScreen(); });
 }
 
 void SelectionPreview::selectionChanged()
 {
-    QuickLookPanel::sharedInstance().reloadData();
+    QuickLookPanel::sharedInstance().setItem(m_controller.selectedFile());
 }
 
-const PreviewItem& SelectionPreview::previewItemAtIndex(int /*index*/) const
-{
-    return *this;
-}
-
-bool SelectionPreview::handleEvent(QEvent& event)
-{
-    if (event.type() != QEvent::KeyPress) {
-        return false;
-    }
-    m_controller.keyDown(static_cast<QKeyEvent&>(event));
-    return true;
-}
-
-QRectF SelectionPreview::sourceFrameOnScreenForPreviewItem(const PreviewItem& /*item*/) const
+QRectF SelectionPreview::frameOnScreen() const
 {
     const File* const selected = m_controller.selectedFile();
     if (selected == nullptr || m_treeView.branches().empty()) {
@@ -75,17 +61,6 @@ QRectF SelectionPreview::sourceFrameOnScreenForPreviewItem(const PreviewItem& /*
         return {};
     }
     return {m_treeView.mapToGlobal(QPointF(box->x, box->y)), QSizeF(box->width, box->height)};
-}
-
-Url SelectionPreview::previewItemURL() const
-{
-    const File* const selected = m_controller.selectedFile();
-    return selected == nullptr ? Url() : placeOnDisk(*selected);
-}
-
-const File* SelectionPreview::previewItemNode() const
-{
-    return m_controller.selectedFile();
 }
 
 } // namespace tessera

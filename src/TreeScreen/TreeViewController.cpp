@@ -109,7 +109,7 @@ void TreeViewController::setSelectedFile(File* file)
     if (m_selectedFile != nullptr) {
         m_selectedFile->setSelected(true);
     }
-    SelectionPreview::selectionChanged();
+    m_preview.selectionChanged();
     emit selectionChanged();
 }
 
@@ -203,10 +203,9 @@ void TreeViewController::refreshFolder()
     }
 }
 
-// NOLINTNEXTLINE(readability-convert-member-functions-to-static): a command like the others
 void TreeViewController::quickLook()
 {
-    SelectionPreview::open();
+    m_preview.open();
 }
 
 void TreeViewController::showInFinder()
@@ -324,7 +323,7 @@ void TreeViewController::perform(Command command)
         openSelected();
         break;
     case Command::QuickLook:
-        SelectionPreview::toggle();
+        m_preview.toggle();
         break;
     case Command::ShowInFinder:
         showInFinder();

@@ -2,7 +2,11 @@
 #include "QuickLook/ItemFacts.h"
 
 #include "Model/FreeSpace.h"
-#include "QuickLook/PanelFixture.h"
+#include "support/MakeTree.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
 
 namespace tessera {
 
@@ -12,16 +16,16 @@ class ItemFactsTest : public testing::Test {
 protected:
     std::unique_ptr<TopFolder> tree
         = test::makeTree("/home/anna", "docs/ ( x:1000 y:2000 ) a.txt:4096");
-    test::FakeTreeScreen screen;
+    const File* selected = nullptr;
 };
 
 } // namespace
 
 TEST_F(ItemFactsTest, ADocumentHasItsPathNameAndSize)
 {
-    screen.selected = &test::at(*tree, "docs/x");
+    selected = &test::at(*tree, "docs/x");
 
-    const auto facts = factsOf(screen);
+    const auto facts = factsOf(selected);
 
     ASSERT_TRUE(facts.has_value());
     EXPECT_EQ(facts->path, "/home/anna/docs/x");
@@ -30,26 +34,33 @@ TEST_F(ItemFactsTest, ADocumentHasItsPathNameAndSize)
     EXPECT_FALSE(facts->itemCount);
 }
 
+TEST_F(ItemFactsTest, ThePathIsWhereTheLinksToTheScanLed)
+{
+    tree->setRealOrigin("/disk");
+
+    EXPECT_EQ(factsOf(&test::at(*tree, "docs/x"))->path, "/disk/docs/x");
+}
+
 TEST_F(ItemFactsTest, AFolderHasTheNumberOfItsItems)
 {
-    screen.selected = &test::at(*tree, "docs");
+    selected = &test::at(*tree, "docs");
 
-    EXPECT_EQ(factsOf(screen)->itemCount, 2U);
-    EXPECT_EQ(factsOf(screen)->allocatedBytes, 3000U);
+    EXPECT_EQ(factsOf(selected)->itemCount, 2U);
+    EXPECT_EQ(factsOf(selected)->allocatedBytes, 3000U);
 }
 
 TEST_F(ItemFactsTest, SpaceThatIsNoFileHasNoPath)
 {
     const auto space = makeNode<FreeSpace>("");
-    screen.selected = space.get();
+    selected = space.get();
 
-    EXPECT_EQ(factsOf(screen)->path, "");
-    EXPECT_EQ(factsOf(screen)->name, QStringLiteral("Free Space"));
+    EXPECT_EQ(factsOf(selected)->path, "");
+    EXPECT_EQ(factsOf(selected)->name, QStringLiteral("Free Space"));
 }
 
 TEST_F(ItemFactsTest, WithoutANodeThereAreNone)
 {
-    EXPECT_FALSE(factsOf(screen));
+    EXPECT_FALSE(factsOf(selected));
 }
 
 } // namespace tessera

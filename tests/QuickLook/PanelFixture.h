@@ -1,18 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Base/Url.h"
-#include "QuickLook/PreviewItem.h"
 #include "QuickLook/QuickLookPanel.h"
-#include "QuickLook/QuickLookPanelDataSource.h"
-#include "QuickLook/QuickLookPanelDelegate.h"
+#include "QuickLook/QuickLookServices.h"
 #include "QuickLook/Reading/FakeFileReader.h"
 #include "QuickLook/Reading/FakeRasterDecoder.h"
 #include "QuickLook/Reading/PreviewThreads.h"
 #include "support/Fakes/FakeIconProvider.h"
+#include "support/Fakes/FakeMotionPreference.h"
 #include "support/MakeTree.h"
 
-#include <QEvent>
 #include <QKeyEvent>
 #include <QTest>
 
@@ -24,40 +21,12 @@
 
 namespace tessera::test {
 
-/// A tree screen as the panel sees one: its selected node, its place and the events it was given.
-class FakeTreeScreen final : public QuickLookPanelDataSource,
-                             public QuickLookPanelDelegate,
-                             public PreviewItem {
-public:
-    [[nodiscard]] int numberOfPreviewItemsInPreviewPanel() const override { return 1; }
-    [[nodiscard]] const PreviewItem& previewItemAtIndex(int index) const override
-    {
-        askedIndices.push_back(index);
-        return *this;
-    }
-    bool handleEvent(QEvent& event) override
-    {
-        if (event.type() != QEvent::KeyPress) {
-            return false;
-        }
-        keys.push_back(static_cast<QKeyEvent&>(event).key());
-        return true;
-    }
-    [[nodiscard]] QRectF sourceFrameOnScreenForPreviewItem(
-        const PreviewItem& /*item*/) const override
-    {
-        return frame;
-    }
-    [[nodiscard]] Url previewItemURL() const override
-    {
-        return selected == nullptr ? Url() : selected->url();
-    }
-    [[nodiscard]] const File* previewItemNode() const override { return selected; }
-
+/// A tree screen as the panel sees one: its selected node, its place and the keys it was told of.
+struct FakeTreeScreen {
     const File* selected = nullptr;
     QRectF frame;
+    int frameQuestions = 0;
     std::vector<int> keys;
-    mutable std::vector<int> askedIndices;
 };
 
 /// A panel over a main window, with a tree of files in memory. Nothing moves unless the test
@@ -71,19 +40,18 @@ protected:
         files->addSpecial("/home/anna/docs", FileKind::Folder);
         window.setGeometry(100, 50, 600, 500);
         window.show();
-        panel.setFileReader(files, decoder, threads);
-        panel.setIconProvider(&icons);
-        panel.setMainWindow(&window);
-        panel.setDelegate(&screen);
-        panel.setDataSource(&screen);
+        QObject::connect(&panel, &QuickLookPanel::keyPressed, &window, [this](const auto& event) {
+            screen.keys.push_back(event.key());
+        });
+        QObject::connect(
+            &panel, &QuickLookPanel::reopenRequested, &window, [this] { openOnSelected(); });
         panel.animation().setClock([this] { return now; });
     }
 
     ~PanelTest() override
     {
         files->release("/home/anna/a.txt");
-        panel.setDataSource(nullptr);
-        panel.setFileReader(nullptr, nullptr, nullptr);
+        panel.closeAtOnce();
         EXPECT_TRUE(threads->waitForEnd(std::chrono::minutes(1)));
     }
 
@@ -92,7 +60,28 @@ protected:
     void open(std::string_view path)
     {
         select(path);
-        panel.makeKeyAndOrderFront();
+        openOnSelected();
+    }
+
+    void openOnSelected()
+    {
+        panel.open(screen.selected, [this] {
+            ++screen.frameQuestions;
+            return screen.frame;
+        });
+    }
+
+    void selectionChanged() { panel.setItem(screen.selected); }
+
+    QuickLookServices servicesOver(QWidget* mainWindow)
+    {
+        return {
+            .files = files,
+            .decoder = decoder,
+            .threads = threads,
+            .icons = &icons,
+            .motion = &motion,
+            .mainWindow = mainWindow};
     }
 
     template <typename Widget>
@@ -119,10 +108,11 @@ protected:
     std::shared_ptr<FakeRasterDecoder> decoder = std::make_shared<FakeRasterDecoder>();
     std::shared_ptr<PreviewThreads> threads = PreviewThreads::make();
     FakeIconProvider icons;
+    FakeMotionPreference motion;
     FakeTreeScreen screen;
     double now = 0;
     QWidget window;
-    QuickLookPanel panel;
+    QuickLookPanel panel{servicesOver(&window)};
 };
 
 } // namespace tessera::test

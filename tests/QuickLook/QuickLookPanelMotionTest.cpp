@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "Desktop/MotionPreference.h"
 #include "QuickLook/PanelFixture.h"
 
 #include <QPlainTextEdit>
@@ -9,11 +8,6 @@ namespace tessera {
 namespace {
 
 const QRectF kItem(150, 120, 40, 30);
-
-class StillDesktop final : public MotionPreference {
-public:
-    [[nodiscard]] bool reducesMotion() const override { return true; }
-};
 
 class QuickLookPanelMotionTest : public test::PanelTest {
 protected:
@@ -60,13 +54,12 @@ TEST_F(QuickLookPanelMotionTest, ShrinksBackIntoTheItem)
 
 TEST_F(QuickLookPanelMotionTest, IsThereAtOnceWhenTheDesktopWantsNoMotion)
 {
-    const StillDesktop motion;
-    panel.setMotionPreference(&motion);
+    motion.reduced = true;
 
     open("docs");
     EXPECT_FALSE(panel.animation().isRunning());
     EXPECT_GT(panel.width(), 400);
-    panel.orderOut();
+    panel.dismiss();
 
     EXPECT_FALSE(panel.isVisible());
 }
@@ -121,11 +114,24 @@ TEST_F(QuickLookPanelMotionTest, ClosingOnTheWayInGoesBackFromThere)
     advanceTo(0.05);
     const QRect onItsWay = panel.geometry();
 
-    panel.orderOut();
+    panel.dismiss();
     EXPECT_EQ(panel.geometry(), onItsWay);
     advanceTo(0.3);
 
     EXPECT_FALSE(panel.isVisible());
+}
+
+TEST_F(QuickLookPanelMotionTest, ShrinksIntoTheItemWhereThatIsByThen)
+{
+    open("docs");
+    advanceTo(0.3);
+    screen.frame.moveTo(300, 200);
+
+    panel.dismiss();
+    advanceTo(0.499);
+
+    EXPECT_EQ(screen.frameQuestions, 2);
+    EXPECT_EQ(panel.geometry().center(), screen.frame.toRect().center());
 }
 
 TEST_F(QuickLookPanelMotionTest, EndsWhenTheMainWindowIsHidden)

@@ -183,7 +183,7 @@ TEST_F(QuickLookPanelTest, SpaceThatIsNoFileIsSummarisedWithoutALookAtTheDisk)
     space->setTotalAllocation(7'000'000);
     screen.selected = space.get();
 
-    panel.makeKeyAndOrderFront();
+    openOnSelected();
 
     EXPECT_TRUE(summaryTexts().contains(QStringLiteral("Free Space")));
     EXPECT_TRUE(summaryTexts().contains(QStringLiteral("7.0 MB")));
@@ -192,7 +192,7 @@ TEST_F(QuickLookPanelTest, SpaceThatIsNoFileIsSummarisedWithoutALookAtTheDisk)
 
 TEST_F(QuickLookPanelTest, WithoutASelectionItSaysThatThereIsNone)
 {
-    panel.makeKeyAndOrderFront();
+    openOnSelected();
 
     EXPECT_TRUE(panel.isOpen());
     EXPECT_NE(visibleChild<QLabel>(QStringLiteral("nothing")), nullptr);
@@ -209,16 +209,17 @@ TEST_F(QuickLookPanelTest, AFileThatDoesNotAnswerIsSummarisedMeanwhile)
     EXPECT_TRUE(summaryTexts().contains(QStringLiteral("a.txt")));
 }
 
-TEST_F(QuickLookPanelTest, AsksForOneItemWhateverIsSelected)
+TEST_F(QuickLookPanelTest, AsksForTheItemsPlaceOnlyWhenItOpensOrCloses)
 {
     open("a.txt");
+    EXPECT_EQ(screen.frameQuestions, 1);
     select("docs");
-    panel.reloadData();
+    selectionChanged();
+    EXPECT_EQ(screen.frameQuestions, 1);
 
-    for (const int index : screen.askedIndices) {
-        EXPECT_EQ(index, 0);
-    }
-    EXPECT_FALSE(screen.askedIndices.empty());
+    panel.dismiss();
+
+    EXPECT_EQ(screen.frameQuestions, 2);
 }
 
 TEST_F(QuickLookPanelTest, FollowsTheSelection)
@@ -227,7 +228,7 @@ TEST_F(QuickLookPanelTest, FollowsTheSelection)
     ASSERT_TRUE(waitForText(QStringLiteral("text of a")));
 
     select("b.txt");
-    panel.reloadData();
+    selectionChanged();
 
     EXPECT_TRUE(waitForText(QStringLiteral("text of b")));
 }
@@ -239,7 +240,7 @@ TEST_F(QuickLookPanelTest, KeepsTheLastItemInSightUntilTheNextIsThere)
     files->holdUp("/home/anna/a.txt");
 
     select("a.txt");
-    panel.reloadData();
+    selectionChanged();
 
     EXPECT_TRUE(waitForText(QStringLiteral("text of b")));
     EXPECT_TRUE(waitForSummary(QString::fromUtf8("Loading…")));
@@ -251,7 +252,7 @@ TEST_F(QuickLookPanelTest, ALateResultOfAnEarlierSelectionIsDropped)
     open("a.txt");
     files->waitUntilAsked("/home/anna/a.txt");
     select("b.txt");
-    panel.reloadData();
+    selectionChanged();
     files->release("/home/anna/a.txt");
 
     ASSERT_TRUE(waitForText(QStringLiteral("text of b")));
@@ -264,7 +265,7 @@ TEST_F(QuickLookPanelTest, TheSameItemIsNotReadAgain)
     open("a.txt");
     ASSERT_TRUE(waitForText(QStringLiteral("text of a")));
 
-    panel.reloadData();
+    selectionChanged();
 
     EXPECT_EQ(files->opened().size(), 1U);
 }
@@ -272,7 +273,7 @@ TEST_F(QuickLookPanelTest, TheSameItemIsNotReadAgain)
 TEST_F(QuickLookPanelTest, ASelectionChangesNothingWhileThePanelIsClosed)
 {
     select("a.txt");
-    panel.reloadData();
+    selectionChanged();
 
     EXPECT_FALSE(panel.isVisible());
     EXPECT_TRUE(files->opened().empty());
@@ -284,7 +285,7 @@ TEST_F(QuickLookPanelTest, LosingTheSelectionLeavesItOpenAndEmpty)
     ASSERT_TRUE(waitForText(QStringLiteral("text of a")));
 
     screen.selected = nullptr;
-    panel.reloadData();
+    selectionChanged();
 
     EXPECT_TRUE(panel.isOpen());
     EXPECT_EQ(visibleChild<QPlainTextEdit>(), nullptr);
@@ -396,27 +397,41 @@ TEST_F(QuickLookPanelTest, OutlivesTheMainWindow)
 {
     auto other = std::make_unique<QWidget>();
     other->show();
-    panel.setMainWindow(other.get());
-    open("a.txt");
-    ASSERT_EQ(panel.parentWidget(), other.get());
+    QuickLookPanel panelOfOther(servicesOver(other.get()));
+    const File& item = test::at(*tree, "a.txt");
+    panelOfOther.open(&item, {});
+    ASSERT_EQ(panelOfOther.parentWidget(), other.get());
 
     other.reset();
 
-    EXPECT_FALSE(panel.isOpen());
-    EXPECT_EQ(panel.parentWidget(), nullptr);
-    open("a.txt");
-    EXPECT_TRUE(panel.isOpen());
+    EXPECT_FALSE(panelOfOther.isOpen());
+    EXPECT_EQ(panelOfOther.parentWidget(), nullptr);
+    panelOfOther.open(&item, {});
+    EXPECT_TRUE(panelOfOther.isOpen());
 }
 
-TEST_F(QuickLookPanelTest, ClosesWhenItsDataSourceIsTakenAway)
+TEST_F(QuickLookPanelTest, ClosesAtOnceWhenTheScreenGoesAway)
 {
     open("a.txt");
 
-    panel.setDataSource(nullptr);
+    panel.closeAtOnce();
 
     EXPECT_FALSE(panel.isVisible());
-    panel.makeKeyAndOrderFront();
+    selectionChanged();
     EXPECT_FALSE(panel.isOpen());
+    EXPECT_EQ(screen.frameQuestions, 1);
+}
+
+TEST_F(QuickLookPanelTest, IsMadeAnewForAnotherRunOfTheProgram)
+{
+    QuickLookPanel& made = QuickLookPanel::makeSharedInstance(servicesOver(&window));
+    EXPECT_EQ(&QuickLookPanel::sharedInstance(), &made);
+    const QPointer<QuickLookPanel> released = &made;
+
+    QuickLookPanel::releaseSharedInstance();
+
+    EXPECT_TRUE(released.isNull());
+    EXPECT_FALSE(QuickLookPanel::sharedInstance().isOpen());
 }
 
 TEST_F(QuickLookPanelTest, FloatsAboveTheMainWindowWithoutAPlaceInTheTaskBar)
@@ -436,7 +451,7 @@ TEST_F(QuickLookPanelTest, StaysWhereTheUserMovedIt)
     const QPoint centre = panel.geometry().center();
 
     select("docs");
-    panel.reloadData();
+    selectionChanged();
 
     ASSERT_TRUE(waitForSummary(QStringLiteral("Folder")));
     EXPECT_EQ(panel.geometry().center(), centre);

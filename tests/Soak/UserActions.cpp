@@ -312,7 +312,7 @@ bool UserActions::dismiss()
         press(Qt::Key_Escape);
         return true;
     }
-    QuickLookPanel::sharedInstance().orderOut();
+    QuickLookPanel::sharedInstance().dismiss();
     if (QDialog* const dialog = openDialog()) {
         dialog->reject();
         return true;

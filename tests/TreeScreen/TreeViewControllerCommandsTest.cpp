@@ -206,46 +206,65 @@ TEST_F(TreeViewControllerCommandsTest, ADoubleClickOnWhatStandsForNoFileDoesNoth
 
 TEST_F(TreeViewControllerCommandsTest, ThePreviewHasOneItemWhateverIsSelected)
 {
-    EXPECT_EQ(panel.dataSource()->numberOfPreviewItemsInPreviewPanel(), 1);
-    EXPECT_TRUE(panel.dataSource()->previewItemAtIndex(0).previewItemURL().empty());
+    controller->quickLook();
+    EXPECT_EQ(panel.windowTitle(), QStringLiteral("Quick Look"));
+    EXPECT_TRUE(files->opened().empty());
     select("docs/a");
-    EXPECT_EQ(panel.dataSource()->numberOfPreviewItemsInPreviewPanel(), 1);
-    EXPECT_EQ(
-        panel.dataSource()->previewItemAtIndex(7).previewItemURL(), Url("/data/docs/a", false));
+    files->waitUntilAsked("/data/docs/a");
+    EXPECT_EQ(files->opened(), std::vector<std::string>{"/data/docs/a"});
+    QTRY_COMPARE(panel.windowTitle(), QStringLiteral("a"));
 }
 
 TEST_F(TreeViewControllerCommandsTest, ThePreviewLooksWhereTheLinksToTheScanLed)
 {
     model.topFolder()->setRealOrigin("/disk");
     select("docs/a");
-    EXPECT_EQ(
-        panel.dataSource()->previewItemAtIndex(0).previewItemURL(), Url("/disk/docs/a", false));
+    controller->quickLook();
+    files->waitUntilAsked("/disk/docs/a");
+    EXPECT_EQ(files->opened(), std::vector<std::string>{"/disk/docs/a"});
 }
 
 TEST_F(TreeViewControllerCommandsTest, ThePreviewGrowsOutOfTheSelectedBox)
 {
+    services.motion.reduced = false;
     select("c\xFF");
     const Rect box = view.findRectForFile(node("c\xFF")).value();
-    const QRectF frame = panel.delegate()->sourceFrameOnScreenForPreviewItem(
-        panel.dataSource()->previewItemAtIndex(0));
-    EXPECT_EQ(frame.topLeft(), view.mapToGlobal(QPointF(box.x, box.y)));
-    EXPECT_EQ(frame.size(), QSizeF(box.width, box.height));
+    controller->quickLook();
+    const QRectF frame(view.mapToGlobal(QPointF(box.x, box.y)), QSizeF(box.width, box.height));
+    EXPECT_TRUE(panel.animation().isRunning());
+    EXPECT_EQ(panel.geometry(), frame.toAlignedRect());
 }
 
 TEST_F(TreeViewControllerCommandsTest, WhatIsNotInThePictureHasNoPlaceToGrowOutOf)
 {
-    EXPECT_TRUE(panel.delegate()
-                    ->sourceFrameOnScreenForPreviewItem(panel.dataSource()->previewItemAtIndex(0))
-                    .isEmpty());
+    services.motion.reduced = false;
+    controller->quickLook();
+    EXPECT_TRUE(panel.isOpen());
+    EXPECT_FALSE(panel.animation().isRunning());
 }
 
 TEST_F(TreeViewControllerCommandsTest, KeysInThePreviewReachTheTreeScreen)
 {
     QKeyEvent down(QEvent::KeyPress, Qt::Key_Left, Qt::NoModifier);
-    EXPECT_TRUE(panel.delegate()->handleEvent(down));
+    QCoreApplication::sendEvent(&panel, &down);
+    EXPECT_TRUE(down.isAccepted());
     EXPECT_EQ(controller->selectedFile(), &node("docs"));
     QKeyEvent up(QEvent::KeyRelease, Qt::Key_Left, Qt::NoModifier);
-    EXPECT_FALSE(panel.delegate()->handleEvent(up));
+    QCoreApplication::sendEvent(&panel, &up);
+    EXPECT_FALSE(up.isAccepted());
+}
+
+TEST_F(TreeViewControllerCommandsTest, SpaceOnTheWayBackOpensThePreviewOfWhatIsSelectedByThen)
+{
+    services.motion.reduced = false;
+    select("docs/a");
+    controller->quickLook();
+    QTest::keyClick(&panel, Qt::Key_Escape);
+    EXPECT_FALSE(panel.isOpen());
+    select("docs/b");
+    QTest::keyClick(&panel, Qt::Key_Space);
+    EXPECT_TRUE(panel.isOpen());
+    EXPECT_EQ(panel.windowTitle(), QStringLiteral("b"));
 }
 
 TEST_F(TreeViewControllerCommandsTest, GoingAwayTakesThePreviewAlong)
@@ -254,8 +273,9 @@ TEST_F(TreeViewControllerCommandsTest, GoingAwayTakesThePreviewAlong)
     controller->quickLook();
     controller.reset();
     EXPECT_FALSE(panel.isOpen());
-    EXPECT_EQ(panel.dataSource(), nullptr);
-    EXPECT_EQ(panel.delegate(), nullptr);
+    EXPECT_FALSE(panel.isVisible());
+    QTest::keyClick(&panel, Qt::Key_Left);
+    EXPECT_FALSE(panel.isVisible());
 }
 
 } // namespace

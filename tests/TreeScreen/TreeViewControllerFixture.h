@@ -8,9 +8,12 @@
 #include "Model/TimeMachine.h"
 #include "Model/Unknown.h"
 #include "QuickLook/QuickLookPanel.h"
+#include "QuickLook/QuickLookServices.h"
+#include "QuickLook/Reading/FakeFileReader.h"
+#include "QuickLook/Reading/FakeRasterDecoder.h"
+#include "QuickLook/Reading/PreviewThreads.h"
 #include "TreeScreen/Map/TreeMapView.h"
 #include "TreeScreen/Picture/TreeBranch.h"
-#include "TreeScreen/SelectionPreview.h"
 #include "TreeScreen/TreeViewController.h"
 #include "support/Fakes/FakeRootModelServices.h"
 #include "support/Fakes/FakeTreeViewServices.h"
@@ -22,6 +25,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -34,7 +38,6 @@ protected:
     TreeViewControllerFixture()
     {
         services.motion.reduced = true;
-        panel.setMotionPreference(&services.motion);
         model.setTopFolder(makeTree("/data", "docs/ ( a:500000 b:200000 ) c\xFF:300000"));
         view.resize(400, 300);
         view.show();
@@ -42,8 +45,9 @@ protected:
     }
     ~TreeViewControllerFixture() override
     {
-        panel.orderOut();
-        panel.setMotionPreference(nullptr);
+        controller.reset();
+        QuickLookPanel::releaseSharedInstance();
+        EXPECT_TRUE(threads->waitForEnd(std::chrono::minutes(1)));
     }
 
     File& node(std::string_view path) { return at(*model.topFolder(), path); }
@@ -86,7 +90,13 @@ protected:
     FakeRootModelServices modelServices;
     RootModel model{modelServices.get()};
     FakeTreeViewServices services;
-    QuickLookPanel& panel = QuickLookPanel::sharedInstance();
+    std::shared_ptr<FakeFileReader> files = std::make_shared<FakeFileReader>();
+    std::shared_ptr<PreviewThreads> threads = PreviewThreads::make();
+    QuickLookPanel& panel = QuickLookPanel::makeSharedInstance(
+        {.files = files,
+         .decoder = std::make_shared<FakeRasterDecoder>(),
+         .threads = threads,
+         .motion = &services.motion});
     TreeMapView view{services.defaults};
     std::unique_ptr<TreeViewController> controller;
 };

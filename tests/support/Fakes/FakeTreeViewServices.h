@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Desktop/MotionPreference.h"
 #include "TreeScreen/DiskChanges.h"
 #include "TreeScreen/TreeViewServices.h"
 #include "support/Fakes/FakeAlert.h"
@@ -9,6 +8,7 @@
 #include "support/Fakes/FakeFileSystem.h"
 #include "support/Fakes/FakeIconProvider.h"
 #include "support/Fakes/FakeMainThread.h"
+#include "support/Fakes/FakeMotionPreference.h"
 #include "support/Fakes/FakeTask.h"
 #include "support/Fakes/FakeUserDefaults.h"
 #include "support/Fakes/FakeWorkspace.h"
@@ -23,13 +23,6 @@
 #include <utility>
 
 namespace tessera::test {
-
-class FakeMotionPreference final : public MotionPreference {
-public:
-    [[nodiscard]] bool reducesMotion() const override { return reduced; }
-
-    bool reduced = false;
-};
 
 /// All that a TreeViewController needs, and a clock that stands still. Whatever is rescanned holds
 /// the items given to the constructor.
