@@ -6,19 +6,21 @@
 #include "Model/Folder.h"
 #include "TreeScreen/Map/TreeMapView.h"
 #include "TreeScreen/Picture/TreeBranch.h"
-#include "TreeScreen/TreeViewController.h"
-#include "TreeScreen/TreeViewServices.h"
+#include "TreeScreen/TreeScreen.h"
 
 #include <utility>
 
 namespace tessera {
 
 FolderZoom::FolderZoom(
-    TreeViewController& controller, TreeMapView& treeView, const TreeViewServices& services)
-    : m_controller(controller)
+    TreeScreen& screen,
+    TreeMapView& treeView,
+    const MotionPreference& motion,
+    ZoomAnimation::Clock clock)
+    : m_screen(screen)
     , m_treeView(treeView)
-    , m_motion(services.motion)
-    , m_clock(services.zoomClock)
+    , m_motion(motion)
+    , m_clock(std::move(clock))
 {
 }
 
@@ -38,7 +40,7 @@ void FolderZoom::zoomInFolder(Folder& folder)
         abortAnimation();
         return;
     }
-    m_treeView.addBranch(m_controller.renderFolder(&folder, bounds(), nullptr, 0));
+    m_treeView.addBranch(m_screen.branchFor(&folder));
     const ZoomMatrices zoom = matricesFor({*box, ZoomGeometry::Box::Folder});
     start(
         {oldPicture, QTransform(), zoom.enlarged, 1, 0},
@@ -53,8 +55,8 @@ void FolderZoom::zoomOutFolder(Folder& ancestor)
     }
     endRunningZoom();
     const QImage oldPicture = m_treeView.picture();
-    const Folder* const oldFolder = m_controller.currentFolder();
-    m_treeView.addBranchBelow(m_controller.renderFolder(&ancestor, bounds(), nullptr, 0));
+    const Folder* const oldFolder = m_screen.folderInView();
+    m_treeView.addBranchBelow(m_screen.branchFor(&ancestor));
     const TreeBranch& newBranch = *m_treeView.branches().front();
     const std::optional<Place> place = placeOf(oldFolder, newBranch);
     changeFolder(ancestor);
@@ -71,26 +73,26 @@ void FolderZoom::zoomOutFolder(Folder& ancestor)
 void FolderZoom::endRunningZoom()
 {
     if (m_treeView.isZooming()) {
-        m_controller.renderTree();
+        m_screen.renderTree();
     }
 }
 
 void FolderZoom::changeFolder(Folder& folder)
 {
-    m_controller.setCurrentFolder(&folder);
-    m_controller.setSelectedFile(nullptr);
+    m_screen.setCurrentFolder(&folder);
+    m_screen.setSelectedFile(nullptr);
 }
 
 void FolderZoom::changeAtOnce(Folder& folder)
 {
     changeFolder(folder);
-    m_controller.renderTree();
+    m_screen.renderTree();
 }
 
 void FolderZoom::abortAnimation()
 {
     logLine("abort zoom animation");
-    m_controller.renderTree();
+    m_screen.renderTree();
 }
 
 std::optional<FolderZoom::Place> FolderZoom::placeOf(

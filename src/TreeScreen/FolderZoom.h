@@ -13,11 +13,10 @@ class Folder;
 class MotionPreference;
 class TreeBranch;
 class TreeMapView;
-class TreeViewController;
-struct TreeViewServices;
+class TreeScreen;
 
 /// Changes the folder in view with an animation that grows it out of its box, or shrinks it into
-/// its box. The controller's folder has changed and its selection is gone when a call returns; the
+/// its box. The screen's folder has changed and its selection is gone when a call returns; the
 /// map tells of the animation's end. Where nothing can be animated, because the folder has no box
 /// on screen or the user wants no motion, the new picture is shown at once. A running zoom ends
 /// first. Main thread only.
@@ -25,7 +24,10 @@ class FolderZoom {
 public:
     /// All must outlive it.
     FolderZoom(
-        TreeViewController& controller, TreeMapView& treeView, const TreeViewServices& services);
+        TreeScreen& screen,
+        TreeMapView& treeView,
+        const MotionPreference& motion,
+        ZoomAnimation::Clock clock);
 
     /// To a folder shown inside the one in view.
     void zoomInFolder(Folder& folder);
@@ -57,7 +59,7 @@ private:
     ZoomMatrices matricesFor(const Place& place) const;
     void start(ZoomLayer lower, ZoomLayer upper);
 
-    TreeViewController& m_controller;
+    TreeScreen& m_screen;
     TreeMapView& m_treeView;
     const MotionPreference& m_motion;
     FrameClock::Seconds m_clock;

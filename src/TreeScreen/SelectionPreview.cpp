@@ -4,7 +4,7 @@
 #include "Model/File.h"
 #include "QuickLook/QuickLookPanel.h"
 #include "TreeScreen/Map/TreeMapView.h"
-#include "TreeScreen/TreeViewController.h"
+#include "TreeScreen/TreeScreen.h"
 
 #include <QKeyEvent>
 
@@ -12,13 +12,13 @@
 
 namespace tessera {
 
-SelectionPreview::SelectionPreview(TreeViewController& controller, const TreeMapView& treeView)
-    : m_controller(controller)
+SelectionPreview::SelectionPreview(TreeScreen& screen, const TreeMapView& treeView)
+    : m_screen(screen)
     , m_treeView(treeView)
 {
     const QuickLookPanel* const panel = &QuickLookPanel::sharedInstance();
     connect(panel, &QuickLookPanel::keyPressed, this, [this](const QKeyEvent& event) {
-        m_controller.keyDown(event);
+        m_screen.keyDown(event);
     });
     connect(panel, &QuickLookPanel::reopenRequested, this, &SelectionPreview::open);
 }
@@ -41,17 +41,17 @@ void SelectionPreview::toggle()
 void SelectionPreview::open()
 {
     QuickLookPanel::sharedInstance().open(
-        m_controller.selectedFile(), [this] { return frameOnScreen(); });
+        m_screen.selectedFile(), [this] { return frameOnScreen(); });
 }
 
 void SelectionPreview::selectionChanged()
 {
-    QuickLookPanel::sharedInstance().setItem(m_controller.selectedFile());
+    QuickLookPanel::sharedInstance().setItem(m_screen.selectedFile());
 }
 
 QRectF SelectionPreview::frameOnScreen() const
 {
-    const File* const selected = m_controller.selectedFile();
+    const File* const selected = m_screen.selectedFile();
     if (selected == nullptr || m_treeView.branches().empty()) {
         return {};
     }

@@ -7,7 +7,7 @@
 namespace tessera {
 
 class TreeMapView;
-class TreeViewController;
+class TreeScreen;
 
 /// Lets the preview panel show the tree screen's selected item, and hands the panel's key presses
 /// to the screen. The shared panel is its own as long as it lives. Main thread only.
@@ -16,7 +16,7 @@ class SelectionPreview final : public QObject {
 
 public:
     /// Both must outlive it.
-    SelectionPreview(TreeViewController& controller, const TreeMapView& treeView);
+    SelectionPreview(TreeScreen& screen, const TreeMapView& treeView);
     ~SelectionPreview() override;
 
     /// Opens the panel, or closes it when it is open.
@@ -28,7 +28,7 @@ public:
 private:
     QRectF frameOnScreen() const;
 
-    TreeViewController& m_controller;
+    TreeScreen& m_screen;
     const TreeMapView& m_treeView;
 };
 

@@ -1,12 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <memory>
+
+class QKeyEvent;
+
 namespace tessera {
 
 class File;
 class Folder;
+class TreeBranch;
 
-/// The screen that shows the tree, as those see it who change the tree under it.
+/// The screen that shows the tree, as those see it who change the tree under it or what is in view,
+/// and those who show the selected item elsewhere.
 class TreeScreen {
 public:
     TreeScreen() = default;
@@ -27,7 +33,11 @@ public:
 
     /// The folder that fills the view; null when there is no tree.
     virtual const Folder* folderInView() const = 0;
+    /// Does not draw.
+    virtual void setCurrentFolder(Folder* folder) = 0;
 
+    /// The selected item or null.
+    virtual File* selectedFile() const = 0;
     /// Does not draw.
     virtual void setSelectedFile(File* file) = 0;
 
@@ -36,6 +46,12 @@ public:
 
     /// Rebuilds the whole picture from the tree.
     virtual void renderTree() = 0;
+
+    /// The folder laid out as a branch that fills the view; it is not shown.
+    virtual std::unique_ptr<TreeBranch> branchFor(Folder* folder) = 0;
+
+    /// A key was pressed that is meant for the screen; false when it does nothing now.
+    virtual bool keyDown(const QKeyEvent& event) = 0;
 };
 
 } // namespace tessera

@@ -32,7 +32,7 @@ TreeViewController::TreeViewController(
     : m_model(model)
     , m_treeView(treeView)
     , m_services(services)
-    , m_zoom(*this, treeView, services)
+    , m_zoom(*this, treeView, services.motion, services.zoomClock)
     , m_rescan(services.scanEnvironment, services.checkFolder, treeView, services.alert, *this)
     , m_trasher(
           model, services.defaults, services.workspace, services.alert, services.diskChanges, *this)
@@ -405,15 +405,20 @@ void TreeViewController::renderTree()
 {
     m_treeView.removeAllBranches();
     m_note.hide();
-    const Rect bounds{
-        0, 0, static_cast<double>(m_treeView.width()), static_cast<double>(m_treeView.height())};
-    m_treeView.addBranch(renderFolder(m_currentFolder, bounds, nullptr, 0));
+    m_treeView.addBranch(branchFor(m_currentFolder));
     // Nobody may delete or preview what they do not see.
     if (m_selectedFile != nullptr && !m_treeView.shows(*m_selectedFile)) {
         setSelectedFile(nullptr);
     }
     m_rescan.pictureChanged();
     emit pictureRebuilt();
+}
+
+std::unique_ptr<TreeBranch> TreeViewController::branchFor(Folder* folder)
+{
+    const Rect bounds{
+        0, 0, static_cast<double>(m_treeView.width()), static_cast<double>(m_treeView.height())};
+    return renderFolder(folder, bounds, nullptr, 0);
 }
 
 std::unique_ptr<TreeBranch> TreeViewController::renderFolder(

@@ -47,10 +47,10 @@ public:
     /// The folder that fills the view; null when there is no tree.
     Folder* currentFolder() const { return m_currentFolder; }
     /// Does not draw.
-    void setCurrentFolder(Folder* folder);
+    void setCurrentFolder(Folder* folder) override;
 
     /// The selected item or null. Its node carries the mark as well, which nobody else sets.
-    File* selectedFile() const { return m_selectedFile; }
+    File* selectedFile() const override { return m_selectedFile; }
     /// Does not draw.
     void setSelectedFile(File* file) override;
 
@@ -97,7 +97,7 @@ public:
 
     /// A key was pressed on the tree screen; false when it does nothing now. Why not is said on
     /// the picture.
-    bool keyDown(const QKeyEvent& event);
+    bool keyDown(const QKeyEvent& event) override;
 
     /// Says on the picture, for a while, why something cannot be done; an empty text is nothing.
     void say(const QString& why);
@@ -137,6 +137,7 @@ private:
     void nodeCame(const File& node) override { m_rescan.nodeCame(node); }
     void folderWasReplaced(Folder& folder, Folder& with) override;
     const Folder* folderInView() const override { return m_currentFolder; }
+    std::unique_ptr<TreeBranch> branchFor(Folder* folder) override;
 
     void observe();
     void openSelected();

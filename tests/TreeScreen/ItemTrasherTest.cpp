@@ -6,6 +6,7 @@
 #include "Model/UserDefaults.h"
 #include "Model/Volume.h"
 #include "TreeScreen/DiskChanges.h"
+#include "TreeScreen/Picture/TreeBranch.h"
 #include "TreeScreen/TreeScreen.h"
 #include "support/Fakes/FakeAlert.h"
 #include "support/Fakes/FakeFileSystem.h"
@@ -15,6 +16,7 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -30,6 +32,10 @@ public:
     void nodeWillLeave(File& node) override { leaving.emplace_back(node.name()); }
     void nodeCame(const File& node) override { come.push_back(node.absolutePath()); }
     const Folder* folderInView() const override { return nullptr; }
+    void setCurrentFolder(Folder* /*folder*/) override { }
+    File* selectedFile() const override { return nullptr; }
+    std::unique_ptr<TreeBranch> branchFor(Folder* /*folder*/) override { return nullptr; }
+    bool keyDown(const QKeyEvent& /*event*/) override { return false; }
     void folderWasReplaced(Folder& /*folder*/, Folder& /*with*/) override { }
     void setSelectedFile(File* file) override { isSelectionTaken = file == nullptr; }
     void objectTreeRefreshed() override { ++refreshCount; }
