@@ -7,7 +7,7 @@
 #include "Model/TopFolder.h"
 #include "Scanning/Scanner.h"
 #include "TreeScreen/Map/TreeMapView.h"
-#include "TreeScreen/TreeScreen.h"
+#include "TreeScreen/Map/TreeScreen.h"
 #include "Widgets/ScanProblem.h"
 
 #include <utility>

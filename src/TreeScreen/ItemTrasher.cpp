@@ -8,7 +8,7 @@
 #include "Model/RootModel.h"
 #include "Model/UserDefaults.h"
 #include "TreeScreen/DiskChanges.h"
-#include "TreeScreen/TreeScreen.h"
+#include "TreeScreen/Map/TreeScreen.h"
 
 #include <QPointer>
 

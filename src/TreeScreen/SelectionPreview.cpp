@@ -4,7 +4,7 @@
 #include "Model/File.h"
 #include "QuickLook/QuickLookPanel.h"
 #include "TreeScreen/Map/TreeMapView.h"
-#include "TreeScreen/TreeScreen.h"
+#include "TreeScreen/Map/TreeScreen.h"
 
 #include <QKeyEvent>
 

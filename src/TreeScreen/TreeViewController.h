@@ -6,15 +6,15 @@
 #include "Commands/CommandContext.h"
 #include "TreeScreen/CommandHint.h"
 #include "TreeScreen/FolderRescan.h"
-#include "TreeScreen/FolderZoom.h"
 #include "TreeScreen/ItemTrasher.h"
 #include "TreeScreen/Map/BoxNavigation.h"
+#include "TreeScreen/Map/TreeScreen.h"
 #include "TreeScreen/SelectionPreview.h"
 #include "TreeScreen/TreeCommandTarget.h"
 #include "TreeScreen/TreeKeys.h"
 #include "TreeScreen/TreeNote.h"
-#include "TreeScreen/TreeScreen.h"
 #include "TreeScreen/TreeViewServices.h"
+#include "TreeScreen/Zoom/FolderZoom.h"
 
 #include <QObject>
 

@@ -4,11 +4,11 @@
 #include "Layout/MultiLayoutObject.h"
 #include "Model/File.h"
 #include "Model/TooltipType.h"
+#include "TreeScreen/Map/ZoomAnimation.h"
 #include "TreeScreen/Picture/TreeBranch.h"
 #include "TreeScreen/Picture/TreePainter.h"
 #include "TreeScreen/Tooltip/TooltipController.h"
 #include "TreeScreen/Tooltip/TooltipPlacement.h"
-#include "TreeScreen/Zoom/ZoomAnimation.h"
 
 #include <QContextMenuEvent>
 #include <QMouseEvent>

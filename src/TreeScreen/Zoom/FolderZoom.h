@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Base/Rect.h"
-#include "TreeScreen/Zoom/ZoomAnimation.h"
+#include "TreeScreen/Map/ZoomAnimation.h"
 #include "TreeScreen/Zoom/ZoomGeometry.h"
 
 #include <optional>

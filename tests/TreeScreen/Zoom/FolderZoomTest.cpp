@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "TreeScreen/FolderZoom.h"
+#include "TreeScreen/Zoom/FolderZoom.h"
 
 #include "Model/RootModel.h"
 #include "Model/TooltipType.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "TreeScreen/Zoom/ZoomAnimation.h"
+#include "TreeScreen/Map/ZoomAnimation.h"
 
 #include <QPainter>
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "TreeScreen/FolderZoom.h"
+#include "TreeScreen/Zoom/FolderZoom.h"
 
 #include "Base/Log.h"
 #include "Desktop/MotionPreference.h"
 #include "Model/Folder.h"
 #include "TreeScreen/Map/TreeMapView.h"
+#include "TreeScreen/Map/TreeScreen.h"
 #include "TreeScreen/Picture/TreeBranch.h"
-#include "TreeScreen/TreeScreen.h"
 
 #include <utility>
 
