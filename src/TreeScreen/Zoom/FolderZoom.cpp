@@ -16,7 +16,7 @@ FolderZoom::FolderZoom(
     TreeScreen& screen,
     TreeMapView& treeView,
     const MotionPreference& motion,
-    ZoomAnimation::Clock clock)
+    FrameClock::Seconds clock)
     : m_screen(screen)
     , m_treeView(treeView)
     , m_motion(motion)

@@ -27,7 +27,7 @@ public:
         TreeScreen& screen,
         TreeMapView& treeView,
         const MotionPreference& motion,
-        ZoomAnimation::Clock clock);
+        FrameClock::Seconds clock);
 
     /// To a folder shown inside the one in view.
     void zoomInFolder(Folder& folder);
