@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Start/UserSession.h"
 
-#include "MainWindow/MainWindowController.h"
+#include "Base/Url.h"
 #include "MainWindow/Menus/IgnoreMenu.h"
 #include "MainWindow/Menus/MainActions.h"
 #include "Model/Folder.h"
@@ -12,9 +12,11 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QDropEvent>
 #include <QFileDialog>
 #include <QKeyEvent>
 #include <QMainWindow>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QProgressBar>
 #include <QPushButton>
@@ -72,11 +74,11 @@ void UserSession::planStart()
         "hovering over the home screen", [this] { m_moves = 0; }, [this] { return hoverOn(); });
     plan(
         "a scan that is cancelled at a half",
-        [this] { MainWindowController::scanURL(Url(m_folders.tree, true)); },
+        [this] { dropOnWindow(m_folders.tree); },
         [] { return cancelAtHalf(); });
     plan(
         "a scan",
-        [this] { MainWindowController::scanURL(Url(m_folders.tree, true)); },
+        [this] { dropOnWindow(m_folders.tree); },
         [this] { return showsTreeOf(m_folders.tree); });
 }
 
@@ -138,11 +140,11 @@ void UserSession::planSecondTree()
     plan("going home", [] { perform(Command::Home); });
     plan(
         "the first tree once more",
-        [this] { MainWindowController::scanURL(Url(m_folders.tree, true)); },
+        [this] { dropOnWindow(m_folders.tree); },
         [this] { return showsTreeOf(m_folders.tree); });
     plan(
         "another scan while a tree is shown",
-        [this] { MainWindowController::scanURL(Url(m_folders.scratch, true)); },
+        [this] { dropOnWindow(m_folders.scratch); },
         [this] { return showsTreeOf(m_folders.scratch); });
     plan(
         "moving a large folder to the trash",
@@ -206,6 +208,20 @@ bool UserSession::showsTreeOf(const std::string& path)
 void UserSession::perform(Command command)
 {
     window().findChild<MainActions*>()->action(command).trigger();
+}
+
+/// The program scans what is dropped on its window.
+void UserSession::dropOnWindow(const std::string& folder)
+{
+    QMimeData data;
+    data.setData(
+        QStringLiteral("text/uri-list"),
+        QByteArray::fromStdString(Url(folder, true).absoluteString()));
+    const QPoint place = window().rect().center();
+    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window(), &enter);
+    QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window(), &drop);
 }
 
 void UserSession::chooseIgnoreEntry(IgnoreEntry entry)

@@ -64,6 +64,7 @@ private:
     static TreeMapView* map();
     static bool showsTreeOf(const std::string& path);
     static void perform(Command command);
+    static void dropOnWindow(const std::string& folder);
     static void chooseIgnoreEntry(IgnoreEntry entry);
     static void pointAt(QPointF place, QEvent::Type type);
     static void press(int key);
