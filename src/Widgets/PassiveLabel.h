@@ -14,7 +14,7 @@ class PassiveLabel final : public QLabel {
 public:
     explicit PassiveLabel(QWidget* parent = nullptr);
 
-    /// The height of the letters; set in the interface file for the usual font of a desktop, and
+    /// The height of the letters; set in the form for the usual font of a desktop, and
     /// larger where that font is.
     int textPixels() const { return font().pixelSize(); }
     void setTextPixels(int pixels);

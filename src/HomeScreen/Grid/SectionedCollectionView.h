@@ -46,18 +46,13 @@ public:
     int selectedIndex() const { return m_selected.index; } ///< -1: nothing is selected
 
     /// The scroll area around it, where items selected by a key are scrolled into sight.
-    QScrollArea* scrollView() const { return m_scrollView; }
     void setScrollView(QScrollArea* scrollView) { m_scrollView = scrollView; }
 
     /// Whether clicks and keys are heard. The item views look the same when they are not.
     bool isInteractive() const { return m_isInteractive; }
     void setInteractive(bool isInteractive) { m_isInteractive = isInteractive; }
 
-    /// Places the views in the present width.
-    void updateLayout();
-
-    /// Selects an item as a click on it would; nothing when there is none or it is
-    /// unavailable.
+    /// Selects an item as a click on it would; nothing when it is missing or unavailable.
     void selectItem(int section, int index);
 
     /// Forgets the selection after telling so; keeps it where there is no handler to tell.
@@ -82,6 +77,8 @@ private:
     };
 
     void mouseDown(QMouseEvent& event, int clickCount);
+    /// Places the views in the present width.
+    void updateLayout();
     int placeSection(const CollectionSection& section, int top) const;
     void markNextForKeys(CollectionItemView* view);
     void select(const Place& place, int clickCount);

@@ -9,7 +9,7 @@
 namespace tessera {
 
 /// One text of the tooltip: a single line, shortened in its middle where it is too long, or a
-/// wrapping field. Its look is set in the interface file through the properties.
+/// wrapping field. Its look is set in the form through the properties.
 ///
 /// The pitch of the lines follows from the size of the letters alone, so that the panels come out
 /// alike with every desktop font.
