@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Base/DeadMountLimits.h"
 #include "Base/Log.h"
 #include "Platform/PlatformServices.h"
 #include "PlatformLaunchServices.h"
@@ -7,7 +8,6 @@
 
 #include <QApplication>
 
-#include <chrono>
 #include <cstdlib>
 #include <optional>
 #include <span>
@@ -18,9 +18,6 @@ namespace {
 
 constexpr int kFailed = 1;
 constexpr int kBadUsage = 2;
-
-/// What other work has at the program's end, too.
-constexpr std::chrono::milliseconds kPatience{2000};
 
 /// Qt looks here, and nowhere else, when it activates a window on Wayland, and takes it away then.
 constexpr const char* kActivationToken = "XDG_ACTIVATION_TOKEN";
@@ -49,7 +46,7 @@ void endWorkers(
     const tessera::PlatformServices& services, tessera::ScanWorkers& workers, int status)
 {
     services.mainThread->close();
-    if (!workers.waitForNone(kPatience)) {
+    if (!workers.waitForNone(tessera::kPatienceWithScansAtTheEnd)) {
         (void)services.userDefaults->synchronize();
         std::_Exit(status);
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "HomeScreen/HomeViewController.h"
 
+#include "Base/DeadMountLimits.h"
 #include "Base/Log.h"
 #include "Desktop/UserAccount.h"
 #include "HomeScreen/Grid/CollectionHeaderView.h"
@@ -37,9 +38,6 @@ constexpr int kGreatestLocationWidth = 200;
 constexpr int kColumnWidth = 300; ///< of the recent scans
 /// How visible the grid is while a scan runs, in which nothing can be chosen.
 constexpr double kUnusableOpacity = 0.5;
-
-/// Long enough for any file system that is alive and awake, and too short to be noticed.
-constexpr std::chrono::milliseconds kPatience{50};
 
 /// The grid's items are pictures and have no look of their own for it.
 void showUsable(QWidget& grid, bool isUsable)
@@ -139,7 +137,7 @@ void HomeViewController::loadView()
             askForLocation(place, m_candidates[place]);
         }
     }
-    m_questions.waitBriefly(kPatience);
+    m_questions.waitBriefly(kHomeScreenPatience);
     m_isGridLoaded = true;
     takeLocations();
     locationsCollection().setSections(sections());

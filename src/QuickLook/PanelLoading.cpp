@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "QuickLook/PanelLoading.h"
 
+#include "Base/DeadMountLimits.h"
+#include "Base/QuestionThreads.h"
 #include "QuickLook/QuickLookServices.h"
 #include "QuickLook/Reading/PreviewLoader.h"
-#include "QuickLook/Reading/PreviewThreads.h"
-
-#include <chrono>
 
 namespace tessera {
 
@@ -14,8 +13,6 @@ namespace {
 constexpr int kPageWidth = 640;
 /// Most files are read sooner, and the item before stays in sight so long.
 constexpr int kPatienceMs = 150;
-/// A decoder is killed at once; a file system may take its time.
-constexpr std::chrono::milliseconds kEndOfProgramPatience{500};
 
 } // namespace
 
@@ -67,7 +64,7 @@ void PanelLoading::stopForGood()
 {
     stop();
     if (m_loader != nullptr) {
-        (void)m_threads->waitForEnd(kEndOfProgramPatience);
+        (void)m_threads->waitForAll(kPatienceWithPreviewsAtTheEnd);
     }
 }
 

@@ -14,7 +14,7 @@
 namespace tessera {
 
 class PreviewLoader;
-class PreviewThreads;
+class QuestionThreads;
 struct Preview;
 struct QuickLookServices;
 
@@ -50,7 +50,7 @@ signals:
     void summaryDue();
 
 private:
-    std::shared_ptr<PreviewThreads> m_threads;
+    std::shared_ptr<QuestionThreads> m_threads;
     std::unique_ptr<PreviewLoader> m_loader; ///< null where nothing can be read
     QTimer m_patience;
 };

@@ -10,7 +10,7 @@ namespace tessera {
 class FileReader;
 class IconProvider;
 class MotionPreference;
-class PreviewThreads;
+class QuestionThreads;
 class RasterDecoder;
 
 /// What the preview panel works with; it does without what is null. What is not shared is not owned
@@ -21,7 +21,7 @@ struct QuickLookServices {
     /// never answers may outlive the panel.
     std::shared_ptr<const FileReader> files = nullptr;
     std::shared_ptr<const RasterDecoder> decoder = nullptr;
-    std::shared_ptr<PreviewThreads> threads = nullptr;
+    std::shared_ptr<QuestionThreads> threads = nullptr;
     IconProvider* icons = nullptr;
     const MotionPreference* motion = nullptr; ///< without one the panel moves
     /// The window that the panel floats above. When it is hidden, minimised or gone, so is the

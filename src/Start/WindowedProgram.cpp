@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Start/WindowedProgram.h"
 
+#include "Base/QuestionThreads.h"
 #include "Desktop/EndRequests.h"
 #include "Desktop/FileAccess.h"
 #include "Desktop/RunningInstance.h"
@@ -10,7 +11,6 @@
 #include "MainWindow/MainWindowScreens.h"
 #include "QuickLook/QuickLookPanel.h"
 #include "QuickLook/QuickLookServices.h"
-#include "QuickLook/Reading/PreviewThreads.h"
 #include "ScanScreen/ApplicationDockTile.h"
 #include "ScanScreen/ScanningViewController.h"
 #include "Start/AppDelegate.h"
@@ -38,7 +38,7 @@ void setUpPreview(QWidget& mainWindow, const LaunchServices& services, IconProvi
     QuickLookPanel::makeSharedInstance(
         {.files = services.fileReader,
          .decoder = services.rasterDecoder,
-         .threads = PreviewThreads::make(),
+         .threads = QuestionThreads::make(),
          .icons = &icons,
          .motion = &services.motion,
          .mainWindow = &mainWindow});

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Base/QuestionThreads.h"
 #include "QuickLook/QuickLookPanel.h"
 #include "QuickLook/QuickLookServices.h"
 #include "QuickLook/Reading/FakeFileReader.h"
 #include "QuickLook/Reading/FakeRasterDecoder.h"
-#include "QuickLook/Reading/PreviewThreads.h"
 #include "support/Fakes/FakeIconProvider.h"
 #include "support/Fakes/FakeMotionPreference.h"
 #include "support/MakeTree.h"
@@ -52,7 +52,7 @@ protected:
     {
         files->release("/home/anna/a.txt");
         panel.closeAtOnce();
-        EXPECT_TRUE(threads->waitForEnd(std::chrono::minutes(1)));
+        EXPECT_TRUE(threads->waitForAll(std::chrono::minutes(1)));
     }
 
     void select(std::string_view path) { screen.selected = &at(*tree, path); }
@@ -106,7 +106,7 @@ protected:
         = makeTree("/home/anna", "docs/ ( x:1000 y:2000 ) a.txt:4096 b.txt:5000");
     std::shared_ptr<FakeFileReader> files = std::make_shared<FakeFileReader>();
     std::shared_ptr<FakeRasterDecoder> decoder = std::make_shared<FakeRasterDecoder>();
-    std::shared_ptr<PreviewThreads> threads = PreviewThreads::make();
+    std::shared_ptr<QuestionThreads> threads = QuestionThreads::make();
     FakeIconProvider icons;
     FakeMotionPreference motion;
     FakeTreeScreen screen;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Base/NotificationCenter.h"
+#include "Base/QuestionThreads.h"
 #include "Compress/CompressWindowController.h"
 #include "Model/FreeSpace.h"
 #include "Model/RootModel.h"
@@ -11,7 +12,6 @@
 #include "QuickLook/QuickLookServices.h"
 #include "QuickLook/Reading/FakeFileReader.h"
 #include "QuickLook/Reading/FakeRasterDecoder.h"
-#include "QuickLook/Reading/PreviewThreads.h"
 #include "TreeScreen/Map/TreeMapView.h"
 #include "TreeScreen/Picture/TreeBranch.h"
 #include "TreeScreen/TreeViewController.h"
@@ -47,7 +47,7 @@ protected:
     {
         controller.reset();
         QuickLookPanel::releaseSharedInstance();
-        EXPECT_TRUE(threads->waitForEnd(std::chrono::minutes(1)));
+        EXPECT_TRUE(threads->waitForAll(std::chrono::minutes(1)));
     }
 
     File& node(std::string_view path) { return at(*model.topFolder(), path); }
@@ -91,7 +91,7 @@ protected:
     RootModel model{modelServices.get()};
     FakeTreeViewServices services;
     std::shared_ptr<FakeFileReader> files = std::make_shared<FakeFileReader>();
-    std::shared_ptr<PreviewThreads> threads = PreviewThreads::make();
+    std::shared_ptr<QuestionThreads> threads = QuestionThreads::make();
     QuickLookPanel& panel = QuickLookPanel::makeSharedInstance(
         {.files = files,
          .decoder = std::make_shared<FakeRasterDecoder>(),

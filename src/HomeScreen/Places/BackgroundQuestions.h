@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Base/QuestionThreads.h"
+
 #include <QObject>
 
 #include <chrono>
@@ -22,8 +24,8 @@ public:
     BackgroundQuestions();
     ~BackgroundQuestions() override;
 
-    /// Asks, and hands the answer to `answered` later, on the main thread. Where the system has no
-    /// thread left it is like a file system that never answers, only that nobody waits for it.
+    /// Asks, and hands the answer to `answered` later, on the main thread. Where no thread is
+    /// to be had it is like a file system that never answers, only that nobody waits for it.
     template <typename Answer>
     void ask(std::function<Answer()> question, std::function<void(const Answer&)> answered)
     {
@@ -41,12 +43,13 @@ protected:
     void customEvent(QEvent* event) override;
 
 private:
-    class Desk;
+    class Arrivals;
 
     void start(std::function<void()> question, std::function<void()> answered);
     void handOnAnswers();
 
-    std::shared_ptr<Desk> m_desk;
+    const std::shared_ptr<QuestionThreads> m_threads = QuestionThreads::make();
+    const std::shared_ptr<Arrivals> m_arrivals;
     std::map<int, std::function<void()>> m_answered;
     int m_lastNumber = 0;
 };

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "QuickLook/Reading/PreviewLoader.h"
 
+#include "Base/DeadMountLimits.h"
+#include "Base/QuestionThreads.h"
 #include "QuickLook/Reading/PreviewReading.h"
-#include "QuickLook/Reading/PreviewThreads.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -14,9 +15,6 @@
 namespace tessera {
 
 namespace {
-
-/// Enough to go on when a dead network mount holds some of them. Each decodes one file at a time.
-constexpr int kMostThreads = 4;
 
 QEvent::Type arrivalEvent()
 {
@@ -39,7 +37,7 @@ public:
     Crew(
         std::shared_ptr<const FileReader> files,
         std::shared_ptr<const RasterDecoder> decoder,
-        std::shared_ptr<PreviewThreads> threads,
+        std::shared_ptr<QuestionThreads> threads,
         QObject& receiver)
         : m_files(std::move(files))
         , m_decoder(std::move(decoder))
@@ -53,13 +51,13 @@ public:
     void add(std::shared_ptr<Look> look)
     {
         const std::lock_guard lock(m_mutex);
-        if (m_threads == kMostThreads) {
+        if (m_threads == kMostPreviewThreads) {
             m_waiting = std::move(look);
             return;
         }
         ++m_threads;
         if (const std::error_code error
-            = m_pool->start([crew = shared_from_this(), look] { crew->run(look); })) {
+            = m_pool->start([crew = shared_from_this(), look] { crew->run(look); }).error) {
             --m_threads;
             look->preview.file.error = error;
             bring(std::move(look));
@@ -119,7 +117,7 @@ private:
 
     const std::shared_ptr<const FileReader> m_files;
     const std::shared_ptr<const RasterDecoder> m_decoder;
-    const std::shared_ptr<PreviewThreads> m_pool;
+    const std::shared_ptr<QuestionThreads> m_pool;
     std::mutex m_mutex;
     QObject* m_receiver;
     int m_threads = 0;
@@ -130,7 +128,7 @@ private:
 PreviewLoader::PreviewLoader(
     std::shared_ptr<const FileReader> files,
     std::shared_ptr<const RasterDecoder> decoder,
-    std::shared_ptr<PreviewThreads> threads,
+    std::shared_ptr<QuestionThreads> threads,
     std::function<void(Preview)> show)
     : m_crew(
         std::make_shared<Crew>(std::move(files), std::move(decoder), std::move(threads), *this))

@@ -11,7 +11,7 @@
 namespace tessera {
 
 class FileReader;
-class PreviewThreads;
+class QuestionThreads;
 class RasterDecoder;
 
 /// Looks at files on the threads it is given, so that none of them can hold up the caller, and
@@ -27,7 +27,7 @@ public:
     PreviewLoader(
         std::shared_ptr<const FileReader> files,
         std::shared_ptr<const RasterDecoder> decoder,
-        std::shared_ptr<PreviewThreads> threads,
+        std::shared_ptr<QuestionThreads> threads,
         std::function<void(Preview)> show);
     PreviewLoader(const PreviewLoader&) = delete;
     PreviewLoader& operator=(const PreviewLoader&) = delete;

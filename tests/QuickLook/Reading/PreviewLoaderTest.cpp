@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "QuickLook/Reading/PreviewLoader.h"
 
+#include "Base/QuestionThreads.h"
 #include "QuickLook/Reading/FakeFileReader.h"
 #include "QuickLook/Reading/FakeRasterDecoder.h"
-#include "QuickLook/Reading/PreviewThreads.h"
 #include "support/Machine/WithoutThreads.h"
 
 #include <QTest>
@@ -39,7 +39,7 @@ protected:
         if (loader != nullptr) {
             loader->cancel();
         }
-        EXPECT_TRUE(threads->waitForEnd(60s));
+        EXPECT_TRUE(threads->waitForAll(60s));
     }
 
     static std::string path(int number) { return "/" + std::to_string(number); }
@@ -55,7 +55,7 @@ protected:
     bool cancelAndWait() const
     {
         loader->cancel();
-        return threads->waitForEnd(60s);
+        return threads->waitForAll(60s);
     }
 
     bool waitFor(std::size_t count) const
@@ -66,7 +66,7 @@ protected:
     std::vector<QString> shown;
     std::shared_ptr<test::FakeFileReader> files = std::make_shared<test::FakeFileReader>();
     std::shared_ptr<test::FakeRasterDecoder> decoder = std::make_shared<test::FakeRasterDecoder>();
-    std::shared_ptr<PreviewThreads> threads = PreviewThreads::make();
+    std::shared_ptr<QuestionThreads> threads = QuestionThreads::make();
     std::unique_ptr<PreviewLoader> loader
         = std::make_unique<PreviewLoader>(files, decoder, threads, [this](const Preview& preview) {
               shown.push_back(std::get<PreviewText>(preview.content).text);
@@ -115,7 +115,7 @@ TEST_F(PreviewLoaderTest, AResultThatHasArrivedIsDroppedWhenAnotherIsAskedFor)
 {
     load(1);
     // The event that brings it waits for the loop.
-    ASSERT_TRUE(threads->waitForEnd(60s));
+    ASSERT_TRUE(threads->waitForAll(60s));
     load(2);
 
     ASSERT_TRUE(waitFor(1));
@@ -158,7 +158,7 @@ TEST_F(PreviewLoaderTest, ACancelledLookThatIsStuckStillHasItsThread)
     files->waitUntilAsked(path(1));
     loader->cancel();
 
-    EXPECT_FALSE(threads->waitForEnd(0ms));
+    EXPECT_FALSE(threads->waitForAll(0ms));
 }
 
 TEST_F(PreviewLoaderTest, AStuckLookMayOutliveItsLoader)
@@ -209,7 +209,7 @@ TEST_F(PreviewLoaderTest, ALoaderThatGoesAwayEndsItsDecoding)
     decoder->waitUntilAsked(1);
     loader.reset();
 
-    EXPECT_TRUE(threads->waitForEnd(60s));
+    EXPECT_TRUE(threads->waitForAll(60s));
 }
 
 TEST_F(PreviewLoaderTest, WhereThereIsNoThreadBringsThat)
@@ -238,7 +238,7 @@ TEST_F(PreviewLoaderTest, WhatThereWasNoThreadForTakesNoPlaceAndIsNotWaitedFor)
             QCoreApplication::sendPostedEvents(&withoutThreads);
         }
         EXPECT_EQ(brought, 5);
-        EXPECT_TRUE(threads->waitForEnd(0ms));
+        EXPECT_TRUE(threads->waitForAll(0ms));
     });
     EXPECT_TRUE(isDone);
 }

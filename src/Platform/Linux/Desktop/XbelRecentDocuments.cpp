@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/Desktop/XbelRecentDocuments.h"
 
+#include "Base/DeadMountLimits.h"
 #include "Base/StartThread.h"
 #include "Model/UserDefaults.h"
 #include "Platform/Linux/Desktop/XbelContent.h"

@@ -1,41 +1,33 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Base/QuestionThreads.h"
 #include "Platform/Linux/Files/FileStatus.h"
 
 #include <chrono>
-#include <cstddef>
 #include <functional>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace tessera {
-
-/// How long a worker waits before a file system counts as dead: a network mount whose server is
-/// gone would block it for minutes.
-inline constexpr std::chrono::milliseconds kWorkerPatience{2000};
-
-/// The same for the main thread: too short to be noticed, long enough for any file system that is
-/// alive and awake.
-inline constexpr std::chrono::milliseconds kMainThreadPatience{80};
 
 /// Asks file systems questions to which a dead one gives no answer, each on a thread of its own,
 /// and waits for the answer only so long. What does not answer in time counts as not readable.
 ///
 /// A question that is stuck in the kernel cannot be taken back. Until it returns, others about the
 /// same mount are not asked at all, so that neither the waiting nor the threads add up; and when
-/// kMaxStuck of them are stuck, none is asked. Where the system has no thread left, a question
-/// counts as not answered this once. Callable from any thread.
+/// kMostStuckThreads of them are stuck, none is asked. Where the system has no thread left, a
+/// question counts as not answered this once. Callable from any thread.
 class FileSystemQuestions {
 public:
-    using Clock = std::chrono::steady_clock;
+    using Clock = QuestionThreads::Clock;
 
     /// The point of the mount that a path without links lies on, told without touching it.
     using MountPointOf = std::function<std::string(const std::string& path)>;
-
-    static constexpr std::size_t kMaxStuck = 32;
 
     /// By the kernel's table of mounts.
     explicit FileSystemQuestions(std::chrono::milliseconds patience);
@@ -66,16 +58,24 @@ public:
     }
 
 private:
-    class Desk;
+    struct Stuck {
+        std::shared_ptr<QuestionThreads::Thread> thread;
+        std::string place;
+    };
 
+    bool mayAnswer(const std::string& path, LinkMode linkMode) const;
+    std::string placeOf(const std::string& path, LinkMode linkMode) const;
     bool perform(
         const std::string& path,
         LinkMode linkMode,
         std::function<void()> work,
         Clock::time_point until) const;
 
-    std::chrono::milliseconds m_patience;
-    std::shared_ptr<Desk> m_desk; ///< a question that is stuck keeps it
+    const std::chrono::milliseconds m_patience;
+    const MountPointOf m_mountPointOf;
+    const std::shared_ptr<QuestionThreads> m_threads = QuestionThreads::make();
+    mutable std::mutex m_mutex; ///< guards what follows
+    mutable std::vector<Stuck> m_stuck;
 };
 
 } // namespace tessera

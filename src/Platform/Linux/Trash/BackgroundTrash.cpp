@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/Trash/BackgroundTrash.h"
 
+#include "Base/DeadMountLimits.h"
 #include "Base/StartThread.h"
-#include "Platform/Linux/Mounts/FileSystemQuestions.h"
 #include "Scanning/MainThread.h"
 
 #include <algorithm>

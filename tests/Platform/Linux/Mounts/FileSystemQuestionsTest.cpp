@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/Mounts/FileSystemQuestions.h"
 
+#include "Base/DeadMountLimits.h"
 #include "support/Machine/DeadFileSystem.h"
 #include "support/Machine/WithoutThreads.h"
 
@@ -95,7 +96,7 @@ TEST_F(FileSystemQuestionsTest, AMountPointThatDoesNotAnswerSpeaksForItsMount)
 
 TEST_F(FileSystemQuestionsTest, ManyStuckThreadsAreNotJoinedByMore)
 {
-    for (std::size_t i = 0; i < FileSystemQuestions::kMaxStuck; ++i) {
+    for (std::size_t i = 0; i < kMostStuckThreads; ++i) {
         EXPECT_TRUE(isAnswered(m_questions, "/healthy", LinkMode::Keep));
         m_dead.swallow(m_questions, "/dead" + std::to_string(i), LinkMode::Follow);
     }
