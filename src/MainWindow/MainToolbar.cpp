@@ -16,11 +16,6 @@ namespace tessera {
 
 namespace {
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("MainToolbar", text);
-}
-
 template <typename Button>
 QToolButton* addButton(QToolBar& toolbar, ToolbarSymbol symbol, const QString& name)
 {
@@ -54,17 +49,17 @@ MainToolbar::MainToolbar(QToolBar& toolbar, QMenu& actionsMenu)
     : m_toolbarHomeButton(addButton<QToolButton>(
         toolbar,
         ToolbarSymbol::Home,
-        tr(QT_TRANSLATE_NOOP("MainToolbar", "Choose another disk or folder"))))
+        QCoreApplication::translate("MainToolbar", "Choose another disk or folder")))
     , m_toolbarSeparator(addSeparator(toolbar))
     , m_toolbarPathControl(addPathControl(toolbar))
     , m_toolbarActionsButton(addButton<MenuToolButton>(
           toolbar,
           ToolbarSymbol::Actions,
-          tr(QT_TRANSLATE_NOOP("MainToolbar", "Commands for the selected item"))))
+          QCoreApplication::translate("MainToolbar", "Commands for the selected item")))
     , m_toolbarIgnoreButton(addButton<MenuToolButton>(
           toolbar,
           ToolbarSymbol::Ignore,
-          tr(QT_TRANSLATE_NOOP("MainToolbar", "What the map leaves out"))))
+          QCoreApplication::translate("MainToolbar", "What the map leaves out")))
 {
     m_toolbarActionsButton->setMenu(&actionsMenu);
 }

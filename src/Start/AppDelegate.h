@@ -34,6 +34,8 @@ struct AppDelegateServices {
 /// takes folders that are to be opened with the program. It quits when that window is closed; while
 /// archives are being made the user is asked whether to finish them first. Main thread only.
 class AppDelegate final : public QObject {
+    Q_OBJECT
+
 public:
     explicit AppDelegate(AppDelegateServices services);
     ~AppDelegate() override;
