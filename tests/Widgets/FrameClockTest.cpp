@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Widgets/FrameClock.h"
 
+#include "Widgets/WaitForFrames.h"
+
 #include <QSignalSpy>
 #include <QTest>
 
@@ -89,7 +91,7 @@ TEST_F(FrameClockRun, LetsFramesBeDueWhileItRuns)
     EXPECT_TRUE(frames.wait());
     clock.stop();
     frames.clear();
-    QTest::qWait(2 * FrameClock::kFrameMilliseconds);
+    ASSERT_TRUE(test::waitForFrames());
     EXPECT_FALSE(clock.isRunning());
     EXPECT_TRUE(frames.isEmpty());
 }

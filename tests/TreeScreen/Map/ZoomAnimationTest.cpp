@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "TreeScreen/Map/ZoomAnimation.h"
 
+#include "Widgets/WaitForFrames.h"
+
 #include <QPainter>
 #include <QSignalSpy>
 #include <QTest>
@@ -134,7 +136,7 @@ TEST_F(ZoomAnimationTest, AsksForFramesUntilItEnds)
     now += 0.7;
     ASSERT_TRUE(end.wait());
     const auto framesAtEnd = frames.count();
-    QTest::qWait(40);
+    ASSERT_TRUE(test::waitForFrames());
     EXPECT_EQ(frames.count(), framesAtEnd);
     EXPECT_EQ(end.count(), 1);
 }

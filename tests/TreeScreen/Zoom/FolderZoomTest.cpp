@@ -8,6 +8,7 @@
 #include "TreeScreen/Picture/TreeBranch.h"
 #include "TreeScreen/Tooltip/TooltipController.h"
 #include "TreeScreen/TreeViewController.h"
+#include "Widgets/WaitForFrames.h"
 #include "support/BecomesActive.h"
 #include "support/Fakes/FakeRootModelServices.h"
 #include "support/Fakes/FakeTreeViewServices.h"
@@ -415,7 +416,7 @@ TEST_F(FolderZoomTest, TheScreenMayGoAwayDuringAZoom)
     other->zoomInFolder(folder("docs"));
     other.reset();
     viewServices.now += kSeconds;
-    QTest::qWait(40);
+    ASSERT_TRUE(test::waitForFrames());
     EXPECT_TRUE(otherView.isZooming());
 }
 
