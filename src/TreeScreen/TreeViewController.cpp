@@ -2,7 +2,6 @@
 #include "TreeScreen/TreeViewController.h"
 
 #include "Base/DisplayText.h"
-#include "Base/NotificationCenter.h"
 #include "Desktop/Alert.h"
 #include "Desktop/Workspace.h"
 #include "Layout/LevelRenderer.h"

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Base/Observation.h"
 #include "Base/Rect.h"
 #include "Commands/CommandContext.h"
 #include "TreeScreen/CommandHint.h"

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Base/NotificationCenter.h"
 #include "MainWindow/MainWindowController.h"
 #include "TreeScreen/Map/TreeMapView.h"
 #include "TreeScreen/TreeViewController.h"

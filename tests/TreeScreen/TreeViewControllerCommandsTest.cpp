@@ -131,7 +131,7 @@ TEST_F(TreeViewControllerCommandsTest, AnArchiveJoinsAFolderBesideOneThatItsName
 {
     services.resourceValues.size = 4096;
     model.topFolder()->insertChild(makeNode<Folder>("docs2"));
-    NotificationCenter::defaultCenter().post("ItemCompressed", Url("/data/docs2/a.zip", false));
+    emit services.diskChanges.itemCompressed(Url("/data/docs2/a.zip", false));
     ASSERT_EQ(node("docs2").totalAllocation(), 4096U);
     EXPECT_EQ(node("docs2/a.zip").type(), NodeType::Document);
 }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Base/NotificationCenter.h"
 #include "Base/QuestionThreads.h"
 #include "Compress/CompressWindowController.h"
 #include "Model/FreeSpace.h"

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "Base/NotificationCenter.h"
 #include "Base/Url.h"
 #include "Model/NodeLookup.h"
 #include "Model/RootModel.h"
