@@ -70,13 +70,13 @@ TEST_F(CompressWindowControllerTest, TwoAtOnceDoNotWriteTheSameArchive)
 {
     compress();
     const auto other = CompressWindowController::make(
-        {"/opt/archiver",
-         [this] { return test::FakeTask::make(otherTask); },
-         workspace,
-         files,
-         icons,
-         targetsInUse,
-         alert});
+        {.archiver = "/opt/archiver",
+         .makeTask = [this] { return test::FakeTask::make(otherTask); },
+         .workspace = workspace,
+         .resourceValues = WithTimeLimit<ResourceValues>(files),
+         .icons = icons,
+         .targetsInUse = targetsInUse,
+         .alert = alert});
     other->compressURL(Url("/data/X", true), 1);
 
     EXPECT_EQ(otherTask.arguments.at(5), "/data/X 2.zip");
