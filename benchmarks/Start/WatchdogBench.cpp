@@ -5,6 +5,7 @@
 #include "Model/UserDefaults.h"
 #include "PlatformLaunchServices.h"
 #include "Start/EventLoopWatch.h"
+#include "Start/Launch.h"
 #include "Start/OwnHome.h"
 #include "Start/UserSession.h"
 

@@ -6,6 +6,7 @@
 #include "Scanning/ScanEnvironment.h"
 #include "Scanning/Scanner.h"
 #include "Scanning/ScannerDelegate.h"
+#include "TreeScreen/DiskChanges.h"
 #include "TreeScreen/Map/TreeMapView.h"
 #include "TreeScreen/Picture/TreeBranch.h"
 #include "TreeScreen/TreeViewController.h"
@@ -195,6 +196,7 @@ bool measure(
     MessageBoxAlert alert;
     DesktopIconProvider icons;
     std::set<std::string> targetsInUse;
+    DiskChanges diskChanges;
     TreeViewController controller(
         model,
         map,
@@ -213,6 +215,7 @@ bool measure(
             .targetsInUse = targetsInUse,
             .alert = alert},
          .motion = motion,
+         .diskChanges = diskChanges,
          .checkFolder = [](const std::string&) { return std::error_code(); }});
     QCoreApplication::processEvents();
     const std::vector<Folder*> folders = shownFolders(*map.branches().front());
