@@ -67,7 +67,8 @@ void PreferencesWindowController::refresh(std::string_view key)
     } else if (key == kWarnDeleteSystemKey) {
         m_ui->warnSystemDelete->setChecked(m_defaults.boolean(key));
     } else if (key == kTooltipTypeKey) {
-        m_ui->tooltipButton->setCurrentIndex(m_ui->tooltipButton->findData(m_defaults.integer(key)));
+        m_ui->tooltipButton->setCurrentIndex(
+            m_ui->tooltipButton->findData(m_defaults.integer(key)));
     }
 }
 

@@ -58,9 +58,9 @@ public:
     /// is outside. Of branches that overlap, the topmost.
     TreeBranch* branchAt(Point inTreeView);
 
-    /// The folder or document of this level whose box contains the point. Of several boxes the first
-    /// that stands for a node counts. Null where there is none, as on groups, and on space that
-    /// stands for no file.
+    /// The folder or document of this level whose box contains the point. Of several boxes the
+    /// first that stands for a node counts. Null where there is none, as on groups, and on space
+    /// that stands for no file.
     File* clickableAt(Point inTreeView) const;
 
 private:
