@@ -208,6 +208,8 @@ void MainWindowController::retire(std::unique_ptr<Screen>& screen)
 {
     if (screen != nullptr) {
         screen->view().hide();
+        // What it still has to say is of a screen that is gone.
+        screen->disconnect(this);
         m_retired.push_back(std::move(screen));
         m_release.start();
     }

@@ -1,7 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "TreeScreen/TreeViewControllerFixture.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+#include <vector>
 
 namespace tessera {
 namespace {
@@ -115,6 +120,28 @@ TEST_F(TreeViewControllerCommandsTest, CompressesTheSelectedItem)
         (std::vector<std::string>{
             "-c", "-k", "--sequesterRsrc", "--folder", "/data/docs", "/data/docs.zip"}));
     failToCompress();
+}
+
+TEST_F(TreeViewControllerCommandsTest, AnArchiveThatIsDoneWhenTheScreenIsGoneIsAnnouncedAllTheSame)
+{
+    std::vector<std::string> told;
+    QObject::connect(&services.diskChanges, &DiskChanges::itemGone, [&](const Url& place) {
+        told.push_back("gone: " + place.path());
+    });
+    QObject::connect(
+        &services.diskChanges,
+        &DiskChanges::itemCompressed,
+        [&](const std::optional<Url>& archive) { told.push_back("made: " + archive->path()); });
+    select("docs");
+    controller->perform(Command::Compress);
+    controller.reset();
+
+    services.resourceValues.size = 1'000'000;
+    services.archiver.output = "1 2\n"; // the file that it made
+    services.archiver.onTerminated(0);
+    QTRY_COMPARE(told.size(), 2U);
+    EXPECT_THAT(told, testing::ElementsAre("gone: /data/docs.zip.part", "made: /data/docs.zip"));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 TEST_F(TreeViewControllerCommandsTest, AnArchiveJoinsTheTree)

@@ -11,6 +11,7 @@
 #include "support/Fakes/FakeTreeViewServices.h"
 
 #include <QLabel>
+#include <QPointer>
 #include <QVBoxLayout>
 #include <QWidget>
 
@@ -27,9 +28,9 @@ struct ScreenRecord {
     int homeScreensMade = 0;
     int scanScreens = 0;
     std::vector<std::string> scanned; ///< paths
-    HomeScreen* homeScreen = nullptr; ///< the latest
+    QPointer<HomeScreen> homeScreen; ///< the latest
     QWidget* home = nullptr; ///< its view
-    ScanScreen* scanScreen = nullptr;
+    QPointer<ScanScreen> scanScreen;
     QWidget* scan = nullptr;
     int leastScanHeight = 0; ///< what the scan panels to come need
     bool homeEnabled = true;
