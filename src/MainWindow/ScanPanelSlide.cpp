@@ -3,6 +3,7 @@
 
 #include "Desktop/MotionPreference.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace tessera {
@@ -60,7 +61,7 @@ void ScanPanelSlide::advance()
         return;
     }
     const double passed = m_frames.passed();
-    const double share = m_seconds > 0 ? m_frames.partOf(m_seconds) : 1;
+    const double share = m_seconds > 0 ? std::clamp(passed / m_seconds, 0.0, 1.0) : 1;
     moveTo(share < 1 ? m_from.toward(m_to, easeInOut(share)) : m_to);
     const double end = m_isSlidingOut && m_seconds > 0 ? kCleanUpSeconds : m_seconds;
     if (passed < end) {

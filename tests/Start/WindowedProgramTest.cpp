@@ -7,6 +7,7 @@
 #include "Desktop/LauncherProgress.h"
 #include "Desktop/RunningInstance.h"
 #include "Model/RootModel.h"
+#include "QuickLook/QuickLookPanel.h"
 #include "QuickLook/Reading/FileReader.h"
 #include "QuickLook/Reading/RasterDecoder.h"
 #include "Start/LaunchServices.h"
@@ -15,6 +16,8 @@
 #include "support/Fakes/FakeTreeViewServices.h"
 
 #include <QCoreApplication>
+#include <QPointer>
+#include <QWidget>
 
 #include <gtest/gtest.h>
 
@@ -129,16 +132,32 @@ struct FakeLaunchServices {
     }
 };
 
+/// The program's one model keeps them for good.
+FakeLaunchServices& launchServices()
+{
+    static FakeLaunchServices services;
+    return services;
+}
+
 TEST(WindowedProgram, AtTheEndGivesTheNameBackBeforeAnythingElseIsDone)
 {
-    // The program's one model keeps them for good.
-    static FakeLaunchServices services;
+    FakeLaunchServices& services = launchServices();
     services.rootModel.defaults.texts.erase("MainWindowFrame");
     services.runningInstance.hadKeptThePlace.reset();
     const WindowedProgram program(services.get());
     emit qApp->aboutToQuit({});
     EXPECT_EQ(services.runningInstance.hadKeptThePlace, false);
     EXPECT_TRUE(services.rootModel.defaults.texts.contains("MainWindowFrame"));
+}
+
+TEST(WindowedProgram, TakesThePreviewPanelAlong)
+{
+    QPointer<QWidget> panel;
+    {
+        const WindowedProgram program(launchServices().get());
+        panel = &QuickLookPanel::sharedInstance();
+    }
+    EXPECT_TRUE(panel.isNull());
 }
 
 } // namespace

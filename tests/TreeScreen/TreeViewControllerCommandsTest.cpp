@@ -301,8 +301,13 @@ TEST_F(TreeViewControllerCommandsTest, GoingAwayTakesThePreviewAlong)
     controller.reset();
     EXPECT_FALSE(panel.isOpen());
     EXPECT_FALSE(panel.isVisible());
-    QTest::keyClick(&panel, Qt::Key_Left);
-    EXPECT_FALSE(panel.isVisible());
+}
+
+TEST_F(TreeViewControllerCommandsTest, NobodyHearsThePreviewWhenTheScreenIsGone)
+{
+    controller.reset();
+    EXPECT_FALSE(QObject::disconnect(&panel, &QuickLookPanel::keyPressed, nullptr, nullptr));
+    EXPECT_FALSE(QObject::disconnect(&panel, &QuickLookPanel::reopenRequested, nullptr, nullptr));
 }
 
 } // namespace
