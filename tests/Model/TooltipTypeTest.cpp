@@ -5,13 +5,16 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <utility>
 
 namespace tessera {
 namespace {
 
-constexpr std::pair<TooltipType, int> kStored[]
-    = {{TooltipType::None, 0}, {TooltipType::Short, 1}, {TooltipType::Full, 2}};
+constexpr std::array kStored{
+    std::pair{TooltipType::None, 0},
+    std::pair{TooltipType::Short, 1},
+    std::pair{TooltipType::Full, 2}};
 
 TEST(TooltipType, IsStoredAsItsNumber)
 {

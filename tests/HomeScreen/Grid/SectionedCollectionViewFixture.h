@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <vector>
@@ -50,9 +52,8 @@ inline CollectionSection madeSection(const Section& section)
 inline std::vector<CollectionSection> made(const std::vector<Section>& sections)
 {
     std::vector<CollectionSection> result;
-    for (const Section& section : sections) {
-        result.push_back(madeSection(section));
-    }
+    result.reserve(sections.size());
+    std::ranges::transform(sections, std::back_inserter(result), madeSection);
     return result;
 }
 
