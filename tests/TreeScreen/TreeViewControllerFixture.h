@@ -68,9 +68,9 @@ protected:
     {
         services.archiver.output = "1 2\n"; // the file that it made
         services.archiver.onTerminated(1);
-        QTRY_COMPARE(services.workspace.recycled.size(), 1U);
+        ASSERT_TRUE(QTest::qWaitFor([this] { return services.workspace.recycled.size() == 1; }));
         ASSERT_TRUE(services.workspace.finishRecycling({}));
-        QTRY_VERIFY(services.archiver.isDestroyed);
+        EXPECT_TRUE(QTest::qWaitFor([this] { return services.archiver.isDestroyed; }));
         QTest::qWait(0);
         // Its window would stay for a second, and outlive the services that it works with.
         emit qApp->aboutToQuit({});
