@@ -6,11 +6,10 @@
 #include "Model/UserDefaults.h"
 #include "Model/Volume.h"
 #include "TreeScreen/DiskChanges.h"
-#include "TreeScreen/Map/TreeScreen.h"
-#include "TreeScreen/Picture/TreeBranch.h"
 #include "support/Fakes/FakeAlert.h"
 #include "support/Fakes/FakeFileSystem.h"
 #include "support/Fakes/FakeRootModelServices.h"
+#include "support/Fakes/FakeTreeScreen.h"
 #include "support/Fakes/FakeWorkspace.h"
 #include "support/MakeTree.h"
 
@@ -25,28 +24,6 @@ namespace tessera {
 namespace {
 
 constexpr int kCancel = Alert::kFirstButton + 1;
-
-/// Writes down what it hears of.
-class FakeScreen final : public TreeScreen {
-public:
-    void nodeWillLeave(File& node) override { leaving.emplace_back(node.name()); }
-    void nodeCame(const File& node) override { come.push_back(node.absolutePath()); }
-    const Folder* folderInView() const override { return nullptr; }
-    void setCurrentFolder(Folder* /*folder*/) override { }
-    File* selectedFile() const override { return nullptr; }
-    std::unique_ptr<TreeBranch> branchFor(Folder* /*folder*/) override { return nullptr; }
-    bool keyDown(const QKeyEvent& /*event*/) override { return false; }
-    void folderWasReplaced(Folder& /*folder*/, Folder& /*with*/) override { }
-    void setSelectedFile(File* file) override { isSelectionTaken = file == nullptr; }
-    void objectTreeRefreshed() override { ++refreshCount; }
-    void renderTree() override { ++renderCount; }
-
-    std::vector<std::string> leaving;
-    std::vector<std::string> come; ///< paths
-    bool isSelectionTaken = false;
-    int refreshCount = 0;
-    int renderCount = 0;
-};
 
 class ItemTrasherTest : public testing::Test {
 protected:
@@ -92,7 +69,7 @@ protected:
     test::FakeWorkspace workspace;
     test::FakeAlert alert;
     DiskChanges diskChanges;
-    FakeScreen screen;
+    test::FakeTreeScreen screen;
     ItemTrasher trasher{model, modelServices.defaults, workspace, alert, diskChanges, screen};
 };
 
