@@ -4,6 +4,7 @@
 #include "support/Machine/FileContent.h"
 #include "support/Machine/OwnMounts.h"
 #include "support/Machine/TempTree.h"
+#include "support/Machine/BuiltPaths.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -105,14 +106,14 @@ TEST_F(ArchiveCommand, TheCurrentFolderIsArchivedUnderItsName)
          R"(cd "$1" && exec "$2" -c -k --sequesterRsrc . ../X.zip)",
          "sh",
          source,
-         TESSERA_ARCHIVER});
+         test::built::archiver()});
     EXPECT_EQ(result.exitStatus, 0) << result.standardError;
     EXPECT_THAT(pathsOfArchive(tree.pathOf("X.zip")), ElementsAre("folder X", "file X/file"));
 }
 
 TEST_F(ArchiveCommand, BadUsageIsSaidInOneLine)
 {
-    const ProgramResult result = runProgram(TESSERA_ARCHIVER, {"-x", source});
+    const ProgramResult result = runProgram(test::built::archiver(), {"-x", source});
     EXPECT_EQ(result.exitStatus, 2);
     EXPECT_EQ(
         result.standardError,
@@ -338,7 +339,7 @@ TEST_F(ArchiveCommand, ALimitOnTheSizeOfFilesIsAFailureAndTheFragmentStays)
         {"-c",
          R"(ulimit -f 1; exec "$1" -c -k --sequesterRsrc "$2" "$3")",
          "sh",
-         TESSERA_ARCHIVER,
+         test::built::archiver(),
          source,
          target});
     EXPECT_EQ(result.exitStatus, 1);

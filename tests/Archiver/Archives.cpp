@@ -4,6 +4,7 @@
 #include "support/Machine/ChildProcess.h"
 #include "support/Machine/FileContent.h"
 #include "support/Machine/TempTree.h"
+#include "support/Machine/BuiltPaths.h"
 
 #include <unistd.h>
 
@@ -18,7 +19,7 @@ namespace {
 
 ProgramResult describe(const std::string& command, const std::string& path)
 {
-    return runTool("python3", {TESSERA_ARCHIVE_READER, command, path});
+    return runTool("python3", {test::built::archiveReader(), command, path});
 }
 
 std::vector<std::string> linesOf(const ProgramResult& result)
@@ -40,7 +41,7 @@ std::vector<std::string> archiverArguments(const std::string& source, const std:
 
 ProgramResult makeArchive(const std::string& source, const std::string& target)
 {
-    return runProgram(TESSERA_ARCHIVER, archiverArguments(source, target));
+    return runProgram(test::built::archiver(), archiverArguments(source, target));
 }
 
 std::vector<std::string> linesOfArchive(const std::string& archive)
@@ -79,7 +80,7 @@ ProgramResult makeArchiveWhereFails(
 {
     const TempTree out;
     ChildProcess archiver(
-        {TESSERA_ARCHIVER,
+        {test::built::archiver(),
          archiverArguments(source, target),
          {},
          out.pathOf("stdout"),
@@ -100,7 +101,7 @@ ProgramResult makeArchiveWithoutRights(const std::string& source, const std::str
     }
     const std::string rights = "-dac_override,-dac_read_search";
     std::vector<std::string> arguments{
-        "--bounding-set=" + rights, "--inh-caps=" + rights, TESSERA_ARCHIVER};
+        "--bounding-set=" + rights, "--inh-caps=" + rights, test::built::archiver()};
     for (std::string& argument : archiverArguments(source, target)) {
         arguments.push_back(std::move(argument));
     }

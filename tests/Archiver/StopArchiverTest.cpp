@@ -4,6 +4,7 @@
 #include "support/Machine/ChildProcess.h"
 #include "support/Machine/FileContent.h"
 #include "support/Machine/TempTree.h"
+#include "support/Machine/BuiltPaths.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -115,7 +116,7 @@ public:
         const Watch archive(out.path(), IN_MODIFY);
         const BlockedTermination blocked;
         m_process = std::make_unique<ChildProcess>(ChildProcessSetup{
-            TESSERA_ARCHIVER,
+            test::built::archiver(),
             {"-c", "-k", "--sequesterRsrc", source, out.pathOf("X.zip")},
             {},
             m_texts.pathOf("stdout"),
@@ -190,7 +191,7 @@ TEST_F(StopArchiver, StoppedBeforeItHasMadeAnythingItSaysSo)
 {
     const BlockedTermination blocked;
     ChildProcess archiver(
-        {TESSERA_ARCHIVER,
+        {test::built::archiver(),
          {"-c", "-k", "--sequesterRsrc", source, out.pathOf("X.zip")},
          {},
          out.pathOf("stdout"),
@@ -206,7 +207,7 @@ TEST_F(StopArchiver, StoppedWhenItHasJustMadeItsFileItSaysWhichOne)
     const FullPipe output(tree.pathOf("stdout"));
     const Watch made(out.path(), IN_CREATE);
     ChildProcess archiver(
-        {TESSERA_ARCHIVER,
+        {test::built::archiver(),
          {"-c", "-k", "--sequesterRsrc", source, out.pathOf("X.zip")},
          {},
          tree.pathOf("stdout"),
@@ -222,7 +223,7 @@ TEST_F(StopArchiver, StoppedWhenItHasJustMadeItsFileItSaysWhichOne)
 TEST_F(StopArchiver, WhoeverReadsWhatItTellsMayLeaveAndItGoesOn)
 {
     ChildProcess archiver(
-        {TESSERA_ARCHIVER,
+        {test::built::archiver(),
          {"-c", "-k", "--sequesterRsrc", tree.pathOf("X/a"), out.pathOf("a.zip")},
          {},
          out.pathOf("stdout"),

@@ -3,6 +3,7 @@
 #include "EndToEnd/Session/TreeWindowFixture.h"
 #include "support/Machine/FileContent.h"
 #include "support/Machine/RunProgram.h"
+#include "support/Machine/BuiltPaths.h"
 
 #include <sys/stat.h>
 
@@ -20,9 +21,9 @@ protected:
         // Of one component, which is all there is: so the list of what the user installed from this
         // build stays as it is.
         const ProgramResult installing = runProgram(
-            TESSERA_CMAKE,
+            test::built::cmake(),
             {"--install",
-             TESSERA_BUILD,
+             test::built::folder(),
              "--prefix",
              m_places.pathOf("usr"),
              "--component",

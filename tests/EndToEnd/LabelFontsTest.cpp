@@ -3,6 +3,7 @@
 #include "support/Machine/FileContent.h"
 #include "support/Machine/RunProgram.h"
 #include "support/Machine/TempTree.h"
+#include "support/Machine/BuiltPaths.h"
 
 #include <QByteArray>
 #include <QChar>
@@ -66,7 +67,7 @@ protected:
     {
         const std::string picture = out.pathOf("picture.png");
         const auto result = test::runProgram(
-            TESSERA_PROGRAM,
+            test::built::program(),
             {"--picture",
              picture,
              "--size",

@@ -2,6 +2,7 @@
 #include "support/Machine/FileContent.h"
 #include "support/Machine/RunProgram.h"
 #include "support/Machine/TempTree.h"
+#include "support/Machine/BuiltPaths.h"
 
 #include <QByteArray>
 #include <QImage>
@@ -23,7 +24,7 @@ using testing::StartsWith;
 
 test::ProgramResult tessera(const std::vector<std::string>& arguments)
 {
-    return test::runProgram(TESSERA_PROGRAM, arguments);
+    return test::runProgram(test::built::program(), arguments);
 }
 
 QImage pictureAt(const std::string& path)
@@ -186,7 +187,7 @@ TEST(Program, VersionIsOneLine)
 TEST(Program, WithoutADisplayItSaysSo)
 {
     const auto result = test::runProgram(
-        TESSERA_PROGRAM, {"/"}, {"DISPLAY=", "WAYLAND_DISPLAY=", "QT_QPA_PLATFORM="});
+        test::built::program(), {"/"}, {"DISPLAY=", "WAYLAND_DISPLAY=", "QT_QPA_PLATFORM="});
     EXPECT_EQ(result.exitStatus, 1);
     EXPECT_EQ(result.standardError, "tessera: there is no display; --picture draws to a file\n");
 }

@@ -3,6 +3,7 @@
 #include "support/Machine/FileContent.h"
 #include "support/Machine/RunProgram.h"
 #include "support/Machine/TempTree.h"
+#include "support/Machine/BuiltPaths.h"
 
 #include <fcntl.h>
 #include <gmock/gmock.h>
@@ -29,7 +30,7 @@ class ProgramStart : public testing::Test {
 protected:
     test::ProgramResult start(const std::vector<std::string>& environment) const
     {
-        return test::runProgram(TESSERA_PROGRAM, {folder.path()}, environment);
+        return test::runProgram(test::built::program(), {folder.path()}, environment);
     }
 
     test::ProgramResult startAfter(
@@ -38,7 +39,7 @@ protected:
         const std::string output = files.pathOf("out");
         const std::string errors = files.pathOf("err");
         test::ChildProcess child(
-            {TESSERA_PROGRAM,
+            {test::built::program(),
              arguments,
              {"QT_QPA_PLATFORM=offscreen"},
              output,
@@ -127,7 +128,7 @@ TEST_F(ProgramStart, InATerminalAFolderThatCannotBeOpenedIsSaidThere)
         ::grantpt(terminal) == 0 && ::unlockpt(terminal) == 0
         && ::ptsname_r(terminal, name.data(), name.size()) == 0);
     test::ChildProcess child(
-        {TESSERA_PROGRAM,
+        {test::built::program(),
          {files.pathOf("none")},
          {"QT_QPA_PLATFORM=offscreen", "DBUS_SESSION_BUS_ADDRESS=unix:path=/none"},
          files.pathOf("out"),
@@ -150,7 +151,7 @@ TEST_F(ProgramStart, APictureTooLargeForTheMemoryIsRefusedBeforeTheScan)
         "/bin/sh",
         {"-c",
          R"(ulimit -v 3000000; exec "$0" "$@")",
-         TESSERA_PROGRAM,
+         test::built::program(),
          "--picture",
          files.pathOf("picture"),
          "--size=32767x32767",
@@ -189,7 +190,7 @@ TEST_F(ProgramStart, APictureHasNothingToDoWithTheSessionsBus)
 {
     const ListeningBus bus(files.pathOf("bus"));
     const auto result = test::runProgram(
-        TESSERA_PROGRAM,
+        test::built::program(),
         {"--picture", files.pathOf("picture"), folder.path()},
         {"DBUS_SESSION_BUS_ADDRESS=unix:path=" + files.pathOf("bus")});
     EXPECT_EQ(result.exitStatus, 0) << result.standardError;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "EndToEnd/Desk/Eventually.h"
 #include "EndToEnd/Session/WholeProgramFixture.h"
+#include "support/Machine/BuiltPaths.h"
 
 #include <QImage>
 
@@ -64,7 +65,7 @@ protected:
             return hasLook(picture.pixel(ground - part.topLeft())) && hasDrawing(picture);
         }));
         EXPECT_EQ(picture.size(), part.size());
-        const std::string folder = std::string(TESSERA_SCREENSHOTS "/") + GetParam().name;
+        const std::string folder = std::string(test::built::screenshots()) + "/" + GetParam().name;
         std::filesystem::create_directories(folder);
         ASSERT_TRUE(picture.save(QString::fromStdString(folder + '/' + name + ".png")));
     }

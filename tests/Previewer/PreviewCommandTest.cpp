@@ -5,6 +5,7 @@
 #include "support/Machine/FileContent.h"
 #include "support/Machine/RunProgram.h"
 #include "support/Machine/TempTree.h"
+#include "support/Machine/BuiltPaths.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -51,7 +52,7 @@ public:
         EXPECT_EQ(::pipe2(pipe.data(), O_CLOEXEC), 0);
         m_answer = pipe[0];
         m_process = std::make_unique<ChildProcess>(ChildProcessSetup{
-            TESSERA_PREVIEWER,
+            test::built::previewer(),
             {"picture", "300", "300"},
             {},
             m_tree.pathOf("out"),
@@ -323,7 +324,7 @@ TEST(PreviewCommandOfACrashedProgram, EndsWithIt)
         if (process == 0) {
             ::dup2(::open(tree.pathOf("a.png").c_str(), O_RDONLY), STDIN_FILENO);
             ::dup2(pipe[1], STDOUT_FILENO);
-            ::execl(TESSERA_PREVIEWER, TESSERA_PREVIEWER, "picture", "300", "300", nullptr);
+            ::execl(test::built::previewer(), test::built::previewer(), "picture", "300", "300", nullptr);
             ::_exit(127);
         }
         std::array<char, kFrameBytes> frame{};
@@ -341,7 +342,7 @@ TEST(PreviewCommandOfACrashedProgram, EndsWithIt)
 TEST(PreviewCommandLine, HasOneFormOnly)
 {
     for (const Words& arguments : {Words{}, Words{"--help"}, Words{"picture", "300"}}) {
-        const ProgramResult result = runProgram(TESSERA_PREVIEWER, arguments);
+        const ProgramResult result = runProgram(test::built::previewer(), arguments);
         EXPECT_EQ(result.exitStatus, 2);
         EXPECT_EQ(
             result.standardError, "usage: tessera-preview picture|pages WIDTH HEIGHT <FILE\n");
@@ -352,7 +353,7 @@ TEST(PreviewCommandLine, HasOneFormOnly)
 TEST(PreviewCommandLine, ReadsNothingButARegularFile)
 {
     // A program of the tests has the null device as its standard input.
-    const ProgramResult result = runProgram(TESSERA_PREVIEWER, {"picture", "300", "300"});
+    const ProgramResult result = runProgram(test::built::previewer(), {"picture", "300", "300"});
 
     EXPECT_EQ(result.exitStatus, 1);
     EXPECT_EQ(result.standardError, "tessera-preview: standard input is no regular file\n");

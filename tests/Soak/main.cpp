@@ -9,6 +9,7 @@
 #include "Start/WindowedProgram.h"
 #include "support/Machine/ChildProcess.h"
 #include "support/Machine/SessionBusConfiguration.h"
+#include "support/Machine/BuiltPaths.h"
 
 #include <QApplication>
 #include <QImage>
@@ -170,7 +171,7 @@ int main(int argc, char** argv)
     if (commandLine->sandbox.empty()) {
         std::vector<std::string> again(arguments.begin(), arguments.end());
         again.emplace_back(kInside);
-        return runInSandbox(again, {TESSERA_ARCHIVER, TESSERA_PREVIEWER});
+        return runInSandbox(again, {tessera::test::built::archiver(), tessera::test::built::previewer()});
     }
     const int status = runInside(*commandLine, argc, argv);
     if (::waitpid(-1, nullptr, WNOHANG) != -1) {

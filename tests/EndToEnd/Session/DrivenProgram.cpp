@@ -3,6 +3,7 @@
 
 #include "SessionEnvironment.h"
 #include "support/Machine/FileContent.h"
+#include "support/Machine/BuiltPaths.h"
 
 #include <cstdlib>
 
@@ -25,7 +26,7 @@ DrivenProgram::DrivenProgram(
     const std::string& folder, const std::string& installed, const std::string& path)
     : m_desk(m_server.display())
     , m_process(
-          {installed.empty() ? TESSERA_PROGRAM : installed,
+          {installed.empty() ? test::built::program() : installed,
            {folder},
            withPath(
                sessionEnvironment(

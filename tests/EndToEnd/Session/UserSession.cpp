@@ -5,6 +5,7 @@
 #include "SessionEnvironment.h"
 #include "support/Machine/FileContent.h"
 #include "support/Machine/SessionBusConfiguration.h"
+#include "support/Machine/BuiltPaths.h"
 
 #include <unistd.h>
 
@@ -63,7 +64,7 @@ ChildProcessSetup UserSession::setup(const std::vector<std::string>& arguments)
 {
     ++m_programs;
     return {
-        TESSERA_PROGRAM,
+        test::built::program(),
         arguments,
         m_environment,
         m_folders.pathOf("out-" + std::to_string(m_programs)),

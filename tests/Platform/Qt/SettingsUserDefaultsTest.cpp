@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Qt/SettingsUserDefaults.h"
+#include "support/Machine/BuiltPaths.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -261,7 +262,7 @@ TEST_F(SettingsUserDefaultsOnDisk, AnEmptyLockOfAKilledProcessIsRemoved)
 int lastNumberOfAKilledWriter(const QString& path, int writes)
 {
     QProcess writer;
-    writer.start(QStringLiteral(TESSERA_SETTINGS_WRITER), {path});
+    writer.start(QString::fromUtf8(test::built::settingsWriter()), {path});
     QByteArray output;
     while (output.count('\n') < writes && writer.waitForReadyRead()) {
         output += writer.readAllStandardOutput();

@@ -7,6 +7,7 @@
 #include "QuickLook/Reading/SampleFiles.h"
 #include "support/Machine/FileContent.h"
 #include "support/Machine/TempTree.h"
+#include "support/Machine/BuiltPaths.h"
 
 #include <QBuffer>
 #include <QImage>
@@ -66,7 +67,7 @@ protected:
         const RasterRequest& request,
         const std::stop_token& stop = {}) const
     {
-        return ChildRasterDecoder(TESSERA_PREVIEWER).decode(*fileOf(bytes), request, stop);
+        return ChildRasterDecoder(test::built::previewer()).decode(*fileOf(bytes), request, stop);
     }
 
     /// The path of a program that does what the shell's words say.
@@ -351,7 +352,7 @@ protected:
 
 TEST_F(EndlessDecoding, IsKilledWhenItIsCancelled)
 {
-    const pid_t process = start(pdfThatNeverEnds(), std::string(TESSERA_PREVIEWER) + " \"$@\"");
+    const pid_t process = start(pdfThatNeverEnds(), std::string(test::built::previewer()) + " \"$@\"");
 
     cancelling.request_stop();
 
@@ -373,12 +374,12 @@ TEST_F(EndlessDecoding, IsKilledThoughItHasLeftItsOutput)
 
 TEST_F(EndlessDecoding, EndsNoOther)
 {
-    (void)start(pdfThatNeverEnds(), std::string(TESSERA_PREVIEWER) + " \"$@\"");
+    (void)start(pdfThatNeverEnds(), std::string(test::built::previewer()) + " \"$@\"");
 
     TempTree others;
     others.writeFile("a.png", imageFile({3, 3}, "png"));
     const auto file = LinuxFileReader().open(others.pathOf("a.png")).content;
-    const RasterAnswer other = ChildRasterDecoder(TESSERA_PREVIEWER).decode(*file, kPicture, {});
+    const RasterAnswer other = ChildRasterDecoder(test::built::previewer()).decode(*file, kPicture, {});
 
     EXPECT_EQ(other.rasters.size(), 1U);
     cancelling.request_stop();
