@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "Base/DeadMountLimits.h"
 #include "Base/Log.h"
+#include "DeadMounts/DeadMountLimits.h"
 #include "Platform/PlatformServices.h"
 #include "PlatformLaunchServices.h"
 #include "Start/CommandLine.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Starts programs with a window, in turn, and times each until the screen stays as it is:
 // StartBench ROUNDS PROGRAM... Needs an X server of its own.
-#include "Base/DeadMountLimits.h"
+#include "DeadMounts/DeadMountLimits.h"
 #include "Model/Recents.h"
 #include "Model/TopFolder.h"
 #include "Platform/Linux/Desktop/XbelRecentDocuments.h"

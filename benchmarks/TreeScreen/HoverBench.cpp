@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Times the main thread's work from a move of the pointer over the map to the tooltip in its place
 // and painted: HoverBench [ITEMS] [MOVES]
-#include "Base/DeadMountLimits.h"
+#include "DeadMounts/DeadMountLimits.h"
 #include "Layout/LevelRenderer.h"
 #include "Model/Defaults.h"
 #include "Platform/Linux/Mounts/LinuxResourceValues.h"

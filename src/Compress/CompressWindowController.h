@@ -3,7 +3,7 @@
 
 #include "Base/FileIdentity.h"
 #include "Base/Url.h"
-#include "Base/WithTimeLimit.h"
+#include "DeadMounts/WithTimeLimit.h"
 #include "Desktop/Task.h"
 
 #include <QObject>

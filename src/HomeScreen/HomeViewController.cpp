@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "HomeScreen/HomeViewController.h"
 
-#include "Base/DeadMountLimits.h"
 #include "Base/Log.h"
+#include "DeadMounts/DeadMountLimits.h"
 #include "Desktop/UserAccount.h"
 #include "HomeScreen/Grid/CollectionHeaderView.h"
 #include "HomeScreen/Grid/SectionedCollectionView.h"

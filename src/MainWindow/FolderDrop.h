@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Base/Url.h"
-#include "Base/WithTimeLimit.h"
+#include "DeadMounts/WithTimeLimit.h"
 
 #include <QObject>
 

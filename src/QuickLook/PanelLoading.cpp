@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "QuickLook/PanelLoading.h"
 
-#include "Base/DeadMountLimits.h"
-#include "Base/QuestionThreads.h"
+#include "DeadMounts/DeadMountLimits.h"
+#include "DeadMounts/QuestionThreads.h"
 #include "QuickLook/QuickLookServices.h"
 #include "QuickLook/Reading/PreviewLoader.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Base/WithTimeLimit.h"
+#include "DeadMounts/WithTimeLimit.h"
 #include "HomeScreen/HomeViewServices.h"
 #include "Model/RootModel.h"
 #include "Scanning/ScanEnvironment.h"

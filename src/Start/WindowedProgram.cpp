@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Start/WindowedProgram.h"
 
-#include "Base/QuestionThreads.h"
+#include "DeadMounts/QuestionThreads.h"
 #include "Desktop/EndRequests.h"
 #include "Desktop/FileAccess.h"
 #include "Desktop/RunningInstance.h"

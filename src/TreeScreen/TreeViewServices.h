@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Base/WithTimeLimit.h"
 #include "Compress/CompressWindowController.h"
+#include "DeadMounts/WithTimeLimit.h"
 #include "Scanning/ScanEnvironment.h"
 #include "Widgets/FrameClock.h"
 

@@ -3,7 +3,7 @@
 #include "EndToEnd/Desk/Eventually.h"
 #include "EndToEnd/Desk/PixelColors.h"
 #include "EndToEnd/Session/TreeWindowFixture.h"
-#include "Previewer/HostileFiles.h"
+#include "HelperPrograms/Previewer/HostileFiles.h"
 #include "QuickLook/Reading/SampleFiles.h"
 #include "support/Machine/FileContent.h"
 

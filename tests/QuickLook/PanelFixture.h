@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Base/QuestionThreads.h"
+#include "DeadMounts/QuestionThreads.h"
 #include "QuickLook/QuickLookPanel.h"
 #include "QuickLook/QuickLookServices.h"
 #include "QuickLook/Reading/FakeFileReader.h"

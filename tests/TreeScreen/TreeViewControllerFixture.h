@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Base/QuestionThreads.h"
 #include "Compress/CompressWindowController.h"
+#include "DeadMounts/QuestionThreads.h"
 #include "Model/FreeSpace.h"
 #include "Model/RootModel.h"
 #include "Model/TimeMachine.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/PlatformServices.h"
 
-#include "Base/DeadMountLimits.h"
+#include "DeadMounts/DeadMountLimits.h"
 #include "Platform/Linux/Desktop/DBusRunningInstance.h"
 #include "Platform/Linux/Desktop/DBusWorkspace.h"
 #include "Platform/Linux/Desktop/DesktopColorSchemePreference.h"

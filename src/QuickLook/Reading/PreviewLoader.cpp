@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "QuickLook/Reading/PreviewLoader.h"
 
-#include "Base/DeadMountLimits.h"
-#include "Base/QuestionThreads.h"
+#include "DeadMounts/DeadMountLimits.h"
+#include "DeadMounts/QuestionThreads.h"
 #include "QuickLook/Reading/PreviewReading.h"
 
 #include <QCoreApplication>

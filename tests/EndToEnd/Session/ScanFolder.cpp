@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ScanFolder.h"
 
-#include "Base/DeadMountLimits.h"
+#include "DeadMounts/DeadMountLimits.h"
 #include "Platform/Linux/Mounts/LinuxFileSystemAttributes.h"
 #include "Platform/Linux/Mounts/LinuxResourceValues.h"
 #include "Platform/Linux/Walk/LinuxFileManager.h"

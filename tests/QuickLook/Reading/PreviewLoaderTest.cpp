@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "QuickLook/Reading/PreviewLoader.h"
 
-#include "Base/QuestionThreads.h"
+#include "DeadMounts/QuestionThreads.h"
 #include "QuickLook/Reading/FakeFileReader.h"
 #include "QuickLook/Reading/FakeRasterDecoder.h"
 #include "support/Machine/WithoutThreads.h"

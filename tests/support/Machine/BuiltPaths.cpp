@@ -39,7 +39,7 @@ const char *screenshots()
 
 const char *archiveReader()
 {
-    return TESSERA_TESTS "/Archiver/readArchive.py";
+    return TESSERA_TESTS "/HelperPrograms/Archiver/readArchive.py";
 }
 
 const char *xbelReader()

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Archiver/ArchiveOutput.h"
+#include "HelperPrograms/Archiver/ArchiveOutput.h"
 #include "Platform/Linux/Files/FileDescriptor.h"
 #include "Platform/Linux/Files/LongPath.h"
 

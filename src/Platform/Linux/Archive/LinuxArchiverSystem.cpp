@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "Archiver/ArchiverSystem.h"
 #include "Compress/ArchivePaths.h"
+#include "HelperPrograms/Archiver/ArchiverSystem.h"
 #include "Platform/Linux/Archive/EndLater.h"
 #include "Platform/Linux/Archive/LinuxArchiveOutput.h"
 #include "Platform/Linux/Archive/LinuxSourceWalk.h"

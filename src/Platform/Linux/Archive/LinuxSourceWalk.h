@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Archiver/SourceWalk.h"
+#include "HelperPrograms/Archiver/SourceWalk.h"
 #include "Platform/Linux/Archive/SparseFileReader.h"
 #include "Platform/Linux/Files/FileStatus.h"
 #include "Platform/Linux/Files/LongPath.h"

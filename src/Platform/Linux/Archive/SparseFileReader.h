@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Archiver/SourceWalk.h"
+#include "HelperPrograms/Archiver/SourceWalk.h"
 #include "Platform/Linux/Files/FileDescriptor.h"
 
 #include <cstdint>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Archiver/ArchiveItem.h"
+#include "HelperPrograms/Archiver/ArchiveItem.h"
 
 #include <vector>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/Desktop/XbelRecentDocuments.h"
 
-#include "Base/DeadMountLimits.h"
 #include "Base/StartThread.h"
+#include "DeadMounts/DeadMountLimits.h"
 #include "Model/UserDefaults.h"
 #include "Platform/Linux/Desktop/XbelContent.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Base/QuestionThreads.h"
+#include "DeadMounts/QuestionThreads.h"
 #include "Platform/Linux/Files/FileStatus.h"
 
 #include <chrono>

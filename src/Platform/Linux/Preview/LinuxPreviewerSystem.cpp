@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "HelperPrograms/Previewer/PreviewerSystem.h"
 #include "Platform/Linux/Preview/DiskFence.h"
 #include "Platform/Linux/Preview/LinuxReadableFile.h"
 #include "Platform/Linux/Preview/SystemCallFilter.h"
-#include "Previewer/PreviewerSystem.h"
 
 #include <linux/capability.h>
 #include <sched.h>

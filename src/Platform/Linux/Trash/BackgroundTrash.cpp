@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/Trash/BackgroundTrash.h"
 
-#include "Base/DeadMountLimits.h"
 #include "Base/StartThread.h"
+#include "DeadMounts/DeadMountLimits.h"
 #include "Scanning/MainThread.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/Archive/LinuxArchiveOutput.h"
 
-#include "Archiver/ArchiverSystem.h"
+#include "HelperPrograms/Archiver/ArchiverSystem.h"
 #include "Platform/Linux/Files/FileStatus.h"
 #include "support/Machine/FailingCalls.h"
 #include "support/Machine/FileContent.h"

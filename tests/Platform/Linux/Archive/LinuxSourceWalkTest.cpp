@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/Archive/LinuxSourceWalk.h"
 
-#include "Archiver/ArchiverSystem.h"
+#include "HelperPrograms/Archiver/ArchiverSystem.h"
 #include "support/Machine/Meanwhile.h"
 #include "support/Machine/TempTree.h"
 

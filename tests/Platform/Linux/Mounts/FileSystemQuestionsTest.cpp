@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/Mounts/FileSystemQuestions.h"
 
-#include "Base/DeadMountLimits.h"
+#include "DeadMounts/DeadMountLimits.h"
 #include "support/Machine/DeadFileSystem.h"
 #include "support/Machine/WithoutThreads.h"
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/Preview/ChildRasterDecoder.h"
 
+#include "HelperPrograms/Previewer/HostileFiles.h"
 #include "Platform/Linux/Preview/LinuxFileReader.h"
-#include "Previewer/HostileFiles.h"
 #include "QuickLook/Reading/RasterFrame.h"
 #include "QuickLook/Reading/SampleFiles.h"
+#include "support/Machine/BuiltPaths.h"
 #include "support/Machine/FileContent.h"
 #include "support/Machine/TempTree.h"
-#include "support/Machine/BuiltPaths.h"
 
 #include <QBuffer>
 #include <QImage>
@@ -352,7 +352,8 @@ protected:
 
 TEST_F(EndlessDecoding, IsKilledWhenItIsCancelled)
 {
-    const pid_t process = start(pdfThatNeverEnds(), std::string(test::built::previewer()) + " \"$@\"");
+    const pid_t process
+        = start(pdfThatNeverEnds(), std::string(test::built::previewer()) + " \"$@\"");
 
     cancelling.request_stop();
 
@@ -379,7 +380,8 @@ TEST_F(EndlessDecoding, EndsNoOther)
     TempTree others;
     others.writeFile("a.png", imageFile({3, 3}, "png"));
     const auto file = LinuxFileReader().open(others.pathOf("a.png")).content;
-    const RasterAnswer other = ChildRasterDecoder(test::built::previewer()).decode(*file, kPicture, {});
+    const RasterAnswer other
+        = ChildRasterDecoder(test::built::previewer()).decode(*file, kPicture, {});
 
     EXPECT_EQ(other.rasters.size(), 1U);
     cancelling.request_stop();
