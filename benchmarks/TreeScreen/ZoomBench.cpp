@@ -182,6 +182,22 @@ ScanEnvironment scanEnvironment(const PlatformServices& services)
 }
 
 /// Whether the figures it prints stand for anything.
+bool zoomInAndOut(TreeMapView& map, TreeViewController& controller, QSize size, std::size_t zooms)
+{
+    const std::vector<Folder*> folders = shownFolders(*map.branches().front());
+    if (folders.empty() || map.size() != size) {
+        return false;
+    }
+    Folder& whole = *controller.currentFolder();
+    Zooming zooming(map);
+    for (std::size_t i = 0; i < zooms; i += 2) {
+        Folder& folder = *folders[i / 2 % folders.size()];
+        zooming.zoom([&] { controller.zoomInFolder(folder); });
+        zooming.zoom([&] { controller.zoomOutFolder(whole); });
+    }
+    return zooming.report();
+}
+
 bool measure(
     RootModel& model,
     const PlatformServices& services,
@@ -189,10 +205,10 @@ bool measure(
     QSize size,
     std::size_t zooms)
 {
-    const FullMotion motion;
     TreeMapView map(*services.userDefaults);
     map.resize(size);
     map.show();
+    const FullMotion motion;
     MessageBoxAlert alert;
     DesktopIconProvider icons;
     std::set<std::string> targetsInUse;
@@ -218,17 +234,7 @@ bool measure(
          .diskChanges = diskChanges,
          .checkFolder = [](const std::string&) { return std::error_code(); }});
     QCoreApplication::processEvents();
-    const std::vector<Folder*> folders = shownFolders(*map.branches().front());
-    if (folders.empty() || map.size() != size) {
-        return false;
-    }
-    Zooming zooming(map);
-    for (std::size_t i = 0; i < zooms; i += 2) {
-        Folder& folder = *folders[i / 2 % folders.size()];
-        zooming.zoom([&] { controller.zoomInFolder(folder); });
-        zooming.zoom([&] { controller.zoomOutFolder(*model.topFolder()); });
-    }
-    return zooming.report();
+    return zoomInAndOut(map, controller, size, zooms);
 }
 
 bool measureFolder(const char* folder, std::size_t zooms)

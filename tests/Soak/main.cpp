@@ -7,9 +7,9 @@
 #include "Scanning/ScanWorkers.h"
 #include "SoakRun.h"
 #include "Start/WindowedProgram.h"
+#include "support/Machine/BuiltPaths.h"
 #include "support/Machine/ChildProcess.h"
 #include "support/Machine/SessionBusConfiguration.h"
-#include "support/Machine/BuiltPaths.h"
 
 #include <QApplication>
 #include <QImage>
@@ -111,17 +111,20 @@ QByteArray addressOf(ChildProcess& bus, const std::string& sandbox)
     return {};
 }
 
+// Without Qt's processes: these leave the thread sanitizer blind for the main thread's locks.
+ChildProcessSetup busCommand(const std::string& sandbox)
+{
+    return {
+        "dbus-daemon",
+        {"--config-file=" + writeBusConfiguration(sandbox), "--nofork", "--print-address"},
+        {},
+        sandbox + "/run/address",
+        sandbox + "/run/bus.log"};
+}
+
 int runInside(const CommandLine& commandLine, int& argc, char** argv)
 {
-    // Without Qt's processes: these leave the thread sanitizer blind for the main thread's locks.
-    ChildProcess bus(
-        {"dbus-daemon",
-         {"--config-file=" + writeBusConfiguration(commandLine.sandbox),
-          "--nofork",
-          "--print-address"},
-         {},
-         commandLine.sandbox + "/run/address",
-         commandLine.sandbox + "/run/bus.log"});
+    ChildProcess bus(busCommand(commandLine.sandbox));
     const QByteArray address = addressOf(bus, commandLine.sandbox);
     if (address.isEmpty()) {
         (void)std::fputs("soak: no session bus\n", stderr);
@@ -171,7 +174,8 @@ int main(int argc, char** argv)
     if (commandLine->sandbox.empty()) {
         std::vector<std::string> again(arguments.begin(), arguments.end());
         again.emplace_back(kInside);
-        return runInSandbox(again, {tessera::test::built::archiver(), tessera::test::built::previewer()});
+        return runInSandbox(
+            again, {tessera::test::built::archiver(), tessera::test::built::previewer()});
     }
     const int status = runInside(*commandLine, argc, argv);
     if (::waitpid(-1, nullptr, WNOHANG) != -1) {

@@ -56,6 +56,46 @@ bool isSet(const char* variable)
     return value != nullptr && *value != '\0';
 }
 
+/// Workers wait longer for a file system than the main thread.
+void askFileSystems(PlatformServices& services)
+{
+    const auto patient = std::make_shared<const FileSystemQuestions>(kWorkerPatience);
+    const auto limited = std::make_shared<const FileSystemQuestions>(kMainThreadPatience);
+    services.fileManager = std::make_unique<LinuxFileManager>();
+    services.resourceValues = std::make_shared<const LinuxResourceValues>(patient);
+    services.fileSystemAttributes = std::make_shared<const LinuxFileSystemAttributes>(patient);
+    services.fileAccess = std::make_unique<LinuxFileAccess>();
+    services.withTimeLimit
+        = {.resourceValues = std::make_unique<LinuxResourceValues>(limited),
+           .fileSystemAttributes = std::make_unique<LinuxFileSystemAttributes>(limited),
+           .fileAccess = std::make_unique<LinuxFileAccess>(limited)};
+    services.mountedVolumes = std::make_unique<LinuxMountedVolumes>(limited);
+    services.recentDocuments = std::make_unique<XbelRecentDocuments>(
+        XbelRecentDocuments::defaultFilePath(), *services.userDefaults, limited);
+}
+
+void joinDesktop(PlatformServices& services, const QDBusConnection& bus)
+{
+    services.standardFolders = std::make_unique<LinuxStandardFolders>();
+    services.colorSchemePreference = std::make_unique<DesktopColorSchemePreference>(bus);
+    services.motionPreference = std::make_unique<DesktopMotionPreference>();
+    services.launcherProgress = std::make_unique<UnityLauncherProgress>(bus);
+    services.runningInstance = std::make_unique<DBusRunningInstance>(bus);
+    services.workspace = std::make_unique<DBusWorkspace>(bus, *services.mainThread);
+    services.helpFolder = findHelpFolder(executableFolder());
+    services.words = std::make_unique<LinuxWords>();
+    QCoreApplication::installTranslator(services.words.get());
+}
+
+void startPrograms(PlatformServices& services)
+{
+    services.makeTask = [] { return std::make_unique<ChildProcessTask>(); };
+    services.archiver = executableFolder() + "/tessera-ditto";
+    services.fileReader = std::make_shared<LinuxFileReader>();
+    services.rasterDecoder
+        = std::make_shared<ChildRasterDecoder>(executableFolder() + "/tessera-preview");
+}
+
 } // namespace
 
 bool PlatformServices::hasDisplay()
@@ -71,44 +111,20 @@ bool PlatformServices::hasTerminal()
 
 PlatformServices makePlatformServices(Session session)
 {
-    const QDBusConnection bus
-        = session == Session::TakePart ? QDBusConnection::sessionBus() : QDBusConnection(QString());
     returnLargeBlocksAtOnce();
     PlatformServices services;
-    services.fileManager = std::make_unique<LinuxFileManager>();
-    const auto patient = std::make_shared<const FileSystemQuestions>(kWorkerPatience);
-    services.resourceValues = std::make_shared<const LinuxResourceValues>(patient);
-    services.fileSystemAttributes = std::make_shared<const LinuxFileSystemAttributes>(patient);
-    const auto limited = std::make_shared<const FileSystemQuestions>(kMainThreadPatience);
-    services.withTimeLimit
-        = {.resourceValues = std::make_unique<LinuxResourceValues>(limited),
-           .fileSystemAttributes = std::make_unique<LinuxFileSystemAttributes>(limited),
-           .fileAccess = std::make_unique<LinuxFileAccess>(limited)};
-    services.mountedVolumes = std::make_unique<LinuxMountedVolumes>(limited);
-    services.fileAccess = std::make_unique<LinuxFileAccess>();
-    services.fileReader = std::make_shared<LinuxFileReader>();
-    services.rasterDecoder
-        = std::make_shared<ChildRasterDecoder>(executableFolder() + "/tessera-preview");
-    services.standardFolders = std::make_unique<LinuxStandardFolders>();
-    services.userAccount = std::make_unique<LinuxUserAccount>();
+    services.mainThread = std::make_unique<QtMainThread>();
     services.userDefaults
         = std::make_unique<SettingsUserDefaults>(SettingsUserDefaults::defaultFilePath());
-    services.recentDocuments = std::make_unique<XbelRecentDocuments>(
-        XbelRecentDocuments::defaultFilePath(), *services.userDefaults, limited);
-    services.colorSchemePreference = std::make_unique<DesktopColorSchemePreference>(bus);
-    services.motionPreference = std::make_unique<DesktopMotionPreference>();
-    services.launcherProgress = std::make_unique<UnityLauncherProgress>(bus);
-    services.runningInstance = std::make_unique<DBusRunningInstance>(bus);
+    askFileSystems(services);
+    joinDesktop(
+        services,
+        session == Session::TakePart ? QDBusConnection::sessionBus() : QDBusConnection(QString()));
+    startPrograms(services);
+    services.userAccount = std::make_unique<LinuxUserAccount>();
     services.endRequests = std::make_unique<SignalEndRequests>();
-    services.mainThread = std::make_unique<QtMainThread>();
-    services.workspace = std::make_unique<DBusWorkspace>(bus, *services.mainThread);
-    services.makeTask = [] { return std::make_unique<ChildProcessTask>(); };
-    services.archiver = executableFolder() + "/tessera-ditto";
-    services.helpFolder = findHelpFolder(executableFolder());
     services.clock = coarseSeconds;
     services.availableMemory = availableMemory();
-    services.words = std::make_unique<LinuxWords>();
-    QCoreApplication::installTranslator(services.words.get());
     return services;
 }
 
