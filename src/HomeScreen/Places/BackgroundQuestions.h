@@ -36,7 +36,8 @@ public:
     }
 
     /// Waits until all questions are answered, at most for that time, and hands on what is answered
-    /// by then. The usual answer takes no longer than a system call.
+    /// by then. The usual answer takes no longer than a system call. To be called when all
+    /// questions have been asked: nobody waits for one that is asked later.
     void waitBriefly(std::chrono::milliseconds patience);
 
 protected:
