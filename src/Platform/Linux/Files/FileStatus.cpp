@@ -18,11 +18,17 @@ namespace tessera {
 
 namespace {
 
-constexpr std::uint64_t kBytesPerBlock = 512;
 constexpr unsigned kWanted = STATX_TYPE | STATX_MODE | STATX_UID | STATX_GID | STATX_SIZE
     | STATX_INO | STATX_BLOCKS | STATX_MTIME | STATX_MNT_ID;
 
 constexpr int kOpenFlags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+
+/// Both calls count in blocks of 512 bytes, whatever the file system's own are.
+std::uint64_t allocatedBytes(std::uint64_t blocks)
+{
+    constexpr std::uint64_t kBytesPerBlock = 512;
+    return saturatingProduct(blocks, kBytesPerBlock);
+}
 
 FileStatus fromStatx(const struct statx& values)
 {
@@ -34,7 +40,7 @@ FileStatus fromStatx(const struct statx& values)
     status.owner = values.stx_uid;
     status.group = values.stx_gid;
     status.length = values.stx_size;
-    status.allocatedBytes = saturatingProduct(values.stx_blocks, kBytesPerBlock);
+    status.allocatedBytes = allocatedBytes(values.stx_blocks);
     status.modified = values.stx_mtime.tv_sec;
     if ((values.stx_mask & STATX_MNT_ID) != 0) {
         status.mountId = values.stx_mnt_id;
@@ -56,8 +62,7 @@ FileStatus fromStat(const struct stat& values)
     status.owner = values.st_uid;
     status.group = values.st_gid;
     status.length = static_cast<std::uint64_t>(values.st_size);
-    status.allocatedBytes
-        = saturatingProduct(static_cast<std::uint64_t>(values.st_blocks), kBytesPerBlock);
+    status.allocatedBytes = allocatedBytes(static_cast<std::uint64_t>(values.st_blocks));
     status.modified = values.st_mtim.tv_sec;
     return status;
 }
