@@ -3,7 +3,6 @@
 
 #include "Platform/Linux/Files/RealPath.h"
 #include "Platform/Linux/Files/RenameWithoutReplacing.h"
-#include "Platform/Linux/Files/WriteAll.h"
 #include "Platform/Linux/Mounts/MountBoundary.h"
 #include "Platform/Linux/Mounts/MountTable.h"
 #include "Platform/Linux/Process/LinuxUserAccount.h"
@@ -86,42 +85,17 @@ std::size_t maxNameBytes(const TrashDirectory& trash)
     return static_cast<std::size_t>(limit > 0 ? std::min(limit, kMaxNameBytes) : kMaxNameBytes);
 }
 
-void removeInfo(const TrashDirectory& trash, const std::string& infoName)
-{
-    ::unlinkat(trash.info.number(), infoName.c_str(), 0);
-}
-
-/// Takes a name for an item: whoever makes the info file owns the name. 0, or the errno.
-int makeInfo(const TrashDirectory& trash, const std::string& infoName, const std::string& text)
-{
-    constexpr mode_t kPrivateMode = 0600;
-    const FileDescriptor file(::openat(
-        trash.info.number(),
-        infoName.c_str(),
-        O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
-        kPrivateMode));
-    if (!file.isOpen()) {
-        return errno;
-    }
-    const std::error_code error = writeAll(file, text);
-    if (error) {
-        removeInfo(trash, infoName);
-    }
-    return error.value();
-}
-
 /// Moves the item into the trash under that name. 0, or the errno; then nothing has changed, except
 /// that what may be in the trash keeps its info file.
 int moveAs(const std::string& name, const TrashItem& item, const TrashDirectory& trash)
 {
-    const std::string infoName = name + std::string(kTrashInfoSuffix);
-    const std::string text = trashInfoText(originalPath(item, trash), std::time(nullptr));
-    if (const int error = makeInfo(trash, infoName, text); error != 0) {
-        return error;
+    const int infoError = makeTrashInfo(trash.info, name, originalPath(item, trash));
+    if (infoError != 0) {
+        return infoError;
     }
     const int error = renameWithoutReplacing({item.parent, item.name}, {trash.files, name});
     if (error != 0 && error != kMoveUncertain) {
-        removeInfo(trash, infoName);
+        removeTrashInfo(trash.info, name);
     }
     return error;
 }

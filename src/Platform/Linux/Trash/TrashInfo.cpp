@@ -3,8 +3,13 @@
 
 #include "Base/FileNames.h"
 #include "Base/Url.h"
+#include "Platform/Linux/Files/WriteAll.h"
+
+#include <fcntl.h>
+#include <unistd.h>
 
 #include <array>
+#include <cerrno>
 
 namespace tessera {
 
@@ -31,12 +36,43 @@ std::string localTime(std::time_t time)
     return {text.data(), length};
 }
 
+std::string trashInfoName(const std::string& name)
+{
+    return name + std::string(kTrashInfoSuffix);
+}
+
 } // namespace
 
 std::string trashInfoText(std::string_view originalPath, std::time_t deletionTime)
 {
     return "[Trash Info]\nPath=" + percentEncoded(originalPath)
         + "\nDeletionDate=" + localTime(deletionTime) + '\n';
+}
+
+int makeTrashInfo(
+    const FileDescriptor& infoFolder, const std::string& name, std::string_view originalPath)
+{
+    constexpr mode_t kPrivateMode = 0600;
+    const std::string infoName = trashInfoName(name);
+    const std::string text = trashInfoText(originalPath, std::time(nullptr));
+    const FileDescriptor file(::openat(
+        infoFolder.number(),
+        infoName.c_str(),
+        O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
+        kPrivateMode));
+    if (!file.isOpen()) {
+        return errno;
+    }
+    const std::error_code error = writeAll(file, text);
+    if (error) {
+        removeTrashInfo(infoFolder, name);
+    }
+    return error.value();
+}
+
+void removeTrashInfo(const FileDescriptor& infoFolder, const std::string& name)
+{
+    ::unlinkat(infoFolder.number(), trashInfoName(name).c_str(), 0);
 }
 
 std::string trashName(std::string_view name, unsigned number, std::size_t maxBytes)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Platform/Linux/Files/FileDescriptor.h"
+
 #include <cstddef>
 #include <ctime>
 #include <string>
@@ -14,6 +16,14 @@ inline constexpr std::string_view kTrashInfoSuffix = ".trashinfo";
 /// The content of that file: where the item was, as the bytes of a path, and when it went, in local
 /// time. https://specifications.freedesktop.org/trash-spec/1.0/
 [[nodiscard]] std::string trashInfoText(std::string_view originalPath, std::time_t deletionTime);
+
+/// Makes that file for an item that goes now, in the open folder "info", and so takes the name for
+/// the item: whoever makes the info file owns the name. 0, or the errno; then there is no new file.
+[[nodiscard]] int makeTrashInfo(
+    const FileDescriptor& infoFolder, const std::string& name, std::string_view originalPath);
+
+/// Gives the name back, when the item did not come.
+void removeTrashInfo(const FileDescriptor& infoFolder, const std::string& name);
 
 /// The name for an item in the trash: from number 2 on with that number before the extension, and
 /// so short that with the suffix above it is no longer than `maxBytes`. A name is cut at the end

@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/Trash/TrashInfo.h"
 
+#include "Platform/Linux/Files/FileStatus.h"
+#include "support/Machine/TempTree.h"
+
+#include <fcntl.h>
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <cstdlib>
 #include <ctime>
 #include <string>
@@ -56,6 +61,17 @@ TEST(TrashInfo, ThePathsBytesArePercentEncodedButItsSlashesAreNot)
     EXPECT_EQ(
         trashInfoText("a b/\xC3\xBC\xFF\n%=[", 0),
         "[Trash Info]\nPath=a%20b/%C3%BC%FF%0A%25=%5B\nDeletionDate=1970-01-01T00:00:00\n");
+}
+
+TEST(TrashInfo, TakesTheNameUntilItIsRemoved)
+{
+    const test::TempTree tree;
+    const FileDescriptor folder = openDirectoryAt(AT_FDCWD, tree.path().c_str());
+    EXPECT_EQ(makeTrashInfo(folder, "a", "/home/me/a"), 0);
+    EXPECT_TRUE(statusAt(folder.number(), "a.trashinfo"));
+    EXPECT_EQ(makeTrashInfo(folder, "a", "/home/me/b"), EEXIST);
+    removeTrashInfo(folder, "a");
+    EXPECT_EQ(statusAt(folder.number(), "a.trashinfo").error, ENOENT);
 }
 
 TEST(TrashName, TheFirstIsTheItemsOwn)
