@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "QuickLook/Reading/PreviewReading.h"
 
-#include "QuickLook/Reading/ContentKind.h"
 #include "QuickLook/Reading/ContentMark.h"
-#include "QuickLook/Reading/TextDecoding.h"
+#include "QuickLook/Reading/KindName.h"
+#include "QuickLook/Reading/TextOrBinary.h"
 
 #include <QByteArray>
 
@@ -128,7 +128,7 @@ void showContent(
 {
     const auto beginning = readBeginning(*opened.content, stop);
     if (!beginning) {
-        preview.kind = itemKind(request.path, preview.file.kind);
+        preview.kind = kindNameOfItem(request.path, preview.file.kind);
         preview.contentError = std::make_error_code(std::errc::io_error);
         return;
     }
@@ -144,7 +144,7 @@ void showContent(
     if (!isShown(preview) && mayBeText && !beginning->isEmpty()) {
         showText(preview, *beginning);
     }
-    preview.kind = contentKind(request.path, *beginning, shownContent(preview));
+    preview.kind = kindNameOfContent(request.path, *beginning, shownContent(preview));
 }
 
 /// A folder in a document's place, or the reverse, is something else of the same name.
@@ -175,7 +175,7 @@ Preview readPreview(
     if (opened.content != nullptr) {
         showContent(preview, opened, decoder, request, stop);
     } else {
-        preview.kind = itemKind(request.path, preview.file.kind);
+        preview.kind = kindNameOfItem(request.path, preview.file.kind);
     }
     return preview;
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "QuickLook/Reading/TextDecoding.h"
+#include "QuickLook/Reading/TextOrBinary.h"
 
 #include <QStringDecoder>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "QuickLook/Reading/ContentKind.h"
+#include "QuickLook/Reading/KindName.h"
 
 #include "QuickLook/Reading/SampleFiles.h"
 
@@ -10,27 +10,27 @@ namespace {
 
 QString kind(const char* path, const std::string& bytes, ContentShown shown)
 {
-    return contentKind(path, QByteArray::fromStdString(bytes), shown);
+    return kindNameOfContent(path, QByteArray::fromStdString(bytes), shown);
 }
 
-TEST(ContentKind, ANameTellsATextMoreClosely)
+TEST(KindName, ANameTellsATextMoreClosely)
 {
     EXPECT_EQ(
         kind("/a.cpp", "int main() {}\n", ContentShown::Text), QStringLiteral("C++ source code"));
 }
 
-TEST(ContentKind, ATextThatIsCalledAPictureIsAText)
+TEST(KindName, ATextThatIsCalledAPictureIsAText)
 {
     EXPECT_EQ(kind("/a.png", "hello\n", ContentShown::Text), QStringLiteral("plain text document"));
 }
 
-TEST(ContentKind, ATextThatBeginsLikeAPictureIsAText)
+TEST(KindName, ATextThatBeginsLikeAPictureIsAText)
 {
     EXPECT_EQ(
         kind("/a", "BMW builds cars", ContentShown::Text), QStringLiteral("plain text document"));
 }
 
-TEST(ContentKind, APictureIsWhatItsBytesAre)
+TEST(KindName, APictureIsWhatItsBytesAre)
 {
     const std::string bytes = test::imageFile({2, 2}, "png");
 
@@ -39,7 +39,7 @@ TEST(ContentKind, APictureIsWhatItsBytesAre)
     EXPECT_EQ(kind("/a", bytes, ContentShown::Picture), QStringLiteral("PNG image"));
 }
 
-TEST(ContentKind, PagesAreOfAPdfWhateverTheName)
+TEST(KindName, PagesAreOfAPdfWhateverTheName)
 {
     EXPECT_EQ(
         kind("/holiday.jpg", "%PDF-1.4", ContentShown::Pages), QStringLiteral("PDF document"));
@@ -47,35 +47,35 @@ TEST(ContentKind, PagesAreOfAPdfWhateverTheName)
         kind("/holiday.jpg", "junk %PDF-1.4", ContentShown::Pages), QStringLiteral("PDF document"));
 }
 
-TEST(ContentKind, AnArchiveThatIsCalledAPictureIsNoPicture)
+TEST(KindName, AnArchiveThatIsCalledAPictureIsNoPicture)
 {
     const std::string zip = std::string("PK\x03\x04\x14\0\0\0\0\0", 10);
 
     EXPECT_EQ(kind("/a.png", zip, ContentShown::Nothing), QStringLiteral("Zip archive"));
 }
 
-TEST(ContentKind, ANameTellsAnArchiveMoreClosely)
+TEST(KindName, ANameTellsAnArchiveMoreClosely)
 {
     const std::string zip = std::string("PK\x03\x04\x14\0\0\0\0\0", 10);
 
     EXPECT_EQ(kind("/a.jar", zip, ContentShown::Nothing), QStringLiteral("Java archive"));
 }
 
-TEST(ContentKind, WhatNobodyKnowsIsWhatTheNameSays)
+TEST(KindName, WhatNobodyKnowsIsWhatTheNameSays)
 {
     EXPECT_EQ(
         kind("/a.iso", std::string("\x01\x02\xFF\0\x03", 5), ContentShown::Nothing),
-        itemKind("/a.iso", FileKind::Regular));
+        kindNameOfItem("/a.iso", FileKind::Regular));
 }
 
-TEST(ContentKind, AnEmptyFileIsWhatTheNameSays)
+TEST(KindName, AnEmptyFileIsWhatTheNameSays)
 {
     EXPECT_EQ(kind("/a.txt", "", ContentShown::Nothing), QStringLiteral("plain text document"));
 }
 
-TEST(ItemKind, AFolderIsNoneOfWhatItsNameSays)
+TEST(KindName, AFolderIsNoneOfWhatItsNameSays)
 {
-    EXPECT_EQ(itemKind("/a.png", FileKind::Folder), QStringLiteral("folder"));
+    EXPECT_EQ(kindNameOfItem("/a.png", FileKind::Folder), QStringLiteral("folder"));
 }
 
 } // namespace

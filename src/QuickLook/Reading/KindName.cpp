@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "QuickLook/Reading/ContentKind.h"
+#include "QuickLook/Reading/KindName.h"
 
 #include "Base/DisplayText.h"
 #include "Base/Url.h"
@@ -112,7 +112,7 @@ QString nameOf(const std::string& path)
 
 } // namespace
 
-QString contentKind(const std::string& path, const QByteArray& beginning, ContentShown shown)
+QString kindNameOfContent(const std::string& path, const QByteArray& beginning, ContentShown shown)
 {
     const QMimeDatabase types;
     if (beginning.isEmpty()) {
@@ -122,7 +122,7 @@ QString contentKind(const std::string& path, const QByteArray& beginning, Conten
     return bestType(named, types.mimeTypeForData(beginning), shown).comment();
 }
 
-QString itemKind(const std::string& path, FileKind kind)
+QString kindNameOfItem(const std::string& path, FileKind kind)
 {
     const QMimeDatabase types;
     const QString special = specialTypeName(kind);
