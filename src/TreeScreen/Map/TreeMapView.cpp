@@ -9,6 +9,7 @@
 #include "TreeScreen/Picture/TreePainter.h"
 #include "TreeScreen/Tooltip/TooltipController.h"
 #include "TreeScreen/Tooltip/TooltipPlacement.h"
+#include "TreeScreen/Tooltip/TooltipSize.h"
 
 #include <QContextMenuEvent>
 #include <QMouseEvent>
@@ -21,8 +22,6 @@
 namespace tessera {
 
 namespace {
-
-constexpr double kShortTooltipHeight = 42;
 
 Point toPoint(QPointF point)
 {

@@ -9,6 +9,7 @@
 #include "Model/Unknown.h"
 #include "Scanning/ResourceValues.h"
 #include "TreeScreen/Tooltip/TooltipField.h"
+#include "TreeScreen/Tooltip/TooltipSize.h"
 #include "TreeScreen/Tooltip/TooltipWindow.h"
 #include "Widgets/IconProvider.h"
 #include "Widgets/MediumDate.h"
@@ -26,11 +27,6 @@ namespace tessera {
 
 namespace {
 
-constexpr double kWidth = 210;
-constexpr double kHeightWithoutText = 67;
-constexpr double kFullTextHeight = 56;
-constexpr double kFullHeight = 123;
-constexpr double kNameAndSizeHeight = 44;
 constexpr std::size_t kMaxGroupNames = 5;
 constexpr int kIconPoints = 32;
 
@@ -41,7 +37,8 @@ constexpr int kFieldsAlone = 12;
 double heightFor(const TooltipField& text)
 {
     const double needed = text.neededHeight();
-    return needed < kFullTextHeight ? needed + kHeightWithoutText : kFullHeight;
+    return needed < kMostTooltipTextHeight ? needed + kTooltipHeightWithoutText
+                                           : kFullTooltipHeight;
 }
 
 QString sizeText(std::uint64_t bytes)
@@ -152,7 +149,7 @@ void TooltipController::showUnknown(const File& node)
 {
     m_window->ui().unknownSize->setText(sizeText(node.totalAllocation()));
     setContentRef(m_window->ui().unknownView);
-    setDesiredHeight(kFullHeight);
+    setDesiredHeight(kFullTooltipHeight);
 }
 
 void TooltipController::showOtherSpace(const File& node)
@@ -164,12 +161,12 @@ void TooltipController::showOtherSpace(const File& node)
     m_file.modified->setText(QString());
     m_file.path->setText(QString());
     setContentRef(m_file.view);
-    setDesiredHeight(kNameAndSizeHeight);
+    setDesiredHeight(kSpaceTooltipHeight);
 }
 
 void TooltipController::setDesiredHeight(double height)
 {
-    m_desiredRect = {0, 0, kWidth, height};
+    m_desiredRect = {0, 0, kTooltipWidth, height};
 }
 
 } // namespace tessera
