@@ -15,24 +15,25 @@ namespace tessera {
 SelectionPreview::SelectionPreview(TreeScreen& screen, const TreeMapView& treeView)
     : m_screen(screen)
     , m_treeView(treeView)
+    , m_panel(&QuickLookPanel::sharedInstance())
 {
-    const QuickLookPanel* const panel = &QuickLookPanel::sharedInstance();
-    connect(panel, &QuickLookPanel::keyPressed, this, [this](const QKeyEvent& event) {
+    connect(m_panel, &QuickLookPanel::keyPressed, this, [this](const QKeyEvent& event) {
         m_screen.keyDown(event);
     });
-    connect(panel, &QuickLookPanel::reopenRequested, this, &SelectionPreview::open);
+    connect(m_panel, &QuickLookPanel::reopenRequested, this, &SelectionPreview::open);
 }
 
 SelectionPreview::~SelectionPreview()
 {
-    QuickLookPanel::sharedInstance().closeAtOnce();
+    if (m_panel != nullptr) {
+        m_panel->closeAtOnce();
+    }
 }
 
 void SelectionPreview::toggle()
 {
-    QuickLookPanel& panel = QuickLookPanel::sharedInstance();
-    if (panel.isOpen()) {
-        panel.dismiss();
+    if (m_panel != nullptr && m_panel->isOpen()) {
+        m_panel->dismiss();
     } else {
         open();
     }
@@ -40,13 +41,16 @@ void SelectionPreview::toggle()
 
 void SelectionPreview::open()
 {
-    QuickLookPanel::sharedInstance().open(
-        m_screen.selectedFile(), [this] { return frameOnScreen(); });
+    if (m_panel != nullptr) {
+        m_panel->open(m_screen.selectedFile(), [this] { return frameOnScreen(); });
+    }
 }
 
 void SelectionPreview::selectionChanged()
 {
-    QuickLookPanel::sharedInstance().setItem(m_screen.selectedFile());
+    if (m_panel != nullptr) {
+        m_panel->setItem(m_screen.selectedFile());
+    }
 }
 
 QRectF SelectionPreview::frameOnScreen() const

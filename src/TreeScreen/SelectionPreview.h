@@ -2,15 +2,17 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QRectF>
 
 namespace tessera {
 
+class QuickLookPanel;
 class TreeMapView;
 class TreeScreen;
 
 /// Lets the preview panel show the tree screen's selected item, and hands the panel's key presses
-/// to the screen. The shared panel is its own as long as it lives. Main thread only.
+/// to the screen. The shared panel is its own as long as both live. Main thread only.
 class SelectionPreview final : public QObject {
     Q_OBJECT
 
@@ -30,6 +32,7 @@ private:
 
     TreeScreen& m_screen;
     const TreeMapView& m_treeView;
+    const QPointer<QuickLookPanel> m_panel;
 };
 
 } // namespace tessera

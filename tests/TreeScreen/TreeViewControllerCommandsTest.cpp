@@ -303,6 +303,18 @@ TEST_F(TreeViewControllerCommandsTest, GoingAwayTakesThePreviewAlong)
     EXPECT_FALSE(panel.isVisible());
 }
 
+TEST_F(TreeViewControllerCommandsTest, GoingAwayAfterThePreviewMakesNoOther)
+{
+    select("docs/a");
+    controller->quickLook();
+    QuickLookPanel::releaseSharedInstance();
+    controller.reset();
+    EXPECT_THAT(
+        QApplication::topLevelWidgets(),
+        testing::Not(testing::Contains(testing::Property(
+            &QObject::objectName, testing::Eq(QStringLiteral("quickLookPanel"))))));
+}
+
 TEST_F(TreeViewControllerCommandsTest, NobodyHearsThePreviewWhenTheScreenIsGone)
 {
     controller.reset();
