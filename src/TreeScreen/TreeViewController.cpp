@@ -14,10 +14,8 @@
 #include "TreeScreen/DiskChanges.h"
 #include "TreeScreen/Map/TreeMapView.h"
 #include "TreeScreen/Picture/TreeBranch.h"
-#include "TreeScreen/TreeMenu.h"
 #include "TreeScreen/TreeViewServices.h"
 
-#include <QMenu>
 #include <QPointer>
 
 #include <optional>
@@ -37,6 +35,7 @@ TreeViewController::TreeViewController(
           model, services.defaults, services.workspace, services.alert, services.diskChanges, *this)
     , m_preview(*this, treeView)
     , m_note(&treeView)
+    , m_clicks(treeView, *this, *this, m_preview)
 {
     setCurrentFolder(m_model.topFolder());
     observeTreeView();
@@ -52,11 +51,6 @@ void TreeViewController::observeTreeView()
     m_treeView.installEventFilter(this);
     connect(&m_treeView, &TreeMapView::frameChanged, this, &TreeViewController::renderTree);
     connect(&m_treeView, &TreeMapView::zoomEnded, this, &TreeViewController::animationDidStop);
-    connect(&m_treeView, &TreeMapView::clickTreeItem, this, [this](File& node) { select(&node); });
-    // The click has selected what it is on.
-    connect(
-        &m_treeView, &TreeMapView::doubleClickTreeItem, this, &TreeViewController::openSelected);
-    connect(&m_treeView, &TreeMapView::menuRequested, this, &TreeViewController::showMenu);
     connect(&m_treeView, &TreeMapView::menuKeyInVain, this, [this] {
         m_note.say(command_hint::nothingSelected());
     });
@@ -72,23 +66,6 @@ void TreeViewController::observe()
                 itemCompressed(*archive);
             }
         });
-}
-
-void TreeViewController::openSelected()
-{
-    if (nodeCast<Folder>(m_selectedFile) != nullptr) {
-        zoomIn();
-    } else if (nodeCast<Document>(m_selectedFile) != nullptr) {
-        quickLook();
-    }
-}
-
-void TreeViewController::showMenu(const File& node, QPoint onScreen)
-{
-    m_menu = makeTreeMenu(node, this);
-    if (m_menu != nullptr) {
-        m_menu->popup(onScreen);
-    }
 }
 
 void TreeViewController::setCurrentFolder(Folder* folder)
@@ -110,12 +87,6 @@ void TreeViewController::setSelectedFile(File* file)
     }
     m_preview.selectionChanged();
     emit selectionChanged();
-}
-
-void TreeViewController::select(File* file)
-{
-    setSelectedFile(file);
-    renderTree();
 }
 
 void TreeViewController::zoomIn()
@@ -319,7 +290,7 @@ void TreeViewController::perform(Command command)
 {
     switch (command) {
     case Command::Open:
-        openSelected();
+        m_clicks.openSelected();
         break;
     case Command::QuickLook:
         m_preview.toggle();

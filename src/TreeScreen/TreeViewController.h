@@ -9,6 +9,7 @@
 #include "TreeScreen/Map/BoxNavigation.h"
 #include "TreeScreen/Map/TreeScreen.h"
 #include "TreeScreen/SelectionPreview.h"
+#include "TreeScreen/TreeClicks.h"
 #include "TreeScreen/TreeCommandTarget.h"
 #include "TreeScreen/TreeKeys.h"
 #include "TreeScreen/TreeNote.h"
@@ -20,7 +21,6 @@
 #include <memory>
 
 class QKeyEvent;
-class QMenu;
 
 namespace tessera {
 
@@ -139,12 +139,9 @@ private:
     std::unique_ptr<TreeBranch> branchFor(Folder* folder) override;
 
     void observe();
-    void openSelected();
     bool removeNodeAt(std::string_view path);
     void observeTreeView();
-    void showMenu(const File& node, QPoint onScreen);
     void sayThatThereIsNoFileManager(const QString& itemName);
-    void select(File* file);
     RescanObstacle rescanObstacle() const;
     bool isMountPoint(const Folder& toRescan) const;
     bool moveSelection(Direction direction);
@@ -159,7 +156,7 @@ private:
     ItemTrasher m_trasher;
     SelectionPreview m_preview;
     TreeNote m_note;
-    std::unique_ptr<QMenu> m_menu;
+    TreeClicks m_clicks;
     Folder* m_currentFolder = nullptr;
     File* m_selectedFile = nullptr;
     /// Of the folder to rescan, as far as the system was asked.

@@ -60,7 +60,8 @@ bool TreeViewController::moveSelection(Direction direction)
     if (next == nullptr) {
         return false;
     }
-    select(next);
+    setSelectedFile(next);
+    renderTree();
     return true;
 }
 

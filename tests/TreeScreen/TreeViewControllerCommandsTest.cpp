@@ -206,31 +206,6 @@ TEST_F(TreeViewControllerCommandsTest, AnArchiveElsewhereIsNobodysConcern)
     EXPECT_EQ(model.topFolder()->totalAllocation(), 1000000U);
 }
 
-TEST_F(TreeViewControllerCommandsTest, ADoubleClickOnADocumentPreviewsIt)
-{
-    select("docs/a");
-    emit view.doubleClickTreeItem(node("docs/a"));
-    EXPECT_TRUE(panel.isOpen());
-}
-
-TEST_F(TreeViewControllerCommandsTest, ADoubleClickOnWhatStandsForNoFileDoesNothing)
-{
-    const std::unique_ptr<FreeSpace> space = makeNode<FreeSpace>("");
-    const std::unique_ptr<Unknown> unknown = makeNode<Unknown>("");
-    const std::unique_ptr<TimeMachine> backups = makeNode<TimeMachine>("");
-    for (File* const node :
-         {static_cast<File*>(space.get()),
-          static_cast<File*>(unknown.get()),
-          static_cast<File*>(backups.get())}) {
-        controller->setSelectedFile(node);
-        emit view.doubleClickTreeItem(*node);
-        EXPECT_FALSE(panel.isOpen()) << node->name();
-        EXPECT_EQ(controller->currentFolder(), model.topFolder()) << node->name();
-        EXPECT_EQ(controller->selectedFile(), node) << node->name();
-    }
-    controller->setSelectedFile(nullptr);
-}
-
 TEST_F(TreeViewControllerCommandsTest, ThePreviewHasOneItemWhateverIsSelected)
 {
     controller->quickLook();

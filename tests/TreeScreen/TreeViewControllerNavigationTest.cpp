@@ -158,21 +158,6 @@ TEST_F(TreeViewControllerNavigationTest, TellsWhenTheTreeHasOtherSizes)
     EXPECT_EQ(changes.count(), 1);
 }
 
-TEST_F(TreeViewControllerNavigationTest, ADoubleClickZoomsIntoTheSelectedFolder)
-{
-    controller->setSelectedFile(&node("docs"));
-    doubleClick(node("docs"));
-    EXPECT_EQ(controller->currentFolder(), &node("docs"));
-    EXPECT_TRUE(view.isZooming());
-}
-
-TEST_F(TreeViewControllerNavigationTest, ADoubleClickWithoutASelectionDoesNothing)
-{
-    doubleClick(node("docs"));
-    EXPECT_EQ(controller->currentFolder(), model.topFolder());
-    EXPECT_FALSE(view.isZooming());
-}
-
 TEST_F(TreeViewControllerNavigationTest, ADoubleClickOnSpaceThatIsNoFileDoesNothing)
 {
     showVolume();

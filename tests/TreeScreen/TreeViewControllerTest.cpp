@@ -9,8 +9,6 @@
 #include "support/Fakes/FakeUserDefaults.h"
 #include "support/MakeTree.h"
 
-#include <QApplication>
-#include <QContextMenuEvent>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -136,37 +134,6 @@ TEST_F(TreeViewControllerTest, FollowsTheViewsSize)
     view.resize(640, 480);
     EXPECT_EQ(topBranch().frame(), (Rect{0, 0, 640, 480}));
     EXPECT_EQ(view.branches().size(), 1U);
-}
-
-TEST_F(TreeViewControllerTest, AClickSelectsAndRebuildsThePicture)
-{
-    const TreeViewController controller(model, view, viewServices.get());
-    click(node("c"));
-    EXPECT_EQ(controller.selectedFile(), &node("c"));
-    EXPECT_TRUE(node("c").selected());
-}
-
-TEST_F(TreeViewControllerTest, AnotherClickMovesTheSelection)
-{
-    const TreeViewController controller(model, view, viewServices.get());
-    click(node("c"));
-    click(node("docs/a"));
-    EXPECT_EQ(controller.selectedFile(), &node("docs/a"));
-    EXPECT_FALSE(node("c").selected());
-}
-
-TEST_F(TreeViewControllerTest, ARightClickSelectsAndOpensTheMenuThere)
-{
-    const TreeViewController controller(model, view, viewServices.get());
-    const Rect box = view.findRectForFile(node("c")).value();
-    const QPoint point(static_cast<int>(box.x) + 5, static_cast<int>(box.y) + 5);
-    QContextMenuEvent event(QContextMenuEvent::Mouse, point, view.mapToGlobal(point));
-    QApplication::sendEvent(&view, &event);
-    EXPECT_EQ(controller.selectedFile(), &node("c"));
-    EXPECT_TRUE(node("c").selected());
-    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
-    EXPECT_EQ(QApplication::activePopupWidget()->pos(), view.mapToGlobal(point));
-    QApplication::activePopupWidget()->close();
 }
 
 TEST_F(TreeViewControllerTest, SelectingNothingClearsTheMark)

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QPoint>
+
+#include <memory>
+
+class QMenu;
+
+namespace tessera {
+
+class File;
+class SelectionPreview;
+class TreeCommandTarget;
+class TreeMapView;
+class TreeScreen;
+
+/// What clicks on the map's boxes do: one selects, two open, and the context menu comes up where it
+/// is wanted. Main thread only.
+class TreeClicks final : public QObject {
+    Q_OBJECT
+
+public:
+    /// All must outlive it.
+    TreeClicks(
+        TreeMapView& treeView,
+        TreeScreen& screen,
+        TreeCommandTarget& commands,
+        SelectionPreview& preview);
+    ~TreeClicks() override;
+
+    /// Zooms into the selected folder, or previews the selected document.
+    void openSelected();
+
+private:
+    void select(File& node);
+    void showMenu(const File& node, QPoint onScreen);
+
+    TreeScreen& m_screen;
+    TreeCommandTarget& m_commands;
+    SelectionPreview& m_preview;
+    std::unique_ptr<QMenu> m_menu;
+};
+
+} // namespace tessera
