@@ -22,7 +22,7 @@
 namespace tessera::test {
 
 /// A tree screen as the panel sees one: its selected node, its place and the keys it was told of.
-struct FakeTreeScreen {
+struct FakePanelOpener {
     const File* selected = nullptr;
     QRectF frame;
     int frameQuestions = 0;
@@ -109,7 +109,7 @@ protected:
     std::shared_ptr<QuestionThreads> threads = QuestionThreads::make();
     FakeIconProvider icons;
     FakeMotionPreference motion;
-    FakeTreeScreen screen;
+    FakePanelOpener screen;
     double now = 0;
     QWidget window;
     QuickLookPanel panel{servicesOver(&window)};
