@@ -2,8 +2,8 @@
 #include "Start/UserSession.h"
 
 #include "Base/Url.h"
+#include "Commands/CommandActions.h"
 #include "MainWindow/Menus/IgnoreMenu.h"
-#include "MainWindow/Menus/MainActions.h"
 #include "Model/Folder.h"
 #include "Model/NodeLookup.h"
 #include "Model/RootModel.h"
@@ -207,7 +207,7 @@ bool UserSession::showsTreeOf(const std::string& path)
 
 void UserSession::perform(Command command)
 {
-    window().findChild<MainActions*>()->action(command).trigger();
+    window().findChild<CommandActions*>()->action(command).trigger();
 }
 
 /// The program scans what is dropped on its window.

@@ -2,12 +2,13 @@
 #include "MainWindow/MainWindowController.h"
 
 #include "Base/Log.h"
+#include "Commands/CommandActions.h"
 #include "Desktop/Alert.h"
 #include "Desktop/OpenPanel.h"
 #include "HomeScreen/Places/PlaceNames.h"
 #include "MainWindow/BackupFolder.h"
 #include "MainWindow/HomeScreen.h"
-#include "MainWindow/Menus/MainActions.h"
+#include "MainWindow/Menus/MainMenus.h"
 #include "MainWindow/ScanScreen.h"
 #include "MainWindow/WindowFrame.h"
 #include "Model/RootModel.h"
@@ -60,7 +61,7 @@ MainWindowController::MainWindowController(const MainWindowServices& services)
     , m_ui(setUp(*m_window))
     , m_view(m_ui->view)
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the window owns it
-    , m_actions(new MainActions(
+    , m_actions(new CommandActions(
           *m_window,
           [this] { return commandContext(); },
           [this](Command command) { return whyNot(command); }))
@@ -81,11 +82,11 @@ MainWindowController::~MainWindowController()
 
 void MainWindowController::loadWindow()
 {
-    m_actions->fill(*m_window->menuBar());
-    m_actions->fill(m_itemMenu, MainMenu::Item);
+    fillMenuBar(*m_window->menuBar(), *m_actions);
+    fillMenu(m_itemMenu, MainMenu::Item, *m_actions);
     m_toolbar = std::make_unique<MainToolbar>(*m_ui->toolbar, m_itemMenu);
     m_toolbar->toolbarIgnoreButton().setMenu(&m_ignoreMenu);
-    connect(m_actions, &MainActions::triggered, this, &MainWindowController::perform);
+    connect(m_actions, &CommandActions::triggered, this, &MainWindowController::perform);
     connect(
         &m_toolbar->toolbarHomeButton(),
         &QToolButton::clicked,
@@ -236,7 +237,7 @@ void MainWindowController::displayTree()
     m_treeView = std::make_unique<TreeMapView>(m_services.treeScreen.defaults, m_view);
     placeScreens();
     m_treeVC = std::make_unique<TreeViewController>(
-        m_services.model, *m_treeView, m_services.treeScreen);
+        m_services.model, *m_treeView, m_services.treeScreen, m_actions);
     connect(m_treeVC.get(), &TreeViewController::currentFolderChanged, this, [this] {
         handle(ScreenEvent::CurrentFolderChanged, {});
     });
@@ -246,9 +247,13 @@ void MainWindowController::displayTree()
         this,
         &MainWindowController::refreshPathControl);
     connect(
-        m_treeVC.get(), &TreeViewController::selectionChanged, m_actions, &MainActions::validate);
+        m_treeVC.get(),
+        &TreeViewController::selectionChanged,
+        m_actions,
+        &CommandActions::validate);
     // A rescan has begun or ended, perhaps.
-    connect(m_treeVC.get(), &TreeViewController::pictureRebuilt, m_actions, &MainActions::validate);
+    connect(
+        m_treeVC.get(), &TreeViewController::pictureRebuilt, m_actions, &CommandActions::validate);
     m_ignoreMenu.setTreeViewController(m_treeVC.get());
     m_changes.tell(*m_treeVC);
     m_treeView->show();
@@ -333,7 +338,7 @@ void MainWindowController::perform(Command command)
     }
 }
 
-/// All but two commands are the same from the menu bar as from the picture's own menu and keys.
+/// All but two commands are the same from the menus as from the picture's own keys.
 void MainWindowController::performOnTree(Command command)
 {
     if (command == Command::Rescan) {

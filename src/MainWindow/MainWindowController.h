@@ -28,8 +28,8 @@ class MainWindow;
 
 namespace tessera {
 
+class CommandActions;
 class HomeScreen;
-class MainActions;
 class ScanScreen;
 class TreeMapView;
 class TreeViewController;
@@ -110,7 +110,7 @@ private:
     std::unique_ptr<QMainWindow> m_window;
     std::unique_ptr<Ui::MainWindow> m_ui;
     QWidget* m_view; ///< the window's content area, which holds the screens
-    MainActions* m_actions;
+    CommandActions* m_actions;
     QMenu m_itemMenu; ///< under the toolbar's button
     IgnoreMenu m_ignoreMenu;
     std::unique_ptr<MainToolbar> m_toolbar;

@@ -17,10 +17,12 @@ TreeClicks::TreeClicks(
     TreeMapView& treeView,
     TreeScreen& screen,
     TreeCommandTarget& commands,
-    SelectionPreview& preview)
+    SelectionPreview& preview,
+    const CommandActions* actions)
     : m_screen(screen)
     , m_commands(commands)
     , m_preview(preview)
+    , m_actions(actions)
 {
     connect(&treeView, &TreeMapView::clickTreeItem, this, &TreeClicks::select);
     // The click has selected what it is on.
@@ -48,7 +50,10 @@ void TreeClicks::openSelected()
 
 void TreeClicks::showMenu(const File& node, QPoint onScreen)
 {
-    m_menu = makeTreeMenu(node, &m_commands);
+    if (m_actions == nullptr) {
+        return;
+    }
+    m_menu.reset(makeTreeMenu(node, *m_actions).release());
     if (m_menu != nullptr) {
         m_menu->popup(onScreen);
     }

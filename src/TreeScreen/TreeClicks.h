@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <QPoint>
+#include <QScopedPointer>
 
 #include <memory>
 
@@ -10,6 +11,7 @@ class QMenu;
 
 namespace tessera {
 
+class CommandActions;
 class File;
 class SelectionPreview;
 class TreeCommandTarget;
@@ -22,12 +24,13 @@ class TreeClicks final : public QObject {
     Q_OBJECT
 
 public:
-    /// All must outlive it.
+    /// All must outlive it. The menu shows the `actions`; without them there is none.
     TreeClicks(
         TreeMapView& treeView,
         TreeScreen& screen,
         TreeCommandTarget& commands,
-        SelectionPreview& preview);
+        SelectionPreview& preview,
+        const CommandActions* actions);
     ~TreeClicks() override;
 
     /// Zooms into the selected folder, or previews the selected document.
@@ -40,7 +43,9 @@ private:
     TreeScreen& m_screen;
     TreeCommandTarget& m_commands;
     SelectionPreview& m_preview;
-    std::unique_ptr<QMenu> m_menu;
+    const CommandActions* m_actions;
+    /// What its entry does may end the screen, in the middle of the click on the menu.
+    std::unique_ptr<QMenu, QScopedPointerDeleteLater> m_menu;
 };
 
 } // namespace tessera

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "TreeScreen/TreeMenu.h"
 
-#include "Commands/CommandEntry.h"
+#include "Commands/CommandActions.h"
 #include "Commands/CommandTable.h"
 #include "Model/File.h"
-#include "TreeScreen/TreeCommandTarget.h"
 
+#include <QAction>
 #include <QCoreApplication>
+#include <QKeyEvent>
 #include <QMenu>
+#include <QStyleOptionMenuItem>
 
 #include <array>
 #include <optional>
@@ -52,39 +54,60 @@ std::span<const Entry> entriesFor(const File& item)
     return {};
 }
 
-void addEntry(QMenu& menu, Command command, const File& item, TreeCommandTarget* target)
+QString withoutMnemonic(QString title)
+{
+    return title.remove(QLatin1Char('&'));
+}
+
+/// Neither shows nor heeds the actions' mnemonics. They are those of the menu bar's menus, from
+/// several of which the entries come, so that two of them may share one.
+class ItemMenu final : public QMenu {
+public:
+    using QMenu::QMenu;
+
+protected:
+    void initStyleOption(QStyleOptionMenuItem* option, const QAction* action) const override
+    {
+        QMenu::initStyleOption(option, action);
+        option->text = withoutMnemonic(option->text);
+    }
+
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        const QString text = event->text();
+        if (text.isEmpty() || !text.front().isLetterOrNumber()) {
+            QMenu::keyPressEvent(event);
+        }
+    }
+};
+
+QAction* entryFor(Command command, const File& item, const CommandActions& actions, QMenu& menu)
 {
     const CommandRow& row = rowOf(command);
-    QAction* const entry = makeCommandEntry(
-        row, item.isFolder() ? titleForFolder(row) : titleForDocument(row), &menu);
-    menu.addAction(entry);
-    if (target == nullptr) {
-        entry->setEnabled(false);
-        return;
-    }
-    enableCommandEntry(*entry, target->validate(command), target->whyNot(command));
-    QObject::connect(
-        entry, &QAction::triggered, &menu, [target, command] { target->perform(command); });
+    const QString title = item.isFolder() ? titleForFolder(row) : titleForDocument(row);
+    QAction& action = actions.action(command);
+    return title == withoutMnemonic(action.text()) ? &action
+                                                   : actions.makeEntry(command, title, &menu);
 }
 
 } // namespace
 
-std::unique_ptr<QMenu> makeTreeMenu(const File& item, TreeCommandTarget* target)
+std::unique_ptr<QMenu> makeTreeMenu(const File& item, const CommandActions& actions)
 {
     const std::span<const Entry> entries = entriesFor(item);
     if (entries.empty()) {
         return nullptr;
     }
-    auto menu = std::make_unique<QMenu>(QCoreApplication::translate("TreeMenu", "Contextual Menu"));
-    // Of disabled entries, whose tooltip says why they are.
-    menu->setToolTipsVisible(true);
+    auto menu
+        = std::make_unique<ItemMenu>(QCoreApplication::translate("TreeMenu", "Contextual Menu"));
     for (const Entry& entry : entries) {
         if (entry) {
-            addEntry(*menu, *entry, item, target);
+            menu->addAction(entryFor(*entry, item, actions, *menu));
         } else {
             menu->addSeparator();
         }
     }
+    actions.lookAfter(*menu, CommandActions::Shortcuts::Hidden);
     return menu;
 }
 

@@ -7,12 +7,11 @@ class QMenu;
 
 namespace tessera {
 
+class CommandActions;
 class File;
-class TreeCommandTarget;
 
-/// The menu of what can be done with a folder or a document; null for any other node. Entries that
-/// the target does not validate are disabled, as are all when there is no target. The target must
-/// outlive the menu.
-std::unique_ptr<QMenu> makeTreeMenu(const File& item, TreeCommandTarget* target);
+/// The menu of what can be done with a folder or a document; null for any other node. It shows the
+/// actions, without their shortcuts.
+std::unique_ptr<QMenu> makeTreeMenu(const File& item, const CommandActions& actions);
 
 } // namespace tessera

@@ -25,7 +25,10 @@
 namespace tessera {
 
 TreeViewController::TreeViewController(
-    RootModel& model, TreeMapView& treeView, const TreeViewServices& services)
+    RootModel& model,
+    TreeMapView& treeView,
+    const TreeViewServices& services,
+    const CommandActions* actions)
     : m_model(model)
     , m_treeView(treeView)
     , m_services(services)
@@ -35,7 +38,7 @@ TreeViewController::TreeViewController(
           model, services.defaults, services.workspace, services.alert, services.diskChanges, *this)
     , m_preview(*this, treeView)
     , m_note(&treeView)
-    , m_clicks(treeView, *this, *this, m_preview)
+    , m_clicks(treeView, *this, *this, m_preview, actions)
 {
     setCurrentFolder(m_model.topFolder());
     observeTreeView();

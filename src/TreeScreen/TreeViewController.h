@@ -24,6 +24,7 @@ class QKeyEvent;
 
 namespace tessera {
 
+class CommandActions;
 class File;
 class Folder;
 class RootModel;
@@ -39,8 +40,13 @@ class TreeViewController final : public QObject, public TreeCommandTarget, priva
 
 public:
     /// Shows the model's tree in the view; both must outlive the controller, and so must what the
-    /// services refer to. A volume's free space is read anew.
-    TreeViewController(RootModel& model, TreeMapView& treeView, const TreeViewServices& services);
+    /// services refer to. A volume's free space is read anew. The context menu shows the `actions`,
+    /// which must outlive the controller too; without them there is none.
+    TreeViewController(
+        RootModel& model,
+        TreeMapView& treeView,
+        const TreeViewServices& services,
+        const CommandActions* actions = nullptr);
     ~TreeViewController() override;
 
     /// The folder that fills the view; null when there is no tree.
@@ -90,8 +96,11 @@ public:
 
     /// What decides which commands can be performed, as far as this screen knows it.
     CommandContext commandContext() const;
-    bool validate(Command command) const override;
-    QString whyNot(Command command) const override;
+    /// Whether the command can be performed now.
+    bool validate(Command command) const;
+    /// Why it cannot be performed now, a sentence for the user; empty when it can.
+    QString whyNot(Command command) const;
+    /// As the screen's keys do.
     void perform(Command command) override;
 
     /// A key was pressed on the tree screen; false when it does nothing now. Why not is said on

@@ -11,7 +11,10 @@
 #include "TreeScreen/TreeNote.h"
 #include "support/BecomesActive.h"
 
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QKeySequence>
+#include <QMenu>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
@@ -51,6 +54,14 @@ protected:
         return **std::ranges::find(actions, titleOf(rowOf(command)), &QAction::text);
     }
     bool isEnabled(Command command) const { return action(command).isEnabled(); }
+
+    QMenu& openContextMenu(const char* path) const
+    {
+        select(path);
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+        QApplication::sendEvent(&map(), &event);
+        return *qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    }
 
     /// A tree in which a disk is mounted at "mnt".
     void showTreeWithMountPoint()
@@ -308,6 +319,26 @@ TEST_F(MainWindowControllerTest, CommandsReachTheTreeScreen)
     controller->perform(Command::MoveToTrash);
     ASSERT_EQ(services.treeScreen.workspace.recycled.size(), 1U);
     EXPECT_EQ(services.treeScreen.workspace.recycled[0][0].path(), "/data/c");
+}
+
+TEST_F(MainWindowControllerTest, TheContextMenuShowsTheActionsOfTheMenuBar)
+{
+    showTree();
+    const QMenu& menu = openContextMenu("docs");
+    EXPECT_TRUE(menu.actions().contains(&action(Command::ZoomIn)));
+    EXPECT_TRUE(menu.actions().contains(&action(Command::Rescan)));
+}
+
+/// The scanned folder goes for another when it is scanned again, and the screen with it.
+TEST_F(MainWindowControllerTest, AnEntryOfTheContextMenuMayEndTheTreeScreen)
+{
+    showTree();
+    QMenu& menu = openContextMenu("docs");
+    controller->treeVC()->setSelectedFile(nullptr);
+    QAction* const rescan = menu.actions().at(menu.actions().indexOf(&action(Command::Rescan)));
+    QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(rescan).center());
+    EXPECT_EQ(controller->treeVC(), nullptr);
+    EXPECT_THAT(services.screens.scanned, ElementsAre("/data", "/data"));
 }
 
 TEST_F(MainWindowControllerTest, ZoomOutNeedsNoSelection)

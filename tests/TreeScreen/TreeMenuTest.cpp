@@ -1,42 +1,36 @@
 // SPDX-License-Identifier: MIT
 #include "TreeScreen/TreeMenu.h"
 
+#include "Commands/CommandActions.h"
 #include "Model/Document.h"
 #include "Model/Folder.h"
 #include "Model/FreeSpace.h"
-#include "TreeScreen/TreeCommandTarget.h"
 
+#include <QAction>
+#include <QImage>
 #include <QMenu>
+#include <QPixmap>
+#include <QSignalSpy>
+#include <QTest>
 #include <QTextDocumentFragment>
 
 #include <gtest/gtest.h>
 
-#include <optional>
+#include <memory>
+#include <utility>
 #include <vector>
 
 namespace tessera {
 namespace {
 
-/// Allows all commands but one, and remembers the last one performed.
-class FakeTarget final : public TreeCommandTarget {
-public:
-    bool validate(Command command) const override { return command != Command::ZoomIn; }
-    QString whyNot(Command command) const override
-    {
-        return validate(command) ? QString() : reason;
-    }
-    void perform(Command command) override { performed = command; }
-
-    QString reason = QStringLiteral("Not now.");
-    std::optional<Command> performed;
-};
-
-/// The titles in order, "-" for separators.
+/// The titles as they are read, in order, "-" for separators.
 QStringList titles(const QMenu& menu)
 {
     QStringList result;
     for (const QAction* action : menu.actions()) {
-        result << (action->isSeparator() ? QStringLiteral("-") : action->text());
+        result
+            << (action->isSeparator() ? QStringLiteral("-")
+                                      : action->text().remove(QLatin1Char('&')));
     }
     return result;
 }
@@ -46,9 +40,38 @@ QAction* action(const QMenu& menu, const QString& title)
     return menu.actions().value(titles(menu).indexOf(title));
 }
 
-TEST(TreeMenu, OfAFolder)
+QImage pictureOf(QMenu& menu)
 {
-    const auto menu = makeTreeMenu(*makeNode<Folder>("a"), nullptr);
+    menu.resize(menu.sizeHint());
+    return menu.grab().toImage();
+}
+
+class TreeMenu : public testing::Test {
+protected:
+    /// As it is when it has opened.
+    template <typename Node>
+    std::unique_ptr<QMenu> makeMenu()
+    {
+        node = makeNode<Node>("a");
+        context = {false, true, false, node.get(), true};
+        auto menu = makeTreeMenu(*node, *actions);
+        emit menu->aboutToShow();
+        return menu;
+    }
+
+    std::unique_ptr<File> node;
+    CommandContext context;
+    QString reason = QStringLiteral("Not now."); ///< for all
+    QWidget window;
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the window owns it
+    CommandActions* actions = new CommandActions(
+        window, [this] { return context; }, [this](Command) { return reason; });
+    QSignalSpy triggered{actions, &CommandActions::triggered};
+};
+
+TEST_F(TreeMenu, OfAFolder)
+{
+    const auto menu = makeMenu<Folder>();
     EXPECT_EQ(menu->title(), QStringLiteral("Contextual Menu"));
     EXPECT_EQ(
         titles(*menu).join(QLatin1Char('|')),
@@ -56,62 +79,105 @@ TEST(TreeMenu, OfAFolder)
                        "Move to Trash"));
 }
 
-TEST(TreeMenu, OfADocument)
+TEST_F(TreeMenu, OfADocument)
 {
-    const auto menu = makeTreeMenu(*makeNode<Document>("a"), nullptr);
+    const auto menu = makeMenu<Document>();
     EXPECT_EQ(menu->title(), QStringLiteral("Contextual Menu"));
     EXPECT_EQ(
         titles(*menu).join(QLatin1Char('|')),
         QStringLiteral("Quick Look|Show in Finder|-|Compress File|Move to Trash"));
 }
 
-TEST(TreeMenu, IsNoneForFreeSpace)
+TEST_F(TreeMenu, IsNoneForFreeSpace)
 {
-    EXPECT_EQ(makeTreeMenu(*makeNode<FreeSpace>({}), nullptr), nullptr);
+    EXPECT_EQ(makeTreeMenu(*makeNode<FreeSpace>({}), *actions), nullptr);
 }
 
-TEST(TreeMenu, HasNoShortcuts)
+TEST_F(TreeMenu, ShowsTheActionsThemselves)
 {
-    const auto menu = makeTreeMenu(*makeNode<Folder>("a"), nullptr);
+    const auto menu = makeMenu<Folder>();
+    EXPECT_EQ(action(*menu, QStringLiteral("Rescan")), &actions->action(Command::Rescan));
+    EXPECT_EQ(action(*menu, QStringLiteral("Zoom In")), &actions->action(Command::ZoomIn));
+}
+
+TEST_F(TreeMenu, HasNoShortcuts)
+{
+    const auto menu = makeMenu<Folder>();
     for (const QAction* entry : menu->actions()) {
-        EXPECT_TRUE(entry->shortcut().isEmpty());
+        EXPECT_TRUE(entry->shortcut().isEmpty() || !entry->isShortcutVisibleInContextMenu());
     }
 }
 
-TEST(TreeMenu, WithoutATargetIsDisabled)
+TEST_F(TreeMenu, LooksAsIfItsActionsHadNeitherShortcutsNorMnemonics)
 {
-    const auto menu = makeTreeMenu(*makeNode<Document>("a"), nullptr);
-    EXPECT_FALSE(action(*menu, QStringLiteral("Move to Trash"))->isEnabled());
+    const auto menu = makeMenu<Folder>();
+    QMenu plain;
+    for (const QString& title : titles(*menu)) {
+        if (title == QLatin1Char('-')) {
+            plain.addSeparator();
+        } else {
+            plain.addAction(title);
+        }
+    }
+    EXPECT_EQ(menu->sizeHint(), plain.sizeHint());
+    EXPECT_EQ(pictureOf(*menu), pictureOf(plain));
 }
 
-TEST(TreeMenu, EnablesWhatItsTargetValidates)
+TEST_F(TreeMenu, DoesNotHeedMnemonics)
 {
-    FakeTarget target;
-    const auto menu = makeTreeMenu(*makeNode<Folder>("a"), &target);
+    const auto menu = makeMenu<Folder>();
+    menu->popup({});
+    QTest::keyClick(menu.get(), Qt::Key_T);
+    EXPECT_EQ(triggered.size(), 0);
+    EXPECT_EQ(menu->activeAction(), nullptr);
+    QTest::keyClick(menu.get(), Qt::Key_Up);
+    EXPECT_EQ(menu->activeAction(), action(*menu, QStringLiteral("Move to Trash")));
+    menu->close();
+}
+
+TEST_F(TreeMenu, WithoutATreeIsDisabled)
+{
+    const auto menu = makeMenu<Document>();
+    context = {};
+    emit menu->aboutToShow();
+    EXPECT_FALSE(action(*menu, QStringLiteral("Move to Trash"))->isEnabled());
+    EXPECT_FALSE(action(*menu, QStringLiteral("Compress File"))->isEnabled());
+}
+
+TEST_F(TreeMenu, EnablesWhatCanBeDoneWhenItOpens)
+{
+    const auto menu = makeMenu<Folder>();
+    context.selectedFile = nullptr;
+    emit menu->aboutToShow();
     EXPECT_FALSE(action(*menu, QStringLiteral("Zoom In"))->isEnabled());
+    EXPECT_FALSE(action(*menu, QStringLiteral("Compress Folder"))->isEnabled());
     EXPECT_TRUE(action(*menu, QStringLiteral("Rescan"))->isEnabled());
 }
 
-TEST(TreeMenu, ADisabledEntrySaysWhyInItsTooltip)
+TEST_F(TreeMenu, ADisabledEntrySaysWhyInItsTooltip)
 {
-    FakeTarget target;
-    const auto menu = makeTreeMenu(*makeNode<Folder>("a"), &target);
+    const auto menu = makeMenu<Folder>();
+    context.selectedFile = nullptr;
+    emit menu->aboutToShow();
     EXPECT_TRUE(menu->toolTipsVisible());
     EXPECT_EQ(action(*menu, QStringLiteral("Zoom In"))->toolTip(), QStringLiteral("Not now."));
-}
-
-TEST(TreeMenu, ANameInAReasonIsNoMarkup)
-{
-    FakeTarget target;
-    target.reason = QStringLiteral("A disk is mounted at '<img src=\"/a.png\">'.");
-    const auto menu = makeTreeMenu(*makeNode<Folder>("a"), &target);
     EXPECT_EQ(
-        QTextDocumentFragment::fromHtml(action(*menu, QStringLiteral("Zoom In"))->toolTip())
-            .toPlainText(),
-        target.reason);
+        action(*menu, QStringLiteral("Compress Folder"))->toolTip(), QStringLiteral("Not now."));
 }
 
-TEST(TreeMenu, PerformsTheCommandsOfItsEntries)
+TEST_F(TreeMenu, ANameInAReasonIsNoMarkup)
+{
+    const auto menu = makeMenu<Folder>();
+    context.selectedFile = nullptr;
+    reason = QStringLiteral("A disk is mounted at '<img src=\"/a.png\">'.");
+    emit menu->aboutToShow();
+    for (const char* const title : {"Zoom In", "Compress Folder"}) {
+        const QString tooltip = action(*menu, QString::fromLatin1(title))->toolTip();
+        EXPECT_EQ(QTextDocumentFragment::fromHtml(tooltip).toPlainText(), reason);
+    }
+}
+
+TEST_F(TreeMenu, TriggersTheCommandsOfItsEntries)
 {
     const std::vector<std::pair<QString, Command>> expected{
         {QStringLiteral("Quick Look"), Command::QuickLook},
@@ -121,11 +187,11 @@ TEST(TreeMenu, PerformsTheCommandsOfItsEntries)
         {QStringLiteral("Compress Folder"), Command::Compress},
         {QStringLiteral("Move to Trash"), Command::MoveToTrash},
     };
-    FakeTarget target;
-    const auto menu = makeTreeMenu(*makeNode<Folder>("a"), &target);
+    const auto menu = makeMenu<Folder>();
     for (const auto& [title, command] : expected) {
         action(*menu, title)->trigger();
-        EXPECT_EQ(target.performed, command);
+        ASSERT_EQ(triggered.size(), 1);
+        EXPECT_EQ(triggered.takeFirst().at(0).value<Command>(), command);
     }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Commands/CommandActions.h"
 #include "Compress/CompressWindowController.h"
 #include "DeadMounts/QuestionThreads.h"
 #include "Model/FreeSpace.h"
@@ -40,7 +41,7 @@ protected:
         model.setTopFolder(makeTree("/data", "docs/ ( a:500000 b:200000 ) c\xFF:300000"));
         view.resize(400, 300);
         view.show();
-        controller = std::make_unique<TreeViewController>(model, view, services.get());
+        controller = std::make_unique<TreeViewController>(model, view, services.get(), &actions);
     }
     ~TreeViewControllerFixture() override
     {
@@ -97,6 +98,10 @@ protected:
          .threads = threads,
          .motion = &services.motion});
     TreeMapView view{services.defaults};
+    const CommandActions actions{
+        view,
+        [this] { return controller->commandContext(); },
+        [this](Command command) { return controller->whyNot(command); }};
     std::unique_ptr<TreeViewController> controller;
 };
 

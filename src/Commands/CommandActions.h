@@ -6,6 +6,7 @@
 
 #include <QObject>
 
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <optional>
@@ -13,14 +14,13 @@
 class QAction;
 class QKeyEvent;
 class QMenu;
-class QMenuBar;
 class QWidget;
 
 namespace tessera {
 
-/// The actions of the table, with their shortcuts, and the menus that are made of them. Main thread
-/// only.
-class MainActions final : public QObject {
+/// The actions of the table, with their shortcuts. All menus that hold commands show these. Main
+/// thread only.
+class CommandActions final : public QObject {
     Q_OBJECT
 
 public:
@@ -30,18 +30,23 @@ public:
     using WhyNot = std::function<QString(Command command)>;
 
     /// The shortcuts work in `window`, which owns this object.
-    MainActions(QWidget& window, Context context, WhyNot whyNot);
-    ~MainActions() override;
+    CommandActions(QWidget& window, Context context, WhyNot whyNot);
+    ~CommandActions() override;
 
     QAction& action(Command command) const { return *m_actions.at(command); }
+
+    /// Makes an entry with a title of its own for the command, for a menu in which the action's
+    /// title would say too little. It is as the action is, and triggers that. The parent owns it.
+    [[nodiscard]] QAction* makeEntry(Command command, const QString& title, QObject* parent) const;
 
     /// The command whose shortcut was pressed in vain, because its entry is disabled.
     [[nodiscard]] std::optional<Command> disabledCommand(const QKeyEvent& pressed) const;
 
-    /// Adds all menus of the table.
-    void fill(QMenuBar& menuBar) const;
-    /// Adds the entries of one menu, and validates them whenever the menu opens.
-    void fill(QMenu& menu, MainMenu entries) const;
+    /// Whether a menu shows them beside its entries. Those of a menu bar always do.
+    enum class Shortcuts : std::uint8_t { Shown, Hidden };
+
+    /// Validates a menu of these actions whenever it opens, and has it show the tooltips.
+    void lookAfter(QMenu& menu, Shortcuts shortcuts) const;
 
     /// To be called when the context has changed: the shortcuts of disabled entries do nothing, and
     /// the key press goes on to whatever has the keyboard. Their tooltips say why.
@@ -52,6 +57,7 @@ signals:
 
 private:
     QAction* makeAction(QWidget& window, const CommandRow& row);
+    void show(Shortcuts shortcuts) const;
 
     Context m_context;
     WhyNot m_whyNot;

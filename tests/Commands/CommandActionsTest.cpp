@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "MainWindow/Menus/MainActions.h"
+#include "Commands/CommandActions.h"
 
 #include "Model/Folder.h"
 #include "support/BecomesActive.h"
@@ -8,39 +8,21 @@
 #include <QKeySequence>
 #include <QMainWindow>
 #include <QMenu>
-#include <QMenuBar>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTextDocumentFragment>
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <memory>
 #include <set>
-#include <string>
 #include <vector>
 
 namespace tessera {
 namespace {
 
-using testing::ElementsAre;
-
-std::vector<std::string> titles(const QMenu& menu)
-{
-    std::vector<std::string> result;
-    for (const QAction* action : menu.actions()) {
-        result.push_back(action->isSeparator() ? "-" : action->text().toStdString());
-    }
-    return result;
-}
-
-class MainActionsTest : public testing::Test {
+class CommandActionsTest : public testing::Test {
 protected:
-    MainActionsTest() { actions->fill(*window.menuBar()); }
-
-    const QMenu& menu(int index) const { return *window.menuBar()->actions().at(index)->menu(); }
-
     void pressKeys(const char* keys)
     {
         QTest::keySequence(&window, QKeySequence::fromString(QString::fromLatin1(keys)));
@@ -59,33 +41,12 @@ protected:
     QString reason = QStringLiteral("Not now."); ///< for all
     QMainWindow window;
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the window owns it
-    MainActions* actions = new MainActions(
+    CommandActions* actions = new CommandActions(
         window, [this] { return context; }, [this](Command) { return reason; });
-    QSignalSpy triggered{actions, &MainActions::triggered};
+    QSignalSpy triggered{actions, &CommandActions::triggered};
 };
 
-TEST_F(MainActionsTest, TheMenuBarHoldsEveryCommand)
-{
-    EXPECT_THAT(
-        titles(menu(0)),
-        ElementsAre(
-            "&Open Folder…", "Choose &Another Disk or Folder", "-", "&Preferences…", "-", "&Quit"));
-    EXPECT_THAT(
-        titles(menu(1)),
-        ElementsAre(
-            "&Quick Look",
-            "&Show in Finder",
-            "-",
-            "&Rescan",
-            "&Ignore",
-            "-",
-            "&Compress",
-            "Move to &Trash"));
-    EXPECT_THAT(titles(menu(2)), ElementsAre("Zoom &In", "Zoom &Out", "-", "&Full Screen"));
-    EXPECT_THAT(titles(menu(3)), ElementsAre("What Tessera &Does", "Frequently Asked &Questions"));
-}
-
-TEST_F(MainActionsTest, ADisabledEntrySaysWhyInItsTooltip)
+TEST_F(CommandActionsTest, ADisabledEntrySaysWhyInItsTooltip)
 {
     context.canRescan = false;
     actions->validate();
@@ -93,7 +54,7 @@ TEST_F(MainActionsTest, ADisabledEntrySaysWhyInItsTooltip)
     EXPECT_NE(actions->action(Command::Ignore).toolTip(), QStringLiteral("Not now."));
 }
 
-TEST_F(MainActionsTest, AnEntryThatIsEnabledAgainSaysNothingOfTheKind)
+TEST_F(CommandActionsTest, AnEntryThatIsEnabledAgainSaysNothingOfTheKind)
 {
     context.canRescan = false;
     actions->validate();
@@ -102,13 +63,7 @@ TEST_F(MainActionsTest, AnEntryThatIsEnabledAgainSaysNothingOfTheKind)
     EXPECT_NE(actions->action(Command::Rescan).toolTip(), QStringLiteral("Not now."));
 }
 
-TEST_F(MainActionsTest, TheTooltipsAreShownInTheMenus)
-{
-    EXPECT_TRUE(menu(1).toolTipsVisible());
-    EXPECT_TRUE(menu(2).toolTipsVisible());
-}
-
-TEST_F(MainActionsTest, ANameInAReasonIsNoMarkup)
+TEST_F(CommandActionsTest, ANameInAReasonIsNoMarkup)
 {
     context.canRescan = false;
     reason = QStringLiteral("A disk is mounted at '<img src=\"/a.png\">'.");
@@ -118,14 +73,14 @@ TEST_F(MainActionsTest, ANameInAReasonIsNoMarkup)
         reason);
 }
 
-TEST_F(MainActionsTest, EachEntryCarriesItsTag)
+TEST_F(CommandActionsTest, EachEntryCarriesItsTag)
 {
     for (const CommandRow& row : commandTable()) {
         EXPECT_EQ(actions->action(row.command).data().toInt(), row.tag);
     }
 }
 
-TEST_F(MainActionsTest, NoTwoCommandsShareAShortcut)
+TEST_F(CommandActionsTest, NoTwoCommandsShareAShortcut)
 {
     std::set<QKeySequence> seen;
     for (const CommandRow& row : commandTable()) {
@@ -136,20 +91,7 @@ TEST_F(MainActionsTest, NoTwoCommandsShareAShortcut)
     EXPECT_FALSE(seen.contains(QKeySequence()));
 }
 
-TEST_F(MainActionsTest, NoTwoEntriesOfAMenuShareAMnemonic)
-{
-    for (int i = 0; i < 4; ++i) {
-        std::set<QKeySequence> seen;
-        for (const QAction* action : menu(i).actions()) {
-            if (!action->isSeparator()) {
-                EXPECT_TRUE(seen.insert(QKeySequence::mnemonic(action->text())).second)
-                    << action->text().toStdString();
-            }
-        }
-    }
-}
-
-TEST_F(MainActionsTest, AShortcutTriggersItsCommand)
+TEST_F(CommandActionsTest, AShortcutTriggersItsCommand)
 {
     showActiveWindow();
     const std::vector<std::pair<const char*, Command>> expectations{
@@ -179,7 +121,7 @@ TEST_F(MainActionsTest, AShortcutTriggersItsCommand)
     }
 }
 
-TEST_F(MainActionsTest, TheShortcutOfADisabledCommandDoesNothing)
+TEST_F(CommandActionsTest, TheShortcutOfADisabledCommandDoesNothing)
 {
     showActiveWindow();
     context.canRescan = false;
@@ -188,19 +130,43 @@ TEST_F(MainActionsTest, TheShortcutOfADisabledCommandDoesNothing)
     EXPECT_EQ(triggered.size(), 0);
 }
 
-TEST_F(MainActionsTest, AMenuValidatesItsEntriesWhenItOpens)
+TEST_F(CommandActionsTest, AnEntryWithATitleOfItsOwnIsAsTheActionIs)
 {
-    context.isRootInView = true;
-    emit window.menuBar()->actions().at(2)->menu()->aboutToShow();
-    EXPECT_FALSE(actions->action(Command::ZoomOut).isEnabled());
-    EXPECT_TRUE(actions->action(Command::ZoomIn).isEnabled());
+    const QAction* const entry
+        = actions->makeEntry(Command::Compress, QStringLiteral("Compress File"), &window);
+    EXPECT_EQ(entry->text(), QStringLiteral("Compress File"));
+    EXPECT_EQ(entry->data(), actions->action(Command::Compress).data());
+    EXPECT_TRUE(entry->shortcuts().isEmpty());
+
+    context.selectedFile = nullptr;
+    actions->validate();
+    EXPECT_FALSE(entry->isEnabled());
+    EXPECT_EQ(entry->toolTip(), QStringLiteral("Not now."));
+
+    context.selectedFile = folder.get();
+    actions->validate();
+    EXPECT_TRUE(entry->isEnabled());
+    EXPECT_EQ(entry->toolTip(), QStringLiteral("Compress File"));
 }
 
-TEST_F(MainActionsTest, AnotherMenuMayHoldTheSameEntries)
+TEST_F(CommandActionsTest, AnEntryWithATitleOfItsOwnTriggersTheCommand)
 {
-    QMenu menuOfAButton;
-    actions->fill(menuOfAButton, MainMenu::Item);
-    EXPECT_EQ(titles(menuOfAButton), titles(menu(1)));
+    actions->makeEntry(Command::Compress, QStringLiteral("Compress File"), &window)->trigger();
+    ASSERT_EQ(triggered.size(), 1);
+    EXPECT_EQ(triggered.takeFirst().at(0).value<Command>(), Command::Compress);
+}
+
+TEST_F(CommandActionsTest, EachMenuSaysWhetherItShowsTheShortcuts)
+{
+    QMenu with;
+    QMenu without;
+    actions->lookAfter(with, CommandActions::Shortcuts::Shown);
+    actions->lookAfter(without, CommandActions::Shortcuts::Hidden);
+    const QAction& rescan = actions->action(Command::Rescan);
+    emit without.aboutToShow();
+    EXPECT_FALSE(rescan.isShortcutVisibleInContextMenu());
+    emit with.aboutToShow();
+    EXPECT_TRUE(rescan.isShortcutVisibleInContextMenu());
 }
 
 } // namespace

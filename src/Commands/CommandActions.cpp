@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+#include "Commands/CommandActions.h"
+
+#include "Base/DisplayText.h"
+
+#include <QAction>
+#include <QKeyEvent>
+#include <QKeySequence>
+#include <QMenu>
+
+#include <algorithm>
+#include <utility>
+
+namespace tessera {
+
+namespace {
+
+QAction* makePlainAction(const QString& title, const QVariant& tag, QObject* parent)
+{
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the parent owns it
+    auto* const action = new QAction(title, parent);
+    // Titles must not make an entry move elsewhere in the menus of some desktops.
+    action->setMenuRole(QAction::NoRole);
+    action->setData(tag);
+    return action;
+}
+
+} // namespace
+
+CommandActions::CommandActions(QWidget& window, Context context, WhyNot whyNot)
+    : QObject(&window)
+    , m_context(std::move(context))
+    , m_whyNot(std::move(whyNot))
+{
+    for (const CommandRow& row : commandTable()) {
+        m_actions.emplace(row.command, makeAction(window, row));
+    }
+}
+
+CommandActions::~CommandActions() = default;
+
+QAction* CommandActions::makeAction(QWidget& window, const CommandRow& row)
+{
+    QAction* const action = makePlainAction(titleOf(row), row.tag, this);
+    action->setShortcuts(QKeySequence::listFromString(QString::fromLatin1(row.shortcuts)));
+    connect(action, &QAction::triggered, this, [this, command = row.command] {
+        emit triggered(command);
+    });
+    window.addAction(action);
+    return action;
+}
+
+QAction* CommandActions::makeEntry(Command command, const QString& title, QObject* parent) const
+{
+    QAction& shared = action(command);
+    QAction* const entry = makePlainAction(title, shared.data(), parent);
+    const auto follow = [&shared, entry] {
+        entry->setEnabled(shared.isEnabled());
+        entry->setToolTip(shared.isEnabled() ? QString() : shared.toolTip());
+    };
+    follow();
+    connect(&shared, &QAction::changed, entry, follow);
+    connect(entry, &QAction::triggered, &shared, &QAction::trigger);
+    return entry;
+}
+
+void CommandActions::lookAfter(QMenu& menu, Shortcuts shortcuts) const
+{
+    // Of disabled entries.
+    menu.setToolTipsVisible(true);
+    connect(&menu, &QMenu::aboutToShow, this, [this, shortcuts] { show(shortcuts); });
+    connect(&menu, &QMenu::aboutToShow, this, &CommandActions::validate);
+}
+
+/// An action says so for all menus that show it, but no two of them are open at once.
+void CommandActions::show(Shortcuts shortcuts) const
+{
+    for (const auto& [command, action] : m_actions) {
+        action->setShortcutVisibleInContextMenu(shortcuts == Shortcuts::Shown);
+    }
+}
+
+std::optional<Command> CommandActions::disabledCommand(const QKeyEvent& pressed) const
+{
+    Qt::KeyboardModifiers modifiers = pressed.modifiers();
+    modifiers.setFlag(Qt::KeypadModifier, false);
+    const QKeySequence keys(QKeyCombination(modifiers, static_cast<Qt::Key>(pressed.key())));
+    const auto found = std::ranges::find_if(m_actions, [&keys](const auto& entry) {
+        return !entry.second->isEnabled() && entry.second->shortcuts().contains(keys);
+    });
+    return found == m_actions.end() ? std::nullopt : std::optional(found->first);
+}
+
+void CommandActions::validate()
+{
+    const CommandContext context = m_context();
+    for (const auto& [command, action] : m_actions) {
+        const bool canBeDone = isEnabled(command, context);
+        action->setEnabled(canBeDone);
+        action->setToolTip(canBeDone ? QString() : plainTooltip(m_whyNot(command)));
+    }
+}
+
+} // namespace tessera

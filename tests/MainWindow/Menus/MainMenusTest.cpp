@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#include "MainWindow/Menus/MainMenus.h"
+
+#include "Commands/CommandActions.h"
+#include "Model/Folder.h"
+
+#include <QAction>
+#include <QKeySequence>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace tessera {
+namespace {
+
+using testing::ElementsAre;
+
+std::vector<std::string> titles(const QMenu& menu)
+{
+    std::vector<std::string> result;
+    for (const QAction* action : menu.actions()) {
+        result.push_back(action->isSeparator() ? "-" : action->text().toStdString());
+    }
+    return result;
+}
+
+class MainMenusTest : public testing::Test {
+protected:
+    MainMenusTest() { fillMenuBar(*window.menuBar(), *actions); }
+
+    const QMenu& menu(int index) const { return *window.menuBar()->actions().at(index)->menu(); }
+
+    std::unique_ptr<Folder> folder = makeNode<Folder>("docs");
+    /// In which all is enabled.
+    CommandContext context{false, true, false, folder.get(), true};
+    QMainWindow window;
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the window owns it
+    CommandActions* actions = new CommandActions(
+        window, [this] { return context; }, [](Command) { return QString(); });
+};
+
+TEST_F(MainMenusTest, TheMenuBarHoldsEveryCommand)
+{
+    EXPECT_THAT(
+        titles(menu(0)),
+        ElementsAre(
+            "&Open Folder…", "Choose &Another Disk or Folder", "-", "&Preferences…", "-", "&Quit"));
+    EXPECT_THAT(
+        titles(menu(1)),
+        ElementsAre(
+            "&Quick Look",
+            "&Show in Finder",
+            "-",
+            "&Rescan",
+            "&Ignore",
+            "-",
+            "&Compress",
+            "Move to &Trash"));
+    EXPECT_THAT(titles(menu(2)), ElementsAre("Zoom &In", "Zoom &Out", "-", "&Full Screen"));
+    EXPECT_THAT(titles(menu(3)), ElementsAre("What Tessera &Does", "Frequently Asked &Questions"));
+}
+
+TEST_F(MainMenusTest, TheTooltipsAreShownInTheMenus)
+{
+    EXPECT_TRUE(menu(1).toolTipsVisible());
+    EXPECT_TRUE(menu(2).toolTipsVisible());
+}
+
+TEST_F(MainMenusTest, NoTwoEntriesOfAMenuShareAMnemonic)
+{
+    for (int i = 0; i < 4; ++i) {
+        std::set<QKeySequence> seen;
+        for (const QAction* action : menu(i).actions()) {
+            if (!action->isSeparator()) {
+                EXPECT_TRUE(seen.insert(QKeySequence::mnemonic(action->text())).second)
+                    << action->text().toStdString();
+            }
+        }
+    }
+}
+
+TEST_F(MainMenusTest, AMenuValidatesItsEntriesWhenItOpens)
+{
+    context.isRootInView = true;
+    emit window.menuBar()->actions().at(2)->menu()->aboutToShow();
+    EXPECT_FALSE(actions->action(Command::ZoomOut).isEnabled());
+    EXPECT_TRUE(actions->action(Command::ZoomIn).isEnabled());
+}
+
+TEST_F(MainMenusTest, AnotherMenuMayHoldTheSameEntries)
+{
+    QMenu menuOfAButton;
+    fillMenu(menuOfAButton, MainMenu::Item, *actions);
+    EXPECT_EQ(titles(menuOfAButton), titles(menu(1)));
+}
+
+} // namespace
+} // namespace tessera
