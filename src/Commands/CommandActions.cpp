@@ -15,13 +15,14 @@ namespace tessera {
 
 namespace {
 
-QAction* makePlainAction(const QString& title, const QVariant& tag, QObject* parent)
+QAction* makePlainAction(const QString& title, const CommandRow& row, QObject* parent)
 {
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the parent owns it
     auto* const action = new QAction(title, parent);
     // Titles must not make an entry move elsewhere in the menus of some desktops.
     action->setMenuRole(QAction::NoRole);
-    action->setData(tag);
+    action->setData(row.tag);
+    action->setWhatsThis(helpOf(row));
     return action;
 }
 
@@ -41,7 +42,7 @@ CommandActions::~CommandActions() = default;
 
 QAction* CommandActions::makeAction(QWidget& window, const CommandRow& row)
 {
-    QAction* const action = makePlainAction(titleOf(row), row.tag, this);
+    QAction* const action = makePlainAction(titleOf(row), row, this);
     action->setShortcuts(QKeySequence::listFromString(QString::fromLatin1(row.shortcuts)));
     connect(action, &QAction::triggered, this, [this, command = row.command] {
         emit triggered(command);
@@ -53,7 +54,7 @@ QAction* CommandActions::makeAction(QWidget& window, const CommandRow& row)
 QAction* CommandActions::makeEntry(Command command, const QString& title, QObject* parent) const
 {
     QAction& shared = action(command);
-    QAction* const entry = makePlainAction(title, shared.data(), parent);
+    QAction* const entry = makePlainAction(title, rowOf(command), parent);
     const auto follow = [&shared, entry] {
         entry->setEnabled(shared.isEnabled());
         entry->setToolTip(shared.isEnabled() ? QString() : shared.toolTip());

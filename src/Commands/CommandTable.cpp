@@ -20,18 +20,24 @@ constexpr std::array kRows{
         MainMenu::File,
         21,
         QT_TRANSLATE_NOOP("MainMenu", "&Open Folder…"),
+        QT_TRANSLATE_NOOP("MainMenu", "Lets you choose a folder and scans it."),
         "Ctrl+O"},
     CommandRow{
         Command::Home,
         MainMenu::File,
         41,
         QT_TRANSLATE_NOOP("MainMenu", "Choose &Another Disk or Folder"),
+        QT_TRANSLATE_NOOP(
+            "MainMenu", "Goes back to the home screen, where you choose what to scan."),
         "Alt+Home"},
     CommandRow{
         Command::Preferences,
         MainMenu::File,
         kNoTag,
         QT_TRANSLATE_NOOP("MainMenu", "&Preferences…"),
+        QT_TRANSLATE_NOOP(
+            "MainMenu",
+            "Lets you choose what is shown under the pointer and when Tessera warns you."),
         "Ctrl+,",
         true},
     CommandRow{
@@ -39,6 +45,8 @@ constexpr std::array kRows{
         MainMenu::File,
         kNoTag,
         QT_TRANSLATE_NOOP("MainMenu", "&Quit"),
+        QT_TRANSLATE_NOOP(
+            "MainMenu", "Ends Tessera, and asks you first while an archive is being made."),
         "Ctrl+Q",
         true},
     CommandRow{
@@ -46,27 +54,42 @@ constexpr std::array kRows{
         MainMenu::Item,
         33,
         QT_TRANSLATE_NOOP("MainMenu", "&Quick Look"),
+        QT_TRANSLATE_NOOP("MainMenu", "Previews the selected item in a small window."),
         "Ctrl+Y"},
     CommandRow{
         Command::ShowInFinder,
         MainMenu::Item,
         34,
         QT_TRANSLATE_NOOP("MainMenu", "&Show in Finder"),
+        QT_TRANSLATE_NOOP("MainMenu", "Shows the selected item in your file manager."),
         "Ctrl+Shift+R"},
     CommandRow{
         Command::Rescan,
         MainMenu::Item,
         35,
         QT_TRANSLATE_NOOP("MainMenu", "&Rescan"),
+        QT_TRANSLATE_NOOP(
+            "MainMenu",
+            "Scans the selected folder again, or the folder in view while nothing is selected."),
         "Ctrl+R; F5",
         true},
     CommandRow{
-        Command::Ignore, MainMenu::Item, 36, QT_TRANSLATE_NOOP("MainMenu", "&Ignore"), "Ctrl+I"},
+        Command::Ignore,
+        MainMenu::Item,
+        36,
+        QT_TRANSLATE_NOOP("MainMenu", "&Ignore"),
+        QT_TRANSLATE_NOOP(
+            "MainMenu",
+            "Leaves the selected folder out of the picture and changes nothing on the disk."),
+        "Ctrl+I"},
     CommandRow{
         Command::Compress,
         MainMenu::Item,
         37,
         QT_TRANSLATE_NOOP("MainMenu", "&Compress"),
+        QT_TRANSLATE_NOOP(
+            "MainMenu",
+            "Makes a zip archive of the selected item beside it; the item itself stays."),
         "Ctrl+Shift+C",
         true,
         QT_TRANSLATE_NOOP("MainMenu", "Compress Folder"),
@@ -76,24 +99,31 @@ constexpr std::array kRows{
         MainMenu::Item,
         38,
         QT_TRANSLATE_NOOP("MainMenu", "Move to &Trash"),
+        QT_TRANSLATE_NOOP(
+            "MainMenu",
+            "Moves the selected item to the trash, after a warning where that is risky."),
         "Ctrl+Del"},
     CommandRow{
         Command::ZoomIn,
         MainMenu::View,
         32,
         QT_TRANSLATE_NOOP("MainMenu", "Zoom &In"),
+        QT_TRANSLATE_NOOP("MainMenu", "Fills the window with the selected folder."),
         "Ctrl++; Ctrl+=; Alt+Down"},
     CommandRow{
         Command::ZoomOut,
         MainMenu::View,
         31,
         QT_TRANSLATE_NOOP("MainMenu", "Zoom &Out"),
+        QT_TRANSLATE_NOOP("MainMenu", "Shows the folder around the one in view."),
         "Ctrl+-; Alt+Up"},
     CommandRow{
         Command::FullScreen,
         MainMenu::View,
         kNoTag,
         QT_TRANSLATE_NOOP("MainMenu", "&Full Screen"),
+        QT_TRANSLATE_NOOP(
+            "MainMenu", "Lets the window fill the whole screen, or gives it back its size."),
         "F11",
         true},
     CommandRow{
@@ -101,12 +131,16 @@ constexpr std::array kRows{
         MainMenu::Help,
         62,
         QT_TRANSLATE_NOOP("MainMenu", "What Tessera &Does"),
+        QT_TRANSLATE_NOOP(
+            "MainMenu", "Opens a page that says what Tessera does and how you use it."),
         "F1"},
     CommandRow{
         Command::Questions,
         MainMenu::Help,
         64,
         QT_TRANSLATE_NOOP("MainMenu", "Frequently Asked &Questions"),
+        QT_TRANSLATE_NOOP(
+            "MainMenu", "Opens a page that answers frequently asked questions about Tessera."),
         "Ctrl+F1"},
 };
 
@@ -140,6 +174,11 @@ const CommandRow& rowOf(Command command)
 QString titleOf(const CommandRow& row)
 {
     return QCoreApplication::translate(kContext, row.title);
+}
+
+QString helpOf(const CommandRow& row)
+{
+    return QCoreApplication::translate(kContext, row.help);
 }
 
 QString titleOf(MainMenu menu)

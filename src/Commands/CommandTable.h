@@ -18,6 +18,7 @@ struct CommandRow {
     MainMenu menu;
     int tag; ///< stays with the entry whatever its text and place are; 0 is none
     const char* title; ///< with a mnemonic
+    const char* help; ///< a sentence that says what the command does for the user
     /// Separated by "; ", in Qt's portable notation. No plain keys: those belong to the tree
     /// screen, and to whatever has the keyboard (docs/keyboard.md).
     const char* shortcuts;
@@ -38,5 +39,7 @@ QString titleOf(MainMenu menu);
 /// The same in the menu of one item, without a mnemonic.
 QString titleForFolder(const CommandRow& row);
 QString titleForDocument(const CommandRow& row);
+/// What the user reads who asks what the command does.
+QString helpOf(const CommandRow& row);
 
 } // namespace tessera

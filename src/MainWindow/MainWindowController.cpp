@@ -87,11 +87,9 @@ void MainWindowController::loadWindow()
     m_toolbar = std::make_unique<MainToolbar>(*m_ui->toolbar, m_itemMenu);
     m_toolbar->toolbarIgnoreButton().setMenu(&m_ignoreMenu);
     connect(m_actions, &CommandActions::triggered, this, &MainWindowController::perform);
-    connect(
-        &m_toolbar->toolbarHomeButton(),
-        &QToolButton::clicked,
-        &m_actions->action(Command::Home),
-        &QAction::trigger);
+    QAction& home = m_actions->action(Command::Home);
+    m_toolbar->toolbarHomeButton().setWhatsThis(home.whatsThis());
+    connect(&m_toolbar->toolbarHomeButton(), &QToolButton::clicked, &home, &QAction::trigger);
     connect(
         &m_toolbar->toolbarPathControl(),
         &ToolbarPathControl::clicked,

@@ -80,6 +80,13 @@ TEST_F(CommandActionsTest, EachEntryCarriesItsTag)
     }
 }
 
+TEST_F(CommandActionsTest, EachEntrySaysWhatItsCommandDoes)
+{
+    for (const CommandRow& row : commandTable()) {
+        EXPECT_EQ(actions->action(row.command).whatsThis(), helpOf(row));
+    }
+}
+
 TEST_F(CommandActionsTest, NoTwoCommandsShareAShortcut)
 {
     std::set<QKeySequence> seen;
@@ -136,6 +143,7 @@ TEST_F(CommandActionsTest, AnEntryWithATitleOfItsOwnIsAsTheActionIs)
         = actions->makeEntry(Command::Compress, QStringLiteral("Compress File"), &window);
     EXPECT_EQ(entry->text(), QStringLiteral("Compress File"));
     EXPECT_EQ(entry->data(), actions->action(Command::Compress).data());
+    EXPECT_EQ(entry->whatsThis(), helpOf(rowOf(Command::Compress)));
     EXPECT_TRUE(entry->shortcuts().isEmpty());
 
     context.selectedFile = nullptr;

@@ -32,6 +32,16 @@ TEST(CommandTable, EachCommandHasItsTag)
     }
 }
 
+TEST(CommandTable, EachCommandSaysInASentenceWhatItDoes)
+{
+    for (const CommandRow& row : commandTable()) {
+        const QString help = helpOf(row);
+        EXPECT_GT(help.count(QLatin1Char(' ')), 2) << row.title;
+        EXPECT_TRUE(help.endsWith(QLatin1Char('.'))) << row.title;
+        EXPECT_FALSE(help.contains(QLatin1Char('&'))) << row.title;
+    }
+}
+
 TEST(CommandTable, TheMenuOfAnItemSaysWhatIsCompressed)
 {
     const CommandRow& row = rowOf(Command::Compress);

@@ -321,6 +321,13 @@ TEST_F(MainWindowControllerTest, CommandsReachTheTreeScreen)
     EXPECT_EQ(services.treeScreen.workspace.recycled[0][0].path(), "/data/c");
 }
 
+TEST_F(MainWindowControllerTest, TheHomeButtonSaysWhatItsCommandDoes)
+{
+    const QToolButton& button = controller->toolbar().toolbarHomeButton();
+    EXPECT_EQ(button.whatsThis(), helpOf(rowOf(Command::Home)));
+    EXPECT_EQ(button.toolTip(), QStringLiteral("Choose another disk or folder"));
+}
+
 TEST_F(MainWindowControllerTest, TheContextMenuShowsTheActionsOfTheMenuBar)
 {
     showTree();
