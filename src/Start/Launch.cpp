@@ -4,10 +4,10 @@
 #include "Base/ByteSize.h"
 #include "Base/Log.h"
 #include "Desktop/FileAccess.h"
-#include "Desktop/RunningInstance.h"
 #include "Start/AppDelegate.h"
 #include "Start/LaunchServices.h"
 #include "Start/PictureWriter.h"
+#include "Start/SecondStart.h"
 #include "Start/WindowedProgram.h"
 
 #include <QApplication>
@@ -108,7 +108,7 @@ int openWindow(const std::string& folder, const LaunchServices& services)
         }
         url = Url(path, true);
     }
-    return services.runningInstance.handOver(url) ? kDone : showWindow(url, services);
+    return handOverToFirstStart(services.runningInstance, url) ? kDone : showWindow(url, services);
 }
 
 } // namespace

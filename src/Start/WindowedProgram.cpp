@@ -4,7 +4,6 @@
 #include "DeadMounts/QuestionThreads.h"
 #include "Desktop/EndRequests.h"
 #include "Desktop/FileAccess.h"
-#include "Desktop/RunningInstance.h"
 #include "Desktop/UserAccount.h"
 #include "HomeScreen/Places/KnownPlaces.h"
 #include "MainWindow/MainWindowController.h"
@@ -118,9 +117,8 @@ struct WindowedProgram::Desktop {
 };
 
 WindowedProgram::WindowedProgram(const LaunchServices& services)
-    : m_runningInstance(services.runningInstance)
+    : m_secondStarts(services.runningInstance)
 {
-    giveUpAtTheEnd();
     QGuiApplication::setDesktopFileName(QStringLiteral("tessera"));
     QGuiApplication::setWindowIcon(imageNamed("bullseye"));
     m_palette = std::make_unique<ApplicationPalette>(services.colorScheme);
@@ -138,25 +136,12 @@ WindowedProgram::WindowedProgram(const LaunchServices& services)
     QMainWindow& window = m_delegate->mainWindow()->window();
     m_desktop->alert.setMainWindow(&window);
     setUpPreview(window, services, m_desktop->icons);
-    m_runningInstance.setHandler([this](const Url& later, const std::string& activationToken) {
-        m_delegate->openFromElsewhere(later, activationToken);
-    });
+    m_secondStarts.openIn(*m_delegate);
     // Whoever sends these waits for no answer to a question, as quit() would ask.
     services.endRequests.setHandler([] { QCoreApplication::exit(); });
 }
 
-WindowedProgram::~WindowedProgram()
-{
-    m_runningInstance.giveUp();
-}
-
-/// Before everybody else that has something to do at the end of the event loop, for they are told
-/// in the order in which they asked: that may take seconds, and another start need not wait for it.
-void WindowedProgram::giveUpAtTheEnd()
-{
-    QObject::connect(
-        qApp, &QCoreApplication::aboutToQuit, &m_end, [this] { m_runningInstance.giveUp(); });
-}
+WindowedProgram::~WindowedProgram() = default;
 
 MainWindowServices WindowedProgram::mainWindowServices(
     const LaunchServices& services, RootModel& model) const

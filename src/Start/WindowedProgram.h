@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QObject>
+#include "Start/SecondStart.h"
 
 #include <memory>
 
@@ -10,7 +10,6 @@ namespace tessera {
 class AppDelegate;
 class ApplicationPalette;
 class RootModel;
-class RunningInstance;
 struct LaunchServices;
 struct MainWindowServices;
 
@@ -32,13 +31,10 @@ private:
 
     MainWindowServices mainWindowServices(const LaunchServices& services, RootModel& model) const;
 
-    void giveUpAtTheEnd();
-
-    RunningInstance& m_runningInstance;
-    QObject m_end; ///< hears of it
     std::unique_ptr<ApplicationPalette> m_palette;
     std::unique_ptr<Desktop> m_desktop;
     std::unique_ptr<AppDelegate> m_delegate;
+    SecondStarts m_secondStarts; ///< given up before anything else here ends
 };
 
 } // namespace tessera
