@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "EndToEnd/Desk/Eventually.h"
 #include "EndToEnd/Session/TreeWindowFixture.h"
+#include "support/Machine/BuiltPaths.h"
 #include "support/Machine/FileContent.h"
 #include "support/Machine/RunProgram.h"
-#include "support/Machine/BuiltPaths.h"
 
 #include <sys/stat.h>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "EndToEnd/Session/ExpectedPicture.h"
+#include "support/Machine/BuiltPaths.h"
 #include "support/Machine/FileContent.h"
 #include "support/Machine/RunProgram.h"
 #include "support/Machine/TempTree.h"
-#include "support/Machine/BuiltPaths.h"
 
 #include <QByteArray>
 #include <QChar>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "support/Machine/BuiltPaths.h"
 #include "support/Machine/FileContent.h"
 #include "support/Machine/RunProgram.h"
 #include "support/Machine/TempTree.h"
-#include "support/Machine/BuiltPaths.h"
 
 #include <QByteArray>
 #include <QImage>

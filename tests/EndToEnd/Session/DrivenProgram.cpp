@@ -2,8 +2,8 @@
 #include "DrivenProgram.h"
 
 #include "SessionEnvironment.h"
-#include "support/Machine/FileContent.h"
 #include "support/Machine/BuiltPaths.h"
+#include "support/Machine/FileContent.h"
 
 #include <cstdlib>
 

@@ -3,9 +3,9 @@
 
 #include "EndToEnd/Desk/Eventually.h"
 #include "SessionEnvironment.h"
+#include "support/Machine/BuiltPaths.h"
 #include "support/Machine/FileContent.h"
 #include "support/Machine/SessionBusConfiguration.h"
-#include "support/Machine/BuiltPaths.h"
 
 #include <unistd.h>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Ending the archiver while it works.
 #include "Base/FileIdentity.h"
+#include "support/Machine/BuiltPaths.h"
 #include "support/Machine/ChildProcess.h"
 #include "support/Machine/FileContent.h"
 #include "support/Machine/TempTree.h"
-#include "support/Machine/BuiltPaths.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The program that decodes, started as the preview panel starts it.
 #include "QuickLook/Reading/SampleFiles.h"
+#include "support/Machine/BuiltPaths.h"
 #include "support/Machine/ChildProcess.h"
 #include "support/Machine/FileContent.h"
 #include "support/Machine/RunProgram.h"
 #include "support/Machine/TempTree.h"
-#include "support/Machine/BuiltPaths.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -24,6 +24,7 @@
 #include <csignal>
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
 #include <filesystem>
 #include <functional>
 #include <memory>
@@ -260,8 +261,8 @@ TEST(PreviewCommandOfAnyUser, ShowsItsMemoryToNobody)
 {
     constexpr uid_t kNobody = 65534;
     const WorkingPreviewer previewer([] {
-        if (::getuid() == 0) {
-            (void)::setresuid(kNobody, kNobody, kNobody);
+        if (::getuid() == 0 && ::setresuid(kNobody, kNobody, kNobody) != 0) {
+            ::_exit(EXIT_FAILURE);
         }
     });
     if (!previewer.hasBegun()) {
@@ -324,7 +325,13 @@ TEST(PreviewCommandOfACrashedProgram, EndsWithIt)
         if (process == 0) {
             ::dup2(::open(tree.pathOf("a.png").c_str(), O_RDONLY), STDIN_FILENO);
             ::dup2(pipe[1], STDOUT_FILENO);
-            ::execl(test::built::previewer(), test::built::previewer(), "picture", "300", "300", nullptr);
+            ::execl(
+                test::built::previewer(),
+                test::built::previewer(),
+                "picture",
+                "300",
+                "300",
+                nullptr);
             ::_exit(127);
         }
         std::array<char, kFrameBytes> frame{};

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Qt/SettingsUserDefaults.h"
+
 #include "support/Machine/BuiltPaths.h"
 
 #include <QCoreApplication>

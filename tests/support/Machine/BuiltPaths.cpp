@@ -2,52 +2,52 @@
 
 namespace tessera::test::built {
 
-const char *program()
+const char* program()
 {
     return TESSERA_PROGRAM;
 }
 
-const char *archiver()
+const char* archiver()
 {
     return TESSERA_ARCHIVER;
 }
 
-const char *previewer()
+const char* previewer()
 {
     return TESSERA_PREVIEWER;
 }
 
-const char *settingsWriter()
+const char* settingsWriter()
 {
     return TESSERA_SETTINGS_WRITER;
 }
 
-const char *folder()
+const char* folder()
 {
     return TESSERA_BUILD;
 }
 
-const char *cmake()
+const char* cmake()
 {
     return TESSERA_CMAKE;
 }
 
-const char *screenshots()
+const char* screenshots()
 {
     return TESSERA_BUILD "/screenshots";
 }
 
-const char *archiveReader()
+const char* archiveReader()
 {
     return TESSERA_TESTS "/HelperPrograms/Archiver/readArchive.py";
 }
 
-const char *xbelReader()
+const char* xbelReader()
 {
     return TESSERA_TESTS "/Platform/Linux/Desktop/readXbel.py";
 }
 
-const char *sftpRelay()
+const char* sftpRelay()
 {
     return TESSERA_TESTS "/Platform/Linux/Trash/sftpRelay.py";
 }

@@ -16,6 +16,7 @@
 #include <filesystem>
 #include <memory>
 #include <system_error>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -104,7 +105,7 @@ private:
             if (::unlinkat(folder, name.c_str(), 0) == 0) {
                 continue;
             }
-            ::fchmodat(folder, name.c_str(), kFolderMode, 0);
+            std::ignore = ::fchmodat(folder, name.c_str(), kFolderMode, 0);
             const std::string lifted = "lifted" + std::to_string(m_nextNumber++);
             if (::renameat(folder, name.c_str(), m_top.number(), lifted.c_str()) == 0) {
                 m_lifted.push_back(lifted);

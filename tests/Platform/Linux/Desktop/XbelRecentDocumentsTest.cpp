@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "XbelRecentDocumentsFixture.h"
-#include "support/Machine/DeadFileSystem.h"
 #include "support/Machine/BuiltPaths.h"
+#include "support/Machine/DeadFileSystem.h"
 
 #include <QProcess>
 #include <QStandardPaths>
@@ -275,7 +275,8 @@ TEST_F(XbelRecentDocumentsOnDisk, AnotherReaderSeesTheSame)
     documents().noteNewRecentDocumentUrl(url);
     QProcess reader;
     reader.start(
-        python, {QString::fromUtf8(test::built::xbelReader()), QString::fromStdString(m_file.string())});
+        python,
+        {QString::fromUtf8(test::built::xbelReader()), QString::fromStdString(m_file.string())});
     ASSERT_TRUE(reader.waitForFinished());
     EXPECT_EQ(reader.exitCode(), 0) << reader.readAllStandardError().toStdString();
     EXPECT_EQ(

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "support/Machine/BuiltPaths.h"
 #include "support/Machine/RunProgram.h"
 #include "support/Machine/TrashFixture.h"
-#include "support/Machine/BuiltPaths.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -30,7 +30,8 @@ protected:
         const ProgramResult result = runProgram(
             "sshfs",
             {"-o",
-             std::string("reconnect,ssh_command=python3 ") + test::built::sftpRelay() + " " + m_flag,
+             std::string("reconnect,ssh_command=python3 ") + test::built::sftpRelay() + " "
+                 + m_flag,
              "server:" + m_tree.pathOf("server"),
              m_tree.pathOf("disk")});
         ASSERT_EQ(result.exitStatus, 0) << result.standardError;
