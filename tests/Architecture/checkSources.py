@@ -17,7 +17,9 @@ MOST_LINES_OF_A_FUNCTION = 39
 
 # Opening and closing braces of function bodies stand alone at the beginning of a line, those of
 # classes and namespaces end a line.
-FUNCTION = re.compile(r"^[^\s#/}][^;{}]*?\n\{\n(?:.*?\n)??\}$", re.MULTILINE | re.DOTALL)
+# The head counts as far as it has no braces of its own.
+FUNCTION = re.compile(
+    r"^(?:[^\s#/}][^;{}]*?\n)?\{\n(?:.*?\n)??\}$", re.MULTILINE | re.DOTALL)
 CHECK_OF_QT_TEST = re.compile(r"\b(QTRY_\w+|QVERIFY\w*|QCOMPARE\w*|QFAIL|QSKIP|QEXPECT_FAIL)\b")
 
 

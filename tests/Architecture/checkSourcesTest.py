@@ -54,6 +54,12 @@ class CheckSources(unittest.TestCase):
             self.wrong_with("src/Roof.cpp", text),
             ["src/Roof.cpp:1: a function of 40 lines, more than 39"])
 
+    def test_a_function_whose_head_has_braces_counts(self):
+        text = function(41).replace("void build()", "Roof::Roof()\n    : m_lay([] { return 1; })")
+        self.assertEqual(
+            self.wrong_with("src/Roof.cpp", text),
+            ["src/Roof.cpp:3: a function of 40 lines, more than 39"])
+
     def test_a_function_without_a_body_ends_where_it_ends(self):
         self.assertEqual(
             self.wrong_with("src/Roof.cpp", "Roof::Roof()\n{\n}\n\n" + function(38)), [])

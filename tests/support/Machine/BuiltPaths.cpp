@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "support/Machine/BuiltPaths.h"
 
 namespace tessera::test::built {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 /// Where the build put what tests start, and where scripts lie that tests ask. All of it is bytes
