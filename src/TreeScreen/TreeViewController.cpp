@@ -307,9 +307,6 @@ void TreeViewController::perform(Command command)
     case Command::ZoomOut:
         zoomOut();
         break;
-    case Command::Rescan:
-        refreshFolder();
-        break;
     case Command::Compress:
         compressItem();
         break;

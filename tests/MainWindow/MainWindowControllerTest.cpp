@@ -12,9 +12,7 @@
 #include "support/BecomesActive.h"
 
 #include <QApplication>
-#include <QContextMenuEvent>
 #include <QKeySequence>
-#include <QMenu>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
@@ -54,14 +52,6 @@ protected:
         return **std::ranges::find(actions, titleOf(rowOf(command)), &QAction::text);
     }
     bool isEnabled(Command command) const { return action(command).isEnabled(); }
-
-    QMenu& openContextMenu(const char* path) const
-    {
-        select(path);
-        QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(), QPoint());
-        QApplication::sendEvent(&map(), &event);
-        return *qobject_cast<QMenu*>(QApplication::activePopupWidget());
-    }
 
     /// A tree in which a disk is mounted at "mnt".
     void showTreeWithMountPoint()
@@ -326,26 +316,6 @@ TEST_F(MainWindowControllerTest, TheHomeButtonSaysWhatItsCommandDoes)
     const QToolButton& button = controller->toolbar().toolbarHomeButton();
     EXPECT_EQ(button.whatsThis(), helpOf(rowOf(Command::Home)));
     EXPECT_EQ(button.toolTip(), QStringLiteral("Choose another disk or folder"));
-}
-
-TEST_F(MainWindowControllerTest, TheContextMenuShowsTheActionsOfTheMenuBar)
-{
-    showTree();
-    const QMenu& menu = openContextMenu("docs");
-    EXPECT_TRUE(menu.actions().contains(&action(Command::ZoomIn)));
-    EXPECT_TRUE(menu.actions().contains(&action(Command::Rescan)));
-}
-
-/// The scanned folder goes for another when it is scanned again, and the screen with it.
-TEST_F(MainWindowControllerTest, AnEntryOfTheContextMenuMayEndTheTreeScreen)
-{
-    showTree();
-    QMenu& menu = openContextMenu("docs");
-    controller->treeVC()->setSelectedFile(nullptr);
-    QAction* const rescan = menu.actions().at(menu.actions().indexOf(&action(Command::Rescan)));
-    QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(rescan).center());
-    EXPECT_EQ(controller->treeVC(), nullptr);
-    EXPECT_THAT(services.screens.scanned, ElementsAre("/data", "/data"));
 }
 
 TEST_F(MainWindowControllerTest, ZoomOutNeedsNoSelection)

@@ -7,15 +7,18 @@
 #include "Model/FreeSpace.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QImage>
 #include <QMenu>
 #include <QPixmap>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTextDocumentFragment>
+#include <QWhatsThis>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -175,6 +178,25 @@ TEST_F(TreeMenu, ANameInAReasonIsNoMarkup)
         const QString tooltip = action(*menu, QString::fromLatin1(title))->toolTip();
         EXPECT_EQ(QTextDocumentFragment::fromHtml(tooltip).toPlainText(), reason);
     }
+}
+
+bool isExplanationShown()
+{
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    return std::any_of(widgets.begin(), widgets.end(), [](const QWidget* widget) {
+        return widget->inherits("QWhatsThat") && widget->isVisible();
+    });
+}
+
+TEST_F(TreeMenu, F1SaysWhatAnEntryDoesAndDoesNotDoIt)
+{
+    const auto menu = makeMenu<Folder>();
+    menu->popup({});
+    QTest::keyClick(menu.get(), Qt::Key_Down);
+    QTest::keyClick(menu.get(), Qt::Key_F1);
+    EXPECT_TRUE(isExplanationShown());
+    EXPECT_EQ(triggered.size(), 0);
+    QWhatsThis::hideText();
 }
 
 TEST_F(TreeMenu, TriggersTheCommandsOfItsEntries)

@@ -18,7 +18,7 @@ inline constexpr std::string_view kTrashInfoSuffix = ".trashinfo";
 [[nodiscard]] std::string trashInfoText(std::string_view originalPath, std::time_t deletionTime);
 
 /// Makes that file for an item that goes now, in the open folder "info", and so takes the name for
-/// the item: whoever makes the info file owns the name. 0, or the errno; then there is no new file.
+/// the item: whoever makes the info file owns the name. 0, or the errno.
 [[nodiscard]] int makeTrashInfo(
     const FileDescriptor& infoFolder, const std::string& name, std::string_view originalPath);
 
