@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "TreeScreen/ClickBox.h"
 #include "TreeScreen/TreeViewControllerFixture.h"
 
 #include <QContextMenuEvent>
@@ -12,15 +13,7 @@ namespace {
 
 class TreeClicksTest : public test::TreeViewControllerFixture {
 protected:
-    void click(const File& file)
-    {
-        const Rect box = view.findRectForFile(file).value();
-        QTest::mouseClick(
-            &view,
-            Qt::LeftButton,
-            {},
-            QPoint(static_cast<int>(box.x) + 5, static_cast<int>(box.y) + 5));
-    }
+    void click(const File& file) { test::clickBox(view, file); }
 
     void doubleClick(File& file) { emit view.doubleClickTreeItem(file); }
 };

@@ -2,6 +2,7 @@
 #include "TreeScreen/TreeViewController.h"
 
 #include "Model/RootModel.h"
+#include "TreeScreen/ClickBox.h"
 #include "TreeScreen/Map/TreeMapView.h"
 #include "TreeScreen/Picture/TreeBranch.h"
 #include "support/Fakes/FakeRootModelServices.h"
@@ -44,15 +45,7 @@ protected:
     File& node(std::string_view path) { return test::at(*model.topFolder(), path); }
     const TreeBranch& topBranch() { return *view.branches().at(0); }
 
-    void click(const File& file)
-    {
-        const Rect box = view.findRectForFile(file).value();
-        QTest::mouseClick(
-            &view,
-            Qt::LeftButton,
-            {},
-            QPoint(static_cast<int>(box.x) + 5, static_cast<int>(box.y) + 5));
-    }
+    void click(const File& file) { test::clickBox(view, file); }
 
     test::FakeRootModelServices services;
     RootModel model{services.get()};

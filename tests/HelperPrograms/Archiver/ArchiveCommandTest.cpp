@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The archiver as others start it: what it says, how it exits, what it leaves alone.
-#include "HelperPrograms/Archiver/Archives.h"
+#include "HelperPrograms/Archiver/ArchiveFixture.h"
 #include "support/Machine/BuiltPaths.h"
 #include "support/Machine/FileContent.h"
 #include "support/Machine/OwnMounts.h"
@@ -45,23 +45,7 @@ std::vector<std::string> pathsOfArchive(const std::string& archive)
     return paths;
 }
 
-/// A folder "X" to archive, and a folder for the archive.
-class ArchiveCommand : public testing::Test {
-protected:
-    ArchiveCommand()
-    {
-        tree.makeFolder("X");
-        tree.writeFile("X/file", "content");
-    }
-
-    ProgramResult archiveX() const { return makeArchive(source, target); }
-
-    TempTree tree;
-    TempTree out;
-    std::string source = tree.pathOf("X");
-    std::string target = out.pathOf("X.zip");
-    std::string part = out.pathOf("X.zip.part"); ///< what it is called until it is complete
-};
+class ArchiveCommand : public ArchiveFixture { };
 
 TEST_F(ArchiveCommand, SaysNothingWhenAllIsWellButWhichFileItMade)
 {

@@ -3,7 +3,7 @@
 // disk or another program interferes.
 #include "Base/FileIdentity.h"
 #include "Compress/ArchivePaths.h"
-#include "HelperPrograms/Archiver/Archives.h"
+#include "HelperPrograms/Archiver/ArchiveFixture.h"
 #include "support/Machine/FileContent.h"
 #include "support/Machine/OwnMounts.h"
 #include "support/Machine/TempTree.h"
@@ -33,23 +33,7 @@ std::optional<ino_t> inodeOf(const std::string& path)
     return ::lstat(path.c_str(), &values) == 0 ? std::optional(values.st_ino) : std::nullopt;
 }
 
-/// A folder "X" with a file, and a folder for its archive.
-class PublishedArchive : public testing::Test {
-protected:
-    PublishedArchive()
-    {
-        tree.makeFolder("X");
-        tree.writeFile("X/file", "content");
-    }
-
-    ProgramResult archiveX() const { return makeArchive(source, target); }
-
-    TempTree tree;
-    TempTree out;
-    std::string source = tree.pathOf("X");
-    std::string target = out.pathOf("X.zip");
-    std::string part = out.pathOf("X.zip.part");
-};
+class PublishedArchive : public ArchiveFixture { };
 
 TEST_F(PublishedArchive, HasItsNameAlone)
 {
