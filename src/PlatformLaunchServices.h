@@ -32,6 +32,14 @@ inline HomeViewServices homeViewServices(
         .resourceValues = services.resourceValues};
 }
 
+inline RootModelServices rootModelServices(const PlatformServices& services)
+{
+    return {
+        .defaults = *services.userDefaults,
+        .recentDocuments = *services.recentDocuments,
+        .standardFolders = *services.standardFolders};
+}
+
 /// What the screens need of the platform; refers to `services`.
 inline LaunchServices launchServices(const PlatformServices& services)
 {
@@ -42,24 +50,31 @@ inline LaunchServices launchServices(const PlatformServices& services)
         .resourceValues = WithTimeLimit(*services.withTimeLimit.resourceValues),
         .fileSystemAttributes = WithTimeLimit(*services.withTimeLimit.fileSystemAttributes),
         .filesWithTimeLimit = WithTimeLimit(*services.withTimeLimit.fileAccess),
-        .rootModelServices
-        = {.defaults = *services.userDefaults,
-           .recentDocuments = *services.recentDocuments,
-           .standardFolders = *services.standardFolders},
+        .rootModelServices = rootModelServices(services),
         .homeScreen = homeViewServices(services, homeDirectory),
         .files = *services.fileAccess,
         .colorScheme = *services.colorSchemePreference,
         .motion = *services.motionPreference,
+        .hiddenFiles = services.hiddenFilesPreference.get(),
         .workspace = *services.workspace,
+        .otherPrograms = *services.otherPrograms,
+        .trashHistory = *services.trashHistory,
         .fileReader = services.fileReader,
         .rasterDecoder = services.rasterDecoder,
+        .coveredFolders = services.coveredFolders,
+        .openFiles = services.openFiles,
+        .sharedExtents = services.sharedExtents,
+        .itemStates = services.itemStates,
+        .itemChanges = services.itemChanges,
         .makeTask = services.makeTask,
         .archiver = services.archiver,
         .userAccount = *services.userAccount,
         .launcherProgress = *services.launcherProgress,
+        .notifications = *services.notifications,
         .runningInstance = *services.runningInstance,
         .endRequests = *services.endRequests,
         .helpFolder = services.helpFolder,
+        .libraries = services.libraries,
         .availableMemory = services.availableMemory,
         .hasTerminal = PlatformServices::hasTerminal()};
 }

@@ -81,8 +81,40 @@ def has_old_fence(_):
     ) < LANDLOCK_OF_ALL_TESTS
 
 
+def lacks_disk(maker):
+    """Whether no file system that the program makes in a file can be mounted."""
+    with tempfile.TemporaryDirectory() as folder:
+        image = pathlib.Path(folder, "image")
+        image.touch()
+        os.truncate(image, 320 << 20)
+        return subprocess.run(
+            ["unshare", "--mount", "sh", "-c", '"$1" -q "$2" && mount -o loop "$2" "$3"',
+             "sh", maker, image, folder], capture_output=True,
+            env={**os.environ, "PATH": os.environ.get("PATH", os.defpath) + ":/usr/sbin:/sbin"},
+        ).returncode != 0
+
+
+def lacks_own_processes(_):
+    return all(
+        subprocess.run(["unshare", *options, "--pid", "--fork", "--mount-proc", "true"],
+                       capture_output=True).returncode != 0
+        for options in ([], ["--user"]))
+
+
 def has_no_fuse(_):
     return not os.access("/dev/fuse", os.R_OK | os.W_OK)
+
+
+def uses_no_inode_again(_):
+    """Whether a file never gets the inode of the one that was removed right before."""
+    with tempfile.TemporaryDirectory() as folder:
+        file = pathlib.Path(folder, "file")
+        inodes = []
+        for _ in range(200):
+            file.touch()
+            inodes.append(file.stat().st_ino)
+            file.unlink()
+    return all(inode != next for inode, next in zip(inodes, inodes[1:]))
 
 
 def is_closed_to_others(_):
@@ -111,11 +143,16 @@ MAY_SKIP = {
     "there are no leases here": lacks_leases,
     "this process may not mount": may_not_mount,
     "no mounts can be made here": may_not_mount,
+    "no table of processes can be mounted here": lacks_own_processes,
+    "no disk by mkfs.btrfs can be had here": lambda _: lacks_disk("mkfs.btrfs"),
+    "no disk by mkfs.ext4 can be had here": lambda _: lacks_disk("mkfs.ext4"),
+    "no disk by mkfs.xfs can be had here": lambda _: lacks_disk("mkfs.xfs"),
     "there is no /dev/fuse that this process may use": has_no_fuse,
     "the user without rights cannot start it here": is_closed_to_others,
     "this kernel cannot do it": has_old_fence,
     "this kernel has no filters": has_no_filters,
     "this kernel filters no system calls": has_no_filters,
+    "this file system uses no inode again": uses_no_inode_again,
     # Calls of 32-bit programs, of which a kernel does not say whether it knows them.
     "this kernel has none": always,
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Times changes to a finished tree, and its release: TreeBench [ITEMS]
+#include "Ledger/FoundSpace.h"
 #include "Model/Document.h"
 #include "Model/TopFolder.h"
 #include "support/GeneratedTree.h"
@@ -52,6 +53,18 @@ double timeRemoving(Folder& top)
     return millisecondsSince(begin);
 }
 
+double timeAddingUp(const TopFolder& top)
+{
+    const auto begin = Clock::now();
+    const FoundSpace found = foundSpace(top);
+    const double took = millisecondsSince(begin);
+    if (found.files != top.totalAllocation()) {
+        std::fputs("TreeBench: the files do not add up to the tree\n", stderr);
+        std::exit(EXIT_FAILURE); // NOLINT(concurrency-mt-unsafe): there is one thread
+    }
+    return took;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -59,6 +72,7 @@ int main(int argc, char** argv)
     const std::size_t items
         = argc > 1 ? std::strtoul(argv[1], nullptr, 10) : kDefaultItems; // NOLINT
     std::unique_ptr<TopFolder> tree = bench::generateTree(items);
+    const double addingUp = timeAddingUp(*tree);
     const double removing = timeRemoving(*tree);
     const double replacing = timeReplacing(*tree, items / 10);
     const auto begin = Clock::now();
@@ -66,12 +80,13 @@ int main(int argc, char** argv)
     const double releasing = millisecondsSince(begin);
     std::printf(
         "releasing %zu items %.1f ms, replacing a folder of %zu %.1f ms, "
-        "removing one of %zu siblings %.1f ms\n",
+        "removing one of %zu siblings %.1f ms, adding up the space of all %.1f ms\n",
         items,
         releasing,
         items / 10,
         replacing,
         items / 10,
-        removing);
+        removing,
+        addingUp);
     return EXIT_SUCCESS;
 }

@@ -60,8 +60,15 @@ std::uint64_t buildTree(const char* path, TopFolder& top)
             current().addChild(std::move(done));
         }
     };
+    const auto fetch = [&](DirectoryItem& item) {
+        const bool isThere = enumerator->next(item);
+        if (const tessera::EnteredDirectory* const entered = enumerator->entered()) {
+            current().setOwnAllocation(entered->allocatedBytes);
+        }
+        return isThere;
+    };
     std::uint64_t items = 0;
-    for (DirectoryItem item; enumerator->next(item); ++items) {
+    for (DirectoryItem item; fetch(item); ++items) {
         closeDownTo(item.level - 1);
         if (item.isDirectory) {
             open.push_back(makeNode<Folder>(item.name));

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Times laying out and painting the picture of a generated tree: PaintBench [ITEMS] [ROUNDS]
+// Times laying out and painting the picture of a generated tree, and says how much more of the
+// processors the sizes in the titles of folders take: PaintBench [ITEMS] [ROUNDS]
 #include "Layout/LevelRenderer.h"
 #include "Model/TopFolder.h"
 #include "TreeScreen/Picture/TreeBranch.h"
@@ -13,6 +14,7 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 #include <memory>
 #include <vector>
 
@@ -62,7 +64,8 @@ void report(const char* name, Folder& top, QSize size, double scale, int rounds)
         branch = TreeBranch::make(
             renderer.renderTop(&top, {0, 0, width, static_cast<double>(size.height())}));
         const auto laidOut = Clock::now();
-        const QImage image = painter.paint(*branch, QSizeF(width, size.height()), scale);
+        const QImage image = painter.paint(
+            *branch, QSizeF(width, size.height()), scale, FolderTitles::NamesAndSizes);
         const auto end = Clock::now();
         timings.layouts.push_back(milliseconds(laidOut - begin));
         timings.paintings.push_back(milliseconds(end - laidOut));
@@ -82,6 +85,38 @@ void report(const char* name, Folder& top, QSize size, double scale, int rounds)
         timings.both.front());
 }
 
+/// Of the processors, by all threads: two paintings compare on a busy machine too.
+double paintingTime(TreePainter& painter, const TreeBranch& branch, FolderTitles titles)
+{
+    const std::clock_t begin = std::clock();
+    const QImage image
+        = painter.paint(branch, QSizeF(branch.frame().width, branch.frame().height), 1, titles);
+    return static_cast<double>(std::clock() - begin);
+}
+
+/// With the sizes and without, picture by picture in turn.
+void reportTitles(const char* name, Folder& top, QSize size, int rounds)
+{
+    const LevelRenderer renderer(false);
+    TreePainter withSizes;
+    TreePainter withNames;
+    std::vector<double> sizes;
+    std::vector<double> names;
+    for (int round = 0; round < rounds; ++round) {
+        const double width = size.width() - round % 8;
+        const auto branch = TreeBranch::make(
+            renderer.renderTop(&top, {0, 0, width, static_cast<double>(size.height())}));
+        sizes.push_back(paintingTime(withSizes, *branch, FolderTitles::NamesAndSizes));
+        names.push_back(paintingTime(withNames, *branch, FolderTitles::Names));
+    }
+    std::printf(
+        "%s %dx%d  sizes in titles: %.2f times the painting without\n",
+        name,
+        size.width(),
+        size.height(),
+        median(sizes) / median(names));
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -96,6 +131,7 @@ int main(int argc, char** argv)
     const auto deep = bench::generateTree(items);
     report("tree", *deep, {1920, 1200}, 1, rounds);
     report("tree", *deep, {3840, 2400}, 1, rounds);
+    reportTitles("tree", *deep, {1920, 1200}, rounds);
     report("tree", *deep, {1920, 1200}, 2, rounds);
     report("tree", *deep, {1280, 800}, 1.5, rounds);
     const auto flat = bench::generateFlatFolder(items);

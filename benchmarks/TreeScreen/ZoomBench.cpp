@@ -1,16 +1,18 @@
 // SPDX-License-Identifier: MIT
 // Scans a folder, zooms into the folders that its picture shows and out of them, and counts the
 // pictures that come to the screen meanwhile: ZoomBench FOLDER [ZOOMS]
+#include "Basket/BasketKeeper.h"
 #include "Model/RootModel.h"
 #include "Platform/PlatformServices.h"
 #include "Scanning/ScanEnvironment.h"
 #include "Scanning/Scanner.h"
 #include "Scanning/ScannerDelegate.h"
-#include "TreeScreen/DiskChanges.h"
 #include "TreeScreen/Map/TreeMapView.h"
 #include "TreeScreen/Picture/TreeBranch.h"
 #include "TreeScreen/TreeViewController.h"
 #include "TreeScreen/TreeViewServices.h"
+#include "Undo/DiskChanges.h"
+#include "Undo/TrashUndo.h"
 #include "Widgets/DesktopIconProvider.h"
 #include "Widgets/MessageBoxAlert.h"
 
@@ -198,6 +200,35 @@ bool zoomInAndOut(TreeMapView& map, TreeViewController& controller, QSize size, 
     return zooming.report();
 }
 
+/// Which no zoom makes.
+struct Changes {
+    Changes(const PlatformServices& services, Alert& alert)
+        : undo(*services.workspace, alert, told)
+        , basket(services.itemStates, *services.mainThread)
+    {
+    }
+
+    CompressServices compressing(
+        const PlatformServices& services, IconProvider& icons, Alert& alert)
+    {
+        return {
+            .archiver = services.archiver,
+            .makeTask = services.makeTask,
+            .workspace = *services.workspace,
+            .resourceValues = WithTimeLimit(*services.withTimeLimit.resourceValues),
+            .icons = icons,
+            .targetsInUse = targetsInUse,
+            .alert = alert,
+            .itemChanges = services.itemChanges,
+            .itemStates = services.itemStates};
+    }
+
+    DiskChanges told;
+    TrashUndo undo;
+    BasketKeeper basket;
+    std::set<std::string> targetsInUse;
+};
+
 bool measure(
     RootModel& model,
     const PlatformServices& services,
@@ -211,8 +242,7 @@ bool measure(
     const FullMotion motion;
     MessageBoxAlert alert;
     DesktopIconProvider icons;
-    std::set<std::string> targetsInUse;
-    DiskChanges diskChanges;
+    Changes changes{services, alert};
     TreeViewController controller(
         model,
         map,
@@ -221,17 +251,13 @@ bool measure(
          .fileSystemAttributes = WithTimeLimit(*services.withTimeLimit.fileSystemAttributes),
          .defaults = *services.userDefaults,
          .workspace = *services.workspace,
+         .otherPrograms = *services.otherPrograms,
          .alert = alert,
-         .compressing
-         = {.archiver = services.archiver,
-            .makeTask = services.makeTask,
-            .workspace = *services.workspace,
-            .resourceValues = WithTimeLimit(*services.withTimeLimit.resourceValues),
-            .icons = icons,
-            .targetsInUse = targetsInUse,
-            .alert = alert},
+         .compressing = changes.compressing(services, icons, alert),
          .motion = motion,
-         .diskChanges = diskChanges,
+         .diskChanges = changes.told,
+         .trashUndo = changes.undo,
+         .basket = changes.basket,
          .checkFolder = [](const std::string&) { return std::error_code(); }});
     QCoreApplication::processEvents();
     return zoomInAndOut(map, controller, size, zooms);

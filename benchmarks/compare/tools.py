@@ -129,8 +129,8 @@ class OwnBenches:
         return result.output
 
     def changes(self):
-        """Milliseconds for releasing a tree, replacing a large folder, removing a child of one."""
-        pattern = r"(releasing|replacing|removing) [^,]*? ([\d.]+) ms"
+        """Milliseconds for releasing a tree and what else is done to a whole one or a large folder."""
+        pattern = r"(releasing|replacing|removing|adding up) [^,]*? ([\d.]+) ms"
         found = re.findall(pattern, self.output("Model/TreeBench"))
         return {name: float(value) for name, value in found}
 

@@ -2,11 +2,19 @@
 #include "Base/FileIdentity.h"
 
 #include <charconv>
+#include <random>
 #include <system_error>
 
 namespace tessera {
 
 namespace {
+
+std::uint64_t randomBits()
+{
+    constexpr unsigned kHalf = 32;
+    std::random_device source;
+    return (std::uint64_t{source()} << kHalf) | source();
+}
 
 /// Takes a number and the byte behind it off the text; false when it does not begin so.
 bool takeNumber(std::string_view& text, char behind, std::uint64_t& number)
@@ -21,6 +29,17 @@ bool takeNumber(std::string_view& text, char behind, std::uint64_t& number)
 }
 
 } // namespace
+
+/// The last step of SplitMix64, which spreads every bit over all. Where it begins is a secret: who
+/// makes a disk chooses its inodes, and could have all of them collide.
+std::size_t FileIdentityHash::operator()(const FileIdentity& file) const
+{
+    static const std::uint64_t secret = randomBits();
+    std::uint64_t bits = secret + file.inode + file.device * 0x9e3779b97f4a7c15;
+    bits = (bits ^ (bits >> 30U)) * 0xbf58476d1ce4e5b9;
+    bits = (bits ^ (bits >> 27U)) * 0x94d049bb133111eb;
+    return static_cast<std::size_t>(bits ^ (bits >> 31U));
+}
 
 std::string fileIdentityLine(const FileIdentity& identity)
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -14,6 +15,11 @@ struct FileIdentity {
     std::uint64_t inode = 0;
 
     bool operator==(const FileIdentity& other) const = default;
+};
+
+/// For tables of files. Inodes are small numbers in a row: every bit counts in all of the result's.
+struct FileIdentityHash {
+    std::size_t operator()(const FileIdentity& file) const;
 };
 
 /// "DEVICE INODE\n" in decimal, by which one program tells another of a file.

@@ -4,6 +4,7 @@
 #include "Base/DisplayText.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QMenu>
@@ -26,6 +27,12 @@ QAction* makePlainAction(const QString& title, const CommandRow& row, QObject* p
     return action;
 }
 
+/// With a mnemonic, as the table's.
+QString takeOutTitle()
+{
+    return QCoreApplication::translate("MainMenu", "Take out of &Basket");
+}
+
 } // namespace
 
 CommandActions::CommandActions(QWidget& window, Context context, WhyNot whyNot)
@@ -43,7 +50,11 @@ CommandActions::~CommandActions() = default;
 QAction* CommandActions::makeAction(QWidget& window, const CommandRow& row)
 {
     QAction* const action = makePlainAction(titleOf(row), row, this);
-    action->setShortcuts(QKeySequence::listFromString(QString::fromLatin1(row.shortcuts)));
+    QList<QKeySequence> shortcuts
+        = QKeySequence::listFromString(QString::fromLatin1(row.shortcuts));
+    shortcuts.removeAll(QKeySequence());
+    action->setShortcuts(shortcuts);
+    action->setCheckable(isOn(row.command, {}).has_value());
     connect(action, &QAction::triggered, this, [this, command = row.command] {
         emit triggered(command);
     });
@@ -92,12 +103,22 @@ std::optional<Command> CommandActions::disabledCommand(const QKeyEvent& pressed)
     return found == m_actions.end() ? std::nullopt : std::optional(found->first);
 }
 
+/// To the title, or to the table's where there is none.
+void CommandActions::rename(Command command, const QString& title) const
+{
+    action(command).setText(title.isEmpty() ? titleOf(rowOf(command)) : title);
+}
+
 void CommandActions::validate()
 {
     const CommandContext context = m_context();
+    rename(Command::Undo, context.undoTitle);
+    rename(Command::Redo, context.redoTitle);
+    rename(Command::AddToBasket, context.isInBasket ? takeOutTitle() : QString());
     for (const auto& [command, action] : m_actions) {
         const bool canBeDone = isEnabled(command, context);
         action->setEnabled(canBeDone);
+        action->setChecked(isOn(command, context).value_or(false));
         action->setToolTip(canBeDone ? QString() : plainTooltip(m_whyNot(command)));
     }
 }

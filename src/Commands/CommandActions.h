@@ -58,6 +58,7 @@ signals:
 private:
     QAction* makeAction(QWidget& window, const CommandRow& row);
     void show(Shortcuts shortcuts) const;
+    void rename(Command command, const QString& title) const;
 
     Context m_context;
     WhyNot m_whyNot;

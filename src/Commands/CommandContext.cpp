@@ -6,6 +6,30 @@
 
 namespace tessera {
 
+namespace {
+
+bool isEnabledFor(const File& selected, Command command)
+{
+    switch (command) {
+    case Command::ZoomIn:
+    case Command::Ignore:
+        return selected.isFolder();
+    case Command::OpenItem:
+    case Command::OpenWith:
+    case Command::CopyPath:
+    case Command::OpenTerminal:
+    case Command::Compress:
+    case Command::AddToBasket:
+    case Command::MoveToTrash:
+    case Command::Properties:
+        return isItem(selected);
+    default:
+        return true;
+    }
+}
+
+} // namespace
+
 bool isEnabled(Command command, const CommandContext& context)
 {
     const File* const selected = context.hasTreeScreen ? context.selectedFile : nullptr;
@@ -14,27 +38,41 @@ bool isEnabled(Command command, const CommandContext& context)
         return !context.hasHomeScreen;
     case Command::ZoomOut:
         return context.hasTreeScreen && !context.isRootInView;
-    case Command::Open:
-    case Command::QuickLook:
-    case Command::ShowInFinder:
-        return selected != nullptr;
-    case Command::ZoomIn:
-    case Command::Ignore:
-        return selected != nullptr && selected->isFolder();
     case Command::Rescan:
         return context.hasTreeScreen && context.canRescan;
-    case Command::Compress:
-    case Command::MoveToTrash:
-        return selected != nullptr && isItem(*selected);
+    case Command::Reload:
+        return context.canReload;
+    case Command::CopyPath:
+    case Command::OpenTerminal:
+        // With nothing selected they are about the folder in view.
+        return context.hasTreeScreen && (selected == nullptr || isEnabledFor(*selected, command));
+    case Command::SpaceLedger:
+        // An open panel stays for the tree of a folder, and can be closed.
+        return context.hasTreeScreen && (context.isDiskScanned || context.isLedgerOpen);
+    case Command::Basket:
+    case Command::StatusLine:
+        return context.hasTreeScreen;
+    case Command::Undo:
+        return !context.undoTitle.isEmpty();
+    case Command::Redo:
+        return !context.redoTitle.isEmpty();
     case Command::OpenFolder:
     case Command::Preferences:
     case Command::Quit:
     case Command::FullScreen:
+    case Command::TrashHistory:
     case Command::Features:
     case Command::Questions:
-        break;
+    case Command::About:
+        return true;
+    default:
+        return selected != nullptr && isEnabledFor(*selected, command);
     }
-    return true;
+}
+
+std::optional<bool> isOn(Command command, const CommandContext& context)
+{
+    return command == Command::StatusLine ? std::optional(context.isStatusLineOn) : std::nullopt;
 }
 
 } // namespace tessera

@@ -50,6 +50,38 @@ constexpr std::array kRows{
         "Ctrl+Q",
         true},
     CommandRow{
+        Command::Undo,
+        MainMenu::Edit,
+        kNoTag,
+        QT_TRANSLATE_NOOP("MainMenu", "&Undo"),
+        QT_TRANSLATE_NOOP("MainMenu", "Puts what you moved to the trash last back where it was."),
+        "Ctrl+Z"},
+    CommandRow{
+        Command::Redo,
+        MainMenu::Edit,
+        kNoTag,
+        QT_TRANSLATE_NOOP("MainMenu", "&Redo"),
+        QT_TRANSLATE_NOOP("MainMenu", "Moves what you put back last to the trash again."),
+        "Ctrl+Shift+Z"},
+    CommandRow{
+        Command::OpenItem,
+        MainMenu::Item,
+        kNoTag,
+        QT_TRANSLATE_NOOP("MainMenu", "&Open"),
+        QT_TRANSLATE_NOOP(
+            "MainMenu",
+            "Opens the selected item in the program that your desktop has for it, and never runs "
+            "it."),
+        "Ctrl+Return; Ctrl+Enter"},
+    CommandRow{
+        Command::OpenWith,
+        MainMenu::Item,
+        kNoTag,
+        QT_TRANSLATE_NOOP("MainMenu", "Open &With…"),
+        QT_TRANSLATE_NOOP(
+            "MainMenu", "Lets you choose the program in which the selected item opens."),
+        "Ctrl+Shift+O"},
+    CommandRow{
         Command::QuickLook,
         MainMenu::Item,
         33,
@@ -63,6 +95,27 @@ constexpr std::array kRows{
         QT_TRANSLATE_NOOP("MainMenu", "&Show in Finder"),
         QT_TRANSLATE_NOOP("MainMenu", "Shows the selected item in your file manager."),
         "Ctrl+Shift+R"},
+    CommandRow{
+        Command::CopyPath,
+        MainMenu::Item,
+        kNoTag,
+        QT_TRANSLATE_NOOP("MainMenu", "Copy &Path"),
+        QT_TRANSLATE_NOOP(
+            "MainMenu",
+            "Copies the path of the selected item, or of the folder in view while nothing is "
+            "selected."),
+        "Ctrl+C",
+        true},
+    CommandRow{
+        Command::OpenTerminal,
+        MainMenu::Item,
+        kNoTag,
+        QT_TRANSLATE_NOOP("MainMenu", "Open Ter&minal Here"),
+        QT_TRANSLATE_NOOP(
+            "MainMenu",
+            "Opens a terminal in the selected folder, in that of the selected file, or in the "
+            "folder in view while nothing is selected."),
+        "Shift+F4"},
     CommandRow{
         Command::Rescan,
         MainMenu::Item,
@@ -95,6 +148,16 @@ constexpr std::array kRows{
         QT_TRANSLATE_NOOP("MainMenu", "Compress Folder"),
         QT_TRANSLATE_NOOP("MainMenu", "Compress File")},
     CommandRow{
+        Command::AddToBasket,
+        MainMenu::Item,
+        kNoTag,
+        QT_TRANSLATE_NOOP("MainMenu", "Add to &Basket"),
+        QT_TRANSLATE_NOOP(
+            "MainMenu",
+            "Puts the selected item into the basket, or takes it out again; nothing moves on the "
+            "disk."),
+        "Ctrl+Shift+B"},
+    CommandRow{
         Command::MoveToTrash,
         MainMenu::Item,
         38,
@@ -103,6 +166,14 @@ constexpr std::array kRows{
             "MainMenu",
             "Moves the selected item to the trash, after a warning where that is risky."),
         "Ctrl+Del"},
+    CommandRow{
+        Command::Properties,
+        MainMenu::Item,
+        kNoTag,
+        QT_TRANSLATE_NOOP("MainMenu", "Prop&erties"),
+        QT_TRANSLATE_NOOP("MainMenu", "Shows what your file manager tells of the selected item."),
+        "Alt+Return; Alt+Enter",
+        true},
     CommandRow{
         Command::ZoomIn,
         MainMenu::View,
@@ -118,6 +189,46 @@ constexpr std::array kRows{
         QT_TRANSLATE_NOOP("MainMenu", "Shows the folder around the one in view."),
         "Ctrl+-; Alt+Up"},
     CommandRow{
+        Command::Reload,
+        MainMenu::View,
+        kNoTag,
+        QT_TRANSLATE_NOOP("MainMenu", "&Reload"),
+        QT_TRANSLATE_NOOP(
+            "MainMenu",
+            "Scans all that is shown again and leads you back to where you were, or looks for "
+            "disks and folders again on the home screen."),
+        "Ctrl+F5",
+        true},
+    CommandRow{
+        Command::Basket,
+        MainMenu::View,
+        kNoTag,
+        QT_TRANSLATE_NOOP("MainMenu", "&Basket"),
+        QT_TRANSLATE_NOOP(
+            "MainMenu",
+            "Shows, in a panel beside the picture, what you have collected and what moving it to "
+            "the trash will free, or closes that panel."),
+        "Ctrl+B",
+        true},
+    CommandRow{
+        Command::SpaceLedger,
+        MainMenu::View,
+        kNoTag,
+        QT_TRANSLATE_NOOP("MainMenu", "Where the &Space Is"),
+        QT_TRANSLATE_NOOP(
+            "MainMenu",
+            "Shows, in a panel beside the picture, what all of the scanned disk's space is used "
+            "for, or closes that panel."),
+        "Ctrl+L"},
+    CommandRow{
+        Command::TrashHistory,
+        MainMenu::View,
+        kNoTag,
+        QT_TRANSLATE_NOOP("MainMenu", "&History"),
+        QT_TRANSLATE_NOOP(
+            "MainMenu", "Lists what you moved to the trash, and puts it back where it was."),
+        "Ctrl+H"},
+    CommandRow{
         Command::FullScreen,
         MainMenu::View,
         kNoTag,
@@ -126,6 +237,16 @@ constexpr std::array kRows{
             "MainMenu", "Lets the window fill the whole screen, or gives it back its size."),
         "F11",
         true},
+    CommandRow{
+        Command::StatusLine,
+        MainMenu::View,
+        kNoTag,
+        QT_TRANSLATE_NOOP("MainMenu", "Status &Line"),
+        QT_TRANSLATE_NOOP(
+            "MainMenu",
+            "Shows, in a line below the picture, what is under the pointer or selected, or hides "
+            "that line."),
+        ""},
     CommandRow{
         Command::Features,
         MainMenu::Help,
@@ -142,10 +263,21 @@ constexpr std::array kRows{
         QT_TRANSLATE_NOOP(
             "MainMenu", "Opens a page that answers frequently asked questions about Tessera."),
         "Ctrl+F1"},
+    CommandRow{
+        Command::About,
+        MainMenu::Help,
+        kNoTag,
+        QT_TRANSLATE_NOOP("MainMenu", "&About Tessera"),
+        QT_TRANSLATE_NOOP(
+            "MainMenu",
+            "Says which version this is, what it is made with, and under which license."),
+        "Ctrl+Shift+F1",
+        true},
 };
 
 constexpr std::array kMenuTitles{
     QT_TRANSLATE_NOOP("MainMenu", "&File"),
+    QT_TRANSLATE_NOOP("MainMenu", "&Edit"),
     QT_TRANSLATE_NOOP("MainMenu", "&Item"),
     QT_TRANSLATE_NOOP("MainMenu", "&View"),
     QT_TRANSLATE_NOOP("MainMenu", "&Help"),

@@ -10,7 +10,7 @@
 
 namespace tessera {
 
-enum class MainMenu : std::uint8_t { File, Item, View, Help };
+enum class MainMenu : std::uint8_t { File, Edit, Item, View, Help };
 
 /// One command of the menus. All texts are untranslated.
 struct CommandRow {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Compress/CompressWindowController.h"
 
+#include "Base/ByteSize.h"
 #include "Base/DisplayText.h"
 #include "Base/Log.h"
 #include "Base/ProgressSteps.h"
@@ -8,6 +9,7 @@
 #include "Compress/ArchiverStatus.h"
 #include "Desktop/Alert.h"
 #include "Desktop/Workspace.h"
+#include "Notices/EndNotices.h"
 #include "Scanning/ResourceValues.h"
 #include "Widgets/IconProvider.h"
 #include "ui_CompressWindow.h"
@@ -15,6 +17,7 @@
 #include <QCoreApplication>
 #include <QDialog>
 #include <QLabel>
+#include <QMetaMethod>
 #include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
@@ -90,11 +93,18 @@ CompressWindowController::CompressWindowController(CompressServices services, Ca
     connect(&m_updateTimer, &QTimer::timeout, this, &CompressWindowController::updateProgress);
     connect(
         m_ui->cancelButton, &QPushButton::clicked, this, &CompressWindowController::cancelCompress);
+    connect(
+        m_ui->trashButton, &QPushButton::clicked, this, &CompressWindowController::askForOriginal);
+    m_ui->resultField->hide();
+    m_ui->trashButton->hide();
     connect(m_window.get(), &QDialog::rejected, this, &CompressWindowController::cancelCompress);
     connect(qApp, &QCoreApplication::aboutToQuit, this, &CompressWindowController::breakOffAtExit);
 }
 
-CompressWindowController::~CompressWindowController() = default;
+CompressWindowController::~CompressWindowController()
+{
+    m_stopLooking.request_stop();
+}
 
 void CompressWindowController::showWindow(const QWidget* above)
 {
@@ -110,9 +120,12 @@ void CompressWindowController::compressURL(const Url& url, std::uint64_t withSiz
 {
     m_self = shared_from_this();
     m_state = State::New;
+    m_startedAt = m_services.notices == nullptr ? 0 : m_services.notices->now();
     m_lastCompressedPercent = 0;
     m_sourceAllocation = withSize;
     m_sourcePath = url.path();
+    m_isFolder = url.isDirectory();
+    m_begun = timeBeforeChanges();
     m_targetPath = freeTarget(m_sourcePath, m_services);
     m_services.targetsInUse.insert(m_targetPath);
     setOutputText(tr("Creating '%1'").arg(displayText(archive().lastPathComponent())));
@@ -156,11 +169,17 @@ void CompressWindowController::updateProgress()
 
 void CompressWindowController::cancelCompress()
 {
+    if (m_result) {
+        m_result.reset();
+        release();
+        return;
+    }
     if (m_backupTask == nullptr) {
         return;
     }
     m_backupTask->terminate();
     m_state = State::Cancelled;
+    m_isCancelled = true;
     setOutputText(tr("Compression Canceled"));
     m_ui->cancelButton->setEnabled(false);
 }
@@ -208,8 +227,22 @@ void CompressWindowController::finishLater(const std::optional<Url>& archive)
     });
 }
 
+/// Who cancels knows of it.
+void CompressWindowController::giveNotice() const
+{
+    if (m_services.notices == nullptr || m_isCancelled) {
+        return;
+    }
+    m_services.notices->workEnded(
+        m_startedAt,
+        m_state == State::Succeeded ? tr("The archive is finished")
+                                    : tr("The archive cannot be made"),
+        displayText(archive().lastPathComponent()));
+}
+
 void CompressWindowController::compressFinished(const std::optional<Url>& archive)
 {
+    giveNotice();
     if (m_isDiskFull) {
         sayThatTheDiskIsFull(archive.has_value());
         if (m_self == nullptr) {
@@ -217,6 +250,9 @@ void CompressWindowController::compressFinished(const std::optional<Url>& archiv
         }
     }
     const Url part(partPath(m_targetPath), false);
+    const bool isWhole = m_state == State::Succeeded && m_made.has_value();
+    const std::optional<std::uint64_t> archiveBytes = archiveSize();
+    ArchivedItem archived{m_sourcePath, m_targetPath, m_made.value_or(FileIdentity()), m_begun};
     m_services.targetsInUse.erase(m_targetPath);
     m_sourcePath.clear();
     m_targetPath.clear();
@@ -225,7 +261,91 @@ void CompressWindowController::compressFinished(const std::optional<Url>& archiv
         emit itemGone(part);
     }
     emit itemCompressed(archive);
-    release();
+    if (isWhole && m_self != nullptr) {
+        showResult(std::move(archived), archiveBytes);
+    } else {
+        release();
+    }
+}
+
+void CompressWindowController::showResult(
+    ArchivedItem archived, std::optional<std::uint64_t> archiveBytes)
+{
+    const std::uint64_t before = m_sourceAllocation;
+    const bool saves = archiveBytes.has_value() && *archiveBytes < before;
+    m_window->setWindowTitle(tr("Archive Created"));
+    setOutputText(tr("Created '%1'").arg(displayText(lastPathComponent(archived.archive))));
+    m_result = std::move(archived);
+    if (archiveBytes) {
+        const QString sizes = tr("%1 → %2").arg(
+            QString::fromStdString(formatSize(before)),
+            QString::fromStdString(formatSize(*archiveBytes)));
+        m_ui->resultField->setText(
+            saves ? tr("%1. The archive takes %2 less.")
+                        .arg(sizes, QString::fromStdString(formatSize(before - *archiveBytes)))
+                  : tr("%1. The archive saves nothing.").arg(sizes));
+        m_ui->resultField->show();
+    }
+    m_ui->progress->hide();
+    m_ui->trashButton->setVisible(saves && isOriginalWanted());
+    m_ui->cancelButton->setText(tr("Close"));
+    m_ui->cancelButton->setShortcut(Qt::Key_Escape); // which another text has taken away
+    m_ui->cancelButton->setEnabled(true);
+    m_ui->cancelButton->setDefault(true);
+    m_ui->cancelButton->setFocus();
+}
+
+/// Of a screen that is gone nobody listens.
+bool CompressWindowController::isOriginalWanted() const
+{
+    return isSignalConnected(QMetaMethod::fromSignal(&CompressWindowController::originalToTrash));
+}
+
+void CompressWindowController::askForOriginal()
+{
+    m_ui->trashButton->setEnabled(false);
+    m_ui->resultField->setText(tr("Looking whether the original is still what was archived…"));
+    m_questions.ask<OriginalCheck>(
+        [archived = *m_result,
+         changes = m_services.itemChanges,
+         states = m_services.itemStates,
+         stop = m_stopLooking.get_token()] {
+            return checkOriginal(archived, *changes, *states, stop);
+        },
+        [this](const OriginalCheck& check) {
+            if (m_result) {
+                originalChecked(check);
+            }
+        });
+}
+
+void CompressWindowController::originalChecked(const OriginalCheck& check)
+{
+    m_ui->trashButton->hide();
+    switch (check.outcome) {
+    case OriginalCheck::Outcome::Changed:
+        m_ui->resultField->setText(
+            tr("The original may have changed while it was archived, or since. It stays."));
+        return;
+    case OriginalCheck::Outcome::Gone:
+        m_ui->resultField->setText(tr("The original is not there any more."));
+        return;
+    case OriginalCheck::Outcome::ArchiveGone:
+        m_ui->resultField->setText(
+            tr("The archive is not where it was made any more. The original stays."));
+        return;
+    case OriginalCheck::Outcome::Same:
+        break;
+    }
+    if (!isOriginalWanted()) {
+        m_ui->resultField->setText(
+            tr("The original is not on screen any more. Scan its folder to move it to the trash."));
+        return;
+    }
+    const Url original(m_result->original, m_isFolder);
+    const ExpectedItem expected{check.state, m_result->begun};
+    cancelCompress();
+    emit originalToTrash(original, expected);
 }
 
 /// The program may be waiting for this archive to end, so this is said before the end.

@@ -2,9 +2,13 @@
 #pragma once
 
 #include "Base/FileIdentity.h"
+#include "Base/FileTime.h"
 #include "Base/Url.h"
+#include "Compress/OriginalCheck.h"
 #include "DeadMounts/WithTimeLimit.h"
+#include "Desktop/ExpectedItem.h"
 #include "Desktop/Task.h"
+#include "Widgets/BackgroundQuestions.h"
 
 #include <QObject>
 #include <QTimer>
@@ -15,6 +19,7 @@
 #include <memory>
 #include <optional>
 #include <set>
+#include <stop_token>
 #include <string>
 #include <vector>
 
@@ -28,7 +33,10 @@ class CompressWindow;
 namespace tessera {
 
 class Alert;
+class EndNotices;
 class IconProvider;
+class ItemChanges;
+class ItemStates;
 class ResourceValues;
 class Workspace;
 
@@ -43,6 +51,10 @@ struct CompressServices {
     /// set for all compressions.
     std::set<std::string>& targetsInUse;
     Alert& alert;
+    /// Asked by threads that may be stuck for longer than anything lives.
+    std::shared_ptr<const ItemChanges> itemChanges;
+    std::shared_ptr<const ItemStates> itemStates;
+    EndNotices* notices = nullptr; ///< hears of each end; may be null
 };
 
 /// Calls back once after a time, from the event loop.
@@ -54,7 +66,11 @@ using CallLater = std::function<void(std::chrono::milliseconds, std::function<vo
 /// Until it is complete the archive has another name (partPath()). What goes to the trash is the
 /// very file that the archiving program said it made, under whichever of the two names.
 ///
-/// Once started the controller keeps itself alive until that end, so that nobody need hold it.
+/// After a success the window stays, says what the archive saves, and offers to move the original
+/// to the trash where somebody listens to originalToTrash().
+///
+/// Once started the controller keeps itself alive until its window closes, so that nobody need hold
+/// it.
 /// The work is broken off, and the incomplete archive moved to the trash, when its own window is
 /// closed or the program ends. Main thread only.
 class CompressWindowController final
@@ -95,6 +111,9 @@ signals:
     void itemGone(const Url& place);
     /// The end: with the archive, or the incomplete archive in the trash, or none.
     void itemCompressed(const std::optional<Url>& archive);
+    /// After itemCompressed(): the user wants the original in the trash. The archive is whole and
+    /// where it was made, and nothing of the original has changed since it was begun.
+    void originalToTrash(const Url& original, const ExpectedItem& expected);
 
 private:
     explicit CompressWindowController(CompressServices services, CallLater callLater);
@@ -106,7 +125,12 @@ private:
     void finishLater(const std::optional<Url>& archive);
     void breakOffAtExit();
     void noteWhatWasMade();
+    void giveNotice() const;
     void release();
+    void showResult(ArchivedItem archived, std::optional<std::uint64_t> archiveBytes);
+    void askForOriginal();
+    void originalChecked(const OriginalCheck& check);
+    bool isOriginalWanted() const;
     void sayThatTheDiskIsFull(bool isInTrash);
 
     void setOutputText(const QString& text);
@@ -122,6 +146,8 @@ private:
     std::unique_ptr<Ui::CompressWindow> m_ui;
 
     std::string m_sourcePath;
+    bool m_isFolder = false;
+    FileTime m_begun; ///< whatever changes later may be missing in the archive
     std::string m_targetPath;
     std::uint64_t m_sourceAllocation = 0;
     std::unique_ptr<Task> m_backupTask; ///< null when it has ended
@@ -129,6 +155,11 @@ private:
     State m_state = State::New;
     std::optional<FileIdentity> m_made; ///< known when the tool has ended, if it made a file
     bool m_isDiskFull = false;
+    bool m_isCancelled = false;
+    double m_startedAt = 0; ///< seconds of the notices' clock
+    std::optional<ArchivedItem> m_result; ///< while the window shows it
+    BackgroundQuestions m_questions;
+    std::stop_source m_stopLooking;
     double m_lastCompressedPercent = 0; ///< what is added to the progress after success
 
     /// Its hold on itself while it works.

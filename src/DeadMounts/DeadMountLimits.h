@@ -20,6 +20,24 @@ inline constexpr std::chrono::milliseconds kMainThreadPatience{80};
 /// and as long, as that.
 inline constexpr std::chrono::milliseconds kHomeScreenPatience{50};
 
+/// A worker that asks which files are open.
+inline constexpr std::chrono::milliseconds kOpenFilesPatience{2000};
+
+/// A worker that asks which files share what they take on the disk.
+inline constexpr std::chrono::milliseconds kSharedExtentsPatience{2000};
+
+/// A worker that looks at items one by one.
+inline constexpr std::chrono::milliseconds kItemStatesPatience{2000};
+
+/// The user, who asks for an item to be opened in another program.
+inline constexpr std::chrono::milliseconds kItemPatience{5000};
+
+/// Who asks what removing items will free, for all of it.
+inline constexpr std::chrono::milliseconds kWillFreePatience{2000};
+
+/// Who has had a question stopped, for its thread to end.
+inline constexpr std::chrono::milliseconds kPatienceAfterAStop{100};
+
 /// The program's end, for scans.
 inline constexpr std::chrono::milliseconds kPatienceWithScansAtTheEnd{2000};
 

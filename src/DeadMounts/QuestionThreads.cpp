@@ -63,10 +63,17 @@ bool QuestionThreads::hasEnded(const Thread& thread) const
     return thread.hasEnded;
 }
 
-bool QuestionThreads::waitFor(Thread& thread, Clock::time_point until)
+bool QuestionThreads::waitFor(Thread& thread, Clock::time_point until, const std::stop_token& stop)
 {
-    std::unique_lock lock(m_mutex);
-    m_changed.wait_until(lock, until, [&thread] { return thread.hasEnded; });
+    const std::stop_callback wake(stop, [this] {
+        const std::lock_guard lock(m_mutex);
+        m_changed.notify_all();
+    });
+    std::unique_lock lock(m_mutex); // after it: who lets go of `wake` waits for who runs it
+    const auto hasEnded = [&thread] { return thread.hasEnded; };
+    m_changed.wait_until(lock, until, [&] { return hasEnded() || stop.stop_requested(); });
+    // One that is not stuck hears of the stop as well.
+    m_changed.wait_until(lock, std::min(until, Clock::now() + kPatienceAfterAStop), hasEnded);
     joinEnded();
     if (!thread.hasEnded) {
         leaveAlone(thread);

@@ -8,6 +8,7 @@
 #include <list>
 #include <memory>
 #include <mutex>
+#include <stop_token>
 #include <system_error>
 
 namespace tessera {
@@ -41,8 +42,9 @@ public:
 
     [[nodiscard]] bool hasEnded(const Thread& thread) const;
 
-    /// False when it has not ended by then; it counts as stuck.
-    [[nodiscard]] bool waitFor(Thread& thread, Clock::time_point until);
+    /// False when it has not ended by then, or soon after a stop; it counts as stuck.
+    [[nodiscard]] bool waitFor(
+        Thread& thread, Clock::time_point until, const std::stop_token& stop = {});
 
     /// False when some have not ended in that time; they count as stuck. Of those that have,
     /// nothing runs any more, not even what a library does at a thread's end.

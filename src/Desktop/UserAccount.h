@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -25,6 +26,9 @@ public:
 
     /// The home directory as the process's surroundings give it, which may be another one.
     [[nodiscard]] virtual std::string homeDirectory() const = 0;
+
+    /// The number of the user whose rights the process has.
+    [[nodiscard]] virtual std::uint32_t userNumber() const = 0;
 };
 
 /// Login name and home directory of the real user. A user without an entry in the password

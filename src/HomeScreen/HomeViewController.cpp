@@ -131,12 +131,7 @@ void HomeViewController::loadView()
     connectControls();
     connectGrid();
     loadVolumes();
-    if (!m_model.isRunningAsRoot()) {
-        m_foundLocations.resize(m_candidates.size());
-        for (std::size_t place = 0; place < m_candidates.size(); ++place) {
-            askForLocation(place, m_candidates[place]);
-        }
-    }
+    loadLocations();
     m_questions.waitBriefly(kHomeScreenPatience);
     m_isGridLoaded = true;
     takeLocations();
@@ -198,6 +193,31 @@ void HomeViewController::loadVolumes()
     }
 }
 
+void HomeViewController::loadLocations()
+{
+    if (m_model.isRunningAsRoot()) {
+        return;
+    }
+    m_foundLocations.resize(m_candidates.size());
+    for (std::size_t place = 0; place < m_candidates.size(); ++place) {
+        askForLocation(place, m_candidates[place]);
+    }
+}
+
+/// What does not answer now is shown with what it said before.
+void HomeViewController::reload()
+{
+    loadVolumes();
+    m_isGridLoaded = false;
+    loadLocations();
+    m_questions.waitBriefly(kHomeScreenPatience);
+    m_isGridLoaded = true;
+    showSections();
+    m_model.recents().reload();
+    m_recents->reload();
+    updateButtons();
+}
+
 void HomeViewController::askForSizes(const std::string& path)
 {
     using Sizes = std::optional<FileSystemSizes>;
@@ -223,14 +243,14 @@ void HomeViewController::askForLocation(std::size_t place, const LocationCandida
         },
         [this, place](const std::optional<Location>& found) {
             m_foundLocations[place] = found;
-            if (m_isGridLoaded && found.has_value()) {
-                showLateLocations();
+            if (m_isGridLoaded) {
+                showSections();
             }
         });
 }
 
-/// The user may have chosen something in the grid meanwhile, whose place may be another now.
-void HomeViewController::showLateLocations()
+/// The user may have chosen something in the grid, whose place may be another now.
+void HomeViewController::showSections()
 {
     const int section = locationsCollection().selectedSection();
     const Url* const selected = selectedUrl();
@@ -392,10 +412,17 @@ std::unique_ptr<CollectionItemView> HomeViewController::volumeView(
     return highEnough(std::move(view));
 }
 
-std::unique_ptr<CollectionItemView> HomeViewController::locationView(const Location& location)
+std::unique_ptr<CollectionItemView> HomeViewController::locationView(const Location& location) const
 {
     auto view = std::make_unique<FolderCollectionView>();
-    view->setUrl(location.url, locationIcon(location.kind), localizedLocationName(location));
+    // The home folder itself says where it is; of what is in it the way from there says more.
+    const std::string& path = location.url.path();
+    const bool isHome = path == m_services.homeDirectory || path == m_realHomeDirectory;
+    view->setUrl(
+        location.url,
+        locationIcon(location.kind),
+        localizedLocationName(location),
+        isHome ? QString() : pathWithTilde(path, m_realHomeDirectory));
     return highEnough(std::move(view));
 }
 

@@ -3,10 +3,10 @@
 
 #include "Desktop/MountedVolumes.h"
 #include "HomeScreen/HomeViewServices.h"
-#include "HomeScreen/Places/BackgroundQuestions.h"
 #include "HomeScreen/Places/KnownPlaces.h"
 #include "HomeScreen/Places/Locations.h"
 #include "Model/FileSystemAttributes.h"
+#include "Widgets/BackgroundQuestions.h"
 
 #include <QObject>
 
@@ -64,6 +64,10 @@ public:
     bool enabled() const { return m_enabled; }
     void setEnabled(bool enabled);
 
+    /// Reads volumes, their sizes and locations anew. What is selected in the grid stays selected
+    /// while it is there.
+    void reload();
+
     /// Gives the keyboard to where the selection is; with nothing selected to the recent scans or,
     /// where there are none, to the grid.
     void takeFocus();
@@ -90,10 +94,11 @@ private:
     void fitFont();
     void updateButtons();
     void loadVolumes();
+    void loadLocations();
+    void showSections();
     void askForSizes(const std::string& path);
     void askForLocation(std::size_t place, const LocationCandidate& candidate);
     void takeLocations();
-    void showLateLocations();
     void selectUrl(int section, const Url& url);
     void loadRecents();
     void recentSelected();
@@ -102,7 +107,7 @@ private:
     const Url* urlAt(int section, int index) const;
     std::vector<CollectionSection> sections() const;
     std::unique_ptr<CollectionItemView> volumeView(const MountedVolume& volume) const;
-    static std::unique_ptr<CollectionItemView> locationView(const Location& location);
+    std::unique_ptr<CollectionItemView> locationView(const Location& location) const;
 
     RootModel& m_model;
     HomeViewServices m_services;

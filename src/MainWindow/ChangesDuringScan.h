@@ -11,9 +11,9 @@ namespace tessera {
 class DiskChanges;
 class TreeViewController;
 
-/// What the program itself changes on the disk while a scan runs: moves to the trash and archives
-/// that end only now. No tree is on screen that could hear of it, and the scan may have passed the
-/// place before. Main thread only.
+/// What the program itself changes on the disk while a scan runs: moves to the trash and back,
+/// and archives, that end only now. No tree is on screen that could hear of it, and the scan may
+/// have passed the place before. Main thread only.
 class ChangesDuringScan final : public QObject {
 public:
     explicit ChangesDuringScan(const DiskChanges& changes);

@@ -16,6 +16,8 @@ class HomeScreen : public QObject {
 public:
     virtual QWidget& view() const = 0;
     virtual void setEnabled(bool enabled) = 0;
+    /// Looks for what there is to scan once more. What is selected stays selected.
+    virtual void reload() = 0;
     /// Gives the keyboard to what the user is most likely to need it for.
     virtual void takeFocus() = 0;
 

@@ -1,20 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "MainWindow/MainWindowController.h"
 
+#include "Base/DisplayText.h"
 #include "Base/Log.h"
+#include "Basket/BasketKeeper.h"
 #include "Commands/CommandActions.h"
-#include "Desktop/Alert.h"
-#include "Desktop/OpenPanel.h"
-#include "HomeScreen/Places/PlaceNames.h"
-#include "MainWindow/BackupFolder.h"
 #include "MainWindow/HomeScreen.h"
 #include "MainWindow/Menus/MainMenus.h"
 #include "MainWindow/ScanScreen.h"
 #include "MainWindow/WindowFrame.h"
+#include "MainWindow/WindowTitle.h"
 #include "Model/RootModel.h"
+#include "Model/UserDefaults.h"
 #include "TreeScreen/Map/TreeMapView.h"
 #include "TreeScreen/PathBar/ToolbarPathControl.h"
 #include "TreeScreen/TreeViewController.h"
+#include "Undo/TrashUndo.h"
 #include "ui_MainWindow.h"
 
 #include <QAction>
@@ -65,6 +66,8 @@ MainWindowController::MainWindowController(const MainWindowServices& services)
           *m_window,
           [this] { return commandContext(); },
           [this](Command command) { return whyNot(command); }))
+    , m_panels(*m_window, m_services)
+    , m_status(*m_window, m_services.defaults)
     , m_ignoreMenu(services.model)
     , m_slide(services.treeScreen.motion, services.slideClock)
     , m_changes(services.treeScreen.diskChanges)
@@ -86,7 +89,7 @@ void MainWindowController::loadWindow()
     fillMenu(m_itemMenu, MainMenu::Item, *m_actions);
     m_toolbar = std::make_unique<MainToolbar>(*m_ui->toolbar, m_itemMenu);
     m_toolbar->toolbarIgnoreButton().setMenu(&m_ignoreMenu);
-    connect(m_actions, &CommandActions::triggered, this, &MainWindowController::perform);
+    connectCommands();
     QAction& home = m_actions->action(Command::Home);
     m_toolbar->toolbarHomeButton().setWhatsThis(home.whatsThis());
     connect(&m_toolbar->toolbarHomeButton(), &QToolButton::clicked, &home, &QAction::trigger);
@@ -104,11 +107,52 @@ void MainWindowController::loadWindow()
     m_window->installEventFilter(this);
     m_view->installEventFilter(this);
     // The program may end without the window being closed.
-    connect(qApp, &QCoreApplication::aboutToQuit, this, [this] {
-        if (m_window->isVisible()) {
-            saveFrame(*m_window, m_services.defaults);
+    connect(qApp, &QCoreApplication::aboutToQuit, this, &MainWindowController::keepPlace);
+    loadPanels();
+    observeSettings();
+}
+
+void MainWindowController::connectCommands()
+{
+    connect(m_actions, &CommandActions::triggered, this, &MainWindowController::perform);
+    connect(
+        &m_services.treeScreen.trashUndo,
+        &TrashUndo::changed,
+        m_actions,
+        &CommandActions::validate);
+    connect(
+        &m_services.treeScreen.basket,
+        &BasketKeeper::changed,
+        m_actions,
+        &CommandActions::validate);
+}
+
+void MainWindowController::loadPanels()
+{
+    connect(&sidePanels(), &SidePanels::backToPicture, this, [this] {
+        if (m_treeView != nullptr) {
+            m_treeView->setFocus();
         }
     });
+    connect(&sidePanels(), &SidePanels::opened, m_actions, &CommandActions::validate);
+    connect(&sidePanels(), &SidePanels::closed, m_actions, &CommandActions::validate);
+}
+
+void MainWindowController::observeSettings()
+{
+    m_settings = m_services.defaults.addChangeObserver([this](std::string_view key) {
+        if (key == kFolderSizesKey && m_treeView != nullptr) {
+            m_treeView->paintAnew();
+        } else if (key == kStatusLineKey) {
+            m_actions->validate();
+        }
+    });
+}
+
+/// Nothing for an empty text.
+void MainWindowController::setShown(const QString& what)
+{
+    m_window->setWindowTitle(mainWindowTitle(what));
 }
 
 void MainWindowController::handle(ScreenEvent event, const Url& url)
@@ -139,6 +183,7 @@ void MainWindowController::act(ScreenAction action, const Url& url)
         break;
     case ScreenAction::SlideScanOut:
         m_slide.slideOut();
+        setShown({});
         break;
     case ScreenAction::CleanUp:
         cleanUp();
@@ -157,9 +202,14 @@ void MainWindowController::showHome()
 {
     m_ignoreMenu.setTreeViewController(nullptr);
     m_ignoreMenu.removeFolders();
+    if (m_treeVC != nullptr) {
+        m_panels.treeLeaves();
+        m_status.treeLeaves();
+    }
     m_treeVC.reset();
     m_treeView.reset();
     m_toolbar->setTreeDisplayed(false);
+    setShown({});
     m_homeVC = m_services.makeHomeScreen();
     connect(m_homeVC.get(), &HomeScreen::openFolder, this, &MainWindowController::openFolder);
     connect(m_homeVC.get(), &HomeScreen::scanUrl, this, [this](const Url& url) {
@@ -184,6 +234,7 @@ void MainWindowController::slideScanIn(const Url& url)
 void MainWindowController::startScan(const Url& url)
 {
     m_changes.scanBegins();
+    m_comeBack.reset();
     m_scanVC.reset();
     m_scanVC = m_services.makeScanScreen();
     connect(m_scanVC.get(), &ScanScreen::scanCancelled, this, [this] {
@@ -195,6 +246,7 @@ void MainWindowController::startScan(const Url& url)
     QWidget& panel = m_scanVC->view();
     panel.setParent(m_view);
     placeScreens();
+    setShown(tr("Scanning %1").arg(displayText(url.lastPathComponent())));
     m_scanVC->startScanning(url);
     panel.show();
     panel.raise();
@@ -232,6 +284,8 @@ void MainWindowController::displayTree()
     dropScan();
     retire(m_homeVC);
     m_toolbar->setTreeDisplayed(true);
+    m_panels.treeComes();
+    m_status.treeComes();
     m_treeView = std::make_unique<TreeMapView>(m_services.treeScreen.defaults, m_view);
     placeScreens();
     m_treeVC = std::make_unique<TreeViewController>(
@@ -253,7 +307,10 @@ void MainWindowController::displayTree()
     connect(
         m_treeVC.get(), &TreeViewController::pictureRebuilt, m_actions, &CommandActions::validate);
     m_ignoreMenu.setTreeViewController(m_treeVC.get());
+    m_panels.connectTo(*m_treeVC);
+    m_status.connectTo(*m_treeVC, *m_treeView);
     m_changes.tell(*m_treeVC);
+    comeBack();
     m_treeView->show();
     m_treeView->setFocus();
 }
@@ -295,108 +352,8 @@ void MainWindowController::refreshPathControl()
     path.setPathComponents(
         pathComponents(*m_treeVC->currentFolder(), m_services.treeScreen.compressing.icons));
     path.refreshWidth();
-}
-
-CommandContext MainWindowController::commandContext() const
-{
-    CommandContext context = m_treeVC == nullptr ? CommandContext() : m_treeVC->commandContext();
-    context.hasHomeScreen = m_homeVC != nullptr;
-    return context;
-}
-
-void MainWindowController::perform(Command command)
-{
-    switch (command) {
-    case Command::OpenFolder:
-        openFolder();
-        break;
-    case Command::Home:
-        homeSelected();
-        break;
-    case Command::Preferences:
-        emit preferencesRequested();
-        break;
-    case Command::Quit:
-        m_window->close();
-        break;
-    case Command::FullScreen:
-        toggleFullScreen();
-        break;
-    case Command::Features:
-        emit helpRequested(HelpPage::Features);
-        break;
-    case Command::Questions:
-        emit helpRequested(HelpPage::Questions);
-        break;
-    default:
-        if (m_treeVC != nullptr) {
-            performOnTree(command);
-        }
-        break;
-    }
-}
-
-/// All but two commands are the same from the menus as from the picture's own keys.
-void MainWindowController::performOnTree(Command command)
-{
-    if (command == Command::Rescan) {
-        rescan();
-    } else if (command != Command::QuickLook) {
-        m_treeVC->perform(command);
-    } else if (m_treeVC->validate(command)) {
-        // An open preview comes to the front, where the picture's Space would close it.
-        m_treeVC->quickLook();
-    }
-}
-
-/// The scanned folder has no place in a tree in which a new one could be put: it is scanned as if
-/// the user had chosen it again, which ends the tree screen.
-void MainWindowController::rescan()
-{
-    if (!m_treeVC->validate(Command::Rescan)) {
-        return;
-    }
-    const Folder& folder = *m_treeVC->folderToRescan();
-    if (&folder == m_services.model.topFolder()) {
-        scanUrl(folder.url());
-    } else {
-        m_treeVC->refreshFolder();
-    }
-}
-
-/// Without a tree nothing needs to be said: there is nothing that the commands could be about.
-QString MainWindowController::whyNot(Command command) const
-{
-    return m_treeVC == nullptr ? QString() : m_treeVC->whyNot(command);
-}
-
-void MainWindowController::openFolder()
-{
-    m_services.openPanel.begin(
-        *m_window, [this](const std::vector<Url>& urls) { folderChosen(urls); });
-}
-
-void MainWindowController::folderChosen(const std::vector<Url>& urls)
-{
-    if (urls.empty()) {
-        return;
-    }
-    if (isTimeMachineBackup(urls.back())) {
-        refuseTimeMachine(urls.back());
-        return;
-    }
-    scanUrl(urls.back());
-}
-
-void MainWindowController::refuseTimeMachine(const Url& url)
-{
-    const Url volume = volumeOf(url, m_services.volumes);
-    m_services.treeScreen.alert.beginSheet(
-        {tr("Time Machine Detected"),
-         tr("Tessera is unable to scan inside a Time Machine backup. To estimate the overall size "
-            "of Time Machine, please scan the disk labeled '%1'.")
-             .arg(localizedVolumeName(volume)),
-         {tr("OK")}});
+    const Url folder = m_treeVC->currentFolder()->url();
+    setShown(displayText(folder.lastPathComponent()));
 }
 
 void MainWindowController::scanUrl(const Url& url)
@@ -413,9 +370,17 @@ void MainWindowController::showWindow()
     m_window->activateWindow();
 }
 
-void MainWindowController::toggleFullScreen()
+void MainWindowController::keepPlace()
 {
-    m_window->setWindowState(m_window->windowState() ^ Qt::WindowFullScreen);
+    if (m_window->isVisible()) {
+        saveWindow();
+    }
+}
+
+void MainWindowController::saveWindow()
+{
+    sidePanels().save();
+    saveFrame(*m_window, m_services.defaults);
 }
 
 bool MainWindowController::eventFilter(QObject* watched, QEvent* event)
@@ -427,13 +392,16 @@ bool MainWindowController::eventFilter(QObject* watched, QEvent* event)
             event->ignore();
             return true;
         }
-        saveFrame(*m_window, m_services.defaults);
+        saveWindow();
         emit closed();
     } else if (watched == m_window.get() && event->type() == QEvent::KeyPress) {
         const auto& pressed = *static_cast<QKeyEvent*>(event);
         if (const auto command = m_actions->disabledCommand(pressed);
             command && !pressed.isAutoRepeat() && m_treeVC != nullptr) {
             m_treeVC->say(whyNot(*command));
+        } else if (command == Command::Rescan && pressed.key() == Qt::Key_F5) {
+            // On the home screen it is the key that it is everywhere else.
+            perform(Command::Reload);
         }
     }
     return QObject::eventFilter(watched, event);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Base/Observation.h"
 #include "Commands/CommandContext.h"
 #include "MainWindow/ChangesDuringScan.h"
 #include "MainWindow/HelpPage.h"
@@ -9,6 +10,8 @@
 #include "MainWindow/Menus/IgnoreMenu.h"
 #include "MainWindow/ScanPanelSlide.h"
 #include "MainWindow/ScreenStates.h"
+#include "MainWindow/TreePanels.h"
+#include "MainWindow/TreeStatusBar.h"
 
 #include <QMenu>
 #include <QObject>
@@ -16,6 +19,8 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
+#include <string>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -48,6 +53,8 @@ public:
     QMainWindow& window() const { return *m_window; }
     /// Opens the window where it was the last time.
     void showWindow();
+    /// Remembers where the window is, while it is open.
+    void keepPlace();
     /// Has somebody be asked before the user closes the window; false keeps it open.
     void setMayClose(std::function<bool()> mayClose) { m_mayClose = std::move(mayClose); }
 
@@ -57,6 +64,7 @@ public:
     const MainToolbar& toolbar() const { return *m_toolbar; }
     IgnoreMenu& ignoreMenu() { return m_ignoreMenu; }
     ScanPanelSlide& slide() { return m_slide; }
+    SidePanels& sidePanels() { return m_panels.sidePanels(); }
 
     /// Shows the home screen instead of the tree.
     void homeSelected();
@@ -76,7 +84,9 @@ public:
 
 signals:
     void preferencesRequested();
+    void historyRequested();
     void helpRequested(tessera::HelpPage page);
+    void aboutRequested();
     /// The user closed the window.
     void closed();
     /// The scan of that folder has begun.
@@ -86,6 +96,10 @@ private:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
     void loadWindow();
+    void connectCommands();
+    void loadPanels();
+    void observeSettings();
+    void setShown(const QString& what);
     void handle(ScreenEvent event, const Url& url);
     void act(ScreenAction action, const Url& url);
     void showHome();
@@ -97,12 +111,23 @@ private:
     void cleanUp();
     void displayTree();
     void placeScreens();
+    void performOnItems(Command command);
     void performOnTree(Command command);
     void rescan();
+    bool canReload() const;
+    void reload();
+    void comeBack();
     QString whyNot(Command command) const;
     void folderChosen(const std::vector<Url>& urls);
     void refuseTimeMachine(const Url& url);
     void toggleFullScreen();
+    void saveWindow();
+
+    /// Where the user was in a tree; paths in that.
+    struct PlaceInTree {
+        std::string folderInView;
+        std::string selected; ///< empty: nothing
+    };
 
     const MainWindowServices m_services;
     std::function<bool()> m_mayClose = [] { return true; };
@@ -111,6 +136,8 @@ private:
     std::unique_ptr<Ui::MainWindow> m_ui;
     QWidget* m_view; ///< the window's content area, which holds the screens
     CommandActions* m_actions;
+    TreePanels m_panels;
+    TreeStatusBar m_status;
     QMenu m_itemMenu; ///< under the toolbar's button
     IgnoreMenu m_ignoreMenu;
     std::unique_ptr<MainToolbar> m_toolbar;
@@ -124,6 +151,8 @@ private:
     std::vector<std::variant<std::unique_ptr<HomeScreen>, std::unique_ptr<ScanScreen>>> m_retired;
     QTimer m_release;
     ChangesDuringScan m_changes;
+    std::optional<PlaceInTree> m_comeBack; ///< when the scan that runs is of the same tree again
+    Observation m_settings;
 };
 
 } // namespace tessera

@@ -19,6 +19,7 @@ public:
 
     QWidget& view() const override { return m_homeVC.view(); }
     void setEnabled(bool enabled) override { m_homeVC.setEnabled(enabled); }
+    void reload() override { m_homeVC.reload(); }
     void takeFocus() override { m_homeVC.takeFocus(); }
 
 private:

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Freeing/AskDisk.h"
+#include "LedgerPanel/LedgerServices.h"
 #include "TreeScreen/TreeViewServices.h"
 #include "Widgets/FrameClock.h"
 
@@ -23,6 +25,8 @@ struct MainWindowServices {
     UserDefaults& defaults; ///< where the window's place on the screen is remembered
     OpenPanel& openPanel;
     const MountedVolumes& volumes;
+    LedgerServices ledger;
+    FreeingServices freeing;
     std::function<std::unique_ptr<HomeScreen>()> makeHomeScreen;
     std::function<std::unique_ptr<ScanScreen>()> makeScanScreen;
     FrameClock::Seconds slideClock = FrameClock::steadySeconds; ///< what the scan panel slides by

@@ -10,6 +10,8 @@ void registerDefaults(UserDefaults& defaults)
 {
     defaults.registerDefaults({
         {std::string(kTooltipTypeKey), static_cast<int>(TooltipType::Full)},
+        {std::string(kFolderSizesKey), true},
+        {std::string(kStatusLineKey), true},
         {std::string(kWarnDeleteHiddenKey), true},
         {std::string(kWarnDeleteSystemKey), true},
     });

@@ -56,6 +56,10 @@ public:
     bool ignored() const { return (m_state & kIgnored) != 0; }
     void setIgnored(bool on) { setFlag(kIgnored, on); }
 
+    /// Whether the file has other names, which LinkedNames knows.
+    bool isLinkedName() const { return m_isLinkedName; }
+    void setLinkedName() { m_isLinkedName = true; }
+
     /// What the user sees: the fragment, or the fixed text of a node that is no real file.
     std::string_view name() const;
 
@@ -109,7 +113,8 @@ private:
 
     std::uint64_t m_totalAllocation = 0;
     Folder* m_parent = nullptr;
-    NodeType m_type;
+    NodeType m_type : 7;
+    bool m_isLinkedName : 1 = false;
     std::uint8_t m_state = 0;
     std::uint8_t m_nameLength = 0;
     std::uint8_t m_nameRoom = 0;

@@ -7,6 +7,7 @@
 #include <array>
 #include <cassert>
 #include <cstdint>
+#include <limits>
 #include <numeric>
 #include <vector>
 
@@ -85,6 +86,12 @@ bool hasNoHue(const File* node)
 
 } // namespace
 
+void Folder::setOwnAllocation(std::uint64_t bytes)
+{
+    constexpr std::uint64_t kMost = std::numeric_limits<std::uint32_t>::max();
+    m_ownBlocks = static_cast<std::uint32_t>(std::min(bytes / kOwnBlock, kMost));
+}
+
 File& Folder::addChild(std::unique_ptr<File> child)
 {
     File& added = attach(std::move(child));
@@ -157,11 +164,15 @@ std::vector<std::unique_ptr<File>> Folder::takeChildren()
 void Folder::spread(std::uint64_t delta)
 {
     for (Folder* folder = this; folder != nullptr; folder = folder->parent()) {
-        folder->setTotalAllocation(
-            isCutOff(*folder) ? sumOfChildren(*folder)
-                              : changedBy(folder->totalAllocation(), delta));
+        folder->childChanged(delta);
         folder->sort();
     }
+}
+
+void Folder::childChanged(std::uint64_t delta)
+{
+    setTotalAllocation(
+        isCutOff(*this) ? sumOfChildren(*this) : changedBy(totalAllocation(), delta));
 }
 
 void Folder::sort()
@@ -211,6 +222,16 @@ void Folder::assignHues(PathHash seed)
             m_children[i]->setHue(table[i % kHueSlots]);
         }
     }
+}
+
+bool isAtOrBelow(const File& node, const File& above)
+{
+    for (const File* at = &node; at != nullptr; at = at->parent()) {
+        if (at == &above) {
+            return true;
+        }
+    }
+    return false;
 }
 
 } // namespace tessera

@@ -20,6 +20,11 @@ public:
 
     const ChildArray& children() const { return m_children; }
 
+    /// Bytes that the directory itself occupies on disk, without what is in it. They are no part of
+    /// totalAllocation(). 0 while nobody has told.
+    std::uint64_t ownAllocation() const { return std::uint64_t{m_ownBlocks} * kOwnBlock; }
+    void setOwnAllocation(std::uint64_t bytes);
+
     /// Building, bottom-up: appends the child and adds its size to this folder alone. A child
     /// that is a folder must be complete; it is sorted here, for the only time of the build.
     File& addChild(std::unique_ptr<File> child);
@@ -44,6 +49,10 @@ public:
     /// size nor anything above it is told.
     std::vector<std::unique_ptr<File>> takeChildren();
 
+    /// A child's size is by `delta` bytes, modulo 2^64, another one than before, which nothing
+    /// above knows yet, nor the order here: sort() is to follow.
+    void childChanged(std::uint64_t delta);
+
     /// Orders the children by size, largest first, and gives a colour slot to each that has none.
     /// Slots depend on the folder's path and the children's order alone: every scan gives the same.
     void sort();
@@ -64,13 +73,20 @@ private:
     {
     }
 
+    /// What st_blocks counts in: no directory occupies a part of one, nor as many as do not fit.
+    static constexpr std::uint64_t kOwnBlock = 512;
+
     File& attach(std::unique_ptr<File> child);
     void orderChildren();
     void assignHues(PathHash seed);
     /// Adds `delta` bytes, modulo 2^64, to this folder and all above it, and sorts each.
     void spread(std::uint64_t delta);
 
+    std::uint32_t m_ownBlocks = 0; ///< stands where File has no fields and no name
     ChildArray m_children;
 };
+
+/// Whether `node` is `above` or lies below it.
+[[nodiscard]] bool isAtOrBelow(const File& node, const File& above);
 
 } // namespace tessera

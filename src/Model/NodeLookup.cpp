@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Model/NodeLookup.h"
 
+#include "Model/Allocation.h"
 #include "Model/TopFolder.h"
 
 #include <algorithm>
@@ -88,11 +89,7 @@ bool isItem(const File& node)
 
 Url placeOnDisk(const File& node)
 {
-    const File* outermost = &node;
-    while (outermost->parent() != nullptr) {
-        outermost = outermost->parent();
-    }
-    const auto* top = nodeCast<TopFolder>(outermost);
+    const TopFolder* const top = rootOfScan(node);
     const std::string path = node.absolutePath();
     return {top == nullptr ? path : pathOnDisk(*top, path), node.isFolder()};
 }
@@ -109,14 +106,18 @@ std::string pathInTree(const TopFolder& top, std::string_view path)
     return below ? joined(top.origin(), *below) : std::string(path);
 }
 
-bool isAtOrBelow(const File& node, const File& above)
+std::optional<LinkedNames::Description> linkedNameOf(const File& node)
 {
-    for (const File* at = &node; at != nullptr; at = at->parent()) {
-        if (at == &above) {
-            return true;
-        }
-    }
-    return false;
+    const TopFolder* const root = rootOfScan(node);
+    return root == nullptr ? std::nullopt : root->linkedNames().describe(node);
+}
+
+std::uint64_t allocationOfAllNames(const File& node)
+{
+    const TopFolder* const root = rootOfScan(node);
+    return root == nullptr
+        ? node.totalAllocation()
+        : saturatingSum(node.totalAllocation(), root->linkedNames().countedElsewhere(node));
 }
 
 File* nodeAtPath(TopFolder& top, std::string_view absolutePath)

@@ -2,7 +2,10 @@
 #pragma once
 
 #include "Base/Url.h"
+#include "Model/LinkedNames.h"
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -28,8 +31,12 @@ class TopFolder;
 /// path with links.
 [[nodiscard]] std::string pathInTree(const TopFolder& top, std::string_view path);
 
-/// Whether `node` is `above` or lies below it.
-[[nodiscard]] bool isAtOrBelow(const File& node, const File& above);
+/// What a name of a file that has several stands for; nothing for any other node.
+[[nodiscard]] std::optional<LinkedNames::Description> linkedNameOf(const File& node);
+
+/// Bytes on disk of everything that the node names, also of files that are counted at other names:
+/// what it takes to read it all.
+[[nodiscard]] std::uint64_t allocationOfAllNames(const File& node);
 
 /// The node of exactly that absolute path, or null: names are compared whole, component by
 /// component.

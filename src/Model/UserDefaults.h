@@ -18,6 +18,8 @@ namespace tessera {
 inline constexpr std::string_view kTooltipTypeKey = "TooltipType";
 inline constexpr std::string_view kWarnDeleteHiddenKey = "WarnDeleteHidden";
 inline constexpr std::string_view kWarnDeleteSystemKey = "WarnDeleteSystem";
+inline constexpr std::string_view kFolderSizesKey = "FolderSizes"; ///< in folder titles
+inline constexpr std::string_view kStatusLineKey = "StatusLine";
 inline constexpr std::string_view kRecentsKey = "recents";
 
 /// One finished scan, as the list of recent scans remembers it.

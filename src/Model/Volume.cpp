@@ -30,19 +30,25 @@ void Volume::refreshVolume(const FileSystemSizes& sizes)
         sizes.freeBytes);
     m_volumeSize = std::min(sizes.totalBytes, kMaxAllocation);
     m_freeSize = std::min(sizes.freeBytes, m_volumeSize);
+    m_device = m_device == 0 ? sizes.device : m_device;
 
     const std::uint64_t found = foundAllocation();
     logLine("Scan report { Found Size: %" PRIu64 " }", found);
 
     const std::uint64_t used = m_volumeSize - m_freeSize;
-    // A walk that found more than the used space (hard links count at each of their places) says
-    // nothing about what it missed, so the last known figure stays.
+    // A walk that found more than the used space (files may share extents, and a disk changes under
+    // the walk) says nothing about what it missed, so the last known figure stays.
     if (found < used) {
         m_unreadFile->setTotalAllocation(used - found);
     }
     m_freeFile->setTotalAllocation(m_freeSize);
     setTotalAllocation(used);
     sort();
+}
+
+bool Volume::mayBeSizesOfIt(const FileSystemSizes& sizes) const
+{
+    return m_device == 0 || sizes.device == 0 || sizes.device == m_device;
 }
 
 std::uint64_t Volume::foundAllocation() const

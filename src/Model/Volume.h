@@ -35,6 +35,11 @@ public:
     /// The same with sizes that were read already.
     void refreshVolume(const FileSystemSizes& sizes);
 
+    /// Whether these may be sizes of the disk that was scanned, by the number of the file system
+    /// that was read first: another may lie at its path when it is gone. True where a number is not
+    /// known.
+    bool mayBeSizesOfIt(const FileSystemSizes& sizes) const;
+
 private:
     template <typename Node>
     friend std::unique_ptr<Node> makeNode(std::string_view fragment);
@@ -46,6 +51,7 @@ private:
 
     std::uint64_t m_freeSize = 0;
     std::uint64_t m_volumeSize = 0;
+    std::uint64_t m_device = 0; ///< 0 until one was read
     FreeSpace* m_freeFile;
     Unknown* m_unreadFile;
 };

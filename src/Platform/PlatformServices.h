@@ -1,18 +1,28 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "About/LibraryVersion.h"
 #include "Desktop/ColorSchemePreference.h"
+#include "Desktop/CoveredFolders.h"
 #include "Desktop/EndRequests.h"
 #include "Desktop/FileAccess.h"
+#include "Desktop/HiddenFilesPreference.h"
+#include "Desktop/ItemChanges.h"
+#include "Desktop/ItemStates.h"
 #include "Desktop/LauncherProgress.h"
 #include "Desktop/MotionPreference.h"
 #include "Desktop/MountedVolumes.h"
+#include "Desktop/Notifications.h"
+#include "Desktop/OpenFiles.h"
+#include "Desktop/OtherPrograms.h"
 #include "Desktop/RecentDocuments.h"
 #include "Desktop/RunningInstance.h"
+#include "Desktop/SharedExtents.h"
 #include "Desktop/StandardFolders.h"
 #include "Desktop/Task.h"
 #include "Desktop/UserAccount.h"
 #include "Desktop/Workspace.h"
+#include "History/TrashHistory.h"
 #include "Model/FileSystemAttributes.h"
 #include "Model/UserDefaults.h"
 #include "Platform/Qt/QtMainThread.h"
@@ -27,6 +37,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace tessera {
 
@@ -46,6 +57,11 @@ struct PlatformServices {
     std::shared_ptr<const FileSystemAttributes> fileSystemAttributes; ///< likewise
     FileSystemsWithTimeLimit withTimeLimit;
     std::unique_ptr<MountedVolumes> mountedVolumes;
+    std::shared_ptr<const CoveredFolders> coveredFolders; ///< a worker keeps it
+    std::shared_ptr<const OpenFiles> openFiles; ///< likewise
+    std::shared_ptr<const SharedExtents> sharedExtents; ///< likewise
+    std::shared_ptr<const ItemStates> itemStates; ///< likewise
+    std::shared_ptr<const ItemChanges> itemChanges; ///< likewise
     std::unique_ptr<FileAccess> fileAccess; ///< waits as long as it takes
     std::shared_ptr<const FileReader> fileReader; ///< a look that is stuck keeps it
     std::shared_ptr<const RasterDecoder> rasterDecoder; ///< likewise
@@ -55,11 +71,16 @@ struct PlatformServices {
     std::unique_ptr<RecentDocuments> recentDocuments;
     std::unique_ptr<ColorSchemePreference> colorSchemePreference;
     std::unique_ptr<MotionPreference> motionPreference;
+    std::unique_ptr<HiddenFilesPreference> hiddenFilesPreference;
     std::unique_ptr<LauncherProgress> launcherProgress;
+    std::unique_ptr<Notifications> notifications;
     std::unique_ptr<RunningInstance> runningInstance;
     std::unique_ptr<EndRequests> endRequests;
     std::unique_ptr<QtMainThread> mainThread;
     std::unique_ptr<Workspace> workspace; ///< uses mainThread
+    std::unique_ptr<OtherPrograms> otherPrograms; ///< likewise
+    std::vector<LibraryVersion> libraries; ///< that the platform uses
+    std::unique_ptr<TrashHistory> trashHistory; ///< likewise
     std::function<std::unique_ptr<Task>()> makeTask; ///< a child process, not yet started
     std::string archiver; ///< path of the archiving program, as bytes
     std::string helpFolder; ///< of features.html and faq.html, as bytes; empty when missing

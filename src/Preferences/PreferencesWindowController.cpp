@@ -17,8 +17,9 @@ PreferencesWindowController::PreferencesWindowController(UserDefaults& defaults)
     , m_ui(std::make_unique<Ui::PreferencesWindow>())
 {
     m_ui->setupUi(m_window.get());
-    bindWarning(*m_ui->warnHiddenDelete, kWarnDeleteHiddenKey);
-    bindWarning(*m_ui->warnSystemDelete, kWarnDeleteSystemKey);
+    bindBox(*m_ui->warnHiddenDelete, kWarnDeleteHiddenKey);
+    bindBox(*m_ui->warnSystemDelete, kWarnDeleteSystemKey);
+    bindBox(*m_ui->folderSizes, kFolderSizesKey);
     bindTooltipType();
     m_changes = defaults.addChangeObserver([this](std::string_view key) { refresh(key); });
 }
@@ -36,7 +37,7 @@ void PreferencesWindowController::showWindow(const QWidget* above)
     m_window->activateWindow();
 }
 
-void PreferencesWindowController::bindWarning(QCheckBox& box, std::string_view key)
+void PreferencesWindowController::bindBox(QCheckBox& box, std::string_view key)
 {
     refresh(key);
     connect(&box, &QCheckBox::toggled, this, [this, key](bool isOn) {
@@ -66,6 +67,8 @@ void PreferencesWindowController::refresh(std::string_view key)
         m_ui->warnHiddenDelete->setChecked(m_defaults.boolean(key));
     } else if (key == kWarnDeleteSystemKey) {
         m_ui->warnSystemDelete->setChecked(m_defaults.boolean(key));
+    } else if (key == kFolderSizesKey) {
+        m_ui->folderSizes->setChecked(m_defaults.boolean(key));
     } else if (key == kTooltipTypeKey) {
         m_ui->tooltipButton->setCurrentIndex(
             m_ui->tooltipButton->findData(m_defaults.integer(key)));

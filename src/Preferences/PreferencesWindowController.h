@@ -35,7 +35,7 @@ public:
     QDialog& window() const { return *m_window; }
 
 private:
-    void bindWarning(QCheckBox& box, std::string_view key);
+    void bindBox(QCheckBox& box, std::string_view key);
     void bindTooltipType();
     void refresh(std::string_view key);
 

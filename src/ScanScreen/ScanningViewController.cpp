@@ -7,6 +7,7 @@
 #include "Desktop/Alert.h"
 #include "Desktop/DockTile.h"
 #include "Model/RootModel.h"
+#include "Notices/EndNotices.h"
 #include "ScanScreen/PathLabel.h"
 #include "Scanning/Scanner.h"
 #include "Widgets/ScanProblem.h"
@@ -71,6 +72,9 @@ ScanningViewController::~ScanningViewController()
 
 void ScanningViewController::startScanning(const Url& url)
 {
+    if (m_scanner == nullptr && m_services.notices != nullptr) {
+        m_begun = m_services.notices->now();
+    }
     m_rate.restart();
     m_rootURL = url;
     const PlaceLook look = m_services.look(url);
@@ -118,7 +122,7 @@ void ScanningViewController::scanEnded(Scanner& scanner)
     std::unique_ptr<TopFolder> tree = m_homePass.takeTree(scanner);
     if (tree->children().empty()) {
         if (const std::error_code problem = m_services.checkFolder(scanned.path())) {
-            m_services.alert.beginSheet(scanProblem(scanned, problem));
+            sayThatItFailed(scanned, problem);
             endWithoutTree();
             return;
         }
@@ -126,6 +130,12 @@ void ScanningViewController::scanEnded(Scanner& scanner)
     m_model.setTopFolder(std::move(tree));
     m_model.recents().addToList(*m_model.topFolder());
     m_services.dockTile.requestAttention();
+    giveNotice(
+        tr("The scan is finished"),
+        tr("%1 takes %2.")
+            .arg(
+                m_ui->folderName->text(),
+                QString::fromStdString(formatSize(m_model.topFolder()->totalAllocation()))));
     m_services.dockTile.removeContentView(m_dockImage);
     m_ui->cancelButton->setEnabled(false);
     emit scanComplete();
@@ -141,8 +151,22 @@ void ScanningViewController::scanCancelled(Scanner& /*scanner*/)
 void ScanningViewController::scanFailed(Scanner& /*scanner*/, const std::error_code& problem)
 {
     stopAnimation();
-    m_services.alert.beginSheet(scanProblem(std::exchange(m_rootURL, {}), problem));
+    sayThatItFailed(std::exchange(m_rootURL, {}), problem);
     endWithoutTree();
+}
+
+void ScanningViewController::sayThatItFailed(const Url& folder, const std::error_code& problem)
+{
+    const AlertText text = scanProblem(folder, problem);
+    m_services.alert.beginSheet(text);
+    giveNotice(text.messageText, text.informativeText);
+}
+
+void ScanningViewController::giveNotice(const QString& title, const QString& text) const
+{
+    if (m_services.notices != nullptr) {
+        m_services.notices->workEnded(m_begun, title, text);
+    }
 }
 
 void ScanningViewController::endWithoutTree()

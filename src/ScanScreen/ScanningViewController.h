@@ -18,6 +18,7 @@
 #include <system_error>
 #include <vector>
 
+class QString;
 class QWidget;
 
 namespace Ui {
@@ -28,6 +29,7 @@ namespace tessera {
 
 class Alert;
 class DockTile;
+class EndNotices;
 class RootModel;
 class Scanner;
 
@@ -39,6 +41,8 @@ struct ScanningServices {
     std::function<PlaceLook(const Url& folder)> look;
     /// Why a folder cannot be read, by its path; no error when it can.
     std::function<std::error_code(const std::string& path)> checkFolder;
+    EndNotices* notices
+        = nullptr; ///< hears of each end but those that the user wanted; may be null
 };
 
 /// The controller of the panel that shows how far a scan is. It serves one scan: at the end it
@@ -84,6 +88,8 @@ private:
     void scanCancelled(Scanner& scanner) override;
     void scanFailed(Scanner& scanner, const std::error_code& problem) override;
 
+    void sayThatItFailed(const Url& folder, const std::error_code& problem);
+    void giveNotice(const QString& title, const QString& text) const;
     void endWithoutTree();
     void showPath(const Url& current);
     void startAnimation();
@@ -97,6 +103,7 @@ private:
     FileRate m_rate;
     std::shared_ptr<Scanner> m_scanner;
     Url m_rootURL;
+    double m_begun = 0; ///< seconds of the notices' clock
     HomePass m_homePass;
 };
 

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Base/FileIdentity.h"
+
 #include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 namespace tessera {
 
@@ -15,11 +18,23 @@ struct DirectoryItem {
     bool isDirectory = false; ///< a symbolic link to a directory is none
     bool isHidden = false; ///< false unless the item's keys are read
     std::uint64_t allocatedBytes = 0; ///< on disk; 0 for directories and unless the keys are read
+    /// Names that the file has, on the whole file system; 0 for directories, for what has no other
+    /// name, and unless the keys are read.
+    std::uint32_t linkCount = 0;
+    FileIdentity identity{}; ///< known where there are other names
+};
+
+/// What a walk found out about a directory when it entered it.
+struct EnteredDirectory {
+    std::uint64_t allocatedBytes = 0; ///< of the directory itself; 0 where another mount begins
+    /// Why it could not be listed, or not to its end; of the system category. None where it went
+    /// away meanwhile, or another mount begins.
+    std::error_code problem{};
 };
 
 /// Walks the items below a directory depth-first: a directory comes right before what it holds.
-/// What cannot be read is passed over in silence: an unreadable directory comes as an empty one,
-/// an item that vanished does not come at all. Used by one thread at a time.
+/// What cannot be read does not end it: an unreadable directory comes as an empty one, an item that
+/// vanished does not come at all. Used by one thread at a time.
 class DirectoryEnumerator {
 public:
     DirectoryEnumerator() = default;
@@ -32,6 +47,11 @@ public:
 
     /// The directory that was fetched last is not walked.
     virtual void skipDescendants() = 0;
+
+    /// The directory that the latest call of next() entered: the one that was fetched before, and
+    /// with the first call the one where the walk starts. Null when it entered none, and where
+    /// nothing is known. Good until the next call.
+    [[nodiscard]] virtual const EnteredDirectory* entered() const = 0;
 };
 
 /// What an enumerator reads of each item beside its name, level and kind.

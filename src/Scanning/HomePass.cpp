@@ -2,6 +2,7 @@
 #include "Scanning/HomePass.h"
 
 #include "Model/NodeLookup.h"
+#include "Model/TreeEdit.h"
 #include "Scanning/Scanner.h"
 
 #include <utility>
@@ -16,6 +17,7 @@ namespace {
 std::unique_ptr<Folder> homeFolder(TopFolder& root)
 {
     auto folder = makeNode<Folder>(root.fragment());
+    folder->setOwnAllocation(root.ownAllocation());
     for (std::unique_ptr<File>& child : root.takeChildren()) {
         if (child->type() != NodeType::FreeSpace) {
             folder->addChild(std::move(child));
@@ -45,7 +47,9 @@ std::unique_ptr<TopFolder> HomePass::takeTree(Scanner& ended)
     // By whole names: a sibling whose name begins like the user's must not hide the home.
     File* const place = nodeAtPath(*m_surroundings, scanned->origin());
     if (place != nullptr && place->parent() != nullptr) {
-        place->parent()->replaceChild(*place, homeFolder(*scanned));
+        std::unique_ptr<Folder> home = homeFolder(*scanned);
+        scanned->findings().addMounted(*scanned);
+        exchange(*place, loose(std::move(home), *scanned));
     }
     return std::move(m_surroundings);
 }

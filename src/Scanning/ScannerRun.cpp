@@ -25,8 +25,7 @@ constexpr int kTimeDecimals = 4;
 /// Progress in a folder is counted in the items of this many levels.
 constexpr unsigned kCountedLevels = 2;
 
-/// A backup store holds links to most of its volume, many times over; walking it would take
-/// hours and count everything again.
+/// A backup store holds links to most of its volume, many times over; walking it would take hours.
 constexpr std::string_view kBackupStoreName = "Backups.backupdb";
 
 } // namespace
@@ -70,6 +69,7 @@ void ScannerRun::performScan()
 {
     m_startTime = m_environment.clock();
     m_lastReportTime = m_startTime;
+    m_began = timeBeforeChanges();
     prepare();
     TreeBuilder tree = walk();
     finish(tree);
@@ -88,7 +88,9 @@ void ScannerRun::prepare()
     m_isVolume
         = m_purpose == ScanPurpose::NewTree && m_environment.resourceValues.isVolume(m_url.path());
     m_mode = m_isVolume && !isHome() ? Mode::Volume : Mode::Folder;
-    m_staysEmpty = m_purpose == ScanPurpose::PartOfTree && isMountedInTree();
+    m_isMountedInTree = m_purpose == ScanPurpose::PartOfTree
+        && m_environment.resourceValues.isMountPoint(m_url.path());
+    m_staysEmpty = m_isMountedInTree && m_url.lastPathComponent() != m_userName;
     if (m_mode == Mode::Volume) {
         measureVolume();
     } else if (!m_staysEmpty) {
@@ -111,14 +113,6 @@ void ScannerRun::measureVolume()
     m_usedBytes = saturatingDifference(sizes.totalBytes, sizes.freeBytes);
 }
 
-/// Inside a tree nothing that is mounted counts, but an encrypted home, which has a pass of its
-/// own.
-bool ScannerRun::isMountedInTree() const
-{
-    return m_url.lastPathComponent() != m_userName
-        && m_environment.resourceValues.isMountPoint(m_url.path());
-}
-
 std::unique_ptr<TopFolder> ScannerRun::makeRoot() const
 {
     std::unique_ptr<TopFolder> root = m_mode == Mode::Folder
@@ -126,6 +120,10 @@ std::unique_ptr<TopFolder> ScannerRun::makeRoot() const
         : makeNode<Volume>(m_url.lastPathComponent());
     root->setOrigin(m_url.path());
     root->setRealOrigin(m_pathWithoutLinks);
+    root->setScanBegan(m_began);
+    if (m_isMountedInTree) {
+        root->findings().addMounted(*root);
+    }
     return root;
 }
 
@@ -139,7 +137,7 @@ TreeBuilder ScannerRun::walk()
     const auto enumerator
         = m_environment.fileManager.enumerator(startPath(), ItemKeys::SizeAndHidden, m_links);
     DirectoryItem item;
-    while (enumerator->next(item) && !isStopped()) {
+    while (tree.fetchNext(*enumerator, item) && !isStopped()) {
         visit(item, *enumerator, tree);
     }
     return tree;
@@ -148,24 +146,22 @@ TreeBuilder ScannerRun::walk()
 void ScannerRun::visit(
     const DirectoryItem& item, DirectoryEnumerator& enumerator, TreeBuilder& tree)
 {
+    bool isLeftOut = false;
     if (item.level <= kCountedLevels) {
-        visitUpperLevels(item, enumerator, tree);
+        visitUpperLevels(item, tree);
+        isLeftOut = isPassedBy(item);
     }
-    tree.add(item);
-    if (!item.isDirectory) {
-        m_allocationRead = saturatingSum(m_allocationRead, item.allocatedBytes);
+    m_allocationRead = saturatingSum(m_allocationRead, tree.add(item));
+    if (isLeftOut) {
+        enumerator.skipDescendants();
+        tree.leaveOutLast();
     }
     ++m_objectsRead;
     reportIfDue(item, tree);
 }
 
-void ScannerRun::visitUpperLevels(
-    const DirectoryItem& item, DirectoryEnumerator& enumerator, const TreeBuilder& tree)
+void ScannerRun::visitUpperLevels(const DirectoryItem& item, const TreeBuilder& tree)
 {
-    if (isBackupStore(item)) {
-        enumerator.skipDescendants();
-        m_sawBackupStore = true;
-    }
     if (item.isDirectory && item.name == m_userName) {
         const std::string path = tree.pathOf(item.level, item.name);
         if (m_environment.resourceValues.isMountPoint(path)) {
@@ -173,9 +169,15 @@ void ScannerRun::visitUpperLevels(
         }
     }
     ++m_levelRead;
-    if (item.isHidden && item.name == m_hiddenUserName) {
-        enumerator.skipDescendants();
-    }
+    m_sawBackupStore = m_sawBackupStore || isBackupStore(item);
+}
+
+/// Folders that are not walked on purpose. What the user's encrypted home is made of would count
+/// beside the home.
+bool ScannerRun::isPassedBy(const DirectoryItem& item) const
+{
+    const bool isEncryptedHome = item.isHidden && item.name == m_hiddenUserName;
+    return item.isDirectory && (isEncryptedHome || isBackupStore(item));
 }
 
 /// What a volume holds beyond what was walked is known; of a folder nothing is, so there the store
@@ -214,7 +216,8 @@ double ScannerRun::percentComplete() const
 void ScannerRun::addBackups(Volume& volume) const
 {
     auto backups = makeNode<TimeMachine>({});
-    // Hard links count at each of their places, so a walk may find more than is in use.
+    // A disk that changes under the walk, or shares extents between files, may show more than is in
+    // use.
     backups->setTotalAllocation(saturatingDifference(m_usedBytes, m_allocationRead));
     volume.addChild(std::move(backups));
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Base/FileTime.h"
 #include "Base/Url.h"
 #include "Scanning/DirectoryEnumerator.h"
 #include "Scanning/ScanPurpose.h"
@@ -49,12 +50,11 @@ private:
     void prepare();
     bool isHome() const;
     void measureVolume();
-    bool isMountedInTree() const;
     const std::string& startPath() const;
     TreeBuilder walk();
     void visit(const DirectoryItem& item, DirectoryEnumerator& enumerator, TreeBuilder& tree);
-    void visitUpperLevels(
-        const DirectoryItem& item, DirectoryEnumerator& enumerator, const TreeBuilder& tree);
+    void visitUpperLevels(const DirectoryItem& item, const TreeBuilder& tree);
+    bool isPassedBy(const DirectoryItem& item) const;
     void reportIfDue(const DirectoryItem& item, const TreeBuilder& tree);
     double percentComplete() const;
     std::unique_ptr<TopFolder> makeRoot() const;
@@ -74,6 +74,9 @@ private:
     std::string m_hiddenUserName; ///< the same behind a dot
     Mode m_mode = Mode::Folder;
     bool m_isVolume = false;
+    /// Inside a tree nothing that is mounted counts, but an encrypted home, which has a pass of its
+    /// own.
+    bool m_isMountedInTree = false;
     bool m_staysEmpty = false; ///< there is nothing to count nor to walk
     bool m_sawBackupStore = false;
     std::uint64_t m_usedBytes = 0; ///< what a volume's progress is measured against
@@ -82,6 +85,7 @@ private:
     std::uint64_t m_objectsRead = 0;
     std::uint64_t m_allocationRead = 0;
     double m_startTime = 0;
+    FileTime m_began;
     double m_lastReportTime = 0;
 };
 

@@ -15,19 +15,53 @@ TreeBuilder::TreeBuilder(std::unique_ptr<TopFolder> root)
 {
 }
 
-void TreeBuilder::add(const DirectoryItem& item)
+bool TreeBuilder::fetchNext(DirectoryEnumerator& walk, DirectoryItem& item)
+{
+    const bool isThere = walk.next(item);
+    if (const EnteredDirectory* const entered = walk.entered()) {
+        enter(*entered);
+    }
+    return isThere;
+}
+
+std::uint64_t TreeBuilder::add(const DirectoryItem& item)
 {
     closeDownTo(item.level - 1);
     if (item.isDirectory) {
         auto folder = makeNode<Folder>(item.name);
         folder->setHidden(item.isHidden);
         m_open.push_back({std::move(folder), currentPath().of(item.name)});
-        return;
+        return 0;
     }
     auto document = makeNode<Document>(item.name);
-    document->setTotalAllocation(std::min(item.allocatedBytes, kMaxAllocation));
+    const std::uint64_t bytes = countedBytes(*document, item);
+    document->setTotalAllocation(bytes);
     document->setHidden(item.isHidden);
     current().addChild(std::move(document));
+    return bytes;
+}
+
+void TreeBuilder::enter(const EnteredDirectory& entered)
+{
+    Folder& folder = current();
+    folder.setOwnAllocation(entered.allocatedBytes);
+    if (entered.problem) {
+        ScanFindings& findings = m_root->findings();
+        const std::string path = findings.hasRoomForName() ? pathOfCurrent() : std::string();
+        findings.addUnreadable({path, entered.problem, &folder});
+    }
+}
+
+void TreeBuilder::leaveOutLast()
+{
+    m_root->findings().addLeftOut(current());
+}
+
+std::uint64_t TreeBuilder::countedBytes(File& document, const DirectoryItem& item)
+{
+    const bool isCounted
+        = item.linkCount == 0 || m_root->linkedNames().add(document, item.identity, item.linkCount);
+    return isCounted ? std::min(item.allocatedBytes, kMaxAllocation) : 0;
 }
 
 std::string TreeBuilder::pathOf(unsigned level, std::string_view name) const
@@ -55,6 +89,13 @@ void TreeBuilder::closeAll()
 std::unique_ptr<TopFolder> TreeBuilder::takeRoot()
 {
     return std::move(m_root);
+}
+
+std::string TreeBuilder::pathOfCurrent() const
+{
+    return m_open.empty()
+        ? m_root->origin()
+        : pathOf(static_cast<unsigned>(m_open.size()), m_open.back().folder->fragment());
 }
 
 Folder& TreeBuilder::current()

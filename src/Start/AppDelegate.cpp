@@ -4,12 +4,14 @@
 #include "Desktop/Alert.h"
 #include "Desktop/UserAccount.h"
 #include "Desktop/Workspace.h"
+#include "HistoryWindow/HistoryWindowController.h"
 #include "MainWindow/FolderDrop.h"
 #include "MainWindow/MainWindowController.h"
 #include "Model/Defaults.h"
 #include "Model/RootModel.h"
 #include "Preferences/PreferencesWindowController.h"
-#include "TreeScreen/DiskChanges.h"
+#include "Undo/DiskChanges.h"
+#include "Undo/TrashUndo.h"
 
 #include <QApplication>
 #include <QMainWindow>
@@ -66,7 +68,9 @@ void AppDelegate::start()
         &MainWindowController::preferencesRequested,
         this,
         &AppDelegate::showPreferences);
+    connect(&mainWindow, &MainWindowController::historyRequested, this, &AppDelegate::showHistory);
     connect(&mainWindow, &MainWindowController::helpRequested, this, &AppDelegate::showHelp);
+    connect(&mainWindow, &MainWindowController::aboutRequested, this, &AppDelegate::showAbout);
     mainWindow.setMayClose([this] { return mayCloseMainWindow(); });
     // Not from within the handling of its close event, and whatever other windows there are.
     connect(
@@ -143,12 +147,23 @@ bool AppDelegate::mayCloseMainWindow()
     return m_isFinishing || answer == Alert::kFirstButton + 1;
 }
 
-void AppDelegate::mainWindowClosed() const
+bool AppDelegate::mayEndSession()
+{
+    const int answer = m_services.mainWindow.treeScreen.alert.runModal(
+        {tr("An archive is still being made"),
+         tr("If the session ends now it is stopped, and the incomplete archive goes to the trash."),
+         {tr("End Session"), tr("Cancel")}});
+    return answer == Alert::kFirstButton;
+}
+
+void AppDelegate::mainWindowClosed()
 {
     // Another start may have brought the window back before its end was heard of.
     if (m_mainWindow->window().isVisible()) {
         return;
     }
+    m_historyWindow.reset();
+    m_aboutWindow.reset();
     if (m_isFinishing) {
         quitIfFinished();
     } else {
@@ -169,6 +184,36 @@ void AppDelegate::showPreferences()
     m_prefWindow->showWindow(m_mainWindow == nullptr ? nullptr : &m_mainWindow->window());
 }
 
+void AppDelegate::showHistory()
+{
+    if (m_historyWindow == nullptr) {
+        const TreeViewServices& shared = m_services.mainWindow.treeScreen;
+        m_historyWindow = std::make_unique<HistoryWindowController>(HistoryWindowServices{
+            .history = m_services.trashHistory,
+            .workspace = shared.workspace,
+            .alert = shared.alert,
+            .defaults = m_services.mainWindow.defaults,
+            .homeDirectory = realHomeDirectory(m_services.userAccount)});
+        observeHistory();
+    }
+    m_historyWindow->showWindow();
+}
+
+void AppDelegate::observeHistory()
+{
+    TrashUndo& undo = m_services.mainWindow.treeScreen.trashUndo;
+    HistoryWindowController* const history = m_historyWindow.get();
+    connect(
+        history, &HistoryWindowController::putBackRequested, &undo, [&undo](const auto& record) {
+            undo.putBack({{record.item, record.bytes}});
+        });
+    connect(&undo, &TrashUndo::moved, history, &HistoryWindowController::refresh);
+    connect(&undo, &TrashUndo::wasPutBack, history, &HistoryWindowController::refresh);
+    const auto showWaiting = [&undo, history] { history->setComingBack(undo.comingBack()); };
+    connect(&undo, &TrashUndo::changed, history, showWaiting);
+    showWaiting();
+}
+
 void AppDelegate::showHelp(HelpPage page)
 {
     Workspace& workspace = m_services.mainWindow.treeScreen.workspace;
@@ -178,6 +223,14 @@ void AppDelegate::showHelp(HelpPage page)
                 self->sayThatThereIsNoHelp();
             }
         });
+}
+
+void AppDelegate::showAbout()
+{
+    if (m_aboutWindow == nullptr) {
+        m_aboutWindow = std::make_unique<AboutWindow>(m_services.about);
+    }
+    m_aboutWindow->showWindow(&m_mainWindow->window());
 }
 
 void AppDelegate::sayThatThereIsNoHelp()

@@ -88,10 +88,22 @@ private:
             m_result.action = Action::PrintHelp;
         } else if (argument == "--version") {
             m_result.action = Action::PrintVersion;
+        } else if (argument == "--home") {
+            takePlace(CommandLine::Place::Home);
+        } else if (argument == "--disk") {
+            takePlace(CommandLine::Place::Disk);
         } else {
             takeOption(argument);
         }
     }
+
+    void takePlace(CommandLine::Place place)
+    {
+        m_hasSeveralPlaces |= hasPlace() && m_result.place != place;
+        m_result.place = place;
+    }
+
+    bool hasPlace() const { return m_result.place != CommandLine::Place::Folder; }
 
     void takeOption(std::string_view argument)
     {
@@ -186,7 +198,9 @@ private:
         const bool isPicture = m_result.action == Action::WritePicture;
         const double longest = std::max(m_result.width, m_result.height) * m_result.scale;
         const double shortest = std::min(m_result.width, m_result.height) * m_result.scale;
-        if (isPicture && m_result.folder.empty()) {
+        if (m_hasSeveralPlaces || (hasPlace() && !m_result.folder.empty())) {
+            m_error = "of FOLDER, --home and --disk only one can be shown";
+        } else if (isPicture && m_result.folder.empty() && !hasPlace()) {
             m_error = "--picture needs the name of a folder";
         } else if (isPicture && m_hasSeveralFolders) {
             m_error = "--picture takes one folder";
@@ -202,6 +216,7 @@ private:
     bool m_onlyPaths = false;
     bool m_hasPictureOption = false;
     bool m_hasSeveralFolders = false;
+    bool m_hasSeveralPlaces = false;
     CommandLine m_result;
     std::string m_error;
 };
@@ -223,17 +238,20 @@ std::variant<CommandLine, CommandLineError> parseCommandLine(std::span<const cha
 
 std::string commandLineHelp()
 {
-    return "Usage: tessera [FOLDER]\n"
-           "       tessera --picture FILE.png [--size WxH] [--scale N] FOLDER\n"
+    return "Usage: tessera [FOLDER | --home | --disk]\n"
+           "  or:  tessera --picture FILE.png [--size WxH] [--scale N] FOLDER\n"
            "\n"
            "Shows where the space in FOLDER goes; lets you choose one if none is named. FOLDER is\n"
            "a path or a file URL; of several the last one is shown.\n"
            "\n"
+           "Options:\n"
+           "  --home              show your home folder\n"
+           "  --disk              show the disk that your home folder is on\n"
            "  --picture FILE.png  write the picture to FILE.png instead of opening a window\n"
            "  --size WxH          width and height of the picture in points (1600x1000)\n"
            "  --scale N           pixels a point, for sharper pictures (1)\n"
            "  --                  what follows are paths, whatever they look like\n"
-           "  --help              print this text\n"
+           "  -h, --help          print this text\n"
            "  --version           print the version\n"
            "\n"
            "Exit status: 0 done, 1 the folder cannot be read or the picture cannot be written,\n"

@@ -12,11 +12,15 @@ namespace tessera {
 struct CommandLine {
     enum class Action { ShowWindow, WritePicture, PrintHelp, PrintVersion };
 
+    /// What is to be shown: a folder by its name, or what has another name for each user.
+    enum class Place { Folder, Home, Disk };
+
     static constexpr int kDefaultWidth = 1600;
     static constexpr int kDefaultHeight = 1000;
 
     Action action = Action::ShowWindow;
-    std::string folder; ///< empty: none named
+    Place place = Place::Folder;
+    std::string folder; ///< of Place::Folder; empty: none named
     std::string pictureFile;
     int width = kDefaultWidth; ///< of the picture, in points
     int height = kDefaultHeight;

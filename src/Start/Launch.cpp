@@ -4,7 +4,9 @@
 #include "Base/ByteSize.h"
 #include "Base/Log.h"
 #include "Desktop/FileAccess.h"
+#include "Model/Defaults.h"
 #include "Start/AppDelegate.h"
+#include "Start/FolderToShow.h"
 #include "Start/LaunchServices.h"
 #include "Start/PictureWriter.h"
 #include "Start/SecondStart.h"
@@ -78,8 +80,11 @@ int writePicture(const CommandLine& commandLine, const LaunchServices& services)
             "the picture needs " + formatSize(needed) + " of memory, and there are "
             + formatSize(services.availableMemory));
     }
+    UserDefaults& defaults = services.rootModelServices.defaults;
+    registerDefaults(defaults);
     const std::string problem
-        = PictureWriter(services.scanEnvironment, services.files).write(commandLine);
+        = PictureWriter(services.scanEnvironment, services.files, folderTitles(defaults))
+              .write(commandLine);
     return problem.empty() ? kDone : fail(problem);
 }
 
@@ -144,10 +149,14 @@ void logQtFailuresOnly()
 
 int launch(const CommandLine& commandLine, const LaunchServices& services)
 {
-    if (commandLine.action == CommandLine::Action::WritePicture) {
-        return writePicture(commandLine, services);
+    CommandLine named = commandLine;
+    named.folder
+        = folderToShow(commandLine, services.homeScreen.homeDirectory, services.homeScreen.volumes);
+    named.place = CommandLine::Place::Folder;
+    if (named.action == CommandLine::Action::WritePicture) {
+        return writePicture(named, services);
     }
-    return openWindow(commandLine.folder, services);
+    return openWindow(named.folder, services);
 }
 
 } // namespace tessera

@@ -14,9 +14,11 @@
 
 namespace tessera {
 
-PictureWriter::PictureWriter(const ScanEnvironment& environment, const FileAccess& files)
+PictureWriter::PictureWriter(
+    const ScanEnvironment& environment, const FileAccess& files, FolderTitles titles)
     : m_scanner(Scanner::create(environment))
     , m_files(files)
+    , m_titles(titles)
 {
     m_scanner->setDelegate(this);
 }
@@ -45,8 +47,8 @@ std::string PictureWriter::writePng(const CommandLine& commandLine) const
     const Rect bounds{
         0, 0, static_cast<double>(commandLine.width), static_cast<double>(commandLine.height)};
     const auto top = TreeBranch::make(LevelRenderer(false).renderTop(m_tree.get(), bounds));
-    const QImage picture
-        = TreePainter().paint(*top, QSizeF(bounds.width, bounds.height), commandLine.scale);
+    const QImage picture = TreePainter().paint(
+        *top, QSizeF(bounds.width, bounds.height), commandLine.scale, m_titles);
     QByteArray png;
     QBuffer buffer(&png);
     const bool isEncoded = buffer.open(QIODevice::WriteOnly) && picture.save(&buffer, "PNG");

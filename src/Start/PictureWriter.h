@@ -5,6 +5,7 @@
 #include "Scanning/Scanner.h"
 #include "Scanning/ScannerDelegate.h"
 #include "Start/CommandLine.h"
+#include "TreeScreen/Picture/FolderTitles.h"
 
 #include <QEventLoop>
 
@@ -21,7 +22,7 @@ class RootModel;
 /// application object, whose events it handles until it is done.
 class PictureWriter final : public ScannerDelegate {
 public:
-    PictureWriter(const ScanEnvironment& environment, const FileAccess& files);
+    PictureWriter(const ScanEnvironment& environment, const FileAccess& files, FolderTitles titles);
     ~PictureWriter() override;
 
     /// Returns what went wrong in one line, or nothing when the picture was written.
@@ -37,6 +38,7 @@ private:
 
     std::shared_ptr<Scanner> m_scanner;
     const FileAccess& m_files;
+    const FolderTitles m_titles;
     QEventLoop m_loop;
     HomePass m_homePass;
     std::unique_ptr<TopFolder> m_tree;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Start/WindowedProgram.h"
 
+#include "Basket/BasketKeeper.h"
 #include "DeadMounts/QuestionThreads.h"
 #include "Desktop/EndRequests.h"
 #include "Desktop/FileAccess.h"
@@ -8,14 +9,17 @@
 #include "HomeScreen/Places/KnownPlaces.h"
 #include "MainWindow/MainWindowController.h"
 #include "MainWindow/MainWindowScreens.h"
+#include "Notices/EndNotices.h"
 #include "QuickLook/QuickLookPanel.h"
 #include "QuickLook/QuickLookServices.h"
 #include "ScanScreen/ApplicationDockTile.h"
 #include "ScanScreen/ScanningViewController.h"
 #include "Start/AppDelegate.h"
 #include "Start/LaunchServices.h"
-#include "TreeScreen/DiskChanges.h"
+#include "Start/SessionEnd.h"
 #include "TreeScreen/Tooltip/TooltipController.h"
+#include "Undo/DiskChanges.h"
+#include "Undo/TrashUndo.h"
 #include "Widgets/ApplicationPalette.h"
 #include "Widgets/DesktopIconProvider.h"
 #include "Widgets/FileDialogOpenPanel.h"
@@ -55,11 +59,16 @@ std::string helpAddress(const std::string& folder, HelpPage page)
 struct WindowedProgram::Desktop {
     explicit Desktop(const LaunchServices& services)
         : dockTile(services.launcherProgress)
+        , notices(services.notifications, services.scanEnvironment.clock)
+        , openPanel(services.hiddenFiles)
         , places(
               services.homeScreen.volumes,
               locationCandidates(
                   realHomeDirectory(services.userAccount), services.homeScreen.standardFolders))
+        , trashUndo(services.workspace, alert, diskChanges)
+        , basket(services.itemStates, services.scanEnvironment.mainThread)
     {
+        basket.listenTo(trashUndo, diskChanges);
         TooltipController& tooltip = TooltipController::sharedInstance();
         tooltip.setResourceValues(&*services.resourceValues);
         tooltip.setIconProvider(&icons);
@@ -80,6 +89,7 @@ struct WindowedProgram::Desktop {
             .fileSystemAttributes = services.fileSystemAttributes,
             .defaults = services.rootModelServices.defaults,
             .workspace = services.workspace,
+            .otherPrograms = services.otherPrograms,
             .alert = alert,
             .compressing
             = {.archiver = services.archiver,
@@ -88,9 +98,15 @@ struct WindowedProgram::Desktop {
                .resourceValues = services.resourceValues,
                .icons = icons,
                .targetsInUse = targetsInUse,
-               .alert = alert},
+               .alert = alert,
+               .itemChanges = services.itemChanges,
+               .itemStates = services.itemStates,
+               .notices = &notices},
             .motion = services.motion,
             .diskChanges = diskChanges,
+            .trashUndo = trashUndo,
+            .basket = basket,
+            .userNumber = services.userAccount.userNumber(),
             .checkFolder = [files = services.filesWithTimeLimit](const std::string& path) {
                 return files->checkFolderWithoutLinks(path);
             }};
@@ -104,21 +120,26 @@ struct WindowedProgram::Desktop {
             .alert = alert,
             .look = [this](const Url& folder) { return places.look(folder); },
             .checkFolder = [files = services.filesWithTimeLimit](
-                               const std::string& path) { return files->checkFolder(path); }};
+                               const std::string& path) { return files->checkFolder(path); },
+            .notices = &notices};
     }
 
     DesktopIconProvider icons;
     std::set<std::string> targetsInUse;
     DiskChanges diskChanges;
     ApplicationDockTile dockTile;
+    EndNotices notices;
     MessageBoxAlert alert;
     FileDialogOpenPanel openPanel;
     KnownPlaces places;
+    TrashUndo trashUndo;
+    BasketKeeper basket;
 };
 
 WindowedProgram::WindowedProgram(const LaunchServices& services)
     : m_secondStarts(services.runningInstance)
 {
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Tessera"));
     QGuiApplication::setDesktopFileName(QStringLiteral("tessera"));
     QGuiApplication::setWindowIcon(imageNamed("bullseye"));
     m_palette = std::make_unique<ApplicationPalette>(services.colorScheme);
@@ -130,9 +151,18 @@ WindowedProgram::WindowedProgram(const LaunchServices& services)
     m_delegate = std::make_unique<AppDelegate>(AppDelegateServices{
         .mainWindow = mainWindowServices(services, RootModel::sharedInstance()),
         .userAccount = services.userAccount,
+        .trashHistory = services.trashHistory,
         .helpAddress = addressOfPage,
+        .about
+        = {.libraries = services.libraries,
+           .makeTask = services.makeTask,
+           .archiver = services.archiver},
         .adoptActivationToken = services.adoptActivationToken});
+    m_desktop->notices.setHandler([delegate = m_delegate.get()](const std::string& token) {
+        delegate->openFromElsewhere({}, token);
+    });
     m_delegate->start();
+    m_sessionEnd = std::make_unique<SessionEnd>(*m_delegate);
     QMainWindow& window = m_delegate->mainWindow()->window();
     m_desktop->alert.setMainWindow(&window);
     setUpPreview(window, services, m_desktop->icons);
@@ -152,6 +182,15 @@ MainWindowServices WindowedProgram::mainWindowServices(
         .defaults = services.rootModelServices.defaults,
         .openPanel = m_desktop->openPanel,
         .volumes = services.homeScreen.volumes,
+        .ledger
+        = {.fileSystemAttributes = services.homeScreen.fileSystemAttributes,
+           .openFiles = services.openFiles,
+           .coveredFolders = services.coveredFolders},
+        .freeing
+        = {.itemStates = services.itemStates,
+           .sharedExtents = services.sharedExtents,
+           .openFiles = services.openFiles,
+           .thisProcess = QCoreApplication::applicationPid()},
         .makeHomeScreen
         = [&model, homeScreen = services.homeScreen] { return makeHomeScreen(model, homeScreen); },
         .makeScanScreen =

@@ -10,6 +10,7 @@ namespace tessera {
 class AppDelegate;
 class ApplicationPalette;
 class RootModel;
+class SessionEnd;
 struct LaunchServices;
 struct MainWindowServices;
 
@@ -34,6 +35,7 @@ private:
     std::unique_ptr<ApplicationPalette> m_palette;
     std::unique_ptr<Desktop> m_desktop;
     std::unique_ptr<AppDelegate> m_delegate;
+    std::unique_ptr<SessionEnd> m_sessionEnd;
     SecondStarts m_secondStarts; ///< given up before anything else here ends
 };
 

@@ -38,6 +38,9 @@ QString whyNot(Command command, const Folder* toRescan, RescanObstacle obstacle)
     case Command::ZoomIn:
     case Command::Ignore:
         return CommandHintTexts::tr("Select a folder first.");
+    case Command::SpaceLedger:
+        return CommandHintTexts::tr(
+            "This is about whole disks. Scan a disk to see where its space is.");
     default:
         return nothingSelected();
     }

@@ -4,12 +4,16 @@
 #include "Base/Decimals.h"
 #include "Base/Log.h"
 #include "Model/NodeLookup.h"
+#include "Model/RootModel.h"
 #include "Model/TopFolder.h"
+#include "Model/TreeEdit.h"
 #include "Scanning/Scanner.h"
 #include "TreeScreen/Map/TreeMapView.h"
 #include "TreeScreen/Map/TreeScreen.h"
 #include "Widgets/ScanProblem.h"
 
+#include <algorithm>
+#include <string_view>
 #include <utility>
 
 namespace tessera {
@@ -26,20 +30,33 @@ bool isGone(const std::error_code& problem)
         || problem == std::errc::too_many_symbolic_link_levels;
 }
 
+bool isPathAtOrBelow(std::string_view path, std::string_view above)
+{
+    return path.starts_with(above) && (path.size() == above.size() || path[above.size()] == '/');
+}
+
 } // namespace
 
 FolderRescan::FolderRescan(
+    RootModel& model,
     ScanEnvironment environment,
     FolderCheck checkFolder,
     TreeMapView& treeView,
     Alert& alert,
     TreeScreen& screen)
-    : m_environment(std::move(environment))
+    : m_model(model)
+    , m_environment(std::move(environment))
     , m_checkFolder(std::move(checkFolder))
     , m_treeView(treeView)
     , m_alert(alert)
     , m_screen(screen)
 {
+    // Whatever ends one rescan may be about to change the tree.
+    m_next.setSingleShot(true);
+    m_next.callOnTimeout(&m_next, [this] { beginNext(); });
+    m_show.setSingleShot(true);
+    m_show.setInterval(kMilliseconds);
+    m_show.callOnTimeout(&m_show, [this] { showRead(); });
 }
 
 FolderRescan::~FolderRescan()
@@ -53,18 +70,70 @@ FolderRescan::~FolderRescan()
 
 void FolderRescan::rescan(Folder& folder)
 {
-    if (m_rescanFolder != nullptr || folder.parent() == nullptr) {
+    if (isAskedFor() || folder.parent() == nullptr) {
         return;
     }
-    m_rescanFolder = &folder;
+    if (m_rescanFolder != nullptr) {
+        putOff();
+    }
+    const std::string path = folder.absolutePath();
+    showRead();
+    auto* const shown = nodeCast<Folder>(nodeAtPath(*m_model.topFolder(), path));
+    if (shown != nullptr) {
+        beginFor(*shown);
+    }
+}
+
+void FolderRescan::beginFor(Folder& folder)
+{
     folder.setRescanning(true);
+    m_rescanFolder = &folder;
+    m_reason = Reason::User;
     m_screen.renderTree();
     addIndicator();
+    begin();
+}
+
+void FolderRescan::bringUpToDate(const std::string& path)
+{
+    if (std::ranges::find(m_waiting, path) == m_waiting.end()) {
+        m_waiting.push_back(path);
+    }
+    m_next.start();
+}
+
+void FolderRescan::beginNext()
+{
+    TopFolder* const top = m_model.topFolder();
+    while (m_rescanFolder == nullptr && top != nullptr && !m_waiting.empty()) {
+        const std::string path = std::move(m_waiting.front());
+        m_waiting.pop_front();
+        if (auto* const folder = nodeCast<Folder>(nodeAtPath(*top, path));
+            folder != nullptr && folder != top) {
+            m_rescanFolder = folder;
+            m_reason = Reason::Program;
+            begin();
+        }
+    }
+    showReadIfLast();
+}
+
+/// The user comes first; it begins from the start later.
+void FolderRescan::putOff()
+{
+    m_waiting.push_front(m_rescanFolder->absolutePath());
+    m_rescanner->setDelegate(nullptr);
+    m_rescanner->cancel();
+    end();
+}
+
+void FolderRescan::begin()
+{
     m_rescanner = Scanner::create(m_environment);
     m_rescanner->setDelegate(this);
     m_homePass = {};
-    m_rescanner->setPathWithoutLinks(placeOnDisk(folder).path());
-    m_rescanner->scan(folder.url(), ScanPurpose::PartOfTree);
+    m_rescanner->setPathWithoutLinks(placeOnDisk(*m_rescanFolder).path());
+    m_rescanner->scan(m_rescanFolder->url(), ScanPurpose::PartOfTree);
 }
 
 std::optional<Rect> FolderRescan::indicatorFrame() const
@@ -121,12 +190,21 @@ void FolderRescan::nodeWillLeave(const File& node)
     } else {
         noteChange(node);
     }
+    if (m_read.empty()) {
+        return;
+    }
+    const std::string path = node.absolutePath();
+    std::erase_if(
+        m_read, [&path](const ReadFolder& read) { return isPathAtOrBelow(read.path, path); });
 }
 
 void FolderRescan::pathWentAway(const std::string& path)
 {
     if (m_rescanFolder != nullptr) {
         m_changedPaths.insert(path);
+    }
+    for (ReadFolder& read : m_read) {
+        read.changedPaths.insert(path);
     }
 }
 
@@ -140,28 +218,39 @@ void FolderRescan::noteChange(const File& node)
     if (m_rescanFolder != nullptr && isAtOrBelow(node, *m_rescanFolder)) {
         m_changedPaths.insert(node.absolutePath());
     }
+    if (m_read.empty()) {
+        return;
+    }
+    const std::string path = node.absolutePath();
+    for (ReadFolder& read : m_read) {
+        if (isPathAtOrBelow(path, read.path)) {
+            read.changedPaths.insert(path);
+        }
+    }
 }
 
 /// The tree on screen is right about these paths, whether the scanner passed them before or after
 /// the change. In the order of the set a folder comes before what is in it.
-void FolderRescan::applyChanges(TopFolder& scanned)
+void FolderRescan::applyChanges(
+    File& folder, TopFolder& scanned, const std::set<std::string>& changedPaths)
 {
     // First what was read: what is brought afterwards may be on the way to another of the paths.
-    for (const std::string& path : m_changedPaths) {
-        if (File* const read = nodeAtPath(scanned, path)) {
-            read->parent()->removeChild(*read);
+    for (const std::string& path : changedPaths) {
+        File* const read = nodeAtPath(scanned, path);
+        if (read != nullptr && read != &scanned) {
+            takeOut(*read);
         }
     }
-    File* root = m_rescanFolder;
+    File* root = &folder;
     while (root->parent() != nullptr) {
         root = root->parent();
     }
     auto& shown = *nodeCast<TopFolder>(root);
-    for (const std::string& path : m_changedPaths) {
+    for (const std::string& path : changedPaths) {
         File* const known = nodeAtPath(shown, path);
         Folder* const parent = parentAtPath(scanned, path);
         if (known != nullptr && parent != nullptr) {
-            parent->insertChild(known->parent()->removeChild(*known));
+            putIn(*parent, takeOut(*known));
         }
     }
 }
@@ -173,6 +262,7 @@ void FolderRescan::end()
     m_rescanFolder->setRescanning(false);
     m_rescanFolder = nullptr;
     m_rescanner.reset();
+    m_next.start();
 }
 
 void FolderRescan::scanUpdated(Scanner& scanner)
@@ -193,44 +283,108 @@ void FolderRescan::scanEnded(Scanner& scanner)
     }
     Folder& folder = *m_rescanFolder;
     std::unique_ptr<TopFolder> scanned = m_homePass.takeTree(scanner);
-    // A scan passes over what it cannot read, the folder itself as well.
-    const std::error_code problem = scanned->children().empty()
-        ? m_checkFolder(placeOnDisk(folder).path())
-        : std::error_code{};
-    if (problem) {
+    if (const std::error_code problem = problemOf(*scanned)) {
         end();
         giveUp(folder, problem);
         return;
     }
-    applyChanges(*scanned);
+    if (m_reason == Reason::Program) {
+        m_read.push_back(
+            {folder.absolutePath(), std::move(scanned), std::exchange(m_changedPaths, {})});
+        end();
+        if (!m_show.isActive()) {
+            m_show.start();
+        }
+        showReadIfLast();
+        return;
+    }
+    applyChanges(folder, *scanned, m_changedPaths);
     end();
-    replace(folder, std::move(scanned));
+    // Released when nothing on screen stands for what is in it any more.
+    const std::unique_ptr<File> old = replace(folder, std::move(scanned));
+    draw();
 }
 
-void FolderRescan::replace(Folder& folder, std::unique_ptr<TopFolder> scanned)
+/// Nothing else will be read soon.
+void FolderRescan::showReadIfLast()
+{
+    if (m_rescanFolder == nullptr && m_waiting.empty()) {
+        showRead();
+    }
+}
+
+/// Puts what the program has read into the tree, all at once.
+void FolderRescan::showRead()
+{
+    m_show.stop();
+    if (isScanningBelowRead()) {
+        putOff();
+    }
+    TopFolder* const top = m_model.topFolder();
+    std::vector<std::unique_ptr<File>> old; // as that of one
+    for (ReadFolder& read : std::exchange(m_read, {})) {
+        auto* const folder
+            = top == nullptr ? nullptr : nodeCast<Folder>(nodeAtPath(*top, read.path));
+        if (folder != nullptr && folder != top) {
+            applyChanges(*folder, *read.scanned, read.changedPaths);
+            old.push_back(replace(*folder, std::move(read.scanned)));
+        }
+    }
+    if (!old.empty()) {
+        draw();
+    }
+}
+
+/// Then its folder is about to be released.
+bool FolderRescan::isScanningBelowRead() const
+{
+    const std::string path = m_rescanFolder == nullptr ? "" : m_rescanFolder->absolutePath();
+    return std::ranges::any_of(
+        m_read, [&path](const ReadFolder& read) { return isPathAtOrBelow(path, read.path); });
+}
+
+void FolderRescan::draw()
+{
+    m_screen.objectTreeRefreshed();
+    m_screen.renderTree();
+}
+
+/// A scan passes over what it cannot read, the folder itself as well. It tells why, but not of what
+/// is gone.
+std::error_code FolderRescan::problemOf(const TopFolder& scanned) const
+{
+    if (!scanned.children().empty()) {
+        return {};
+    }
+    const std::error_code problem = m_checkFolder(placeOnDisk(*m_rescanFolder).path());
+    const auto& unreadable = scanned.findings().unreadable();
+    const auto found = std::ranges::find(unreadable, &scanned, &UnreadableFolder::node);
+    return problem || found == unreadable.end() ? problem : found->reason;
+}
+
+/// What was there is returned.
+std::unique_ptr<File> FolderRescan::replace(Folder& folder, std::unique_ptr<TopFolder> scanned)
 {
     TopFolder& with = *scanned;
     // What the folder looked like from outside was not read anew.
     with.setHidden(folder.hidden());
     with.setIgnored(folder.ignored());
     with.setHue(folder.hue());
-    // Released when nothing on screen stands for what is in it any more.
-    const std::unique_ptr<File> old = folder.parent()->replaceChild(folder, std::move(scanned));
+    std::unique_ptr<File> old = exchange(folder, loose(std::move(scanned)));
     m_screen.folderWasReplaced(folder, with);
-    m_screen.objectTreeRefreshed();
-    m_screen.renderTree();
+    return old;
 }
 
 /// What is gone goes. Of what cannot be read the content last known is nearer to the truth than
 /// none.
 void FolderRescan::giveUp(Folder& folder, const std::error_code& problem)
 {
-    std::unique_ptr<File> old; // lives until nothing on screen stands for it any more
+    LooseNode old; // lives until nothing on screen stands for it any more
     if (isGone(problem)) {
         m_screen.nodeWillLeave(folder);
-        old = folder.parent()->removeChild(folder);
+        old = takeOut(folder);
         m_screen.objectTreeRefreshed();
-    } else {
+    } else if (m_reason == Reason::User) {
         m_alert.beginSheet(scanProblem(folder.url(), problem));
     }
     m_screen.renderTree();
@@ -247,7 +401,9 @@ void FolderRescan::scanFailed(Scanner& /*scanner*/, const std::error_code& probl
     const Url folder = m_rescanFolder->url();
     end();
     m_screen.renderTree();
-    m_alert.beginSheet(scanProblem(folder, problem));
+    if (m_reason == Reason::User) {
+        m_alert.beginSheet(scanProblem(folder, problem));
+    }
 }
 
 } // namespace tessera

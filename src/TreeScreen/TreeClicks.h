@@ -36,10 +36,16 @@ public:
     /// Zooms into the selected folder, or previews the selected document.
     void openSelected();
 
+signals:
+    /// A click was on a box that stands for a disk's space and for no file.
+    void spaceClicked();
+
 private:
     void select(File& node);
+    void drag(const File& node);
     void showMenu(const File& node, QPoint onScreen);
 
+    TreeMapView& m_treeView;
     TreeScreen& m_screen;
     TreeCommandTarget& m_commands;
     SelectionPreview& m_preview;

@@ -26,6 +26,7 @@ constexpr std::array kBindings{
     Binding{Qt::Key_Backspace, Command::ZoomOut},
     Binding{Qt::Key_Escape, Command::ZoomOut},
     Binding{Qt::Key_Space, Command::QuickLook, false},
+    Binding{Qt::Key_B, Command::AddToBasket, false},
     Binding{Qt::Key_Delete, Command::MoveToTrash, false},
 };
 

@@ -24,23 +24,39 @@ using Entry = std::optional<Command>;
 constexpr Entry kSeparator;
 
 constexpr std::array kFolderEntries{
+    Entry(Command::OpenItem),
+    Entry(Command::OpenWith),
     Entry(Command::QuickLook),
     Entry(Command::ShowInFinder),
+    kSeparator,
+    Entry(Command::CopyPath),
+    Entry(Command::OpenTerminal),
     kSeparator,
     Entry(Command::ZoomIn),
     Entry(Command::Rescan),
     Entry(Command::Ignore),
     kSeparator,
     Entry(Command::Compress),
+    Entry(Command::AddToBasket),
     Entry(Command::MoveToTrash),
+    kSeparator,
+    Entry(Command::Properties),
 };
 
 constexpr std::array kDocumentEntries{
+    Entry(Command::OpenItem),
+    Entry(Command::OpenWith),
     Entry(Command::QuickLook),
     Entry(Command::ShowInFinder),
     kSeparator,
+    Entry(Command::CopyPath),
+    Entry(Command::OpenTerminal),
+    kSeparator,
     Entry(Command::Compress),
+    Entry(Command::AddToBasket),
     Entry(Command::MoveToTrash),
+    kSeparator,
+    Entry(Command::Properties),
 };
 
 std::span<const Entry> entriesFor(const File& item)
@@ -84,10 +100,12 @@ protected:
 QAction* entryFor(Command command, const File& item, const CommandActions& actions, QMenu& menu)
 {
     const CommandRow& row = rowOf(command);
+    const char* const ownTitle = item.isFolder() ? row.folderTitle : row.documentTitle;
+    if (ownTitle == nullptr) {
+        return &actions.action(command);
+    }
     const QString title = item.isFolder() ? titleForFolder(row) : titleForDocument(row);
-    QAction& action = actions.action(command);
-    return title == withoutMnemonic(action.text()) ? &action
-                                                   : actions.makeEntry(command, title, &menu);
+    return actions.makeEntry(command, title, &menu);
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "TreeScreen/TreeNote.h"
 
-#include <QAccessibleWidget>
+#include "TreeScreen/NoteAccessible.h"
 
 #include <algorithm>
 
@@ -12,23 +12,13 @@ namespace {
 constexpr int kPadding = 8;
 constexpr int kDistance = 12; ///< from the edges of the picture
 
-QAccessibleInterface* makeNoteAccessible(const QString& /*className*/, QObject* object)
-{
-    auto* const note = qobject_cast<TreeNote*>(object);
-    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): Qt owns it
-    return note == nullptr ? nullptr : new QAccessibleWidget(note, QAccessible::AlertMessage);
-}
-
 } // namespace
 
-TreeNote::TreeNote(QWidget* picture)
+TreeNote::TreeNote(QWidget* picture, const QWidget* other)
     : QLabel(picture)
+    , m_other(other)
 {
-    static const bool isInstalled = [] {
-        QAccessible::installFactory(&makeNoteAccessible);
-        return true;
-    }();
-    Q_UNUSED(isInstalled)
+    readOutWhenShown(*this);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setTextFormat(Qt::PlainText);
     setAlignment(Qt::AlignCenter);
@@ -64,8 +54,12 @@ void TreeNote::place()
     setWordWrap(!fitsIntoOneLine);
     const int width = fitsIntoOneLine ? sizeHint().width() : room;
     const int height = fitsIntoOneLine ? sizeHint().height() : heightForWidth(width);
-    setGeometry(
+    QRect frame(
         (picture.width() - width) / 2, picture.height() - height - kDistance, width, height);
+    if (m_other != nullptr && m_other->isVisible() && m_other->geometry().intersects(frame)) {
+        frame.moveTop(m_other->y() - height - kDistance);
+    }
+    setGeometry(frame);
 }
 
 } // namespace tessera

@@ -14,8 +14,9 @@ class TreeNote final : public QLabel {
 public:
     static constexpr int kMilliseconds = 6000;
 
-    /// Out of sight until there is something to say. The pointer does not notice it.
-    explicit TreeNote(QWidget* picture);
+    /// Out of sight until there is something to say. The pointer does not notice it. It stands
+    /// above the `other` note where that is at the lower edge.
+    explicit TreeNote(QWidget* picture, const QWidget* other = nullptr);
 
     /// Shows the text in the place of what was said before.
     void say(const QString& text);
@@ -23,6 +24,7 @@ public:
 private:
     void place();
 
+    const QWidget* m_other;
     QTimer m_end{this};
 };
 

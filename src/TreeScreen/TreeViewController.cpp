@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "TreeScreen/TreeViewController.h"
 
-#include "Base/DisplayText.h"
+#include "Basket/BasketKeeper.h"
 #include "Desktop/Alert.h"
 #include "Desktop/Workspace.h"
 #include "Layout/LevelRenderer.h"
@@ -9,16 +9,23 @@
 #include "Model/FileSystemAttributes.h"
 #include "Model/NodeLookup.h"
 #include "Model/RootModel.h"
+#include "Model/TreeEdit.h"
 #include "Model/Volume.h"
 #include "Scanning/ResourceValues.h"
-#include "TreeScreen/DiskChanges.h"
 #include "TreeScreen/Map/TreeMapView.h"
 #include "TreeScreen/Picture/TreeBranch.h"
 #include "TreeScreen/TreeViewServices.h"
+#include "Undo/DiskChanges.h"
+#include "Undo/TrashUndo.h"
+#include "Widgets/NoFileManager.h"
 
 #include <QPointer>
 
+#include <algorithm>
+#include <cstddef>
 #include <optional>
+#include <string>
+#include <string_view>
 #include <utility>
 #include <variant>
 
@@ -33,15 +40,23 @@ TreeViewController::TreeViewController(
     , m_treeView(treeView)
     , m_services(services)
     , m_zoom(*this, treeView, services.motion, services.zoomClock)
-    , m_rescan(services.scanEnvironment, services.checkFolder, treeView, services.alert, *this)
-    , m_trasher(
-          model, services.defaults, services.workspace, services.alert, services.diskChanges, *this)
+    , m_rescan(
+          model, services.scanEnvironment, services.checkFolder, treeView, services.alert, *this)
+    , m_risks(model, services.defaults)
+    , m_moves(model, services.trashUndo, services.diskChanges, services.basket, *this)
+    , m_trasher(m_risks, m_moves, services.alert)
+    , m_basketTrasher(model, m_risks, m_moves, services.basket, services.alert, services.userNumber)
+    , m_changes(model, services.resourceValues, m_rescan, *this)
     , m_preview(*this, treeView)
-    , m_note(&treeView)
+    , m_opening(services.otherPrograms, services.alert, treeView)
+    , m_trashNote(&treeView)
+    , m_note(&treeView, &m_trashNote)
     , m_clicks(treeView, *this, *this, m_preview, actions)
 {
     setCurrentFolder(m_model.topFolder());
     observeTreeView();
+    observeTrashNote();
+    observeBasket();
     observe();
     objectTreeRefreshed();
     renderTree();
@@ -54,19 +69,78 @@ void TreeViewController::observeTreeView()
     m_treeView.installEventFilter(this);
     connect(&m_treeView, &TreeMapView::frameChanged, this, &TreeViewController::renderTree);
     connect(&m_treeView, &TreeMapView::zoomEnded, this, &TreeViewController::animationDidStop);
+    connect(&m_clicks, &TreeClicks::spaceClicked, this, &TreeViewController::spaceClicked);
     connect(&m_treeView, &TreeMapView::menuKeyInVain, this, [this] {
         m_note.say(command_hint::nothingSelected());
     });
 }
 
+void TreeViewController::observeTrashNote()
+{
+    const TrashUndo& undo = m_services.trashUndo;
+    connect(&undo, &TrashUndo::moved, this, &TreeViewController::sayMoved);
+    connect(&undo, &TrashUndo::changed, this, &TreeViewController::endUntrueNote);
+    connect(&undo, &TrashUndo::wasPutBack, this, [this](const ReturnedItem& item) {
+        if (std::ranges::find(m_saidStep.items, item.moved) != m_saidStep.items.end()) {
+            m_trashNote.end();
+        }
+    });
+    connect(&m_trashNote, &TrashNote::undoRequested, this, &TreeViewController::undoFromNote);
+    connect(&m_trashNote, &TrashNote::openTrashRequested, this, &TreeViewController::openTrash);
+    connect(&m_trashNote, &TrashNote::pointerCame, &m_treeView, &TreeMapView::hideTooltip);
+}
+
+/// Its button is for what it says alone.
+void TreeViewController::endUntrueNote()
+{
+    if (!m_saidStep.items.empty() && !m_services.trashUndo.isNextToUndo(m_saidStep)) {
+        m_saidStep = {};
+        m_trashNote.end();
+    }
+}
+
+void TreeViewController::sayMoved(const TrashStep& step)
+{
+    m_saidStep = step;
+    const OtherNames otherNames = step.otherNames();
+    const std::size_t count = step.items.size();
+    const std::string_view name = step.items.front().item.from.lastPathComponent();
+    if (otherNames == OtherNames::None) {
+        count == 1 ? m_trashNote.sayItem(name, step.bytes())
+                   : m_trashNote.sayItems(count, step.bytes());
+    } else {
+        count == 1 ? m_trashNote.sayItem(name, otherNames)
+                   : m_trashNote.sayItemsWithOtherNames(count);
+    }
+}
+
+void TreeViewController::undoFromNote()
+{
+    const QString obstacle = m_services.trashUndo.whyNoUndo();
+    if (obstacle.isEmpty()) {
+        m_trashNote.end();
+        m_services.trashUndo.undo();
+    } else {
+        say(obstacle);
+    }
+}
+
 void TreeViewController::observe()
 {
     const DiskChanges& changes = m_services.diskChanges;
-    connect(&changes, &DiskChanges::itemGone, this, &TreeViewController::itemGone);
+    connect(&changes, &DiskChanges::itemGone, this, [this](const Url& place) {
+        m_changes.itemGone(place);
+    });
+    connect(&changes, &DiskChanges::itemsMoved, this, [this](const std::vector<ItemMove>& moves) {
+        m_changes.itemsMoved(moves);
+    });
+    connect(&changes, &DiskChanges::itemInDoubt, this, [this](const std::vector<Url>& places) {
+        m_changes.itemInDoubt(places);
+    });
     connect(
         &changes, &DiskChanges::itemCompressed, this, [this](const std::optional<Url>& archive) {
             if (archive) {
-                itemCompressed(*archive);
+                m_changes.itemCompressed(*archive);
             }
         });
 }
@@ -146,7 +220,7 @@ Folder* TreeViewController::folderToRescan() const
 
 RescanObstacle TreeViewController::rescanObstacle() const
 {
-    if (m_rescan.rescanFolder() != nullptr) {
+    if (m_rescan.isAskedFor()) {
         return RescanObstacle::AnotherRescan;
     }
     const Folder* const folder = folderToRescan();
@@ -176,6 +250,17 @@ void TreeViewController::refreshFolder()
     }
 }
 
+void TreeViewController::showItem(File& item)
+{
+    m_zoom.endRunningZoom();
+    if (!m_treeView.shows(item) && item.parent() != nullptr) {
+        setCurrentFolder(item.parent());
+    }
+    setSelectedFile(&item);
+    renderTree();
+    m_treeView.setFocus();
+}
+
 void TreeViewController::quickLook()
 {
     m_preview.open();
@@ -186,73 +271,31 @@ void TreeViewController::showInFinder()
     if (m_selectedFile == nullptr) {
         return;
     }
-    const QString name = displayText(m_selectedFile->name());
+    const std::string name(m_selectedFile->name());
     m_services.workspace.reveal(
         m_selectedFile->url(), [self = QPointer<TreeViewController>(this), name](bool isShown) {
             if (self != nullptr && !isShown) {
-                self->sayThatThereIsNoFileManager(name);
+                self->m_services.alert.beginSheet(noFileManager(name));
             }
         });
 }
 
-void TreeViewController::sayThatThereIsNoFileManager(const QString& itemName)
+void TreeViewController::openTrash()
+{
+    m_services.workspace.openUrl(
+        "trash:///", [self = QPointer<TreeViewController>(this)](bool isOpened) {
+            if (self != nullptr && !isOpened) {
+                self->sayThatThereIsNoTrash();
+            }
+        });
+}
+
+void TreeViewController::sayThatThereIsNoTrash()
 {
     m_services.alert.beginSheet(
-        {tr("There is no file manager"),
-         tr("'%1' cannot be shown, because the desktop offers no program for that.").arg(itemName),
+        {tr("The trash cannot be opened"),
+         tr("The desktop offers no program that shows it."),
          {tr("OK")}});
-}
-
-void TreeViewController::compressItem()
-{
-    if (m_selectedFile == nullptr || !isItem(*m_selectedFile)) {
-        return;
-    }
-    const auto compressing = CompressWindowController::make(m_services.compressing);
-    // It may end when this screen is gone.
-    connect(
-        compressing.get(),
-        &CompressWindowController::itemGone,
-        &m_services.diskChanges,
-        &DiskChanges::itemGone);
-    connect(
-        compressing.get(),
-        &CompressWindowController::itemCompressed,
-        &m_services.diskChanges,
-        &DiskChanges::itemCompressed);
-    compressing->showWindow(m_treeView.window());
-    compressing->compressURL(placeOnDisk(*m_selectedFile), m_selectedFile->totalAllocation());
-}
-
-void TreeViewController::itemGone(const Url& place)
-{
-    const TopFolder* const top = m_model.topFolder();
-    if (top == nullptr) {
-        return;
-    }
-    const std::string path = pathInTree(*top, place.path());
-    m_rescan.pathWentAway(path);
-    if (path != top->absolutePath() && removeNodeAt(path)) {
-        objectTreeRefreshed();
-        renderTree();
-    }
-}
-
-void TreeViewController::itemCompressed(const Url& archive)
-{
-    auto document = makeNode<Document>(archive.lastPathComponent());
-    document->setTotalAllocation(
-        m_services.resourceValues->allocatedSize(archive.path()).value_or(0));
-    if (TopFolder* const top = m_model.topFolder()) {
-        const std::string path = pathInTree(*top, archive.path());
-        if (Folder* const parent = parentAtPath(*top, path)) {
-            // A rescan meanwhile may have met it.
-            removeNodeAt(path);
-            nodeCame(parent->insertChild(std::move(document)));
-        }
-    }
-    objectTreeRefreshed();
-    renderTree();
 }
 
 CommandContext TreeViewController::commandContext() const
@@ -261,6 +304,9 @@ CommandContext TreeViewController::commandContext() const
     context.hasTreeScreen = true;
     context.isRootInView = m_currentFolder == m_model.topFolder();
     context.selectedFile = m_selectedFile;
+    context.isInBasket
+        = m_selectedFile != nullptr && m_services.basket.basket().isMarked(*m_selectedFile);
+    context.isDiskScanned = nodeCast<Volume>(static_cast<File*>(m_model.topFolder())) != nullptr;
     context.canRescan = folderToRescan() != nullptr && rescanObstacle() == RescanObstacle::None;
     return context;
 }
@@ -313,28 +359,22 @@ void TreeViewController::perform(Command command)
     case Command::MoveToTrash:
         trashItem();
         break;
+    case Command::AddToBasket:
+        toggleInBasket();
+        break;
     case Command::Ignore:
         emit ignoreRequested();
         break;
     default:
+        performElsewhere(command);
         break;
     }
-}
-
-bool TreeViewController::removeNodeAt(std::string_view path)
-{
-    File* const found = nodeAtPath(*m_model.topFolder(), path);
-    if (found == nullptr) {
-        return false;
-    }
-    nodeWillLeave(*found);
-    found->parent()->removeChild(*found);
-    return true;
 }
 
 void TreeViewController::nodeWillLeave(File& node)
 {
     m_rescan.nodeWillLeave(node);
+    m_services.basket.nodeWillLeave(node);
     emit nodeLeaving(&node);
     if (m_selectedFile != nullptr && isAtOrBelow(*m_selectedFile, node)) {
         setSelectedFile(nullptr);
@@ -344,8 +384,15 @@ void TreeViewController::nodeWillLeave(File& node)
     }
 }
 
+void TreeViewController::nodeCame(const File& node)
+{
+    m_rescan.nodeCame(node);
+    m_services.basket.nodeCame(node);
+}
+
 void TreeViewController::folderWasReplaced(Folder& folder, Folder& with)
 {
+    m_services.basket.folderWasReplaced(folder, with);
     TopFolder& top = *m_model.topFolder();
     if (m_selectedFile != nullptr && isAtOrBelow(*m_selectedFile, folder)) {
         setSelectedFile(nodeAtPath(top, m_selectedFile->absolutePath()));
@@ -362,9 +409,11 @@ void TreeViewController::folderWasReplaced(Folder& folder, Folder& with)
 void TreeViewController::objectTreeRefreshed()
 {
     if (auto* const volume = nodeCast<Volume>(static_cast<File*>(m_model.topFolder()))) {
-        // Without an answer the sizes last known are nearer to the truth than none.
-        if (const auto sizes
-            = m_services.fileSystemAttributes->attributesOfFileSystem(volume->origin())) {
+        // Without an answer, or with that of another disk, the sizes last known are nearer to the
+        // truth.
+        const auto sizes
+            = m_services.fileSystemAttributes->attributesOfFileSystem(volume->origin());
+        if (sizes && volume->mayBeSizesOfIt(*sizes)) {
             volume->refreshVolume(*sizes);
         }
     }
@@ -381,7 +430,16 @@ void TreeViewController::renderTree()
         setSelectedFile(nullptr);
     }
     m_rescan.pictureChanged();
+    keepTrashNoteClear();
     emit pictureRebuilt();
+}
+
+void TreeViewController::keepTrashNoteClear()
+{
+    const std::optional<Rect> box
+        = m_selectedFile == nullptr ? std::nullopt : m_treeView.findRectForFile(*m_selectedFile);
+    m_trashNote.keepClearOf(
+        box ? QRectF(box->x, box->y, box->width, box->height).toAlignedRect() : QRect());
 }
 
 std::unique_ptr<TreeBranch> TreeViewController::branchFor(Folder* folder)

@@ -3,18 +3,25 @@
 
 #include "Base/Rect.h"
 #include "Commands/CommandContext.h"
+#include "OpenItem/ItemOpening.h"
 #include "TreeScreen/CommandHint.h"
 #include "TreeScreen/FolderRescan.h"
-#include "TreeScreen/ItemTrasher.h"
 #include "TreeScreen/Map/BoxNavigation.h"
 #include "TreeScreen/Map/TreeScreen.h"
 #include "TreeScreen/SelectionPreview.h"
+#include "TreeScreen/Trash/BasketTrasher.h"
+#include "TreeScreen/Trash/ItemTrasher.h"
+#include "TreeScreen/Trash/MovesToTrash.h"
+#include "TreeScreen/Trash/TrashRisks.h"
+#include "TreeScreen/TrashNote.h"
+#include "TreeScreen/TreeChanges.h"
 #include "TreeScreen/TreeClicks.h"
 #include "TreeScreen/TreeCommandTarget.h"
 #include "TreeScreen/TreeKeys.h"
 #include "TreeScreen/TreeNote.h"
 #include "TreeScreen/TreeViewServices.h"
 #include "TreeScreen/Zoom/FolderZoom.h"
+#include "Undo/TrashStep.h"
 
 #include <QObject>
 
@@ -75,24 +82,36 @@ public:
 
     /// Moves the selected item to the trash, after a warning where that is risky.
     void trashItem();
+    /// Puts the selected item into the basket, or takes it out again.
+    void toggleInBasket();
+    /// Has another program do what the command is about, with the selected item, or the folder in
+    /// view.
+    void performElsewhere(Command command);
+    /// Moves all that is in the basket to the trash, as BasketTrasher does.
+    void moveBasketToTrash(const FreedSpace& freed);
+    /// Whether that is under way, beginning with the question.
+    bool isMovingBasket() const { return m_basketTrasher.isMoving(); }
     /// What refreshFolder() scans: the selected folder, or the one in view while nothing is
     /// selected. Null for a selected file, and without a tree.
     Folder* folderToRescan() const;
     /// Scans folderToRescan() anew, in the background, and takes the selection away. Nothing when
     /// validate() says so, nor for the scanned folder itself, which needs a scan.
     void refreshFolder();
-    /// Does nothing while another rescan runs.
+    /// Does nothing while the user waits for another rescan.
     void rescanSelectedFolder(Folder& folder) { m_rescan.rescan(folder); }
+    /// Selects the item, in the folder around it where the one in view does not show it.
+    void showItem(File& item);
     void showInFinder();
     /// Opens the preview panel on the selected item, or brings it to the front.
     void quickLook();
     /// Compresses the selected item beside itself, in a window of its own.
     void compressItem();
+    /// Moves the item of which there is an archive to the trash, as trashItem() does, if it is
+    /// still that very item.
+    void trashOriginal(const Url& original, const ExpectedItem& expected);
 
-    /// The program has made an archive: it joins the tree.
-    void itemCompressed(const Url& archive);
-    /// The program has moved an item away: it leaves the tree.
-    void itemGone(const Url& place);
+    /// For what the program has changed on the disk.
+    TreeChanges& changes() { return m_changes; }
 
     /// What decides which commands can be performed, as far as this screen knows it.
     CommandContext commandContext() const;
@@ -132,6 +151,10 @@ signals:
     void selectionChanged();
     /// The picture was rebuilt from the tree.
     void pictureRebuilt();
+    /// A click was on a box that stands for a disk's space and for no file.
+    void spaceClicked();
+    /// No move of the basket is under way any more.
+    void basketMoveEnded();
     /// The selected folder is to be left out of the picture.
     void ignoreRequested();
     /// The node, with all below it, is about to leave its place in the tree.
@@ -142,15 +165,21 @@ signals:
 private:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void nodeWillLeave(File& node) override;
-    void nodeCame(const File& node) override { m_rescan.nodeCame(node); }
+    void nodeCame(const File& node) override;
     void folderWasReplaced(Folder& folder, Folder& with) override;
     const Folder* folderInView() const override { return m_currentFolder; }
     std::unique_ptr<TreeBranch> branchFor(Folder* folder) override;
 
     void observe();
-    bool removeNodeAt(std::string_view path);
     void observeTreeView();
-    void sayThatThereIsNoFileManager(const QString& itemName);
+    void observeTrashNote();
+    void observeBasket();
+    void sayMoved(const TrashStep& step);
+    void endUntrueNote();
+    void undoFromNote();
+    void openTrash();
+    void sayThatThereIsNoTrash();
+    void keepTrashNoteClear();
     RescanObstacle rescanObstacle() const;
     bool isMountPoint(const Folder& toRescan) const;
     bool moveSelection(Direction direction);
@@ -162,8 +191,15 @@ private:
     const TreeViewServices m_services;
     FolderZoom m_zoom;
     FolderRescan m_rescan;
+    const TrashRisks m_risks;
+    MovesToTrash m_moves;
     ItemTrasher m_trasher;
+    BasketTrasher m_basketTrasher;
+    TreeChanges m_changes;
     SelectionPreview m_preview;
+    ItemOpening m_opening;
+    TrashNote m_trashNote;
+    TrashStep m_saidStep; ///< what the note has said last
     TreeNote m_note;
     TreeClicks m_clicks;
     Folder* m_currentFolder = nullptr;

@@ -6,6 +6,7 @@
 #include "Scanning/ScanEnvironment.h"
 #include "Widgets/FrameClock.h"
 
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <system_error>
@@ -13,8 +14,11 @@
 namespace tessera {
 
 class Alert;
+class BasketKeeper;
 class DiskChanges;
 class MotionPreference;
+class OtherPrograms;
+class TrashUndo;
 class UserDefaults;
 class Workspace;
 
@@ -25,10 +29,14 @@ struct TreeViewServices {
     WithTimeLimit<FileSystemAttributes> fileSystemAttributes;
     const UserDefaults& defaults;
     Workspace& workspace;
+    OtherPrograms& otherPrograms;
     Alert& alert;
     CompressServices compressing;
     const MotionPreference& motion;
     DiskChanges& diskChanges;
+    TrashUndo& trashUndo;
+    BasketKeeper& basket;
+    std::uint32_t userNumber = 0; ///< as UserAccount has it
     /// Why the folder of that path cannot be read; no error when it can. No part of the path is a
     /// link. Answers at once.
     std::function<std::error_code(const std::string& path)> checkFolder;

@@ -10,6 +10,8 @@
 #include <QToolTip>
 #include <QVariant>
 
+#include <optional>
+
 namespace tessera {
 
 namespace {
@@ -19,6 +21,14 @@ namespace {
 bool doesQtFollowTheDesktop()
 {
     return QGuiApplication::styleHints()->property("colorScheme").toInt() != 0;
+}
+
+QColor colorOf(const AccentColor& accent)
+{
+    return QColor::fromRgbF(
+        static_cast<float>(accent.red),
+        static_cast<float>(accent.green),
+        static_cast<float>(accent.blue));
 }
 
 /// Whether the colours are those that the style has when nobody gives it any.
@@ -53,7 +63,9 @@ void ApplicationPalette::apply() const
     const bool isDarkWanted = scheme == ColorScheme::NoPreference
         ? isDark(QApplication::style()->standardPalette())
         : scheme == ColorScheme::Dark;
-    const QPalette colors = isDarkWanted ? darkProgramColors() : lightProgramColors();
+    const QPalette usual = isDarkWanted ? darkProgramColors() : lightProgramColors();
+    const std::optional<AccentColor> accent = m_preference.accentColor();
+    const QPalette colors = accent ? withAccent(usual, colorOf(*accent)) : usual;
     if (colors == QApplication::palette()) {
         return;
     }

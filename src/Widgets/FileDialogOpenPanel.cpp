@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Widgets/FileDialogOpenPanel.h"
 
+#include "Desktop/HiddenFilesPreference.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QEvent>
@@ -8,8 +10,6 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QMessageBox>
-
-#include <utility>
 
 namespace tessera {
 
@@ -54,11 +54,25 @@ public:
 
 void FileDialogOpenPanel::begin(QWidget& window, Completion completion)
 {
-    if (m_dialog != nullptr) {
+    if (m_dialog == nullptr) {
+        show(window, completion, Chooser::Desktops);
+    } else if (isDesktops()) {
+        delete m_dialog; // NOLINT(cppcoreguidelines-owning-memory): nobody waits for it any more
+        show(window, completion, Chooser::Qts);
+    } else {
         m_dialog->raise();
         m_dialog->activateWindow();
-        return;
     }
+}
+
+/// Qt has such a dialog count as shown, and show nothing itself.
+bool FileDialogOpenPanel::isDesktops() const
+{
+    return m_dialog->testAttribute(Qt::WA_DontShowOnScreen);
+}
+
+void FileDialogOpenPanel::show(QWidget& window, const Completion& completion, Chooser chooser)
+{
     // NOLINTBEGIN(cppcoreguidelines-owning-memory): it deletes itself when it closes
     m_dialog = new QFileDialog(&window);
     m_dialog->installEventFilter(new PlainMessages(m_dialog));
@@ -71,13 +85,17 @@ void FileDialogOpenPanel::begin(QWidget& window, Completion completion)
     m_dialog->setOption(QFileDialog::ShowDirsOnly);
     // Qt's chooser would offer to delete folders, and means for good.
     m_dialog->setOption(QFileDialog::ReadOnly);
-    m_dialog->setFilter(QDir::Dirs | QDir::NoDotAndDotDot | QDir::Drives | QDir::Hidden);
-    QObject::connect(
-        m_dialog, &QDialog::finished, m_dialog, [this, completion = std::move(completion)] {
-            const std::vector<Url> urls = chosenUrls(*m_dialog);
-            m_dialog.clear();
-            completion(urls);
-        });
+    m_dialog->setOption(QFileDialog::DontUseNativeDialog, chooser == Chooser::Qts);
+    QDir::Filters shown = QDir::Dirs | QDir::NoDotAndDotDot | QDir::Drives;
+    const bool showsHidden
+        = m_hiddenFiles == nullptr || m_hiddenFiles->showsHiddenFiles().value_or(true);
+    shown.setFlag(QDir::Hidden, showsHidden);
+    m_dialog->setFilter(shown);
+    QObject::connect(m_dialog, &QDialog::finished, m_dialog, [this, completion] {
+        const std::vector<Url> urls = chosenUrls(*m_dialog);
+        m_dialog.clear();
+        completion(urls);
+    });
     m_dialog->show();
 }
 

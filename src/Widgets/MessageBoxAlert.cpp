@@ -2,6 +2,7 @@
 #include "Widgets/MessageBoxAlert.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -45,10 +46,18 @@ void setText(QMessageBox& box, const QString& text)
 
 } // namespace
 
-std::unique_ptr<QMessageBox> MessageBoxAlert::makeBox(const AlertText& text) const
+/// A dialog that the user may work beside may also end by itself, and would take with it, unread,
+/// what belongs to it.
+QWidget* MessageBoxAlert::owner() const
 {
     QWidget* const active = QApplication::activeWindow();
-    auto box = std::make_unique<QMessageBox>(active != nullptr ? active : m_mainWindow.data());
+    const bool mayEnd = qobject_cast<QDialog*>(active) != nullptr && !active->isModal();
+    return active == nullptr || mayEnd ? m_mainWindow.data() : active;
+}
+
+std::unique_ptr<QMessageBox> MessageBoxAlert::makeBox(const AlertText& text) const
+{
+    auto box = std::make_unique<QMessageBox>(owner());
     box->setWindowTitle(QStringLiteral("Tessera"));
     box->setIcon(QMessageBox::Warning);
     setHeadline(*box, text.messageText);
@@ -67,9 +76,15 @@ std::unique_ptr<QMessageBox> MessageBoxAlert::makeBox(const AlertText& text) con
 
 int MessageBoxAlert::runModal(const AlertText& text)
 {
-    const std::unique_ptr<QMessageBox> box = makeBox(text);
+    std::unique_ptr<QMessageBox> box = makeBox(text);
+    const QPointer<QMessageBox> alive(box.get());
     box->exec();
     const int last = kFirstButton + static_cast<int>(text.buttons.size()) - 1;
+    if (alive == nullptr) {
+        // The window that it belonged to has taken it away.
+        (void)box.release();
+        return last;
+    }
     const QAbstractButton* const clicked = box->clickedButton();
     return clicked == nullptr ? last : clicked->property("answer").toInt();
 }

@@ -13,7 +13,8 @@ class QMessageBox;
 namespace tessera {
 
 /// Alerts as message boxes over the application's active window, or over its main window while the
-/// user works in another application.
+/// user works in another application or in a dialog that leaves the other windows alone. A question
+/// whose window goes away is answered by its last button.
 class MessageBoxAlert final : public Alert {
 public:
     /// Not owned; null for none.
@@ -23,6 +24,7 @@ public:
     void beginSheet(const AlertText& text) override;
 
 private:
+    QWidget* owner() const;
     std::unique_ptr<QMessageBox> makeBox(const AlertText& text) const;
 
     QPointer<QWidget> m_mainWindow;

@@ -4,6 +4,7 @@
 #include "Widgets/ColorHelper.h"
 
 #include <array>
+#include <cmath>
 #include <cstdint>
 #include <span>
 
@@ -58,6 +59,24 @@ constexpr std::array kDarkDisabled{
     RoleColor{QPalette::Highlight, 0x50525A},
     RoleColor{QPalette::HighlightedText, 0xC3C7D1}};
 
+/// How bright light of those parts is, from 0 to 1:
+/// https://www.w3.org/TR/WCAG21/#dfn-relative-luminance
+double luminance(const QColor& color)
+{
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF())
+        + 0.0722 * linear(color.blueF());
+}
+
+/// Black and white have the same contrast to what is as bright as this.
+QColor readableOn(const QColor& ground)
+{
+    constexpr double kSameContrast = 0.179;
+    return luminance(ground) > kSameContrast ? Qt::black : Qt::white;
+}
+
 QPalette paletteOf(std::span<const RoleColor> usual, std::span<const RoleColor> disabled)
 {
     QPalette palette;
@@ -80,6 +99,16 @@ QPalette lightProgramColors()
 QPalette darkProgramColors()
 {
     return paletteOf(kDark, kDarkDisabled);
+}
+
+QPalette withAccent(const QPalette& colors, const QColor& accent)
+{
+    QPalette result = colors;
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        result.setColor(group, QPalette::Highlight, accent);
+        result.setColor(group, QPalette::HighlightedText, readableOn(accent));
+    }
+    return result;
 }
 
 QPalette withVisibleLines(const QPalette& colors)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QColor>
 #include <QPalette>
 
 namespace tessera {
@@ -9,6 +10,10 @@ namespace tessera {
 /// have a contrast of at least 4.5 : 1 to what they stand on.
 QPalette lightProgramColors();
 QPalette darkProgramColors();
+
+/// The same with what is selected in that colour, and the text on it black or white, whichever can
+/// be read better. What cannot be used keeps its colours.
+QPalette withAccent(const QPalette& colors, const QColor& accent);
 
 /// The same for menus and boxes to tick. The style makes their outlines by darkening the window's
 /// colour, and could not be seen to have any on a dark ground.

@@ -27,12 +27,18 @@ std::vector<Command> enabledCommands(const CommandContext& context)
     for (const Command command :
          {Command::ZoomOut,
           Command::ZoomIn,
+          Command::OpenItem,
+          Command::OpenWith,
           Command::QuickLook,
           Command::ShowInFinder,
+          Command::CopyPath,
+          Command::OpenTerminal,
           Command::Rescan,
           Command::Ignore,
           Command::Compress,
+          Command::AddToBasket,
           Command::MoveToTrash,
+          Command::Properties,
           Command::Home}) {
         if (isEnabled(command, context)) {
             enabled.push_back(command);
@@ -55,11 +61,17 @@ CommandContext whereRescanIsPossible(const CommandContext& context)
 
 const auto kAllForFolders = ElementsAre(
     Command::ZoomIn,
+    Command::OpenItem,
+    Command::OpenWith,
     Command::QuickLook,
     Command::ShowInFinder,
+    Command::CopyPath,
+    Command::OpenTerminal,
     Command::Ignore,
     Command::Compress,
+    Command::AddToBasket,
     Command::MoveToTrash,
+    Command::Properties,
     Command::Home);
 
 TEST(CommandContext, OnTheHomeScreenNoCommandOfTheTreeIsEnabled)
@@ -73,9 +85,11 @@ TEST(CommandContext, WithoutATreeScreenASelectionDoesNotCount)
     EXPECT_THAT(enabledCommands({true, false, false, folder.get()}), IsEmpty());
 }
 
-TEST(CommandContext, WithNothingSelectedOnlyTheWayHomeIsOpen)
+TEST(CommandContext, WithNothingSelectedTheWayHomeIsOpenAndWhatIsAboutTheFolderInView)
 {
-    EXPECT_THAT(enabledCommands(treeWith(nullptr)), ElementsAre(Command::Home));
+    EXPECT_THAT(
+        enabledCommands(treeWith(nullptr)),
+        ElementsAre(Command::CopyPath, Command::OpenTerminal, Command::Home));
 }
 
 TEST(CommandContext, TheWayHomeIsOpenWheneverThereIsNoHomeScreen)
@@ -110,10 +124,16 @@ TEST(CommandContext, ASelectedDocumentEnablesWhatNeedsNoFolder)
     EXPECT_THAT(
         enabledCommands(treeWith(document.get())),
         ElementsAre(
+            Command::OpenItem,
+            Command::OpenWith,
             Command::QuickLook,
             Command::ShowInFinder,
+            Command::CopyPath,
+            Command::OpenTerminal,
             Command::Compress,
+            Command::AddToBasket,
             Command::MoveToTrash,
+            Command::Properties,
             Command::Home));
 }
 
@@ -147,6 +167,21 @@ TEST(CommandContext, RescanIsEnabledWhenTheTreeScreenSaysSo)
         isEnabled(Command::Rescan, whereRescanIsPossible({true, false, true, folder.get()})));
 }
 
+TEST(CommandContext, ReloadIsEnabledWhenTheMainWindowSaysSo)
+{
+    CommandContext context = treeWith(nullptr);
+    EXPECT_FALSE(isEnabled(Command::Reload, context));
+    context.canReload = true;
+    EXPECT_TRUE(isEnabled(Command::Reload, context));
+    EXPECT_TRUE(isEnabled(Command::Reload, {.hasHomeScreen = true, .canReload = true}));
+}
+
+TEST(CommandContext, TheBasketIsOfATreeOnScreen)
+{
+    EXPECT_TRUE(isEnabled(Command::Basket, treeWith(nullptr)));
+    EXPECT_FALSE(isEnabled(Command::Basket, {true, false, true, nullptr}));
+}
+
 TEST(CommandContext, OtherEntriesAreAlwaysEnabled)
 {
     for (const Command command :
@@ -155,7 +190,8 @@ TEST(CommandContext, OtherEntriesAreAlwaysEnabled)
           Command::Quit,
           Command::FullScreen,
           Command::Features,
-          Command::Questions}) {
+          Command::Questions,
+          Command::About}) {
         const int number = static_cast<int>(command);
         EXPECT_TRUE(isEnabled(command, {true, false, true, nullptr})) << number;
         EXPECT_TRUE(isEnabled(command, treeWith(nullptr))) << number;

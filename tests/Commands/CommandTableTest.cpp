@@ -11,21 +11,16 @@ namespace {
 TEST(CommandTable, EachCommandHasItsTag)
 {
     const std::map<Command, int> tags{
-        {Command::OpenFolder, 21},
-        {Command::Home, 41},
-        {Command::Preferences, 0},
-        {Command::Quit, 0},
-        {Command::QuickLook, 33},
-        {Command::ShowInFinder, 34},
-        {Command::Rescan, 35},
-        {Command::Ignore, 36},
-        {Command::Compress, 37},
-        {Command::MoveToTrash, 38},
-        {Command::ZoomIn, 32},
-        {Command::ZoomOut, 31},
-        {Command::FullScreen, 0},
-        {Command::Features, 62},
-        {Command::Questions, 64}};
+        {Command::OpenFolder, 21},  {Command::Home, 41},        {Command::Preferences, 0},
+        {Command::Quit, 0},         {Command::Undo, 0},         {Command::Redo, 0},
+        {Command::OpenItem, 0},     {Command::OpenWith, 0},     {Command::CopyPath, 0},
+        {Command::OpenTerminal, 0}, {Command::Properties, 0},   {Command::Reload, 0},
+        {Command::About, 0},        {Command::QuickLook, 33},   {Command::ShowInFinder, 34},
+        {Command::Rescan, 35},      {Command::Ignore, 36},      {Command::Compress, 37},
+        {Command::AddToBasket, 0},  {Command::MoveToTrash, 38}, {Command::ZoomIn, 32},
+        {Command::ZoomOut, 31},     {Command::Basket, 0},       {Command::SpaceLedger, 0},
+        {Command::TrashHistory, 0}, {Command::FullScreen, 0},   {Command::StatusLine, 0},
+        {Command::Features, 62},    {Command::Questions, 64}};
     ASSERT_EQ(tags.size(), commandTable().size());
     for (const auto& [command, tag] : tags) {
         EXPECT_EQ(rowOf(command).tag, tag);

@@ -339,7 +339,7 @@ TEST_F(CompressEndTest, ClosingTheWindowCancels)
     EXPECT_EQ(task.terminateCount, 1);
 }
 
-TEST_F(CompressEndTest, KeepsItselfAliveUntilItHasFinished)
+TEST_F(CompressEndTest, KeepsItselfAliveUntilItHasFinishedAndItsWindowIsClosed)
 {
     const std::weak_ptr<CompressWindowController> watched = controller;
     CompressWindowController& unheld = *controller;
@@ -350,8 +350,10 @@ TEST_F(CompressEndTest, KeepsItselfAliveUntilItHasFinished)
     files.sizes["/data/X.zip"] = 2'000'000;
     endTool(0);
     unheld.updateProgress();
-    EXPECT_TRUE(watched.expired());
     EXPECT_THAT(posted, SizeIs(1));
+    EXPECT_FALSE(watched.expired());
+    unheld.window().findChild<QPushButton*>(QStringLiteral("cancelButton"))->click();
+    EXPECT_TRUE(watched.expired());
 }
 
 TEST_F(CompressEndTest, AtTheProgramsEndTheToolIsEndedAndItsArchiveTrashed)

@@ -6,6 +6,8 @@
 #include "support/Fakes/FakeAlert.h"
 #include "support/Fakes/FakeFileSystem.h"
 #include "support/Fakes/FakeIconProvider.h"
+#include "support/Fakes/FakeItemChanges.h"
+#include "support/Fakes/FakeItemStates.h"
 #include "support/Fakes/FakeTask.h"
 #include "support/Fakes/FakeWorkspace.h"
 
@@ -43,17 +45,25 @@ protected:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
+    /// Those of a controller whose tool is that one.
+    CompressServices services(FakeTaskRecord& tool)
+    {
+        return {
+            .archiver = "/opt/archiver",
+            .makeTask = [&tool] { return FakeTask::make(tool); },
+            .workspace = workspace,
+            .resourceValues = WithTimeLimit<ResourceValues>(files),
+            .icons = icons,
+            .targetsInUse = targetsInUse,
+            .alert = alert,
+            .itemChanges = itemChanges,
+            .itemStates = itemStates};
+    }
+
     std::shared_ptr<CompressWindowController> makeController()
     {
         auto made = CompressWindowController::make(
-            {.archiver = "/opt/archiver",
-             .makeTask = [this] { return FakeTask::make(task); },
-             .workspace = workspace,
-             .resourceValues = WithTimeLimit<ResourceValues>(files),
-             .icons = icons,
-             .targetsInUse = targetsInUse,
-             .alert = alert},
-            [this](std::chrono::milliseconds delay, std::function<void()> work) {
+            services(task), [this](std::chrono::milliseconds delay, std::function<void()> work) {
                 delays.push_back(delay);
                 delayed.push_back(std::move(work));
             });
@@ -123,6 +133,8 @@ protected:
     FakeIconProvider icons;
     std::set<std::string> targetsInUse;
     FakeAlert alert;
+    std::shared_ptr<FakeItemChanges> itemChanges = std::make_shared<FakeItemChanges>();
+    std::shared_ptr<FakeItemStates> itemStates = std::make_shared<FakeItemStates>();
     std::vector<std::chrono::milliseconds> delays;
     std::vector<std::function<void()>> delayed;
     std::shared_ptr<CompressWindowController> controller = makeController();

@@ -17,6 +17,7 @@ public:
 
     std::optional<PasswordEntry> realUser() const override { return m_entry; }
     std::string homeDirectory() const override { return "/root"; }
+    std::uint32_t userNumber() const override { return 0; }
 
 private:
     std::optional<PasswordEntry> m_entry;

@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "EndToEnd/Desk/Eventually.h"
+#include "EndToEnd/Desk/PixelColors.h"
 #include "EndToEnd/Session/TreeWindowFixture.h"
+#include "QuickLook/Reading/SampleFiles.h"
 #include "support/Machine/BuiltPaths.h"
 #include "support/Machine/FileContent.h"
 #include "support/Machine/RunProgram.h"
+
+#include <QColor>
+#include <QImage>
 
 #include <sys/stat.h>
 
@@ -49,15 +54,33 @@ protected:
 TEST_F(InstalledProgram, FindsItsArchiver)
 {
     ASSERT_TRUE(pick("song", MenuEntry::Compress));
-    ASSERT_TRUE(opens(XWindow::Kind::Dialog));
-    ASSERT_TRUE(closes(XWindow::Kind::Dialog));
+    ASSERT_TRUE(closeResult());
     EXPECT_TRUE(std::filesystem::exists(tree.pathOf("song.zip")));
+}
+
+TEST_F(InstalledProgram, FindsWhatDecodesItsPreviews)
+{
+    constexpr QRgb kInk = 0xFFC01060; // like nothing that the program draws by itself
+    desk().click(placeOf("song"));
+    ASSERT_TRUE(shows({}, "song"));
+    tree.writeFile("song", imageFile({400, 300}, "png", QColor::fromRgb(kInk)));
+
+    desk().typeKey(key::kSpace);
+
+    ASSERT_TRUE(opens(XWindow::Kind::Panel));
+    EXPECT_TRUE(eventually([&] {
+        const auto panel = desk().window(XWindow::Kind::Panel);
+        const QImage middle
+            = desk().picture(panel ? QRect(panel->frame.center(), QSize(1, 1)) : QRect());
+        return !middle.isNull() && isLike(middle.pixel(0, 0), kInk);
+    }));
+    EXPECT_TRUE(closePreview());
 }
 
 TEST_F(InstalledProgram, FindsItsHelp)
 {
     desk().typeKey(key::kF1);
-    const std::string page = m_places.pathOf("usr/share/doc/tessera/help/features.html");
+    const std::string page = m_places.pathOf("usr/share/tessera/help/features.html");
     EXPECT_TRUE(eventually([&] {
         return fileContent(m_places.pathOf("opened")) == "file://" + page + '\n';
     })) << fileContent(m_places.pathOf("opened"));

@@ -68,12 +68,36 @@ TEST_F(PictureCommand, WritesAPictureOfTheAskedSizeAndScale)
     EXPECT_EQ(pictureAt(picture).size(), QSize(600, 400));
 }
 
+TEST_F(PictureCommand, TheHomeFolderIsDrawnWithoutItsName)
+{
+    const auto result = test::runProgram(
+        test::built::program(), {"--picture", picture, "--home"}, {"HOME=" + tree.path()});
+    EXPECT_EQ(result.exitStatus, 0) << result.standardError;
+    EXPECT_THAT(result.standardError, HasSubstr("Scan Complete: " + tree.path() + " {"));
+}
+
 TEST_F(PictureCommand, ThePictureShowsTheFolder)
 {
     tessera({"--picture", picture, "--size", "300x200", tree.path()});
     const QImage image = pictureAt(picture);
     EXPECT_EQ(image.pixelColor(1, 1), QColor(Qt::black));
     EXPECT_NE(image.pixelColor(20, 190), QColor(Qt::black));
+}
+
+TEST_F(PictureCommand, ThePictureHasSizesInItsTitlesUnlessTheUserWantsNone)
+{
+    out.makeFolder("tessera");
+    const auto pictureWith = [this](const std::string& settings) {
+        out.writeFile("tessera/tessera.ini", "[General]\n" + settings);
+        test::runProgram(
+            test::built::program(),
+            {"--picture", picture, "--size", "300x200", tree.path()},
+            {"XDG_CONFIG_HOME=" + out.path()});
+        return pictureAt(picture);
+    };
+    const QImage usual = pictureWith("");
+    EXPECT_EQ(pictureWith("FolderSizes=true\n"), usual);
+    EXPECT_NE(pictureWith("FolderSizes=false\n"), usual);
 }
 
 TEST_F(PictureCommand, AnEmptyFolderGivesABlackPictureWithALineInItsMiddle)
@@ -173,7 +197,7 @@ TEST(Program, HelpGoesToStandardOutput)
 {
     const auto result = tessera({"--help"});
     EXPECT_EQ(result.exitStatus, 0);
-    EXPECT_THAT(result.standardOutput, StartsWith("Usage: tessera [FOLDER]\n"));
+    EXPECT_THAT(result.standardOutput, StartsWith("Usage: tessera [FOLDER | --home | --disk]\n"));
     EXPECT_EQ(result.standardError, "");
 }
 

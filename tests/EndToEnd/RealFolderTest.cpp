@@ -3,6 +3,7 @@
 #include "Layout/LevelRenderer.h"
 #include "Layout/MultiLayoutObject.h"
 #include "Model/Folder.h"
+#include "Model/NodeLookup.h"
 
 #include <ftw.h>
 #include <gmock/gmock.h>
@@ -11,7 +12,9 @@
 #include <cmath>
 #include <cstdint>
 #include <map>
+#include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tessera {
@@ -23,11 +26,23 @@ constexpr int kOpenFolders = 64;
 
 using Totals = std::map<std::string, std::uint64_t>;
 
-/// nftw(3) passes nothing on to its callback.
-Totals& collectedTotals()
+/// A file with several names, all of which may be met.
+struct LinkedFile {
+    std::uint64_t bytes = 0;
+    std::vector<std::string> names;
+};
+
+/// What another walk than ours finds. nftw(3) passes nothing on to its callback.
+struct Collected {
+    Totals totals;
+    std::map<std::pair<dev_t, ino_t>, LinkedFile> linkedFiles;
+    std::set<std::string> countedNames; ///< of files with several, those that have the size
+};
+
+Collected& collected()
 {
-    static Totals totals;
-    return totals;
+    static Collected all;
+    return all;
 }
 
 void addToFoldersAbove(const std::string& path, std::uint64_t bytes)
@@ -35,7 +50,7 @@ void addToFoldersAbove(const std::string& path, std::uint64_t bytes)
     const std::size_t rootLength = std::string(kRealFolder).size();
     std::size_t slash = path.rfind('/');
     while (slash != std::string::npos && slash >= rootLength) {
-        collectedTotals()[path.substr(0, slash)] += bytes;
+        collected().totals[path.substr(0, slash)] += bytes;
         slash = slash == 0 ? std::string::npos : path.rfind('/', slash - 1);
     }
 }
@@ -44,27 +59,62 @@ int addItem(const char* path, const struct stat* status, int kind, FTW* /*place*
 {
     const bool isFolder = kind == FTW_D || kind == FTW_DNR;
     if (isFolder) {
-        collectedTotals()[path] += 0;
+        collected().totals[path] += 0;
+        return 0;
+    }
+    const std::uint64_t bytes = static_cast<std::uint64_t>(status->st_blocks) * kBlockBytes;
+    if (status->st_nlink > 1) {
+        LinkedFile& file = collected().linkedFiles[{status->st_dev, status->st_ino}];
+        file.bytes = bytes;
+        file.names.emplace_back(path);
     } else {
-        addToFoldersAbove(path, static_cast<std::uint64_t>(status->st_blocks) * kBlockBytes);
+        addToFoldersAbove(path, bytes);
     }
     return 0;
-}
-
-/// What each folder holds, by another walk than ours: all but folders, on the same mount.
-const Totals& independentTotals()
-{
-    if (collectedTotals().empty()) {
-        // NOLINTNEXTLINE(concurrency-mt-unsafe): no other thread is running
-        ::nftw(kRealFolder, addItem, kOpenFolders, FTW_PHYS | FTW_MOUNT);
-    }
-    return collectedTotals();
 }
 
 const TopFolder& scannedFolder()
 {
     static const std::unique_ptr<TopFolder> kTree = test::scanFolder(kRealFolder);
     return *kTree;
+}
+
+/// The names of which the tree has sizes. Which of them it is to be nobody but the order of our own
+/// walk says.
+std::vector<std::string> countedNames(const LinkedFile& file)
+{
+    std::vector<std::string> counted;
+    for (const std::string& name : file.names) {
+        const File* const node = nodeAtPath(const_cast<TopFolder&>(scannedFolder()), name);
+        if (node != nullptr && node->totalAllocation() != 0) {
+            counted.push_back(name);
+        }
+    }
+    return counted;
+}
+
+/// Each file counts once.
+void addLinkedFiles()
+{
+    for (const auto& [identity, file] : collected().linkedFiles) {
+        const std::vector<std::string> counted = countedNames(file);
+        EXPECT_EQ(counted.size(), file.bytes == 0 ? 0U : 1U) << file.names.front();
+        for (const std::string& name : counted) {
+            addToFoldersAbove(name, file.bytes);
+            collected().countedNames.insert(name);
+        }
+    }
+}
+
+/// What each folder holds, by another walk than ours: all but folders, on the same mount.
+const Totals& independentTotals()
+{
+    if (collected().totals.empty()) {
+        // NOLINTNEXTLINE(concurrency-mt-unsafe): no other thread is running
+        ::nftw(kRealFolder, addItem, kOpenFolders, FTW_PHYS | FTW_MOUNT);
+        addLinkedFiles();
+    }
+    return collected().totals;
 }
 
 bool hasExpectedTotal(const Folder& folder)
@@ -98,7 +148,11 @@ std::uint64_t independentSize(const File& file)
 {
     if (!file.isFolder()) {
         struct stat status { };
-        EXPECT_EQ(::lstat(file.absolutePath().c_str(), &status), 0);
+        const std::string path = file.absolutePath();
+        EXPECT_EQ(::lstat(path.c_str(), &status), 0);
+        if (status.st_nlink > 1 && !collected().countedNames.contains(path)) {
+            return 0;
+        }
         return static_cast<std::uint64_t>(status.st_blocks) * kBlockBytes;
     }
     return independentTotals().at(file.absolutePath());

@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 
+#include <csignal>
 #include <string>
 #include <vector>
 
@@ -51,6 +52,13 @@ protected:
             : failure("the panel does not come in");
     }
 };
+
+TEST_F(ScanPanel, TheSystemEndsTheProgramInTheMiddleOfAScan)
+{
+    scanUpTo("Documents", "/drafts");
+    program->signal(SIGTERM);
+    EXPECT_EQ(program->waitForExit(), 0) << log();
+}
 
 TEST_F(ScanPanel, TakesItsPlaceAtTheBottomOfTheWindow)
 {

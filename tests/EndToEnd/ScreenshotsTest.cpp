@@ -189,6 +189,27 @@ TEST_P(Screenshots, Alert)
     EXPECT_TRUE(rejectDialog());
 }
 
+TEST_P(Screenshots, Basket)
+{
+    ASSERT_TRUE(scan("Pictures"));
+    desk().click(placeOf("Sea"));
+    desk().typeText("b");
+    see("Move All to Trash…", "push button");
+    take("basket", mainWindow().frame, toolbar());
+}
+
+TEST_P(Screenshots, MoveAll)
+{
+    ASSERT_TRUE(scan("Pictures"));
+    desk().click(placeOf("Sea"));
+    desk().typeText("b");
+    clickOn("Move All to Trash…", "push button");
+    ASSERT_TRUE(opens(XWindow::Kind::Dialog));
+    see("Cancel", "push button");
+    take("move-all", withWindow(XWindow::Kind::Dialog), cornerOf(XWindow::Kind::Dialog));
+    EXPECT_TRUE(rejectDialog());
+}
+
 TEST_P(Screenshots, Compress)
 {
     std::filesystem::resize_file(home("Downloads/movie"), kEndlessBytes);
@@ -197,6 +218,36 @@ TEST_P(Screenshots, Compress)
     ASSERT_TRUE(opens(XWindow::Kind::Dialog));
     see("Cancel", "push button");
     take("compress", withWindow(XWindow::Kind::Dialog), cornerOf(XWindow::Kind::Dialog));
+    EXPECT_TRUE(rejectDialog());
+}
+
+TEST_P(Screenshots, Compressed)
+{
+    ASSERT_TRUE(scan("Downloads"));
+    ASSERT_TRUE(pick("movie", MenuEntry::Compress));
+    see("Move Original to Trash", "push button");
+    take("compressed", withWindow(XWindow::Kind::Dialog), cornerOf(XWindow::Kind::Dialog));
+    EXPECT_TRUE(closeResult());
+}
+
+TEST_P(Screenshots, About)
+{
+    clickOn("Help", "menu item");
+    clickOn("About Tessera", "menu item");
+    ASSERT_TRUE(opens(XWindow::Kind::Dialog));
+    see("Close", "push button");
+    take("about", withWindow(XWindow::Kind::Dialog), cornerOf(XWindow::Kind::Dialog));
+    EXPECT_TRUE(rejectDialog());
+}
+
+TEST_P(Screenshots, OpenWith)
+{
+    ASSERT_TRUE(scan("Documents"));
+    desk().click(placeOf("report"));
+    desk().typeKeys({key::kControl, key::kShift, 'o'});
+    ASSERT_TRUE(opens(XWindow::Kind::Dialog));
+    see("Cancel", "push button");
+    take("open-with", withWindow(XWindow::Kind::Dialog), cornerOf(XWindow::Kind::Dialog));
     EXPECT_TRUE(rejectDialog());
 }
 

@@ -27,5 +27,31 @@ TEST_F(WholeProgram, WhatItMovedToTheTrashComesBackFromThere)
     EXPECT_TRUE(exists(home("Downloads/movie"))) << restored.standardError;
 }
 
+TEST_F(WholeProgram, AnArchivedOriginalGoesToTheTrashAndComesBackByUndo)
+{
+    ASSERT_TRUE(scan("Downloads"));
+    ASSERT_TRUE(pick("movie", MenuEntry::Compress));
+    clickOn("Move Original to Trash", "push button");
+    clickOn("Move To Trash", "push button");
+    ASSERT_TRUE(eventually([this] { return !exists(home("Downloads/movie")); }));
+    EXPECT_TRUE(exists(home("Downloads/movie.zip")));
+    EXPECT_TRUE(exists(session->folders().pathOf("data/Trash/files/movie")));
+    ASSERT_TRUE(becomesActive(XWindow::Kind::Main));
+    desk().typeKeys({key::kControl, 'z'});
+    EXPECT_TRUE(eventually([this] { return exists(home("Downloads/movie")); }));
+}
+
+TEST_F(WholeProgram, AnOriginalThatChangedSinceItWasArchivedStays)
+{
+    ASSERT_TRUE(scan("Downloads"));
+    ASSERT_TRUE(pick("fonts", MenuEntry::Compress));
+    see("Move Original to Trash", "push button");
+    session->folders().writeFile("home/Downloads/fonts/new", "words");
+    clickOn("Move Original to Trash", "push button");
+    see("The original may have changed while it was archived, or since. It stays.");
+    EXPECT_TRUE(exists(home("Downloads/fonts/serif")));
+    EXPECT_TRUE(rejectDialog());
+}
+
 } // namespace
 } // namespace tessera::test

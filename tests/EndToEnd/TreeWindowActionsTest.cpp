@@ -25,8 +25,7 @@ TEST_F(TreeWindow, ARescanFindsWhatCameSince)
 TEST_F(TreeWindow, CompressingPutsAnArchiveBesideTheItemAndIntoThePicture)
 {
     ASSERT_TRUE(pick("movie", MenuEntry::Compress));
-    ASSERT_TRUE(opens(XWindow::Kind::Dialog));
-    ASSERT_TRUE(closes(XWindow::Kind::Dialog));
+    ASSERT_TRUE(closeResult());
     ASSERT_TRUE(exists(tree.pathOf("movie.zip")));
     EXPECT_TRUE(shows({}, "movie"));
 }
@@ -34,8 +33,7 @@ TEST_F(TreeWindow, CompressingPutsAnArchiveBesideTheItemAndIntoThePicture)
 TEST_F(TreeWindow, TheArchiveHoldsTheItem)
 {
     ASSERT_TRUE(pick("movie", MenuEntry::Compress));
-    ASSERT_TRUE(opens(XWindow::Kind::Dialog));
-    ASSERT_TRUE(closes(XWindow::Kind::Dialog));
+    ASSERT_TRUE(closeResult());
     const ProgramResult listing
         = runProgram("python3", {"-m", "zipfile", "--list", tree.pathOf("movie.zip")});
     EXPECT_THAT(listing.standardOutput, testing::ContainsRegex("movie .* 600000\n"));
@@ -60,6 +58,23 @@ TEST_F(TreeWindow, WhatWasMovedToTheTrashIsInTheTrash)
         testing::HasSubstr("Path=" + tree.pathOf("docs") + '\n'));
 }
 
+TEST_F(TreeWindow, WhatWasMovedToTheTrashComesBackAndGoesAgain)
+{
+    ASSERT_TRUE(pick("docs", MenuEntry::MoveToTrash));
+    ASSERT_TRUE(acceptWarning());
+    ASSERT_TRUE(eventually([&] { return !exists(tree.pathOf("docs")); }));
+    ASSERT_TRUE(shows());
+
+    desk().typeKeys({key::kControl, 'z'});
+    ASSERT_TRUE(eventually([&] { return exists(tree.pathOf("docs/drafts/first")); }));
+    ASSERT_TRUE(shows());
+
+    desk().typeKeys({key::kControl, key::kShift, 'z'});
+    ASSERT_TRUE(eventually([&] { return !exists(tree.pathOf("docs")); }));
+    ASSERT_TRUE(shows());
+    EXPECT_TRUE(exists(program->dataFolder() + "/Trash/files/docs/drafts/first"));
+}
+
 TEST_F(TreeWindow, OneActionFollowsTheOther)
 {
     ASSERT_TRUE(hover("docs/report"));
@@ -74,8 +89,7 @@ TEST_F(TreeWindow, OneActionFollowsTheOther)
     ASSERT_TRUE(shows("docs"));
 
     ASSERT_TRUE(pick("docs/drafts/third", MenuEntry::Compress));
-    ASSERT_TRUE(opens(XWindow::Kind::Dialog));
-    ASSERT_TRUE(closes(XWindow::Kind::Dialog));
+    ASSERT_TRUE(closeResult());
     ASSERT_TRUE(exists(tree.pathOf("docs/drafts/third.zip")));
     ASSERT_TRUE(shows("docs", "docs/drafts/third"));
 

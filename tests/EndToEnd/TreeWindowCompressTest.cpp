@@ -111,6 +111,15 @@ TEST_F(EndlessCompression, TheEndOfItsTerminalLeavesNothingBesideTheItem)
     expectAnOrderlyEndBy(SIGHUP);
 }
 
+TEST_F(EndlessCompression, TerminatingTheProgramWhileItAsksLeavesNothingBesideTheItem)
+{
+    const XWindow compressing = *program->window(XWindow::Kind::Dialog);
+    desk().requestClose(mainWindow());
+    ASSERT_TRUE(
+        eventually([&] { return program->window(XWindow::Kind::Dialog)->id != compressing.id; }));
+    expectAnOrderlyEndBy(SIGTERM);
+}
+
 TEST_F(EndlessCompression, GoesOnInTheBackgroundWhenTheUserClosesTheMainWindow)
 {
     const XWindow compressing = *program->window(XWindow::Kind::Dialog);

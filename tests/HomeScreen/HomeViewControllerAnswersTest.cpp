@@ -3,6 +3,8 @@
 #include "Widgets/Bar.h"
 #include "Widgets/PassiveLabel.h"
 
+#include <QPushButton>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -20,7 +22,7 @@ public:
         if (path == "/") {
             m_released.wait();
         }
-        return FileSystemSizes{1000, 250};
+        return FileSystemSizes{1000, 250, 250};
     }
 
     void release() { m_release.set_value(); }
@@ -36,7 +38,7 @@ TEST_F(HomeViewControllerAnswersTest, AVolumeShowsHowFullItIs)
 {
     show();
     EXPECT_FLOAT_EQ(static_cast<float>(firstVolume().spaceBar().percentFilled()), 0.75F);
-    EXPECT_EQ(firstVolume().spaceLabel().text(), QStringLiteral("Free Space: 250 B"));
+    EXPECT_EQ(firstVolume().spaceLabel().text(), QStringLiteral("Free for you: 250 B"));
 }
 
 TEST_F(HomeViewControllerAnswersTest, AVolumeThatCannotSayHasAnEmptyBar)
@@ -44,7 +46,7 @@ TEST_F(HomeViewControllerAnswersTest, AVolumeThatCannotSayHasAnEmptyBar)
     attributes = std::make_shared<test::FixedFileSystem>(std::nullopt);
     show();
     EXPECT_EQ(firstVolume().spaceBar().percentFilled(), 0);
-    EXPECT_EQ(firstVolume().spaceLabel().text(), QStringLiteral("Free Space: 0 B"));
+    EXPECT_EQ(firstVolume().spaceLabel().text(), QStringLiteral("Free for you: 0 B"));
 }
 
 TEST_F(HomeViewControllerAnswersTest, ADeadVolumeDelaysNothingAndFillsInWhenItAnswers)
@@ -56,7 +58,35 @@ TEST_F(HomeViewControllerAnswersTest, ADeadVolumeDelaysNothingAndFillsInWhenItAn
     EXPECT_EQ(firstVolume().spaceLabel().text(), QString());
     slow->release();
     ASSERT_TRUE(QTest::qWaitFor([this] { return firstVolume().spaceBar().percentFilled() > 0; }));
-    EXPECT_EQ(firstVolume().spaceLabel().text(), QStringLiteral("Free Space: 250 B"));
+    EXPECT_EQ(firstVolume().spaceLabel().text(), QStringLiteral("Free for you: 250 B"));
+}
+
+TEST_F(HomeViewControllerAnswersTest, AReloadAsksForSizesAndLocationsAgain)
+{
+    const auto fileSystem
+        = std::make_shared<test::FixedFileSystem>(FileSystemSizes{1000, 250, 250});
+    attributes = fileSystem;
+    resourceValues->directories = {"/home/eve"};
+    show();
+    ASSERT_THAT(locationPaths(), ElementsAre("/home/eve"));
+    fileSystem->setSizes(FileSystemSizes{1000, 500, 500});
+    resourceValues->directories = {"/home/eve", "/home/eve/Music"};
+    home->reload();
+    EXPECT_EQ(firstVolume().spaceLabel().text(), QStringLiteral("Free for you: 500 B"));
+    waitForLocations(2);
+    resourceValues->directories = {"/home/eve/Music"};
+    home->reload();
+    waitForLocations(1);
+    EXPECT_THAT(locationPaths(), ElementsAre("/home/eve/Music"));
+}
+
+TEST_F(HomeViewControllerAnswersTest, AReloadKeepsWhatIsSelected)
+{
+    show();
+    click(1);
+    home->reload();
+    EXPECT_TRUE(firstVolume().selected());
+    EXPECT_TRUE(home->scanButton().isEnabled());
 }
 
 TEST_F(HomeViewControllerAnswersTest, AnAnswerThatComesWhenTheScreenIsGoneIsDropped)

@@ -137,7 +137,7 @@ protected:
     FakeUserAccount account;
     std::string homeDirectory = "/home/me"; ///< over no link
     std::shared_ptr<const FileSystemAttributes> attributes
-        = std::make_shared<FixedFileSystem>(FileSystemSizes{1000, 250});
+        = std::make_shared<FixedFileSystem>(FileSystemSizes{1000, 250, 250});
     std::shared_ptr<FakeResourceValues> resourceValues = std::make_shared<FakeResourceValues>();
     bool isRunningAsRoot = false;
     std::unique_ptr<RootModel> model;

@@ -214,7 +214,7 @@ TEST_F(HomeViewControllerTest, TheScreenIsLaidOutInFixedMeasures)
     EXPECT_EQ(home->openButton().size(), QSize(290, 60));
     EXPECT_EQ(table().visualRect(table().model()->index(0, 0)).height(), 48);
     EXPECT_EQ(item(1).height(), 72);
-    EXPECT_EQ(item(4).height(), 104);
+    EXPECT_EQ(item(4).height(), 120);
 }
 
 } // namespace

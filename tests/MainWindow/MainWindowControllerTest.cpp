@@ -387,6 +387,15 @@ TEST_F(MainWindowControllerTest, ShortcutsOfTheWindowReachTheirCommands)
     EXPECT_EQ(services.openPanel.shown, 1);
 }
 
+TEST_F(MainWindowControllerTest, TheHistoryIsAskedForOnAnyScreen)
+{
+    const QSignalSpy asked(controller.get(), &MainWindowController::historyRequested);
+    controller->showWindow();
+    ASSERT_TRUE(test::becomesActive(controller->window()));
+    QTest::keyClick(&controller->window(), Qt::Key_H, Qt::ControlModifier);
+    EXPECT_EQ(asked.size(), 1);
+}
+
 TEST_F(MainWindowControllerTest, PreferencesAndHelpAreAskedForByTheirEntries)
 {
     const QSignalSpy preferences(controller.get(), &MainWindowController::preferencesRequested);
@@ -408,6 +417,15 @@ TEST_F(MainWindowControllerTest, QuitClosesTheWindow)
     controller->perform(Command::Quit);
     EXPECT_EQ(closed.size(), 1);
     EXPECT_FALSE(controller->window().isVisible());
+}
+
+TEST_F(MainWindowControllerTest, SizesComeIntoThePictureOnceTheUserWantsThem)
+{
+    showTree();
+    const QImage before = map().picture();
+    services.treeScreen.defaults.setBoolean(kFolderSizesKey, true);
+    services.rootModel.defaults.setBoolean(kFolderSizesKey, true);
+    EXPECT_NE(map().picture(), before);
 }
 
 TEST_F(MainWindowControllerTest, FullScreenIsSwitchedOnAndOff)

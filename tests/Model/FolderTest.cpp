@@ -53,6 +53,25 @@ TEST(Folder, AddChildRaisesOnlyThisFoldersTotal)
     EXPECT_EQ(outer->totalAllocation(), 500U);
 }
 
+TEST(Folder, KnowsWhatTheDirectoryItselfTakes)
+{
+    auto folder = makeNode<Folder>("f");
+    EXPECT_EQ(folder->ownAllocation(), 0U);
+    folder->setOwnAllocation(12288);
+    EXPECT_EQ(folder->ownAllocation(), 12288U);
+    EXPECT_EQ(folder->totalAllocation(), 0U);
+    EXPECT_EQ(folder->fragment(), "f");
+}
+
+TEST(Folder, ADirectoryThatTakesMoreThanAnyDoesHasTheMostThatIsKept)
+{
+    auto folder = makeNode<Folder>("f");
+    folder->setOwnAllocation(2'199'023'255'040); // (2^32 - 1) x 512
+    EXPECT_EQ(folder->ownAllocation(), 2'199'023'255'040U);
+    folder->setOwnAllocation(2'199'023'255'552);
+    EXPECT_EQ(folder->ownAllocation(), 2'199'023'255'040U);
+}
+
 constexpr std::uint64_t kLargest = 0x7FFF'FFFF'FFFF'FFFF; // 2^63 - 1 bytes
 
 TEST(Folder, ATotalThatIsTooLargeStopsAtTheLargestSize)

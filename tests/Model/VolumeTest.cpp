@@ -106,6 +106,20 @@ TEST(Volume, WhatWasUnaccountedForIsNotFoundByALaterRefresh)
         "Scan report { Found Size: 550 }\n");
 }
 
+TEST(Volume, KnowsTheSizesOfAnotherDiskByTheNumberThatWasReadFirst)
+{
+    const auto volume = volumeHolding(550);
+    FileSystemSizes sizes{.totalBytes = 1000, .freeBytes = 300};
+    volume->refreshVolume(sizes);
+    sizes.device = 8;
+    EXPECT_TRUE(volume->mayBeSizesOfIt(sizes));
+    volume->refreshVolume(sizes);
+    sizes.device = 9;
+    EXPECT_FALSE(volume->mayBeSizesOfIt(sizes));
+    sizes.device = 0;
+    EXPECT_TRUE(volume->mayBeSizesOfIt(sizes));
+}
+
 TEST(Volume, IgnoredChildrenAndABackupStoreCountAsFound)
 {
     const auto volume = volumeHolding(400);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Packaging/BuiltPrograms.h"
 #include "support/Machine/FileContent.h"
 
 #include <elf.h>
@@ -8,7 +9,6 @@
 #include <algorithm>
 #include <cstring>
 #include <optional>
-#include <sstream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -130,16 +130,6 @@ private:
     std::vector<ElfW(Shdr)> m_sections;
 };
 
-std::vector<std::string> programs()
-{
-    std::istringstream paths(TESSERA_PROGRAMS);
-    std::vector<std::string> programs;
-    for (std::string path; std::getline(paths, path, ':');) {
-        programs.push_back(path);
-    }
-    return programs;
-}
-
 class Hardening : public testing::TestWithParam<std::string> {
 protected:
     ElfFile program{GetParam()};
@@ -192,7 +182,7 @@ TEST_P(Hardening, FunctionsAreMarkedAsTargetsOfJumps)
 /// Not every program has a function that puts more than a page onto the stack.
 TEST(HardeningOfAll, LargeStackFramesAreTouchedPageByPage)
 {
-    const std::vector<std::string> all = programs();
+    const std::vector<std::string> all = test::builtPrograms();
     EXPECT_TRUE(std::ranges::any_of(all, [](const std::string& path) {
         const ElfFile program(path);
         // GCC's and Clang's way of touching the top of the stack.
@@ -205,7 +195,7 @@ TEST(HardeningOfAll, LargeStackFramesAreTouchedPageByPage)
 INSTANTIATE_TEST_SUITE_P(
     Programs,
     Hardening,
-    testing::ValuesIn(programs()),
+    testing::ValuesIn(test::builtPrograms()),
     [](const testing::TestParamInfo<std::string>& program) {
         std::string name = program.param.substr(program.param.rfind('/') + 1);
         std::ranges::replace(name, '-', '_');

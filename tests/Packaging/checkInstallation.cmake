@@ -24,13 +24,34 @@ endif()
 set(expected
     bin/tessera
     bin/tessera-ditto
-    bin/tessera-preview
+    libexec/tessera/tessera-preview
+    share/Thunar/sendto/tessera-sendto.desktop
     share/applications/tessera.desktop
+    share/caja-python/extensions/tessera-caja.py
     share/doc/tessera/LICENSE
-    share/doc/tessera/help/faq.html
-    share/doc/tessera/help/features.html
-    share/doc/tessera/help/help.css
-    share/icons/hicolor/scalable/apps/tessera.svg)
+    share/file-manager/actions/tessera-action.desktop
+    share/icons/hicolor/scalable/apps/tessera.svg
+    share/kio/servicemenus/tessera-servicemenu.desktop
+    share/nautilus-python/extensions/tessera-nautilus.py
+    share/nemo/actions/tessera.nemo_action
+    share/tessera/help/faq.html
+    share/tessera/help/features.html
+    share/tessera/help/help.css)
+list(
+    APPEND
+    expected
+    share/bash-completion/completions/tessera
+    share/bash-completion/completions/tessera-ditto
+    share/fish/vendor_completions.d/tessera-ditto.fish
+    share/fish/vendor_completions.d/tessera.fish
+    share/icons/hicolor/symbolic/apps/tessera-symbolic.svg
+    share/man/man1/tessera-ditto.1
+    share/man/man1/tessera.1
+    share/metainfo/org.example.tessera.metainfo.xml
+    share/zsh/site-functions/_tessera)
+foreach(size 16 22 24 32 48 64 128 256 512)
+    list(APPEND expected "share/icons/hicolor/${size}x${size}/apps/tessera.png")
+endforeach()
 file(GLOB_RECURSE installed RELATIVE "${PREFIX}" "${PREFIX}/*")
 list(SORT expected)
 list(SORT installed)
@@ -39,11 +60,11 @@ if(NOT installed STREQUAL expected)
 endif()
 
 foreach(page features faq)
-    file(READ "${PREFIX}/share/doc/tessera/help/${page}.html" text)
+    file(READ "${PREFIX}/share/tessera/help/${page}.html" text)
     string(REGEX MATCHALL "(href|src)=\"[^\"]*\"" links "${text}")
     foreach(link IN LISTS links)
         string(REGEX REPLACE "^[a-z]+=\"([^\"]*)\"$" "\\1" target "${link}")
-        if(NOT EXISTS "${PREFIX}/share/doc/tessera/help/${target}")
+        if(NOT EXISTS "${PREFIX}/share/tessera/help/${target}")
             message(FATAL_ERROR "${page}.html leads to ${target}, which is not there")
         endif()
     endforeach()
@@ -70,7 +91,7 @@ endif()
 # and one for the end. The previewer writes to no file, hence the pipe.
 file(WRITE "${PREFIX}/picture" "P1 2 2 0 1 1 0\n")
 execute_process(
-    COMMAND "${PREFIX}/bin/tessera-preview" picture 100 100
+    COMMAND "${PREFIX}/libexec/tessera/tessera-preview" picture 100 100
     COMMAND cat
     INPUT_FILE "${PREFIX}/picture"
     OUTPUT_FILE "${PREFIX}/answer" COMMAND_ERROR_IS_FATAL ANY)
@@ -79,13 +100,13 @@ if(NOT answer_bytes EQUAL 64)
     message(FATAL_ERROR "The installed previewer answers by ${answer_bytes} bytes")
 endif()
 
-# What decodes strangers' documents is no part of the program itself.
+# What decodes strangers' documents is no part of the program itself, nor is what speaks to others.
 file(
     GET_RUNTIME_DEPENDENCIES
     EXECUTABLES "${PREFIX}/bin/tessera"
     RESOLVED_DEPENDENCIES_VAR libraries
     UNRESOLVED_DEPENDENCIES_VAR missing)
-if(NOT libraries MATCHES "Qt6Gui" OR libraries MATCHES "Qt6Pdf")
+if(NOT libraries MATCHES "Qt6Gui" OR libraries MATCHES "Qt6Pdf|Qt6Network|libcurl|libsoup")
     message(FATAL_ERROR "The installed program uses ${libraries}")
 endif()
 file(REMOVE_RECURSE "${PREFIX}")

@@ -33,6 +33,7 @@ protected:
 
     QCheckBox& hiddenBox() const { return outlet<QCheckBox>("warnHiddenDelete"); }
     QCheckBox& systemBox() const { return outlet<QCheckBox>("warnSystemDelete"); }
+    QCheckBox& sizesBox() const { return outlet<QCheckBox>("folderSizes"); }
     QComboBox& tooltipButton() const { return outlet<QComboBox>("tooltipButton"); }
 
     test::FakeUserDefaults defaults;
@@ -43,6 +44,7 @@ TEST_F(PreferencesWindowControllerTest, ShowsWhatIsRegisteredWhileNothingIsStore
 {
     EXPECT_TRUE(hiddenBox().isChecked());
     EXPECT_TRUE(systemBox().isChecked());
+    EXPECT_TRUE(sizesBox().isChecked());
     EXPECT_EQ(tooltipButton().currentIndex(), 2);
     EXPECT_EQ(tooltipButton().count(), 3);
     EXPECT_TRUE(defaults.texts.empty());
@@ -60,6 +62,16 @@ TEST_F(PreferencesWindowControllerTest, TheOtherWarningHasAKeyOfItsOwn)
     systemBox().setChecked(false);
     EXPECT_FALSE(defaults.boolean(kWarnDeleteSystemKey));
     EXPECT_TRUE(defaults.boolean(kWarnDeleteHiddenKey));
+}
+
+TEST_F(PreferencesWindowControllerTest, SizesInThePictureAreStoredAtOnce)
+{
+    QTest::keyClick(&sizesBox(), Qt::Key_Space);
+    EXPECT_FALSE(defaults.boolean(kFolderSizesKey));
+    EXPECT_TRUE(defaults.boolean(kWarnDeleteHiddenKey));
+    EXPECT_TRUE(defaults.boolean(kWarnDeleteSystemKey));
+    defaults.setBoolean(kFolderSizesKey, true);
+    EXPECT_TRUE(sizesBox().isChecked());
 }
 
 TEST_F(PreferencesWindowControllerTest, TheTooltipIsStoredByTheNumberOfTheEntry)

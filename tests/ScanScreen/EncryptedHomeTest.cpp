@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "Ledger/FoundSpace.h"
+#include "Ledger/UnseenFolders.h"
 #include "Model/NodeLookup.h"
 #include "ScanningViewControllerFixture.h"
 #include "support/MakeTree.h"
@@ -75,6 +77,37 @@ TEST_F(EncryptedHomeTest, WhatTheSecondPassFoundStandsInTheHomesPlace)
     EXPECT_EQ(home.type(), NodeType::Folder);
     EXPECT_NE(nodeAtPath(top, "/Users/me/other/c"), nullptr);
     EXPECT_EQ(nodeAtPath(top, "/Users/other/c")->totalAllocation(), 200U);
+}
+
+TEST_F(EncryptedHomeTest, WhatIsInTheHomeTakesNothingOfTheDiskAroundIt)
+{
+    userHome = "/Users/me";
+    makeScanner("me/ ( a:300 b:100 ) other/ ( c:200 )");
+    system->scanResourceValues.volumes.insert("/Users/me");
+    system->files.setOwnAllocation("", 4096);
+    controller->startScanning(Url("/Users", true));
+    runToEnd();
+    const TopFolder& top = *model.topFolder();
+    EXPECT_EQ(top.totalAllocation(), 800U);
+    EXPECT_EQ(foundSpace(top), (FoundSpace{200, 4096}));
+}
+
+TEST_F(EncryptedHomeTest, WhatTheSecondPassCouldNotReadIsToldWithTheRest)
+{
+    userHome = "/Users/me";
+    makeScanner("me/ ( a:300 ) other/ ( c:200 )");
+    system->scanResourceValues.volumes.insert("/Users/me");
+    system->files.makeUnreadable("other");
+    controller->startScanning(Url("/Users", true));
+    runToEnd();
+    const auto& unreadable = model.topFolder()->findings().unreadable();
+    ASSERT_EQ(unreadable.size(), 2U);
+    EXPECT_EQ(unreadable[0].path, "/Users/other");
+    EXPECT_EQ(unreadable[1].path, "/Users/me/other");
+    const UnseenFolders unseen = unseenFolders(*model.topFolder());
+    EXPECT_EQ(unseen.unreadableCount, 1U) << "the home is not of the disk around it";
+    ASSERT_EQ(unseen.unreadable.size(), 1U);
+    EXPECT_EQ(unseen.unreadable[0].path, "/Users/other");
 }
 
 TEST_F(EncryptedHomeTest, TheUsersOwnHomeIsAFolderOfWhatWasFoundInIt)

@@ -3,9 +3,11 @@
 
 #include "Base/DisplayText.h"
 #include "Model/RootModel.h"
+#include "Notices/EndNotices.h"
 #include "ScanScreen/PathLabel.h"
 #include "ScanScreen/ScanningViewController.h"
 #include "support/Fakes/FakeDockTile.h"
+#include "support/Fakes/FakeNotifications.h"
 #include "support/Fakes/FakeRootModelServices.h"
 #include "support/Fakes/FakeTreeViewServices.h"
 
@@ -66,10 +68,12 @@ protected:
                 .dockTile = tile,
                 .alert = system->alert,
                 .look = redPlace,
-                .checkFolder = [this](const std::string& path) {
-                    checked.push_back(path);
-                    return problem;
-                }});
+                .checkFolder =
+                    [this](const std::string& path) {
+                        checked.push_back(path);
+                        return problem;
+                    },
+                .notices = &notices});
         QObject::connect(controller.get(), &ScanningViewController::scanComplete, [this] {
             posted.emplace_back("complete");
         });
@@ -131,6 +135,8 @@ protected:
     std::string text(const char* name) const { return outlet<QLabel>(name)->text().toStdString(); }
 
     FakeDockTile tile;
+    FakeNotifications notifications;
+    EndNotices notices{notifications, [this] { return system->scanClock.load(); }};
     FakeRootModelServices modelServices;
     RootModel model{modelServices.get()};
     std::unique_ptr<FakeTreeViewServices> system;

@@ -90,6 +90,7 @@ TEST_F(ScannerPlacesTest, ABackupStoreAtTheTopOfAVolumeIsNotWalked)
     EXPECT_TRUE(static_cast<Folder&>(test::at(root, "Backups.backupdb")).children().empty());
     EXPECT_EQ(test::at(root, "Time Machine").totalAllocation(), 500U);
     EXPECT_EQ(test::at(root, "Time Machine").type(), NodeType::TimeMachine);
+    EXPECT_EQ(root.findings().leftOut().size(), 1U);
 }
 
 TEST_F(ScannerPlacesTest, OfAVolumeWhoseLinksAddUpToMoreThanIsInUseTheBackupsAreEmpty)
@@ -114,6 +115,7 @@ TEST_F(ScannerPlacesTest, ABackupStoreInAFolderIsWalkedLikeAnyFolder)
     EXPECT_EQ(test::at(root, "Backups.backupdb").totalAllocation(), 50U);
     EXPECT_EQ(root.children().size(), 2U);
     EXPECT_EQ(root.totalAllocation(), 250U);
+    EXPECT_EQ(root.findings().leftOut().size(), 0U);
 }
 
 TEST_F(ScannerPlacesTest, AFileWithTheNameOfABackupStoreIsNone)
@@ -137,6 +139,44 @@ TEST_F(ScannerPlacesTest, AHiddenFolderNamedAfterTheUserIsNotWalkedInTheUpperTwo
     EXPECT_TRUE(static_cast<Folder&>(test::at(root, ".me")).children().empty());
     EXPECT_TRUE(static_cast<Folder&>(test::at(root, "f/.me")).children().empty());
     EXPECT_EQ(test::at(root, "f/g/.me/c").totalAllocation(), 4U);
+    EXPECT_THAT(
+        root.findings().leftOut(), ElementsAre(&test::at(root, ".me"), &test::at(root, "f/.me")));
+    EXPECT_EQ(root.findings().leftOut().size(), 2U);
+}
+
+TEST_F(ScannerPlacesTest, AFolderThatIsLeftOutIsNeitherEnteredNorUnreadable)
+{
+    Scanner& scanner = scannerOf(".me/ ( a:1 ) b:2");
+    files->makeUnreadable(".me");
+    files->setOwnAllocation(".me", 4096);
+    scanner.scan(Url("/data", true));
+    mainThread.runUntil([this] { return delegate.hasEnded(); });
+    EXPECT_EQ(delegate.tree->findings().unreadableCount(), 0U);
+    EXPECT_EQ(delegate.tree->findings().leftOut().size(), 1U);
+    EXPECT_EQ(static_cast<Folder&>(test::at(*delegate.tree, ".me")).ownAllocation(), 0U);
+}
+
+TEST_F(ScannerPlacesTest, AHiddenFileNamedAfterTheUserIsNotLeftOut)
+{
+    TopFolder& root = scanToEnd(".me:7");
+    EXPECT_EQ(root.findings().leftOut().size(), 0U);
+    EXPECT_EQ(root.totalAllocation(), 7U);
+}
+
+TEST_F(ScannerPlacesTest, AHomeThatIsMountedInTheTreeIsKnownAsSuch)
+{
+    resourceValues.mountPoints = {"/data/me"};
+    Scanner& scanner = scannerOf("a:600");
+    scanner.scan(Url("/data/me", true), ScanPurpose::PartOfTree);
+    mainThread.runUntil([this] { return delegate.hasEnded(); });
+    EXPECT_EQ(delegate.tree->totalAllocation(), 600U);
+    EXPECT_TRUE(delegate.tree->findings().isMounted(*delegate.tree));
+}
+
+TEST_F(ScannerPlacesTest, AMountThatATreeBeginsAtIsNotInATree)
+{
+    resourceValues.mountPoints = {"/data/me"};
+    EXPECT_FALSE(scanToEnd("a:600", "/data/me").findings().isMounted(*delegate.tree));
 }
 
 TEST_F(ScannerPlacesTest, FileVaultsHoldsOnlyVolumesNamedAfterTheUserInTheUpperTwoLevels)

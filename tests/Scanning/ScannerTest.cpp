@@ -6,10 +6,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cerrno>
+
 namespace tessera {
 namespace {
 
 using testing::Each;
+using testing::ElementsAre;
 
 class ScannerTest : public test::ScannerFixture { };
 
@@ -29,6 +32,14 @@ TEST_F(ScannerTest, TheRootTakesThePathAsOriginAndItsLastComponentAsName)
     TopFolder& root = scanToEnd("a:1", "/srv/some data");
     EXPECT_EQ(root.origin(), "/srv/some data");
     EXPECT_EQ(root.fragment(), "some data");
+}
+
+TEST_F(ScannerTest, TheRootKnowsWhenItsScanBegan)
+{
+    const FileTime before = timeBeforeChanges();
+    const TopFolder& root = scanToEnd("a:1");
+    EXPECT_FALSE(root.scanBegan() < before);
+    EXPECT_FALSE(timeBeforeChanges() < root.scanBegan());
 }
 
 TEST_F(ScannerTest, TheRootKnowsWhereTheLinksOfItsPathLed)
@@ -80,6 +91,50 @@ TEST_F(ScannerTest, AnUnreadableFolderBecomesAnEmptyOne)
     EXPECT_TRUE(static_cast<Folder&>(test::at(*delegate.tree, "secret")).children().empty());
 }
 
+TEST_F(ScannerTest, AnUnreadableFolderIsToldWithItsPathAndTheReason)
+{
+    Scanner& scanner = scannerOf("open/ ( a:1 ) f/ ( secret/ ( a:700 ) ) last/ ( )");
+    files->makeUnreadable("f/secret");
+    files->makeUnreadable("last");
+    scanner.scan(Url("/data", true));
+    mainThread.runUntil([this] { return delegate.hasEnded(); });
+    const std::error_code denied(EACCES, std::system_category());
+    EXPECT_THAT(
+        delegate.tree->findings().unreadable(),
+        ElementsAre(
+            UnreadableFolder{"/data/f/secret", denied}, UnreadableFolder{"/data/last", denied}));
+    EXPECT_EQ(
+        delegate.tree->findings().unreadable().at(0).node, &test::at(*delegate.tree, "f/secret"));
+}
+
+TEST_F(ScannerTest, TheRootMayBeUnreadable)
+{
+    Scanner& scanner = scannerOf("a:1");
+    files->makeUnreadable("");
+    scanner.scan(Url("/data", true));
+    mainThread.runUntil([this] { return delegate.hasEnded(); });
+    ASSERT_EQ(delegate.tree->findings().unreadable().size(), 1U);
+    EXPECT_EQ(delegate.tree->findings().unreadable().at(0).path, "/data");
+    EXPECT_EQ(delegate.tree->findings().unreadable().at(0).node, delegate.tree.get());
+}
+
+TEST_F(ScannerTest, EachFolderKnowsItsOwnBlocks)
+{
+    Scanner& scanner = scannerOf("docs/ ( a:700 empty/ ( ) ) c:50 last/ ( )");
+    files->setOwnAllocation("", 4096);
+    files->setOwnAllocation("docs", 8192);
+    files->setOwnAllocation("docs/empty", 512);
+    files->setOwnAllocation("last", 1024);
+    scanner.scan(Url("/data", true));
+    mainThread.runUntil([this] { return delegate.hasEnded(); });
+    TopFolder& root = *delegate.tree;
+    EXPECT_EQ(root.ownAllocation(), 4096U);
+    EXPECT_EQ(static_cast<Folder&>(test::at(root, "docs")).ownAllocation(), 8192U);
+    EXPECT_EQ(static_cast<Folder&>(test::at(root, "docs/empty")).ownAllocation(), 512U);
+    EXPECT_EQ(static_cast<Folder&>(test::at(root, "last")).ownAllocation(), 1024U);
+    EXPECT_EQ(root.totalAllocation(), 750U) << "what is in them is all that a total has";
+}
+
 TEST_F(ScannerTest, LogsTheEndWithItsFigures)
 {
     testing::internal::CaptureStderr();
@@ -116,6 +171,17 @@ TEST_F(ScannerTest, SizesThatNoDiskHasDoNotWrapRound)
     EXPECT_EQ(test::at(root, "f").totalAllocation(), 9223372036854775807U);
     EXPECT_EQ(root.totalAllocation(), 9223372036854775807U);
     EXPECT_EQ(root.children()[0]->name(), "f");
+}
+
+TEST_F(ScannerTest, AFileOfSeveralNamesCountsOnce)
+{
+    testing::internal::CaptureStderr();
+    TopFolder& root = scanToEnd("a/ ( x:500#3/2 ) b/ ( y:500#3/2 ) c:1");
+    workers->waitForNone();
+    EXPECT_EQ(root.totalAllocation(), 501U);
+    EXPECT_EQ(test::at(root, "b/y").totalAllocation(), 0U);
+    EXPECT_NE(
+        testing::internal::GetCapturedStderr().find("allocation size: 501}"), std::string::npos);
 }
 
 TEST_F(ScannerTest, AChainOfAThousandFoldersIsBuilt)

@@ -103,7 +103,7 @@ class Setup(unittest.TestCase):
 
     def test_asks_for_nothing_when_nothing_is_missing(self):
         self.add_program("dpkg-query", "#!/bin/sh\nprintf installed\n")
-        done = self.setup("run", "test", "lint", "bench")
+        done = self.setup("run", "test", "lint", "bench", "package")
         self.assertEqual((done.returncode, done.stderr), (0, ""))
         self.assertFalse(self.calls.exists())
 

@@ -102,7 +102,8 @@ void setEnvironment(const Sandbox& sandbox)
     // NOLINTBEGIN(concurrency-mt-unsafe): there is no other thread
     ::setenv("HOME", sandbox.home().c_str(), 1);
     ::setenv("XDG_RUNTIME_DIR", (sandbox.path() + "/run").c_str(), 1);
-    for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"}) {
+    for (const char* name :
+         {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME"}) {
         ::unsetenv(name);
     }
     // NOLINTEND(concurrency-mt-unsafe)

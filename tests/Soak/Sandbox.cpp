@@ -30,6 +30,7 @@ public:
         return m_items->next(item);
     }
     void skipDescendants() override { m_items->skipDescendants(); }
+    const EnteredDirectory* entered() const override { return m_items->entered(); }
 
 private:
     static constexpr int kItemsPerMillisecond = 10;
@@ -78,10 +79,23 @@ public:
         m_workspace->reveal(item, std::move(completionHandler));
     }
 
-    void recycleURLs(std::vector<Url> urls, RecycleCompletion completionHandler) override
+    void recycleURLs(std::vector<ItemToRecycle> items, RecycleCompletion completionHandler) override
     {
-        const auto finish = begin(std::move(completionHandler));
-        m_workspace->recycleURLs(confined(std::move(urls)), finish);
+        std::vector<Url> urls;
+        urls.reserve(items.size());
+        for (ItemToRecycle& item : items) {
+            urls.push_back(std::move(item.url));
+        }
+        urls = confined(std::move(urls));
+        m_workspace->recycleURLs({urls.begin(), urls.end()}, begin(std::move(completionHandler)));
+    }
+
+    void putBack(PutBackRequest request, PutBackCompletion completionHandler) override
+    {
+        if (!m_sandbox.holds(request.item.from.path())) {
+            request.item.identity = {}; // of no item
+        }
+        m_workspace->putBack(std::move(request), std::move(completionHandler));
     }
 
     void recycleFile(
@@ -185,9 +199,51 @@ public:
 
     std::optional<PasswordEntry> realUser() const override { return PasswordEntry{"soak", m_home}; }
     std::string homeDirectory() const override { return m_home; }
+    std::uint32_t userNumber() const override { return 0; }
 
 private:
     const std::string m_home;
+};
+
+/// Starts nothing of what is installed here.
+class NoPrograms final : public OtherPrograms {
+public:
+    explicit NoPrograms(MainThread& mainThread)
+        : m_mainThread(mainThread)
+    {
+    }
+
+    void open(const Url& /*item*/, Completion completion) override
+    {
+        refuse(std::move(completion));
+    }
+    void findPrograms(const Url& /*item*/, ProgramsCompletion completion) override
+    {
+        m_mainThread.perform([completion = std::move(completion)] {
+            completion(HandOver::Done, {{"soak", "Soak"}});
+        });
+    }
+    void openWith(const Url& /*item*/, const std::string& /*id*/, Completion completion) override
+    {
+        refuse(std::move(completion));
+    }
+    void openTerminal(const Url& /*folder*/, Completion completion) override
+    {
+        refuse(std::move(completion));
+    }
+    void showProperties(const Url& /*item*/, Completion completion) override
+    {
+        refuse(std::move(completion));
+    }
+
+private:
+    void refuse(Completion completion)
+    {
+        m_mainThread.perform(
+            [completion = std::move(completion)] { completion(HandOver::NoProgram); });
+    }
+
+    MainThread& m_mainThread;
 };
 
 } // namespace
@@ -202,6 +258,7 @@ void confine(PlatformServices& services, const Sandbox& sandbox, OpenWork& work)
     services.fileManager = std::make_unique<SlowFileManager>(std::move(services.fileManager));
     services.workspace
         = std::make_unique<ConfinedWorkspace>(std::move(services.workspace), sandbox, work);
+    services.otherPrograms = std::make_unique<NoPrograms>(*services.mainThread);
     services.makeTask = [makeTask = services.makeTask, sandbox, &work] {
         return std::make_unique<ConfinedTask>(makeTask(), sandbox, work);
     };

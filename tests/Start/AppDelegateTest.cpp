@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "Start/AppDelegate.h"
 
+#include "About/AboutWindow.h"
 #include "Desktop/UserAccount.h"
+#include "HistoryWindow/HistoryWindowController.h"
 #include "MainWindow/MainWindowController.h"
 #include "Preferences/PreferencesWindowController.h"
 #include "support/Fakes/FakeMainWindowServices.h"
+#include "support/Fakes/FakeTrashHistory.h"
 #include "support/MakeTree.h"
 
 #include <QApplication>
@@ -32,6 +35,7 @@ public:
         return PasswordEntry{name, "/me"};
     }
     [[nodiscard]] std::string homeDirectory() const override { return "/me"; }
+    [[nodiscard]] std::uint32_t userNumber() const override { return 0; }
 
     std::string name = "me";
 };
@@ -43,6 +47,7 @@ protected:
         return {
             .mainWindow = services.get(),
             .userAccount = account,
+            .trashHistory = history,
             .helpAddress = [](HelpPage page) -> std::string {
                 return page == HelpPage::Features ? "file:///features" : "file:///faq";
             },
@@ -65,6 +70,7 @@ protected:
 
     std::vector<std::string> tokens;
     FakeUserAccount account;
+    test::FakeTrashHistory history;
     test::FakeMainWindowServices services;
     AppDelegate delegate{appServices()};
 };
@@ -221,6 +227,82 @@ TEST_F(AppDelegateTest, EachPreferencesWindowTakesThePreviousOnesPlace)
     delegate.showPreferences();
     EXPECT_TRUE(first.isNull());
     EXPECT_TRUE(delegate.prefWindow()->window().isVisible());
+}
+
+TEST_F(AppDelegateTest, WhatTheProgramIsHasOneWindow)
+{
+    delegate.start();
+    EXPECT_EQ(delegate.aboutWindow(), nullptr);
+    delegate.mainWindow()->perform(Command::About);
+    ASSERT_NE(delegate.aboutWindow(), nullptr);
+    const QPointer<QWidget> window = delegate.aboutWindow();
+    EXPECT_TRUE(window->isVisible());
+    window->close();
+    delegate.mainWindow()->perform(Command::About);
+    EXPECT_EQ(delegate.aboutWindow(), window);
+    EXPECT_TRUE(window->isVisible());
+}
+
+TEST_F(AppDelegateTest, TheHistoryHasOneWindow)
+{
+    delegate.start();
+    EXPECT_EQ(delegate.historyWindow(), nullptr);
+    delegate.mainWindow()->perform(Command::TrashHistory);
+    ASSERT_NE(delegate.historyWindow(), nullptr);
+    const QPointer<QWidget> window = &delegate.historyWindow()->window();
+    EXPECT_TRUE(window->isVisible());
+    window->showMinimized();
+    delegate.mainWindow()->perform(Command::TrashHistory);
+    EXPECT_EQ(&delegate.historyWindow()->window(), window);
+    EXPECT_FALSE(window->isMinimized());
+}
+
+TEST_F(AppDelegateTest, TheHistoryIsIndependentOfTheScreens)
+{
+    delegate.start();
+    delegate.mainWindow()->perform(Command::TrashHistory);
+    showTree();
+    EXPECT_TRUE(delegate.historyWindow()->window().isVisible());
+    delegate.mainWindow()->homeSelected();
+    EXPECT_TRUE(delegate.historyWindow()->window().isVisible());
+}
+
+TEST_F(AppDelegateTest, TheHistoryHasItemsPutBackAndIsReadAfterwards)
+{
+    delegate.start();
+    delegate.showHistory();
+    TrashRecord record;
+    record.item.from = Url("/data/a", false);
+    record.item.number = 5;
+    record.bytes = 7;
+    emit delegate.historyWindow()->putBackRequested(record);
+    ASSERT_EQ(services.treeScreen.workspace.putBacks.size(), 1);
+    EXPECT_EQ(services.treeScreen.workspace.putBacks[0].item, record.item);
+    history.answer({});
+    const int before = history.asked;
+    PutBackResult result;
+    result.place = Url("/data/a", false);
+    EXPECT_TRUE(services.treeScreen.workspace.finishPuttingBack(result));
+    EXPECT_EQ(history.asked, before + 1);
+}
+
+TEST_F(AppDelegateTest, TheHistoryIsReadAfterAMove)
+{
+    delegate.start();
+    delegate.showHistory();
+    history.answer({});
+    const int before = history.asked;
+    services.treeScreen.trashUndo.itemsMoved({MovedItem{}});
+    EXPECT_EQ(history.asked, before + 1);
+}
+
+TEST_F(AppDelegateTest, TheHistoryClosesWithTheMainWindow)
+{
+    delegate.start();
+    delegate.mainWindow()->perform(Command::TrashHistory);
+    const QPointer<QWidget> window = &delegate.historyWindow()->window();
+    delegate.mainWindow()->window().close();
+    EXPECT_TRUE(QTest::qWaitFor([&window] { return window.isNull(); }));
 }
 
 TEST_F(AppDelegateTest, HelpPagesAreOpenedByTheirEntries)

@@ -84,6 +84,37 @@ TEST(CommandLine, HelpAndVersionNeedNothingElse)
     EXPECT_EQ(accepted({"--help", "--picture", "x.png"}).action, Action::PrintHelp);
 }
 
+TEST(CommandLine, TheHomeFolderAndItsDiskNeedNoName)
+{
+    using Place = CommandLine::Place;
+    EXPECT_EQ(accepted({"/usr"}).place, Place::Folder);
+    EXPECT_EQ(accepted({"--home"}).place, Place::Home);
+    EXPECT_EQ(accepted({"--disk"}).place, Place::Disk);
+    EXPECT_EQ(accepted({"--disk", "--disk"}).place, Place::Disk);
+}
+
+TEST(CommandLine, APictureOfTheHomeFolderOrItsDiskNeedsNoName)
+{
+    EXPECT_EQ(accepted({"--picture=o.png", "--home"}).action, Action::WritePicture);
+    EXPECT_EQ(accepted({"--disk", "--picture=o.png"}).action, Action::WritePicture);
+}
+
+TEST(CommandLine, RefusesMoreThanOnePlace)
+{
+    const std::string reason = "of FOLDER, --home and --disk only one can be shown";
+    EXPECT_EQ(refusal({"--home", "--disk"}), reason);
+    EXPECT_EQ(refusal({"--disk", "--home"}), reason);
+    EXPECT_EQ(refusal({"--home", "/usr"}), reason);
+    EXPECT_EQ(refusal({"/usr", "--disk"}), reason);
+    EXPECT_EQ(refusal({"--home", "/usr", "--picture=o.png"}), reason);
+}
+
+TEST(CommandLine, BehindTwoDashesTheNamesOfPlacesAreFolders)
+{
+    EXPECT_EQ(accepted({"--", "--home"}).folder, "--home");
+    EXPECT_EQ(accepted({"--", "--home"}).place, CommandLine::Place::Folder);
+}
+
 TEST(CommandLine, RefusesUnknownOptions)
 {
     EXPECT_EQ(refusal({"--colour=red"}), "unknown option '--colour'");
@@ -222,7 +253,15 @@ TEST(CommandLine, TheHelpNamesEveryOption)
 {
     const std::string help = commandLineHelp();
     for (const char* option :
-         {"--picture", "--size", "--scale", "  -- ", "--help", "--version", "FOLDER"}) {
+         {"  --home ",
+          "  --disk ",
+          "  --picture ",
+          "  --size ",
+          "  --scale ",
+          "  -- ",
+          "-h, --help ",
+          "  --version ",
+          "FOLDER"}) {
         EXPECT_NE(help.find(option), std::string::npos);
     }
 }

@@ -73,7 +73,8 @@ protected:
                     .clock = fakes.clock,
                     .homeDirectory = "/Users/me",
                     .workers = services.workers},
-                   files)
+                   files,
+                   FolderTitles::Names)
             .write(commandLine);
     }
 

@@ -6,16 +6,24 @@
 #include "Desktop/FileAccess.h"
 #include "Desktop/LauncherProgress.h"
 #include "Desktop/RunningInstance.h"
+#include "MainWindow/MainWindowController.h"
 #include "Model/RootModel.h"
 #include "QuickLook/QuickLookPanel.h"
 #include "QuickLook/Reading/FileReader.h"
 #include "QuickLook/Reading/RasterDecoder.h"
+#include "Start/AppDelegate.h"
 #include "Start/LaunchServices.h"
+#include "support/BecomesActive.h"
+#include "support/Fakes/FakeFreeingServices.h"
+#include "support/Fakes/FakeLedgerServices.h"
+#include "support/Fakes/FakeNotifications.h"
 #include "support/Fakes/FakePlaces.h"
 #include "support/Fakes/FakeRootModelServices.h"
+#include "support/Fakes/FakeTrashHistory.h"
 #include "support/Fakes/FakeTreeViewServices.h"
 
 #include <QCoreApplication>
+#include <QMainWindow>
 #include <QPointer>
 #include <QWidget>
 
@@ -91,9 +99,11 @@ struct FakeLaunchServices {
     test::FakeRootModelServices rootModel;
     test::FakeMountedVolumes volumes;
     test::FakeUserAccount account;
+    test::FakeTrashHistory history;
     ReadableFolders files;
     NoColorScheme colorScheme;
     NoLauncher launcher;
+    test::FakeNotifications notifications;
     NoEndRequests endRequests;
     WatchfulInstance runningInstance{rootModel.defaults};
 
@@ -118,15 +128,24 @@ struct FakeLaunchServices {
             .colorScheme = colorScheme,
             .motion = treeScreen.motion,
             .workspace = treeScreen.workspace,
+            .otherPrograms = treeScreen.otherPrograms,
+            .trashHistory = history,
             .fileReader = nullptr,
             .rasterDecoder = nullptr,
+            .coveredFolders = std::make_shared<test::FakeCoveredFolders>(),
+            .openFiles = std::make_shared<test::FakeOpenFiles>(),
+            .sharedExtents = std::make_shared<test::FakeSharedExtents>(),
+            .itemStates = std::make_shared<test::FakeItemStates>(),
+            .itemChanges = std::make_shared<test::FakeItemChanges>(),
             .makeTask = [this] { return test::FakeTask::make(treeScreen.archiver); },
             .archiver = "/archiver",
             .userAccount = account,
             .launcherProgress = launcher,
+            .notifications = notifications,
             .runningInstance = runningInstance,
             .endRequests = endRequests,
             .helpFolder = {},
+            .libraries = {},
             .availableMemory = 1000,
             .hasTerminal = false};
     }
@@ -148,6 +167,17 @@ TEST(WindowedProgram, AtTheEndGivesTheNameBackBeforeAnythingElseIsDone)
     emit qApp->aboutToQuit({});
     EXPECT_EQ(services.runningInstance.hadKeptThePlace, false);
     EXPECT_TRUE(services.rootModel.defaults.texts.contains("MainWindowFrame"));
+}
+
+TEST(WindowedProgram, AClickOnANotificationBringsTheWindowBack)
+{
+    FakeLaunchServices& services = launchServices();
+    const WindowedProgram program(services.get());
+    QMainWindow& window = program.delegate().mainWindow()->window();
+    window.showMinimized();
+    services.notifications.clicked("");
+    EXPECT_FALSE(window.isMinimized());
+    EXPECT_TRUE(test::becomesActive(window));
 }
 
 TEST(WindowedProgram, TakesThePreviewPanelAlong)

@@ -78,8 +78,9 @@ TEST_F(TreeMenu, OfAFolder)
     EXPECT_EQ(menu->title(), QStringLiteral("Contextual Menu"));
     EXPECT_EQ(
         titles(*menu).join(QLatin1Char('|')),
-        QStringLiteral("Quick Look|Show in Finder|-|Zoom In|Rescan|Ignore|-|Compress Folder|"
-                       "Move to Trash"));
+        QStringLiteral("Open|Open With…|Quick Look|Show in Finder|-|Copy Path|Open Terminal Here|"
+                       "-|Zoom In|Rescan|Ignore|-|Compress Folder|Add to Basket|Move to Trash|-|"
+                       "Properties"));
 }
 
 TEST_F(TreeMenu, OfADocument)
@@ -88,7 +89,8 @@ TEST_F(TreeMenu, OfADocument)
     EXPECT_EQ(menu->title(), QStringLiteral("Contextual Menu"));
     EXPECT_EQ(
         titles(*menu).join(QLatin1Char('|')),
-        QStringLiteral("Quick Look|Show in Finder|-|Compress File|Move to Trash"));
+        QStringLiteral("Open|Open With…|Quick Look|Show in Finder|-|Copy Path|Open Terminal Here|"
+                       "-|Compress File|Add to Basket|Move to Trash|-|Properties"));
 }
 
 TEST_F(TreeMenu, IsNoneForFreeSpace)
@@ -101,6 +103,15 @@ TEST_F(TreeMenu, ShowsTheActionsThemselves)
     const auto menu = makeMenu<Folder>();
     EXPECT_EQ(action(*menu, QStringLiteral("Rescan")), &actions->action(Command::Rescan));
     EXPECT_EQ(action(*menu, QStringLiteral("Zoom In")), &actions->action(Command::ZoomIn));
+}
+
+TEST_F(TreeMenu, OffersToTakeOutAgainWhatIsInTheBasket)
+{
+    const auto menu = makeMenu<Document>();
+    context.isInBasket = true;
+    emit menu->aboutToShow();
+    EXPECT_TRUE(titles(*menu).contains(QStringLiteral("Take out of Basket")));
+    EXPECT_FALSE(titles(*menu).contains(QStringLiteral("Add to Basket")));
 }
 
 TEST_F(TreeMenu, HasNoShortcuts)
@@ -134,7 +145,7 @@ TEST_F(TreeMenu, DoesNotHeedMnemonics)
     EXPECT_EQ(triggered.size(), 0);
     EXPECT_EQ(menu->activeAction(), nullptr);
     QTest::keyClick(menu.get(), Qt::Key_Up);
-    EXPECT_EQ(menu->activeAction(), action(*menu, QStringLiteral("Move to Trash")));
+    EXPECT_EQ(menu->activeAction(), action(*menu, QStringLiteral("Properties")));
     menu->close();
 }
 

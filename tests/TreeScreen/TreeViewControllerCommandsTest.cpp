@@ -1,5 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "Model/UserDefaults.h"
 #include "TreeScreen/TreeViewControllerFixture.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -49,6 +53,78 @@ TEST_F(TreeViewControllerCommandsTest, SpaceIsNeitherMovedNorCompressed)
     EXPECT_EQ(services.archiver.program, "");
     EXPECT_TRUE(services.workspace.recycled.empty());
     controller->setSelectedFile(nullptr);
+}
+
+TEST_F(TreeViewControllerCommandsTest, OtherProgramsGetTheSelectedItem)
+{
+    select("docs/a");
+    controller->perform(Command::OpenItem);
+    controller->perform(Command::OpenTerminal);
+    controller->perform(Command::Properties);
+    EXPECT_EQ(
+        services.otherPrograms.asked,
+        (std::vector<std::string>{
+            "open /data/docs/a", "terminal /data/docs", "properties /data/docs/a"}));
+}
+
+TEST_F(TreeViewControllerCommandsTest, WithoutASelectionTheFolderInViewHasAPathAndATerminal)
+{
+    controller->zoomInFolder(*nodeCast<Folder>(&node("docs")));
+    controller->setSelectedFile(nullptr);
+    controller->perform(Command::OpenItem);
+    controller->perform(Command::Properties);
+    controller->perform(Command::OpenTerminal);
+    controller->perform(Command::CopyPath);
+    EXPECT_EQ(services.otherPrograms.asked, std::vector<std::string>{"terminal /data/docs"});
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("/data/docs"));
+    EXPECT_EQ(said(), QStringLiteral("The path of 'docs' is copied."));
+}
+
+TEST_F(TreeViewControllerCommandsTest, SpaceHasNoPathOfItsOwn)
+{
+    const auto space = makeNode<FreeSpace>("");
+    controller->setSelectedFile(space.get());
+    for (const Command command :
+         {Command::OpenItem,
+          Command::OpenWith,
+          Command::CopyPath,
+          Command::OpenTerminal,
+          Command::Properties}) {
+        EXPECT_FALSE(canDo(command));
+        EXPECT_FALSE(controller->whyNot(command).isEmpty());
+        controller->perform(command);
+    }
+    EXPECT_TRUE(services.otherPrograms.asked.empty());
+    controller->setSelectedFile(nullptr);
+}
+
+TEST_F(TreeViewControllerCommandsTest, AnArchivedOriginalGoesToTheTrashAsTheVeryItemThatItWas)
+{
+    ExpectedItem expected;
+    expected.state.identity = {3, 4};
+    controller->trashOriginal(Url("/data/docs", true), expected);
+    ASSERT_EQ(services.workspace.recycledItems.size(), 1U);
+    EXPECT_EQ(services.workspace.recycledItems.front().url.path(), "/data/docs");
+    ASSERT_TRUE(services.workspace.recycledItems.front().expected.has_value());
+    EXPECT_EQ(
+        services.workspace.recycledItems.front().expected->state.identity, (FileIdentity{3, 4}));
+}
+
+TEST_F(TreeViewControllerCommandsTest, AnArchivedOriginalGoesToTheTrashAfterTheUsualWarning)
+{
+    services.alert.answer = Alert::kFirstButton + 1;
+    services.defaults.setBoolean(kWarnDeleteSystemKey, true);
+    controller->trashOriginal(Url("/data/docs", true), {});
+    EXPECT_EQ(services.alert.asked.size(), 1U);
+    EXPECT_TRUE(services.workspace.recycled.empty());
+}
+
+TEST_F(TreeViewControllerCommandsTest, AnOriginalThatTheTreeDoesNotHaveStays)
+{
+    controller->trashOriginal(Url("/data/gone", true), {});
+    controller->trashOriginal(Url("/elsewhere", true), {});
+    EXPECT_TRUE(services.workspace.recycled.empty());
+    EXPECT_EQ(services.alert.told.size(), 2U);
 }
 
 TEST_F(TreeViewControllerCommandsTest, ShowsAFileInTheFileManager)
@@ -141,6 +217,8 @@ TEST_F(TreeViewControllerCommandsTest, AnArchiveThatIsDoneWhenTheScreenIsGoneIsA
     services.archiver.onTerminated(0);
     EXPECT_TRUE(QTest::qWaitFor([&] { return told.size() == 2; }));
     EXPECT_THAT(told, testing::ElementsAre("gone: /data/docs.zip.part", "made: /data/docs.zip"));
+    // The window that says what was saved stays, and would outlive the services that it works with.
+    emit qApp->aboutToQuit({});
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 

@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <optional>
 #include <utility>
 
 namespace tessera {
@@ -34,10 +35,19 @@ public:
         }
     }
 
+    std::optional<AccentColor> accentColor() const override { return m_accent; }
+
+    void changeAccent(std::optional<AccentColor> accent)
+    {
+        m_accent = accent;
+        m_handler();
+    }
+
     bool isFollowed() const { return static_cast<bool>(m_handler); }
 
 private:
     ColorScheme m_scheme = ColorScheme::NoPreference;
+    std::optional<AccentColor> m_accent;
     Handler m_handler;
 };
 
@@ -123,6 +133,26 @@ TEST_F(ApplicationPaletteTest, FollowsTheDesktopWhileItChanges)
     desktop.change(ColorScheme::Dark);
     desktop.change(ColorScheme::Light);
     EXPECT_EQ(QApplication::palette(), lightProgramColors());
+}
+
+TEST_F(ApplicationPaletteTest, WhatIsSelectedHasTheDesktopsAccentWhileItChanges)
+{
+    const ApplicationPalette palette(desktop);
+    desktop.changeAccent(AccentColor{1, 0, 0});
+    EXPECT_EQ(QApplication::palette().color(QPalette::Highlight), QColor(255, 0, 0));
+    desktop.changeAccent(AccentColor{0, 0, 1});
+    EXPECT_EQ(QApplication::palette().color(QPalette::Highlight), QColor(0, 0, 255));
+    desktop.changeAccent(std::nullopt);
+    EXPECT_EQ(QApplication::palette(), lightProgramColors());
+}
+
+TEST_F(ApplicationPaletteTest, TheAccentStaysWhenWindowsBecomeDark)
+{
+    const ApplicationPalette palette(desktop);
+    desktop.changeAccent(AccentColor{1, 0, 0});
+    desktop.change(ColorScheme::Dark);
+    EXPECT_EQ(QApplication::palette().color(QPalette::Highlight), QColor(255, 0, 0));
+    EXPECT_EQ(QApplication::palette().color(QPalette::Window), QColor(0x30, 0x30, 0x34));
 }
 
 TEST_F(ApplicationPaletteTest, TheBoxToTickCanBeSeenInDarkMenusAndWindows)

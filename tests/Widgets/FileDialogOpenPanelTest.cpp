@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Widgets/FileDialogOpenPanel.h"
 
+#include "Desktop/HiddenFilesPreference.h"
+
 #include <QAbstractItemView>
 #include <QDir>
 #include <QFileDialog>
@@ -19,6 +21,13 @@
 
 namespace tessera {
 namespace {
+
+class FixedHiddenFiles final : public HiddenFilesPreference {
+public:
+    [[nodiscard]] std::optional<bool> showsHiddenFiles() const override { return shows; }
+
+    std::optional<bool> shows;
+};
 
 class FileDialogOpenPanelTest : public testing::Test {
 protected:
@@ -50,6 +59,35 @@ TEST_F(FileDialogOpenPanelTest, FoldersCanBeChosenAndFilesCannot)
     EXPECT_EQ(dialogs().front()->fileMode(), QFileDialog::Directory);
     EXPECT_TRUE(dialogs().front()->testOption(QFileDialog::ShowDirsOnly));
     EXPECT_FALSE(dialogs().front()->filter().testFlag(QDir::Files));
+}
+
+TEST_F(FileDialogOpenPanelTest, HiddenFoldersAreShownAsTheDesktopSays)
+{
+    FixedHiddenFiles desktop;
+    for (const std::optional<bool> shows :
+         {std::optional<bool>(), std::optional(true), std::optional(false)}) {
+        desktop.shows = shows;
+        FileDialogOpenPanel asked(&desktop);
+        asked.begin(window, [](const std::vector<Url>&) {});
+        QFileDialog* const dialog = dialogs().back();
+        EXPECT_EQ(dialog->filter().testFlag(QDir::Hidden), shows.value_or(true));
+        delete dialog; // NOLINT(cppcoreguidelines-owning-memory): the window owns it until then
+    }
+}
+
+/// Which may be one that never shows anything.
+TEST_F(FileDialogOpenPanelTest, WhoAsksAgainWhileTheDesktopsChooserIsOpenGetsQts)
+{
+    begin();
+    EXPECT_FALSE(dialogs().front()->testOption(QFileDialog::DontUseNativeDialog));
+    dialogs().front()->setAttribute(Qt::WA_DontShowOnScreen); // as Qt does with such a chooser
+    begin();
+    ASSERT_EQ(dialogs().size(), 1);
+    EXPECT_TRUE(dialogs().front()->testOption(QFileDialog::DontUseNativeDialog));
+    begin();
+    ASSERT_EQ(dialogs().size(), 1);
+    dialogs().front()->reject();
+    EXPECT_TRUE(chosen.has_value());
 }
 
 TEST_F(FileDialogOpenPanelTest, OneFolderCanBeChosenAtATime)

@@ -5,6 +5,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QDialog>
 #include <QImage>
 #include <QLabel>
 #include <QMessageBox>
@@ -17,6 +18,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <memory>
 #include <vector>
 
 namespace tessera {
@@ -235,6 +237,43 @@ TEST_F(MessageBoxAlertTest, WhileTheUserWorksElsewhereASheetBelongsToTheMainWind
     QApplication::setActiveWindow(nullptr);
     ASSERT_EQ(QApplication::activeWindow(), nullptr);
     alert().beginSheet(question());
+    ASSERT_NE(box(), nullptr);
+    EXPECT_EQ(box()->parentWidget(), &window());
+    box()->close();
+}
+
+TEST_F(MessageBoxAlertTest, AQuestionWhoseWindowGoesIsAnsweredByTheLastButton)
+{
+    auto other = std::make_unique<QWidget>();
+    other->show();
+    ASSERT_TRUE(test::becomesActive(*other));
+    QTimer::singleShot(0, &window(), [&other] { other.reset(); });
+    EXPECT_EQ(alert().runModal(question()), 1001);
+    EXPECT_EQ(box(), nullptr);
+}
+
+TEST_F(MessageBoxAlertTest, AQuestionOutlivesADialogThatEndsByItself)
+{
+    alert().setMainWindow(&window());
+    auto dialog = std::make_unique<QDialog>();
+    dialog->show();
+    ASSERT_TRUE(test::becomesActive(*dialog));
+    const int answer = answerAfter([&dialog](QMessageBox& box) {
+        EXPECT_NE(box.parentWidget(), dialog.get());
+        dialog.reset();
+        box.buttons()[0]->click();
+    });
+    EXPECT_EQ(answer, 1000);
+}
+
+TEST_F(MessageBoxAlertTest, SoDoesASheet)
+{
+    alert().setMainWindow(&window());
+    auto dialog = std::make_unique<QDialog>();
+    dialog->show();
+    ASSERT_TRUE(test::becomesActive(*dialog));
+    alert().beginSheet(question());
+    dialog.reset();
     ASSERT_NE(box(), nullptr);
     EXPECT_EQ(box()->parentWidget(), &window());
     box()->close();

@@ -3,36 +3,17 @@
 
 #include "HomeScreen/Parts/HomeColors.h"
 #include "Widgets/ColorHelper.h"
+#include "support/Contrast.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <array>
-#include <cmath>
 
 namespace tessera {
 namespace {
 
-/// What readers with weak eyes need: https://www.w3.org/TR/WCAG21/#contrast-minimum
-constexpr double kLegible = 4.5;
-
-/// As the same recommendation defines it, in sRGB.
-double luminance(const QColor& color)
-{
-    const auto linear = [](float channel) {
-        const auto value = static_cast<double>(channel);
-        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF())
-        + 0.0722 * linear(color.blueF());
-}
-
-double contrast(const QColor& one, const QColor& other)
-{
-    constexpr double kGlare = 0.05;
-    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
-    return (lighter + kGlare) / (darker + kGlare);
-}
+using test::contrast;
+using test::kLegible;
 
 class ProgramColorsTest : public testing::TestWithParam<QPalette (*)()> {
 protected:
@@ -45,6 +26,29 @@ INSTANTIATE_TEST_SUITE_P(
     ProgramColorsTest,
     testing::Values(&lightProgramColors, &darkProgramColors),
     [](const auto& scheme) { return scheme.index == 0 ? "light" : "dark"; });
+
+TEST_P(ProgramColorsTest, SelectedTextIsLegibleOnAnyAccent)
+{
+    constexpr int kStep = 15;
+    for (int red = 0; red <= 255; red += kStep) {
+        for (int green = 0; green <= 255; green += kStep) {
+            for (int blue = 0; blue <= 255; blue += kStep) {
+                const QColor accent(red, green, blue);
+                const QPalette colors = withAccent(palette, accent);
+                ASSERT_GE(contrast(colors.color(QPalette::HighlightedText), accent), kLegible)
+                    << accent.name().toStdString();
+            }
+        }
+    }
+}
+
+TEST_P(ProgramColorsTest, AnAccentLeavesWhatCannotBeUsedAsItIs)
+{
+    const QPalette colors = withAccent(palette, Qt::red);
+    for (const auto role : {QPalette::Highlight, QPalette::HighlightedText}) {
+        EXPECT_EQ(colors.color(QPalette::Disabled, role), palette.color(QPalette::Disabled, role));
+    }
+}
 
 TEST_P(ProgramColorsTest, TextsAreLegible)
 {

@@ -57,7 +57,7 @@ int devicePixels(double points, double scale)
 
 } // namespace
 
-void paintWholeLevel(QPainter& painter, const TreeBranch& branch)
+void paintWholeLevel(QPainter& painter, const TreeBranch& branch, FolderTitles titles)
 {
     const QTransform device = painter.deviceTransform();
     const double scale = std::hypot(device.m11(), device.m12());
@@ -81,7 +81,7 @@ void paintWholeLevel(QPainter& painter, const TreeBranch& branch)
     for (BoxCanvas canvas :
          {BoxCanvas(labels, scale), BoxCanvas(PixelCanvas(layer), masks, labels, scale)}) {
         canvas.enter(frame);
-        paintLevel(canvas, *alone);
+        paintLevel(canvas, *alone, titles);
     }
     painter.drawImage(QPointF(-frame.x, -frame.y), layer);
 }

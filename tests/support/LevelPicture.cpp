@@ -42,12 +42,12 @@ void LevelPicture::addGroup(std::initializer_list<File*> nodes, const Rect& rect
     m_items.push_back(std::move(item));
 }
 
-void LevelPicture::paint()
+void LevelPicture::paint(FolderTitles titles)
 {
     startImage();
     takeItems();
     QPainter painter(&m_image);
-    paintWholeLevel(painter, *m_branch);
+    paintWholeLevel(painter, *m_branch, titles);
 }
 
 void LevelPicture::paintReference()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Model/File.h"
+#include "TreeScreen/Picture/FolderTitles.h"
 #include "TreeScreen/Picture/TreeBranch.h"
 
 #include <QImage>
@@ -25,7 +26,7 @@ public:
     void addGroup(std::initializer_list<File*> nodes, const Rect& rect);
 
     /// Paints what was added, by the program or by the plain reference.
-    void paint();
+    void paint(FolderTitles titles = FolderTitles::Names);
     void paintReference();
 
     /// The pixel that holds the point; to the right and below of one between pixels.

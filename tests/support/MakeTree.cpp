@@ -16,7 +16,7 @@ namespace {
 /// The folders that are being filled, outermost first. A folder joins its parent complete.
 class OpenFolders {
 public:
-    explicit OpenFolders(Folder& top)
+    explicit OpenFolders(TopFolder& top)
         : m_top(top)
     {
     }
@@ -30,7 +30,9 @@ public:
             return;
         }
         auto document = makeNode<Document>(item.name);
-        document->setTotalAllocation(item.bytes);
+        const bool isCounted = item.inode == 0
+            || m_top.linkedNames().add(*document, {kDevice, item.inode}, item.linkCount);
+        document->setTotalAllocation(isCounted ? item.bytes : 0);
         document->setHidden(item.isHidden);
         current().addChild(std::move(document));
     }
@@ -45,9 +47,11 @@ public:
     }
 
 private:
+    static constexpr std::uint64_t kDevice = 1;
+
     Folder& current() { return m_open.empty() ? m_top : *m_open.back(); }
 
-    Folder& m_top;
+    TopFolder& m_top;
     std::vector<std::unique_ptr<Folder>> m_open;
 };
 

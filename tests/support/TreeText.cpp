@@ -23,13 +23,28 @@ std::vector<std::string_view> words(std::string_view text)
     return result;
 }
 
+/// Takes the mark and the number behind it off the text; false when it does not begin so.
+template <typename Number>
+bool takeNumber(std::string_view& text, char mark, Number& number)
+{
+    if (text.empty() || text.front() != mark) {
+        return false;
+    }
+    const auto parsed = std::from_chars(text.data() + 1, text.data() + text.size(), number);
+    text.remove_prefix(static_cast<std::size_t>(parsed.ptr - text.data()));
+    return parsed.ec == std::errc{};
+}
+
 TreeTextItem parseFile(std::string_view word)
 {
     TreeTextItem item;
-    const std::size_t colon = word.rfind(':');
-    const std::string_view digits = word.substr(std::min(colon + 1, word.size()));
-    const auto parsed = std::from_chars(digits.begin(), digits.end(), item.bytes);
-    if (colon == std::string_view::npos || parsed.ec != std::errc{}) {
+    const std::size_t colon = std::min(word.rfind(':'), word.size());
+    std::string_view rest = word.substr(colon);
+    bool isWhole = takeNumber(rest, ':', item.bytes);
+    if (isWhole && !rest.empty()) {
+        isWhole = takeNumber(rest, '#', item.inode) && takeNumber(rest, '/', item.linkCount);
+    }
+    if (!isWhole || !rest.empty()) {
         throw std::invalid_argument("tree text: not name:bytes: " + std::string(word));
     }
     item.name = word.substr(0, colon);

@@ -47,6 +47,34 @@ std::optional<ArchiverCommandLine> parseArchiverCommandLine(std::span<const char
     return commandLine;
 }
 
+const char* requestedArchiverText(std::span<const char* const> arguments)
+{
+    const std::string_view wish = arguments.size() == 1 ? arguments.front() : "";
+    if (wish == "--help" || wish == "-h") {
+        return "Usage: tessera-ditto -c -k --sequesterRsrc [--folder | --file] SOURCE TARGET\n"
+               "\n"
+               "Makes the zip archive TARGET of SOURCE, as Tessera does when it compresses. The\n"
+               "archive is made as TARGET.part and gets its name when it is whole. Nothing is "
+               "ever\n"
+               "replaced or removed.\n"
+               "\n"
+               "Options:\n"
+               "  -c               make an archive\n"
+               "  -k               of the zip format\n"
+               "  --sequesterRsrc  with extended attributes in a folder of their own\n"
+               "  --folder         only if SOURCE is a folder\n"
+               "  --file           only if SOURCE is no folder\n"
+               "  -h, --help       print this text\n"
+               "  --version        print the version\n"
+               "\n"
+               "The first three are always given, in this order.\n"
+               "\n"
+               "Exit status: 0 done, 1 failed and a part may be left, 2 the command line makes no\n"
+               "sense, 3 nothing was made, 4 the disk is full.\n";
+    }
+    return wish == "--version" ? "tessera-ditto " TESSERA_VERSION "\n" : nullptr;
+}
+
 const char* archiverUsage()
 {
     return "usage: tessera-ditto -c -k --sequesterRsrc [--folder | --file] SOURCE TARGET";

@@ -21,6 +21,10 @@ struct ArchiverCommandLine {
 /// that archiverUsage() shows.
 std::optional<ArchiverCommandLine> parseArchiverCommandLine(std::span<const char* const> arguments);
 
+/// The text that the arguments ask for, which are --help or --version alone; null when they ask for
+/// none.
+const char* requestedArchiverText(std::span<const char* const> arguments);
+
 /// How the program is called, in one line.
 const char* archiverUsage();
 

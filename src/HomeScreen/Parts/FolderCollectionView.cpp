@@ -25,7 +25,8 @@ FolderCollectionView::FolderCollectionView(QWidget* parent)
 
 FolderCollectionView::~FolderCollectionView() = default;
 
-void FolderCollectionView::setUrl(const Url& url, const QIcon& icon, const QString& name)
+void FolderCollectionView::setUrl(
+    const Url& url, const QIcon& icon, const QString& name, const QString& path)
 {
     HomeItemView::setUrl(url);
     imageView().setPixmap(pixmapIn(imageView().maximumSize(), icon, devicePixelRatioF()));
@@ -33,7 +34,10 @@ void FolderCollectionView::setUrl(const Url& url, const QIcon& icon, const QStri
         nameLabel().setText(name);
         setAccessibleName(name);
     }
-    setToolTip(plainTooltip(displayText(url.path())));
+    const QString whole = displayText(url.path());
+    pathLabel().setText(path.isEmpty() ? whole : path);
+    setAccessibleDescription(whole);
+    setToolTip(plainTooltip(whole));
     updateColors();
 }
 
@@ -47,9 +51,16 @@ PassiveLabel& FolderCollectionView::nameLabel() const
     return *m_ui->nameLabel;
 }
 
+PassiveLabel& FolderCollectionView::pathLabel() const
+{
+    return *m_ui->pathLabel;
+}
+
 void FolderCollectionView::updateColors()
 {
-    nameLabel().setTextColor(textColors().name);
+    const TextColors colors = textColors();
+    nameLabel().setTextColor(colors.name);
+    pathLabel().setTextColor(colors.detail);
 }
 
 void FolderCollectionView::updateAlphaValue()

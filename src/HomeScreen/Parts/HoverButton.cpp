@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "HomeScreen/Parts/HoverButton.h"
 
+#include "HomeScreen/Parts/GradientPanel.h"
 #include "HomeScreen/Parts/HomeColors.h"
 #include "HomeScreen/Places/PlaceIcons.h"
-#include "Widgets/GradientPanel.h"
 #include "Widgets/Images.h"
 
 #include <QPainter>

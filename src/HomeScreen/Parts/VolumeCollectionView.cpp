@@ -10,8 +10,10 @@
 #include "ui_VolumeCollectionView.h"
 
 #include <QLabel>
+#include <QStringList>
 
 #include <cmath>
+#include <cstdint>
 
 namespace tessera {
 
@@ -22,9 +24,27 @@ constexpr double kUnavailableDiskAlpha = 0.7;
 float filledShare(const FileSystemSizes& sizes)
 {
     const double freeShare
-        = static_cast<double>(sizes.freeBytes) / static_cast<double>(sizes.totalBytes);
+        = static_cast<double>(sizes.availableBytes) / static_cast<double>(sizes.totalBytes);
     const auto share = static_cast<float>(1.0 - freeShare);
     return std::isnan(share) ? 0.0F : share;
+}
+
+QString sizeText(std::uint64_t bytes)
+{
+    return QString::fromStdString(formatSize(bytes));
+}
+
+/// What is free, but not for the user; empty where nothing is. In the words of the account of a
+/// disk's space.
+QString reserveText(const FileSystemSizes& sizes)
+{
+    if (sizes.reservedBytes == 0) {
+        return {};
+    }
+    const QString size = sizeText(sizes.reservedBytes);
+    return sizes.type == "btrfs"
+        ? VolumeCollectionView::tr("Reserved by the file system: %1").arg(size)
+        : VolumeCollectionView::tr("Reserved for the administrator: %1").arg(size);
 }
 
 } // namespace
@@ -54,8 +74,7 @@ void VolumeCollectionView::setFileSystemSizes(const std::optional<FileSystemSize
     const FileSystemSizes known = sizes.value_or(FileSystemSizes());
     spaceBar().setPercentFilled(filledShare(known));
     spaceBar().update();
-    const QString size = QString::fromStdString(formatSize(known.freeBytes));
-    spaceLabel().setText(tr("Free Space: %1").arg(size));
+    spaceLabel().setText(tr("Free for you: %1").arg(sizeText(known.availableBytes)));
     describe(known);
 }
 
@@ -63,11 +82,17 @@ void VolumeCollectionView::setFileSystemSizes(const std::optional<FileSystemSize
 void VolumeCollectionView::describe(const FileSystemSizes& sizes)
 {
     const QString path = displayText(url().path());
-    const QString size = QString::fromStdString(formatSize(sizes.totalBytes));
-    const QString place = sizes.totalBytes == 0 ? path : tr("%1, %2").arg(path, size);
-    setToolTip(plainTooltip(accessibleName() + QLatin1Char('\n') + place));
-    const QString space = spaceLabel().text();
-    setAccessibleDescription(space.isEmpty() ? place : tr("%1; %2").arg(space, place));
+    const QString place
+        = sizes.totalBytes == 0 ? path : tr("%1, %2").arg(path, sizeText(sizes.totalBytes));
+    const QString reserve = reserveText(sizes);
+    QStringList lines{accessibleName(), place};
+    if (!reserve.isEmpty()) {
+        lines.append({spaceLabel().text(), reserve});
+    }
+    setToolTip(plainTooltip(lines.join(QLatin1Char('\n'))));
+    QStringList facts{spaceLabel().text(), reserve, place};
+    facts.removeAll(QString());
+    setAccessibleDescription(facts.join(QStringLiteral("; ")));
 }
 
 QLabel& VolumeCollectionView::imageView() const

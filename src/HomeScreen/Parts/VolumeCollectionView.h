@@ -29,7 +29,8 @@ public:
     /// Shows the volume with its icon and name; the bar stays as it is.
     void setUrl(const Url& url, const QIcon& icon);
 
-    /// Fills the bar. Sizes that cannot be read count as 0, which gives an empty bar.
+    /// Fills the bar with all that is not free for the user, as the text below it says. Sizes that
+    /// cannot be read count as 0, which gives an empty bar.
     void setFileSystemSizes(const std::optional<FileSystemSizes>& sizes);
 
     QLabel& imageView() const override;

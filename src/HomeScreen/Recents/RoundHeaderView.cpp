@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "HomeScreen/Recents/RoundHeaderView.h"
 
+#include "HomeScreen/Parts/GradientPanel.h"
 #include "HomeScreen/Parts/HomeColors.h"
-#include "Widgets/GradientPanel.h"
 
 #include <QPainter>
 

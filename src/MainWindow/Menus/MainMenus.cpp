@@ -11,7 +11,8 @@ namespace tessera {
 
 void fillMenuBar(QMenuBar& menuBar, const CommandActions& actions)
 {
-    for (const MainMenu menu : {MainMenu::File, MainMenu::Item, MainMenu::View, MainMenu::Help}) {
+    for (const MainMenu menu :
+         {MainMenu::File, MainMenu::Edit, MainMenu::Item, MainMenu::View, MainMenu::Help}) {
         fillMenu(*menuBar.addMenu(titleOf(menu)), menu, actions);
     }
 }

@@ -3,14 +3,18 @@
 
 #include "Layout/MultiLayoutObject.h"
 #include "Model/File.h"
+#include "Model/NodeLookup.h"
 #include "Model/TooltipType.h"
 #include "TreeScreen/Map/ZoomAnimation.h"
+#include "TreeScreen/Picture/BasketMarks.h"
+#include "TreeScreen/Picture/FolderTitles.h"
 #include "TreeScreen/Picture/TreeBranch.h"
 #include "TreeScreen/Picture/TreePainter.h"
 #include "TreeScreen/Tooltip/TooltipController.h"
 #include "TreeScreen/Tooltip/TooltipPlacement.h"
 #include "TreeScreen/Tooltip/TooltipSize.h"
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -18,6 +22,7 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <utility>
 
 namespace tessera {
 
@@ -45,6 +50,14 @@ bool visitBranches(Branch& top, Visit visit)
         });
     }
     return false;
+}
+
+bool isSpaceAt(const TreeBranch& branch, Point inTreeView)
+{
+    const Point point = branch.convertFromTreeView(inTreeView);
+    return std::ranges::any_of(branch.layoutItems(), [&point](const auto& item) {
+        return item->ref != nullptr && !isItem(*item->ref) && item->rect.contains(point);
+    });
 }
 
 } // namespace
@@ -84,6 +97,7 @@ void TreeMapView::removeAllBranches()
 {
     m_zoom.reset();
     hideTooltip();
+    emit pointedAt(nullptr);
     m_branches.clear();
     m_hoveredBranch = nullptr;
     m_pressedBranch = nullptr;
@@ -96,6 +110,7 @@ void TreeMapView::removeAllBranches()
 void TreeMapView::startZoom(std::unique_ptr<ZoomAnimation> zoom)
 {
     hideTooltip();
+    emit pointedAt(nullptr);
     m_zoom = std::move(zoom);
     connect(m_zoom.get(), &ZoomAnimation::frameDue, this, qOverload<>(&TreeMapView::update));
     connect(m_zoom.get(), &ZoomAnimation::finished, this, &TreeMapView::zoomEnded);
@@ -150,9 +165,31 @@ void TreeMapView::hideTooltip()
     TooltipController::sharedInstance().window().hide();
 }
 
+void TreeMapView::setBasket(const Basket* basket)
+{
+    m_basket = basket;
+    basketChanged();
+}
+
+void TreeMapView::basketChanged()
+{
+    paintAnew();
+}
+
+void TreeMapView::paintAnew()
+{
+    m_picture = QImage();
+    update();
+}
+
 QImage TreeMapView::paint(const TreeBranch& branch)
 {
-    return m_painter->paint(branch, size(), devicePixelRatioF());
+    QImage picture
+        = m_painter->paint(branch, size(), devicePixelRatioF(), folderTitles(m_defaults));
+    if (m_basket != nullptr) {
+        paintBasketMarks(picture, branch, *m_basket);
+    }
+    return picture;
 }
 
 const QImage& TreeMapView::picture()
@@ -170,6 +207,7 @@ bool TreeMapView::event(QEvent* event)
     // Other windows are in front now, and the tooltip would stay above them.
     if (event->type() == QEvent::WindowDeactivate) {
         hideTooltip();
+        emit pointedAt(nullptr);
     }
     return QWidget::event(event);
 }
@@ -203,6 +241,7 @@ void TreeMapView::leaveEvent(QEvent* event)
 {
     QWidget::leaveEvent(event);
     hideTooltip();
+    emit pointedAt(nullptr);
 }
 
 TreeBranch* TreeMapView::branchAt(Point point) const
@@ -224,8 +263,12 @@ void TreeMapView::updateHoveredBranch(Point point)
 
 void TreeMapView::mouseMoveEvent(QMouseEvent* event)
 {
-    // With a button down it is a drag, and in a window at the back the user is not looking here.
-    // During a zoom the boxes are not where the branches have them.
+    if (event->buttons() == Qt::LeftButton && m_pressedBranch != nullptr && !isZooming()) {
+        drag(toPoint(event->position()));
+        return;
+    }
+    // In a window at the back the user is not looking here. During a zoom the boxes are not where
+    // the branches have them.
     if (event->buttons() != Qt::NoButton || !isActiveWindow() || isZooming()) {
         return;
     }
@@ -233,22 +276,52 @@ void TreeMapView::mouseMoveEvent(QMouseEvent* event)
     hover(toPoint(event->position()), event->globalPosition());
 }
 
-void TreeMapView::hover(Point point, QPointF onScreen)
+void TreeMapView::drag(Point point)
 {
-    const TooltipType type = tooltipType(m_defaults);
-    if (type == TooltipType::None || m_hoveredBranch == nullptr) {
+    const QPointF way(point.x - m_pressedAt.x, point.y - m_pressedAt.y);
+    if (way.manhattanLength() < QApplication::startDragDistance()) {
         return;
     }
-    const Point inBranch = m_hoveredBranch->convertFromTreeView(point);
-    for (const auto& item : m_hoveredBranch->layoutItems()) {
-        if (item->rect.contains(inBranch) && item.get() != m_currentToolTip) {
-            TooltipController::sharedInstance().setLayoutObject(*item);
-            m_currentToolTip = item.get();
-        }
+    File* const node = m_pressedBranch->clickableAt(m_pressedAt);
+    if (node != nullptr && isItem(*node)) {
+        m_pressedBranch = nullptr;
+        m_firstClicked = nullptr;
+        hideTooltip();
+        emit dragBegun(*node);
+    }
+}
+
+void TreeMapView::hover(Point point, QPointF onScreen)
+{
+    const LayoutObject* const item = itemUnder(point);
+    if (item != nullptr) {
+        emit pointedAt(item);
+    }
+    const TooltipType type = tooltipType(m_defaults);
+    if (type == TooltipType::None) {
+        return;
+    }
+    if (item != nullptr && item != m_currentToolTip) {
+        TooltipController::sharedInstance().setLayoutObject(*item);
+        m_currentToolTip = item;
     }
     if (m_currentToolTip != nullptr) {
         placeTooltip(onScreen, type);
     }
+}
+
+/// Of the hovered branch; null beside its boxes.
+const LayoutObject* TreeMapView::itemUnder(Point point) const
+{
+    if (m_hoveredBranch == nullptr) {
+        return nullptr;
+    }
+    const auto& items = m_hoveredBranch->layoutItems();
+    const Point inBranch = m_hoveredBranch->convertFromTreeView(point);
+    const auto last = std::find_if(items.rbegin(), items.rend(), [&inBranch](const auto& item) {
+        return item->rect.contains(inBranch);
+    });
+    return last == items.rend() ? nullptr : last->get();
 }
 
 void TreeMapView::placeTooltip(QPointF pointerOnScreen, TooltipType type)
@@ -286,8 +359,10 @@ void TreeMapView::pressed(const QMouseEvent& event, int clickCount)
         emit zoomEnded();
     }
     if (event.button() == Qt::LeftButton) {
-        m_pressedBranch = branchAt(toPoint(event.position()));
+        m_pressedAt = toPoint(event.position());
+        m_pressedBranch = branchAt(m_pressedAt);
         m_clickCount = clickCount;
+        m_firstClicked = clickCount == 1 ? nullptr : m_firstClicked;
     }
 }
 
@@ -297,13 +372,23 @@ void TreeMapView::mouseReleaseEvent(QMouseEvent* event)
         return;
     }
     // A view gets the release of every press on it, and acts on the box where the release was.
-    File* const node = m_pressedBranch->clickableAt(toPoint(event->position()));
+    const Point point = toPoint(event->position());
+    File* const node = m_pressedBranch->clickableAt(point);
+    const bool isOnSpace = node == nullptr && isSpaceAt(*m_pressedBranch, point);
     m_pressedBranch = nullptr;
+    const bool isSecond = m_clickCount == 2;
+    // What the first click led to may have brought a box here that the user never aimed at.
+    if (std::exchange(m_firstClicked, node) != node && isSecond) {
+        return;
+    }
+    if (isOnSpace) {
+        emit clickSpace();
+    }
     if (node == nullptr) {
         return;
     }
     click(*node);
-    if (m_clickCount == 2) {
+    if (isSecond) {
         emit doubleClickTreeItem(*node);
     }
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Base/Rect.h"
+#include "Layout/LayoutObject.h"
 
 #include <QImage>
 #include <QWidget>
@@ -13,8 +14,8 @@
 
 namespace tessera {
 
+class Basket;
 class File;
-class LayoutObject;
 class TreeBranch;
 class TreePainter;
 class UserDefaults;
@@ -49,6 +50,13 @@ public:
     void startZoom(std::unique_ptr<ZoomAnimation> zoom);
     bool isZooming() const { return m_zoom != nullptr; }
 
+    /// Has boxes marked that stand for what is in the basket, which must outlive the view.
+    void setBasket(const Basket* basket);
+    /// To be called when it has changed.
+    void basketChanged();
+    /// The same when other settings say how boxes look.
+    void paintAnew();
+
     /// The branch and everything below it on black, as large as the map is.
     QImage paint(const TreeBranch& branch);
 
@@ -73,9 +81,17 @@ public:
 signals:
     /// A folder or document that is not selected was clicked, with either button.
     void clickTreeItem(File& node);
-    /// A click on this folder or document was the second of two. What the first one led to has
-    /// been done.
+    /// A box that stands for a disk's space and for no file was clicked. It cannot be selected.
+    void clickSpace();
+    /// A click on this folder or document was the second of two on it. What the first one led to
+    /// has been done. A second click on another box than the first is none at all.
     void doubleClickTreeItem(File& node);
+    /// The pointer has moved over the box, or within it. Null when it points at no box any more:
+    /// it has left, other windows are in front, a zoom begins, or the boxes are about to go away.
+    void pointedAt(const LayoutObject* item);
+    /// This folder or document is being dragged: a button is down on its box, and the pointer has
+    /// left the place. The button's release is no click any more.
+    void dragBegun(File& node);
     /// The menu of this folder or document is wanted, at that place on the screen. By now it has
     /// been clicked.
     void menuRequested(File& node, QPoint onScreen);
@@ -108,19 +124,24 @@ private:
     TreeBranch* branchAt(Point point) const;
     void updateHoveredBranch(Point point);
     void hover(Point point, QPointF onScreen);
+    const LayoutObject* itemUnder(Point point) const;
     void placeTooltip(QPointF pointerOnScreen, TooltipType type);
     void pressed(const QMouseEvent& event, int clickCount);
+    void drag(Point point);
     std::optional<Box> selectedBox() const;
     void click(File& node);
     bool requestMenu(const TreeBranch& branch, Point point, QPoint onScreen);
     bool requestMenuOfSelected();
 
     const UserDefaults& m_defaults;
+    const Basket* m_basket = nullptr;
 
     std::vector<std::unique_ptr<TreeBranch>> m_branches;
     const TreeBranch* m_hoveredBranch = nullptr;
     const TreeBranch* m_pressedBranch = nullptr;
+    Point m_pressedAt;
     int m_clickCount = 0;
+    const File* m_firstClicked = nullptr; ///< to compare with, for it may be gone
     const LayoutObject* m_currentToolTip = nullptr;
     std::unique_ptr<TreePainter> m_painter;
     QImage m_picture;

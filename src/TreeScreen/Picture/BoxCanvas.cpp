@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace tessera {
 
@@ -70,6 +71,7 @@ void paintGlyphs(PixelCanvas& pixels, const ShapedLabel& label, Point pen, int c
 
 BoxCanvas::BoxCanvas(LabelCache& labels, double scale)
     : m_collected(&labels)
+    , m_labels(&labels)
     , m_scale(scale)
 {
 }
@@ -182,6 +184,40 @@ void BoxCanvas::drawText(std::string_view name, const Rect& rect, const TextAttr
             line.width,
             attributes.foreground);
     }
+}
+
+void BoxCanvas::drawTextBehind(
+    std::string_view name,
+    std::string_view text,
+    const Rect& rect,
+    double gap,
+    const TextAttributes& attributes)
+{
+    const PixelRect box = rounded(toDevice(rect));
+    const ShapedLabel* const whole = m_labels->find(name, std::numeric_limits<int>::max());
+    const int begin = box.left + (whole == nullptr ? 0 : whole->width())
+        + static_cast<int>(std::lround(gap * m_scale));
+    const int room = box.right - begin;
+    if (whole == nullptr || room <= 0) {
+        return;
+    }
+    if (m_collected != nullptr) {
+        m_collected->prepare(text, room);
+        return;
+    }
+    const ShapedLabel* const label = m_labels->find(text, room);
+    if (label == nullptr || label->width() > room) {
+        return;
+    }
+    PixelCanvas clipped = *m_pixels;
+    clipped.setClip(clipped.clip().intersected(box));
+    const int baseline = box.top + m_labels->baseline(*whole, box.height());
+    paintGlyphs(
+        clipped,
+        *label,
+        Point{static_cast<double>(begin), static_cast<double>(baseline)},
+        label->width(),
+        attributes.foreground);
 }
 
 DeviceRect BoxCanvas::toDevice(const Rect& rect) const

@@ -64,6 +64,15 @@ public:
     /// the width, clipped to the rectangle.
     void drawText(std::string_view name, const Rect& rect, const TextAttributes& attributes);
 
+    /// Writes a text `gap` points behind a name that drawText() has written into the same rectangle
+    /// from the left. Nothing where the name and the text do not both fit in whole.
+    void drawTextBehind(
+        std::string_view name,
+        std::string_view text,
+        const Rect& rect,
+        double gap,
+        const TextAttributes& attributes);
+
 private:
     DeviceRect toDevice(const Rect& rect) const;
     void paintMask(

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "TreeScreen/Picture/FolderBox.h"
 
+#include "Base/ByteSize.h"
 #include "Layout/BoxMetrics.h"
 #include "Model/Folder.h"
 #include "TreeScreen/Picture/BoxCanvas.h"
@@ -18,6 +19,7 @@ constexpr double kLabelTop = 7.0;
 constexpr double kLabelMargins = 11.0;
 constexpr double kLabelHeight = 14.0;
 constexpr double kShadowDrop = 1.0;
+constexpr double kGapBeforeSize = 6.0;
 
 void fillBox(
     BoxCanvas& canvas,
@@ -41,12 +43,8 @@ void fillBox(
     canvas.fillRoundedRect(inner, radius - kRimWidth, color, covered);
 }
 
-void drawLabel(BoxCanvas& canvas, const Rect& box, const Folder& folder)
+void drawName(BoxCanvas& canvas, const Rect& text, const Folder& folder)
 {
-    if (!hasRoomForLabel(box)) {
-        return;
-    }
-    const Rect text{box.x + kLabelLeft, box.y + kLabelTop, box.width - kLabelMargins, kLabelHeight};
     if (folder.selected()) {
         canvas.drawText(folder.name(), text, Styles::selectedFolderTextAttributes());
         return;
@@ -56,6 +54,31 @@ void drawLabel(BoxCanvas& canvas, const Rect& box, const Folder& folder)
     canvas.drawText(folder.name(), text, Styles::folderTextAttributes());
 }
 
+/// It begins where the name ends, which no zoom changes: at the right edge it would run along the
+/// box while that grows.
+void drawSize(BoxCanvas& canvas, const Rect& text, const Folder& folder)
+{
+    canvas.drawTextBehind(
+        folder.name(),
+        formatSize(folder.totalAllocation()),
+        text,
+        kGapBeforeSize,
+        folder.selected() ? Styles::selectedFolderSizeAttributes()
+                          : Styles::folderSizeAttributes());
+}
+
+void drawTitle(BoxCanvas& canvas, const Rect& box, const Folder& folder, FolderTitles titles)
+{
+    if (!hasRoomForLabel(box)) {
+        return;
+    }
+    const Rect text{box.x + kLabelLeft, box.y + kLabelTop, box.width - kLabelMargins, kLabelHeight};
+    drawName(canvas, text, folder);
+    if (titles == FolderTitles::NamesAndSizes) {
+        drawSize(canvas, text, folder);
+    }
+}
+
 } // namespace
 
 void paintFolderBox(
@@ -63,14 +86,15 @@ void paintFolderBox(
     const Folder& folder,
     const Rect& rect,
     long level,
-    std::span<const Rect> covered)
+    std::span<const Rect> covered,
+    FolderTitles titles)
 {
     const Rect box = rect.inset(levelInset(level), levelInset(level));
     if (isTooSmall(box)) {
         return;
     }
     fillBox(canvas, box, cornerRadius(rect.area()), level, folderBoxColor(folder, level), covered);
-    drawLabel(canvas, box, folder);
+    drawTitle(canvas, box, folder, titles);
 }
 
 } // namespace tessera

@@ -40,40 +40,53 @@ std::vector<Rect> coveredParts(const TreeBranch* nested)
 }
 
 /// `nested` is the branch inside the box, or null.
-void paintBox(BoxCanvas& canvas, const LayoutObject& item, long level, const TreeBranch* nested)
+void paintNode(
+    BoxCanvas& canvas,
+    const File& node,
+    const Rect& rect,
+    long level,
+    const TreeBranch* nested,
+    FolderTitles titles)
 {
-    if (item.ref == nullptr) {
-        if (const auto* group = dynamic_cast<const MultiLayoutObject*>(&item)) {
-            paintGroupBox(canvas, *group, level);
-        }
-        return;
-    }
-    const File& node = *item.ref;
     switch (node.type()) {
     case NodeType::Folder:
     case NodeType::TopFolder:
     case NodeType::Volume:
         paintFolderBox(
-            canvas, static_cast<const Folder&>(node), item.rect, level, coveredParts(nested));
+            canvas, static_cast<const Folder&>(node), rect, level, coveredParts(nested), titles);
         break;
     case NodeType::Document:
-        paintDocumentPage(canvas, static_cast<const Document&>(node), item.rect, level);
+        paintDocumentPage(canvas, static_cast<const Document&>(node), rect, level);
         break;
     case NodeType::FreeSpace:
-        paintFreeSpaceBox(canvas, node, item.rect);
+        paintFreeSpaceBox(canvas, node, rect);
         break;
     case NodeType::Unknown:
     case NodeType::TimeMachine:
-        paintUnaccountedBox(canvas, node, item.rect, level);
+        paintUnaccountedBox(canvas, node, rect, level);
         break;
     case NodeType::File:
         break;
     }
 }
 
+void paintBox(
+    BoxCanvas& canvas,
+    const LayoutObject& item,
+    long level,
+    const TreeBranch* nested,
+    FolderTitles titles)
+{
+    if (item.ref != nullptr) {
+        paintNode(canvas, *item.ref, item.rect, level, nested, titles);
+    } else if (const auto* group = dynamic_cast<const MultiLayoutObject*>(&item)) {
+        paintGroupBox(canvas, *group, level);
+    }
+}
+
 } // namespace
 
-void paintLevel(BoxCanvas& canvas, const TreeBranch& branch)
+void paintLevel(BoxCanvas& canvas, const TreeBranch& branch, FolderTitles titles)
 {
     // Nested branches come in the order of the folders that they lie in.
     auto nested = branch.subBranches().begin();
@@ -82,7 +95,7 @@ void paintLevel(BoxCanvas& canvas, const TreeBranch& branch)
             = nested != branch.subBranches().end() && liesWithin((*nested)->frame(), item->rect);
         const TreeBranch* inside = hasNested ? (nested++)->get() : nullptr;
         if (!canvas.misses(item->rect)) {
-            paintBox(canvas, *item, branch.level(), inside);
+            paintBox(canvas, *item, branch.level(), inside, titles);
         }
     }
     if (!branch.textWithoutBoxes().empty()) {

@@ -11,6 +11,8 @@ namespace {
 
 constexpr int kPixelSize = 10;
 constexpr std::uint32_t kShadowRgba = 0xFFFFFF33;
+constexpr std::uint32_t kSizeRgba = 0x000000B0;
+constexpr std::uint32_t kSelectedSizeRgba = 0xFFFFFFE0;
 
 /// Never released: a font must not outlive the application object, as a static one would.
 const TextAttributes& makeAttributes(Qt::AlignmentFlag alignment, const QColor& foreground)
@@ -44,6 +46,20 @@ const TextAttributes& Styles::folderTextAttributes()
 const TextAttributes& Styles::selectedFolderTextAttributes()
 {
     static const TextAttributes& attributes = makeAttributes(Qt::AlignLeft, Qt::white);
+    return attributes;
+}
+
+const TextAttributes& Styles::folderSizeAttributes()
+{
+    static const TextAttributes& attributes
+        = makeAttributes(Qt::AlignLeft, colorWithRgba(kSizeRgba));
+    return attributes;
+}
+
+const TextAttributes& Styles::selectedFolderSizeAttributes()
+{
+    static const TextAttributes& attributes
+        = makeAttributes(Qt::AlignLeft, colorWithRgba(kSelectedSizeRgba));
     return attributes;
 }
 

@@ -23,6 +23,8 @@ public:
     static const TextAttributes& selectedTextAttributes(); ///< selected documents, free space
     static const TextAttributes& folderTextAttributes(); ///< folders
     static const TextAttributes& selectedFolderTextAttributes(); ///< selected folders
+    static const TextAttributes& folderSizeAttributes(); ///< sizes behind folder names
+    static const TextAttributes& selectedFolderSizeAttributes(); ///< of selected folders
     static const TextAttributes& folderShadowTextAttributes(); ///< light edge below folder names
 };
 

@@ -38,24 +38,30 @@ void prepareFont(LabelCache& labels, double scale)
 
 /// Nested levels lie within their folders' boxes, so a branch out of sight hides all below it; the
 /// size of a picture bounds how deep they go.
-void paintBranches(BoxCanvas canvas, const TreeBranch& branch)
+void paintBranches(BoxCanvas canvas, const TreeBranch& branch, FolderTitles titles)
 {
     canvas.enter(branch.frame());
-    paintLevel(canvas, branch);
+    paintLevel(canvas, branch, titles);
     for (const auto& nested : branch.subBranches()) {
         if (!canvas.misses(nested->frame())) {
-            paintBranches(canvas, *nested);
+            paintBranches(canvas, *nested, titles);
         }
     }
 }
 
 class BandedPainting {
 public:
-    BandedPainting(QImage& image, const TreeBranch& top, const LabelCache& labels, double scale)
+    BandedPainting(
+        QImage& image,
+        const TreeBranch& top,
+        const LabelCache& labels,
+        double scale,
+        FolderTitles titles)
         : m_pixels(image)
         , m_labels(labels)
         , m_top(top)
         , m_scale(scale)
+        , m_titles(titles)
         , m_bandRows(std::max((image.height() + kMaxBands - 1) / kMaxBands, kMinBandRows))
     {
     }
@@ -68,7 +74,7 @@ public:
             PixelCanvas band = m_pixels;
             band.setClip(whole.intersected({0, top, whole.right, top + m_bandRows}));
             band.fillClip(kBackground);
-            paintBranches(BoxCanvas(band, masks, m_labels, m_scale), m_top);
+            paintBranches(BoxCanvas(band, masks, m_labels, m_scale), m_top, m_titles);
         }
     }
 
@@ -81,6 +87,7 @@ private:
     const LabelCache& m_labels;
     const TreeBranch& m_top;
     double m_scale;
+    FolderTitles m_titles;
     int m_bandRows;
     std::atomic<int> m_nextBand = 0;
 };
@@ -110,19 +117,20 @@ TreePainter::TreePainter()
 
 TreePainter::~TreePainter() = default;
 
-QImage TreePainter::paint(const TreeBranch& top, QSizeF sizeInPoints, double scale)
+QImage TreePainter::paint(
+    const TreeBranch& top, QSizeF sizeInPoints, double scale, FolderTitles titles)
 {
     if (sizeInPoints.isEmpty() || scale <= 0) {
         return {};
     }
     LabelCache& labels = m_caches->labels;
     prepareFont(labels, scale);
-    paintBranches(BoxCanvas(labels, scale), top);
+    paintBranches(BoxCanvas(labels, scale), top, titles);
 
     QImage image = m_memory.makeImage(
         devicePixels(sizeInPoints.width(), scale), devicePixels(sizeInPoints.height(), scale));
     image.setDevicePixelRatio(scale);
-    BandedPainting painting(image, top, labels, scale);
+    BandedPainting painting(image, top, labels, scale, titles);
     std::jthread helper;
     if (!painting.hasOneBand()) {
         helper = startHelper(painting, m_caches->masks[1]);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "TreeScreen/Picture/FolderTitles.h"
 #include "TreeScreen/Picture/PixelMemory.h"
 
 #include <QImage>
@@ -24,7 +25,7 @@ public:
     /// Paints the branch and everything below it on black, into an opaque image whose device pixel
     /// ratio is `scale`. Uses two threads, where the system has another one, and returns when done;
     /// null when the size or the scale is not positive.
-    QImage paint(const TreeBranch& top, QSizeF sizeInPoints, double scale);
+    QImage paint(const TreeBranch& top, QSizeF sizeInPoints, double scale, FolderTitles titles);
 
 private:
     struct Caches;

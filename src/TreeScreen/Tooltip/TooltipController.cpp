@@ -8,6 +8,7 @@
 #include "Model/Folder.h"
 #include "Model/Unknown.h"
 #include "Scanning/ResourceValues.h"
+#include "TreeScreen/Tooltip/OtherNameText.h"
 #include "TreeScreen/Tooltip/TooltipField.h"
 #include "TreeScreen/Tooltip/TooltipSize.h"
 #include "TreeScreen/Tooltip/TooltipWindow.h"
@@ -16,6 +17,7 @@
 #include "ui_TooltipWindow.h"
 
 #include <QLabel>
+#include <QLocale>
 #include <QStackedWidget>
 #include <QString>
 
@@ -34,12 +36,8 @@ constexpr int kIconPoints = 32;
 constexpr int kFieldsBesideIcon = 55;
 constexpr int kFieldsAlone = 12;
 
-double heightFor(const TooltipField& text)
-{
-    const double needed = text.neededHeight();
-    return needed < kMostTooltipTextHeight ? needed + kTooltipHeightWithoutText
-                                           : kFullTooltipHeight;
-}
+/// Below the text that takes most room.
+constexpr double kMarginBelowText = 4;
 
 QString sizeText(std::uint64_t bytes)
 {
@@ -114,14 +112,18 @@ void TooltipController::setContentRef(QWidget* panel)
 void TooltipController::showGroup(const MultiLayoutObject& group)
 {
     QString names;
+    bool hasOtherNames = false;
     for (std::size_t i = 0; i < std::min(kMaxGroupNames, group.refs.size()); ++i) {
-        names += displayText(group.refs[i]->name()) + QLatin1Char('\r');
+        const File& node = *group.refs[i];
+        const QString other = otherNameText(node);
+        names += displayText(node.name()) + (other.isEmpty() ? other : QStringLiteral(": ") + other)
+            + QLatin1Char('\r');
+        hasOtherNames = hasOtherNames || !other.isEmpty();
     }
     const Ui::TooltipWindow& ui = m_window->ui();
-    ui.multiPath->setText(names);
     ui.multiSize->setText(sizeText(static_cast<std::uint64_t>(group.totalAllocation)));
     setContentRef(ui.multiView);
-    setDesiredHeight(heightFor(*ui.multiPath));
+    showText(*ui.multiPath, names, hasOtherNames);
 }
 
 void TooltipController::showFileOnDisk(const NodePanel& panel, const File& node)
@@ -140,9 +142,22 @@ void TooltipController::showFileOnDisk(const NodePanel& panel, const File& node)
     panel.name->setText(displayText(node.name()));
     panel.size->setText(sizeText(node.totalAllocation()));
     panel.modified->setText(modified ? mediumDate(*modified, QLocale()) : QString());
-    panel.path->setText(displayText(path));
+    const QString other = otherNameText(node);
     setContentRef(panel.view);
-    setDesiredHeight(heightFor(*panel.path));
+    showText(
+        *panel.path,
+        displayText(path) + (other.isEmpty() ? other : QLatin1Char('\r') + other),
+        !other.isEmpty());
+    panel.fields->resize(panel.fields->width(), panel.path->geometry().bottom() + 1);
+}
+
+/// The last text of a panel, which decides how high the window is.
+void TooltipController::showText(TooltipField& field, const QString& text, bool hasOtherNames)
+{
+    const double most = hasOtherNames ? kMostTextHeightOfOtherNames : kMostTooltipTextHeight;
+    field.resize(field.width(), static_cast<int>(most + kMarginBelowText));
+    field.setText(text);
+    setDesiredHeight(std::min(field.neededHeight(), most) + kTooltipHeightWithoutText);
 }
 
 void TooltipController::showUnknown(const File& node)

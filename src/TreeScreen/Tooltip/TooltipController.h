@@ -7,6 +7,7 @@
 #include <string>
 
 class QLabel;
+class QString;
 class QWidget;
 
 namespace tessera {
@@ -65,6 +66,7 @@ private:
     void setContentRef(QWidget* panel);
     void showGroup(const MultiLayoutObject& group);
     void showFileOnDisk(const NodePanel& panel, const File& node);
+    void showText(TooltipField& field, const QString& text, bool hasOtherNames);
     void showUnknown(const File& node);
     void showOtherSpace(const File& node);
     void setDesiredHeight(double height);

@@ -15,6 +15,10 @@ inline constexpr double kTooltipHeightWithoutText = 67;
 inline constexpr double kMostTooltipTextHeight = 56;
 inline constexpr double kFullTooltipHeight = kTooltipHeightWithoutText + kMostTooltipTextHeight;
 
+/// What the text takes at most where it says of names that their files are counted elsewhere:
+/// twelve lines, for two paths and a sentence.
+inline constexpr double kMostTextHeightOfOtherNames = 144;
+
 /// Of the full type for space that is no item, of which there is no more to say than a name and a
 /// size.
 inline constexpr double kSpaceTooltipHeight = 44;

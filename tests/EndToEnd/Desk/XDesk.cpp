@@ -15,6 +15,7 @@ namespace {
 
 /// Presses that come faster and closer to each other count as a double click.
 constexpr std::chrono::milliseconds kBetweenClicks{700};
+constexpr std::chrono::milliseconds kBeforeDrop{300};
 constexpr int kNearPixels = 16;
 
 /// Who asks, as a window manager wants to know it: a pager, which is always obeyed.
@@ -253,6 +254,21 @@ XDesk::Key XDesk::keyOf(std::uint32_t keysym) const
     const auto row = (found - first) / mapping->keysyms_per_keycode;
     const auto column = (found - first) % mapping->keysyms_per_keycode;
     return {static_cast<std::uint8_t>(setup->min_keycode + row), column == 1};
+}
+
+void XDesk::drag(QPoint from, QPoint to)
+{
+    constexpr int kSteps = 20;
+    constexpr std::chrono::milliseconds kBetweenSteps{10};
+    movePointer(from);
+    send(XCB_BUTTON_PRESS, static_cast<std::uint8_t>(Button::Left), {});
+    for (int step = 1; step <= kSteps; ++step) {
+        m_pointer = from + (to - from) * step / kSteps;
+        send(XCB_MOTION_NOTIFY, 0, kBetweenSteps);
+    }
+    // Whoever is dragged to is asked, and has to answer, before the button is let go.
+    send(XCB_BUTTON_RELEASE, static_cast<std::uint8_t>(Button::Left), kBeforeDrop);
+    sync();
 }
 
 void XDesk::typeKey(std::uint32_t keysym)

@@ -67,6 +67,8 @@ public:
     void movePointer(QPoint to);
     void click(QPoint at, Button button = Button::Left);
     void doubleClick(QPoint at);
+    /// With the left button down, by as many steps as a hand makes.
+    void drag(QPoint from, QPoint to);
     void typeKey(std::uint32_t keysym);
     /// Presses the keys one after the other and lets them go in reverse, such as Control and "o".
     void typeKeys(const std::vector<std::uint32_t>& keysyms);

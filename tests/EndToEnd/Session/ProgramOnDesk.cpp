@@ -97,6 +97,16 @@ testing::AssertionResult ProgramOnDesk::rejectDialog()
     return closeWithKey(XWindow::Kind::Dialog, key::kEscape);
 }
 
+testing::AssertionResult ProgramOnDesk::closeResult()
+{
+    const bool isMade = eventually([&] {
+        const std::optional<XWindow> dialog = desk().window(XWindow::Kind::Dialog);
+        return dialog && dialog->title.starts_with("Archive Created");
+    });
+    return isMade ? closeWithKey(XWindow::Kind::Dialog, key::kEscape)
+                  : failure("no archive was made");
+}
+
 testing::AssertionResult ProgramOnDesk::acceptWarning()
 {
     if (const auto opened = opens(XWindow::Kind::Dialog); !opened) {

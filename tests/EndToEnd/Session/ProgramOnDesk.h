@@ -23,11 +23,11 @@ protected:
     /// Entries of the context menus: how far down from the top, or up from the bottom, without
     /// separators.
     enum class MenuEntry {
-        ZoomIn = 3,
-        RescanFolder = 4,
-        Ignore = 5,
-        Compress = -2,
-        MoveToTrash = -1
+        ZoomIn = 7,
+        RescanFolder = 8,
+        Ignore = 9,
+        Compress = -4,
+        MoveToTrash = -2
     };
 
     /// Waits until the map shows that picture; says what differs otherwise.
@@ -50,6 +50,9 @@ protected:
     /// Answer the dialog that comes, with its default button or with Escape.
     testing::AssertionResult acceptDialog();
     testing::AssertionResult rejectDialog();
+
+    /// Waits until the small window says that the archive is made, and closes it.
+    testing::AssertionResult closeResult();
 
     /// Has a warning's first button pressed, which stands before its default button.
     testing::AssertionResult acceptWarning();

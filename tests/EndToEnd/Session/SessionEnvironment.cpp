@@ -22,6 +22,7 @@ std::vector<std::string> sessionEnvironment(
     environment.push_back("XDG_CONFIG_HOME=" + session.pathOf("config"));
     environment.push_back("XDG_DATA_HOME=" + session.pathOf("data"));
     environment.push_back("XDG_CACHE_HOME=" + session.pathOf("cache"));
+    environment.push_back("XDG_STATE_HOME=" + session.pathOf("state"));
     environment.push_back("XDG_RUNTIME_DIR=" + session.pathOf("runtime"));
     return environment;
 }

@@ -57,6 +57,14 @@ TEST_F(ArchiveCommand, SaysNothingWhenAllIsWellButWhichFileItMade)
     EXPECT_EQ(result.standardError, "");
 }
 
+TEST_F(ArchiveCommand, SaysWithWhichLibrariesItRuns)
+{
+    const ProgramResult result = runProgram(built::archiver(), {"--libraries"});
+    EXPECT_EQ(result.exitStatus, 0);
+    EXPECT_THAT(
+        result.standardOutput, testing::MatchesRegex("libarchive [0-9]+\\.[0-9]+\\.[0-9]+\n"));
+}
+
 TEST_F(ArchiveCommand, EntriesAreRootedAtTheFoldersName)
 {
     archiveX();

@@ -43,6 +43,34 @@ TEST(ArchiverCommandLine, PathsMayLookLikeOptions)
     EXPECT_EQ(commandLine->target, "--x");
 }
 
+const char* requested(const Arguments& arguments)
+{
+    return requestedArchiverText(arguments);
+}
+
+TEST(ArchiverCommandLine, TheHelpNamesEveryOption)
+{
+    const std::string help = requested({"--help"});
+    for (const char* option :
+         {"  -c ", "  -k ", "  --sequesterRsrc ", "  --folder ", "  --file ", "-h, --help "}) {
+        EXPECT_NE(help.find(option), std::string::npos) << option;
+    }
+    EXPECT_EQ(help, requested({"-h"}));
+}
+
+TEST(ArchiverCommandLine, SaysItsNameAndVersion)
+{
+    EXPECT_EQ(std::string(requested({"--version"})).rfind("tessera-ditto ", 0), 0U);
+}
+
+TEST(ArchiverCommandLine, TextIsAskedForByOneWordAlone)
+{
+    EXPECT_EQ(requested({}), nullptr);
+    EXPECT_EQ(requested({"--versions"}), nullptr);
+    EXPECT_EQ(requested({"--help", "source"}), nullptr);
+    EXPECT_EQ(requested({"-c", "-k", "--sequesterRsrc", "--help", "--version"}), nullptr);
+}
+
 class RefusedCommandLine : public testing::TestWithParam<Arguments> { };
 
 TEST_P(RefusedCommandLine, IsRefused)

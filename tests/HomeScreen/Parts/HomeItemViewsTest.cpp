@@ -30,6 +30,10 @@ QImage picture(QWidget& view)
     return image;
 }
 
+/// Nothing is reserved.
+const FileSystemSizes kThirdAvailable{
+    .totalBytes = 3000000000, .freeBytes = 1000000000, .availableBytes = 1000000000};
+
 class HomeItemViewsTest : public testing::Test {
 protected:
     HomeItemViewsTest()
@@ -56,7 +60,7 @@ TEST_F(HomeItemViewsTest, DisksOfOneNameDifferInTheirTooltips)
 {
     volume->setUrl(Url("/media/eve/b/data", true), QIcon());
     EXPECT_EQ(volume->toolTip(), QStringLiteral("data\n/media/eve/b/data"));
-    volume->setFileSystemSizes(FileSystemSizes{3000000000, 1000000000});
+    volume->setFileSystemSizes(kThirdAvailable);
     EXPECT_EQ(volume->toolTip(), QStringLiteral("data\n/media/eve/b/data, 3.0 GB"));
 }
 
@@ -65,10 +69,10 @@ TEST_F(HomeItemViewsTest, DisksOfOneNameDifferForScreenReaders)
     volume->setUrl(Url("/media/eve/b/data", true), QIcon());
     EXPECT_EQ(volume->accessibleName(), QStringLiteral("data"));
     EXPECT_EQ(volume->accessibleDescription(), QStringLiteral("/media/eve/b/data"));
-    volume->setFileSystemSizes(FileSystemSizes{3000000000, 1000000000});
+    volume->setFileSystemSizes(kThirdAvailable);
     EXPECT_EQ(
         volume->accessibleDescription(),
-        QStringLiteral("Free Space: 1.0 GB; /media/eve/b/data, 3.0 GB"));
+        QStringLiteral("Free for you: 1.0 GB; /media/eve/b/data, 3.0 GB"));
 }
 
 TEST_F(HomeItemViewsTest, NamesThatLookLikeMarkupAreShownAsTheyAre)
@@ -77,20 +81,50 @@ TEST_F(HomeItemViewsTest, NamesThatLookLikeMarkupAreShownAsTheyAre)
     EXPECT_TRUE(volume->toolTip().contains(QStringLiteral("&lt;b&gt;disk")));
 }
 
-TEST_F(HomeItemViewsTest, TheBarIsFilledByWhatIsNotFree)
+TEST_F(HomeItemViewsTest, TheBarIsFilledByWhatIsNotFreeForTheUser)
 {
-    volume->setFileSystemSizes(FileSystemSizes{3000000000, 1000000000});
+    volume->setFileSystemSizes(kThirdAvailable);
     EXPECT_EQ(
         volume->spaceBar().percentFilled(),
         static_cast<double>(static_cast<float>(1.0 - 1.0 / 3.0)));
-    EXPECT_EQ(volume->spaceLabel().text(), QStringLiteral("Free Space: 1.0 GB"));
+    EXPECT_EQ(volume->spaceLabel().text(), QStringLiteral("Free for you: 1.0 GB"));
+}
+
+TEST_F(HomeItemViewsTest, WhatIsReservedCountsAsNotFreeAndIsToldInTheTooltip)
+{
+    FileSystemSizes sizes{
+        .totalBytes = 4000000000,
+        .freeBytes = 1200000000,
+        .availableBytes = 1000000000,
+        .reservedBytes = 200000000,
+        .type = "ext4"};
+    volume->setFileSystemSizes(sizes);
+    EXPECT_EQ(volume->spaceBar().percentFilled(), 0.75);
+    EXPECT_EQ(volume->spaceLabel().text(), QStringLiteral("Free for you: 1.0 GB"));
+    EXPECT_EQ(
+        volume->toolTip(),
+        QStringLiteral("data\n/mnt/data, 4.0 GB\nFree for you: 1.0 GB\n"
+                       "Reserved for the administrator: 200.0 MB"));
+    sizes.type = "btrfs";
+    volume->setFileSystemSizes(sizes);
+    EXPECT_TRUE(
+        volume->toolTip().endsWith(QStringLiteral("Reserved by the file system: 200.0 MB")));
+}
+
+TEST_F(HomeItemViewsTest, ALocationSaysWhereItIs)
+{
+    EXPECT_EQ(folder->pathLabel().text(), QStringLiteral("/home/eve/Music"));
+    folder->setUrl(
+        Url("/home/eve/Music", true), QIcon(), QStringLiteral("Music"), QStringLiteral("~/Music"));
+    EXPECT_EQ(folder->pathLabel().text(), QStringLiteral("~/Music"));
+    EXPECT_EQ(folder->accessibleDescription(), QStringLiteral("/home/eve/Music"));
 }
 
 TEST_F(HomeItemViewsTest, WithoutSizesTheBarIsEmpty)
 {
     volume->setFileSystemSizes(std::nullopt);
     EXPECT_EQ(volume->spaceBar().percentFilled(), 0);
-    EXPECT_EQ(volume->spaceLabel().text(), QStringLiteral("Free Space: 0 B"));
+    EXPECT_EQ(volume->spaceLabel().text(), QStringLiteral("Free for you: 0 B"));
 }
 
 TEST_F(HomeItemViewsTest, AVolumesTextsTellWhetherItIsSelected)
@@ -178,8 +212,8 @@ TEST_F(HomeItemViewsTest, TheSelectionIsInsetByTwoPointsWithRoundCorners)
     const QColor selection = colorWithHex(0xD4D4D4);
     EXPECT_EQ(image.pixelColor(50, 1), QColor(Qt::magenta));
     EXPECT_EQ(image.pixelColor(50, 2), selection);
-    EXPECT_EQ(image.pixelColor(50, 101), selection);
-    EXPECT_EQ(image.pixelColor(50, 102), QColor(Qt::magenta));
+    EXPECT_EQ(image.pixelColor(50, folder->height() - 3), selection);
+    EXPECT_EQ(image.pixelColor(50, folder->height() - 2), QColor(Qt::magenta));
     EXPECT_EQ(image.pixelColor(1, 50), QColor(Qt::magenta));
     EXPECT_EQ(image.pixelColor(2, 50), selection);
     EXPECT_EQ(image.pixelColor(2, 2), QColor(Qt::magenta));

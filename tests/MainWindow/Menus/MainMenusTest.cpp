@@ -53,30 +53,58 @@ TEST_F(MainMenusTest, TheMenuBarHoldsEveryCommand)
         titles(menu(0)),
         ElementsAre(
             "&Open Folder…", "Choose &Another Disk or Folder", "-", "&Preferences…", "-", "&Quit"));
+    EXPECT_THAT(titles(menu(1)), ElementsAre("&Undo", "&Redo"));
     EXPECT_THAT(
-        titles(menu(1)),
+        titles(menu(3)),
         ElementsAre(
+            "Zoom &In",
+            "Zoom &Out",
+            "-",
+            "&Reload",
+            "-",
+            "&Basket",
+            "Where the &Space Is",
+            "&History",
+            "-",
+            "&Full Screen",
+            "Status &Line"));
+    EXPECT_THAT(
+        titles(menu(4)),
+        ElementsAre("What Tessera &Does", "Frequently Asked &Questions", "-", "&About Tessera"));
+}
+
+TEST_F(MainMenusTest, TheItemMenuHoldsAllThatIsDoneWithAnItem)
+{
+    EXPECT_THAT(
+        titles(menu(2)),
+        ElementsAre(
+            "&Open",
+            "Open &With…",
             "&Quick Look",
             "&Show in Finder",
+            "-",
+            "Copy &Path",
+            "Open Ter&minal Here",
             "-",
             "&Rescan",
             "&Ignore",
             "-",
             "&Compress",
-            "Move to &Trash"));
-    EXPECT_THAT(titles(menu(2)), ElementsAre("Zoom &In", "Zoom &Out", "-", "&Full Screen"));
-    EXPECT_THAT(titles(menu(3)), ElementsAre("What Tessera &Does", "Frequently Asked &Questions"));
+            "Add to &Basket",
+            "Move to &Trash",
+            "-",
+            "Prop&erties"));
 }
 
 TEST_F(MainMenusTest, TheTooltipsAreShownInTheMenus)
 {
-    EXPECT_TRUE(menu(1).toolTipsVisible());
     EXPECT_TRUE(menu(2).toolTipsVisible());
+    EXPECT_TRUE(menu(3).toolTipsVisible());
 }
 
 TEST_F(MainMenusTest, NoTwoEntriesOfAMenuShareAMnemonic)
 {
-    for (int i = 0; i < 4; ++i) {
+    for (int i = 0; i < 5; ++i) {
         std::set<QKeySequence> seen;
         for (const QAction* action : menu(i).actions()) {
             if (!action->isSeparator()) {
@@ -90,7 +118,7 @@ TEST_F(MainMenusTest, NoTwoEntriesOfAMenuShareAMnemonic)
 TEST_F(MainMenusTest, AMenuValidatesItsEntriesWhenItOpens)
 {
     context.isRootInView = true;
-    emit window.menuBar()->actions().at(2)->menu()->aboutToShow();
+    emit window.menuBar()->actions().at(3)->menu()->aboutToShow();
     EXPECT_FALSE(actions->action(Command::ZoomOut).isEnabled());
     EXPECT_TRUE(actions->action(Command::ZoomIn).isEnabled());
 }
@@ -99,7 +127,7 @@ TEST_F(MainMenusTest, AnotherMenuMayHoldTheSameEntries)
 {
     QMenu menuOfAButton;
     fillMenu(menuOfAButton, MainMenu::Item, *actions);
-    EXPECT_EQ(titles(menuOfAButton), titles(menu(1)));
+    EXPECT_EQ(titles(menuOfAButton), titles(menu(2)));
 }
 
 } // namespace

@@ -159,6 +159,24 @@ TEST_F(TreeItemClick, AThirdOneIsNoDoubleClick)
     EXPECT_EQ(m_reported, Reported{"click document"});
 }
 
+TEST_F(TreeItemClick, TwiceOnSpaceLeavesABoxAloneThatTheFirstOneBroughtThere)
+{
+    QObject::connect(&m_map, &TreeMapView::clickSpace, [this] {
+        std::swap(
+            m_branch->layoutItems()[kFreeSpace]->rect, m_branch->layoutItems()[kFolder]->rect);
+    });
+    doubleClick(box(kFreeSpace));
+    EXPECT_EQ(m_reported, Reported{});
+}
+
+TEST_F(TreeItemClick, FirstOnOneBoxAndThenOnAnotherIsNoDoubleClick)
+{
+    click(box(kFolder));
+    send(QEvent::MouseButtonDblClick, box(kDocument));
+    send(QEvent::MouseButtonRelease, box(kDocument));
+    EXPECT_EQ(m_reported, Reported{"click folder"});
+}
+
 TEST_F(TreeItemClick, OnGroupsAndSpaceDoesNothing)
 {
     for (const int index : {kGroup, kFreeSpace, kUnknown, kTimeMachine}) {

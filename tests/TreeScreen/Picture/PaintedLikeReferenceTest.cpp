@@ -116,7 +116,7 @@ void drawWithoutShortcuts(const TreeBranch& branch, QPainter& painter)
 {
     painter.save();
     painter.translate(branch.frame().x, branch.frame().y);
-    test::paintWholeLevel(painter, branch);
+    test::paintWholeLevel(painter, branch, FolderTitles::NamesAndSizes);
     for (const auto& nested : branch.subBranches()) {
         drawWithoutShortcuts(*nested, painter);
     }
@@ -133,7 +133,8 @@ TEST(TreePainter, LooksAsIfEveryLevelWasPaintedInFull)
     for (const double scale : {1.0, 1.5, 2.0}) {
         const auto branch
             = TreeBranch::make(LevelRenderer(false).renderTop(top.get(), {0, 0, 800, 600}));
-        const QImage picture = treePainter.paint(*branch, QSizeF(800, 600), scale);
+        const QImage picture
+            = treePainter.paint(*branch, QSizeF(800, 600), scale, FolderTitles::NamesAndSizes);
         QImage plain(picture.size(), QImage::Format_RGB32);
         plain.setDevicePixelRatio(scale);
         plain.fill(Qt::black);
@@ -150,10 +151,12 @@ TEST(TreePainter, PaintsTheSameWhereThereIsNoThreadToHelp)
     const auto branch
         = TreeBranch::make(LevelRenderer(false).renderTop(top.get(), {0, 0, 800, 600}));
     TreePainter treePainter;
-    const QImage usual = treePainter.paint(*branch, QSizeF(800, 600), 1.0);
+    const QImage usual
+        = treePainter.paint(*branch, QSizeF(800, 600), 1.0, FolderTitles::NamesAndSizes);
     QImage alone;
-    EXPECT_TRUE(
-        test::withoutThreads([&] { alone = treePainter.paint(*branch, QSizeF(800, 600), 1.0); }));
+    EXPECT_TRUE(test::withoutThreads([&] {
+        alone = treePainter.paint(*branch, QSizeF(800, 600), 1.0, FolderTitles::NamesAndSizes);
+    }));
     EXPECT_EQ(alone, usual);
 }
 

@@ -152,6 +152,51 @@ TEST_F(TooltipControllerTest, FiveNamesFitIntoThePanel)
     EXPECT_LE(names.y() + names.neededHeight(), 123);
 }
 
+TEST_F(TooltipControllerTest, AnotherNameOfAFileSaysWhereThatIsCounted)
+{
+    const auto top = test::makeTree("/home", "a/ ( x:700#5/13 ) b/ ( y:700#5/13 )");
+    hover(test::at(*top, "b/y"));
+    EXPECT_EQ(
+        text("filePath"), "/home/b/y\rone of 13 names of a file that is counted at /home/a/x");
+}
+
+TEST_F(TooltipControllerTest, WhereAFileIsCountedIsReadWhole)
+{
+    const auto top = test::makeTree(
+        "/home/anna/Documents", "letters/ ( x:700#5/13 ) letters-of-last-year/ ( y:700#5/13 )");
+    hover(test::at(*top, "letters-of-last-year/y"));
+    QString shown;
+    for (const QString& line : field("filePath").shownLines()) {
+        shown += line;
+    }
+    EXPECT_FALSE(shown.contains(QChar(0x2026))) << shown.toStdString();
+    EXPECT_GT(controller.desiredRect().height, 123);
+    EXPECT_LE(field("filePath").geometry().bottom(), field("filePath").parentWidget()->height());
+}
+
+TEST_F(TooltipControllerTest, ATooltipAfterThatIsNoHigherThanItsText)
+{
+    const auto top = test::makeTree("/home", "a/ ( x:700#5/13 ) b/ ( y:700#5/13 )");
+    hover(test::at(*top, "b/y"));
+    hover(test::at(*top, "a/x"));
+    EXPECT_EQ(field("filePath").height(), 60);
+    EXPECT_EQ(controller.desiredRect(), sized(67 + 12));
+}
+
+TEST_F(TooltipControllerTest, TheNameThatAFileIsCountedAtSaysNothingOfOthers)
+{
+    const auto top = test::makeTree("/home", "a/ ( x:700#5/13 ) b/ ( y:700#5/13 )");
+    hover(test::at(*top, "a/x"));
+    EXPECT_EQ(text("filePath"), "/home/a/x");
+}
+
+TEST_F(TooltipControllerTest, AGroupSaysOfEachOtherNameWhereItsFileIsCounted)
+{
+    const auto top = test::makeTree("/home", "x:700#5/2 b/ ( v:1 y:700#5/2 )");
+    hoverGroup(static_cast<Folder&>(test::at(*top, "b")), 2, 1);
+    EXPECT_EQ(text("multiPath"), "v\ry: one of 2 names of a file that is counted at /home/x\r");
+}
+
 TEST_F(TooltipControllerTest, AShortPathGivesItsHeightAndSixtySeven)
 {
     hover(test::at(*tree, "docs"));

@@ -3,9 +3,16 @@
 
 #include "support/TreeText.h"
 
+#include <cerrno>
 #include <utility>
 
 namespace tessera::test {
+
+namespace {
+
+constexpr std::uint64_t kDevice = 1;
+
+} // namespace
 
 FakeFileManager::FakeFileManager(std::string_view items)
 {
@@ -15,7 +22,14 @@ FakeFileManager::FakeFileManager(std::string_view items)
         const std::string prefix = folders.empty() ? std::string() : folders.back() + '/';
         const std::string name(item.name);
         m_entries.push_back(
-            {prefix + name, name, item.level, item.isDirectory, item.isHidden, item.bytes});
+            {prefix + name,
+             name,
+             item.level,
+             item.isDirectory,
+             item.isHidden,
+             item.bytes,
+             item.inode,
+             item.linkCount});
         folders.push_back(prefix + name);
     }
 }
@@ -64,8 +78,27 @@ FakeDirectoryEnumerator::FakeDirectoryEnumerator(const FakeFileManager& fileMana
     }
 }
 
+const EnteredDirectory* FakeDirectoryEnumerator::entered() const
+{
+    return m_entered ? &*m_entered : nullptr;
+}
+
+void FakeDirectoryEnumerator::enter()
+{
+    m_entered.reset();
+    if (const auto path = std::exchange(m_unentered, std::nullopt)) {
+        m_entered.emplace();
+        const auto own = m_fileManager.m_ownAllocations.find(*path);
+        m_entered->allocatedBytes = own == m_fileManager.m_ownAllocations.end() ? 0 : own->second;
+        if (m_fileManager.m_unreadable.contains(*path)) {
+            m_entered->problem = std::error_code(EACCES, std::system_category());
+        }
+    }
+}
+
 bool FakeDirectoryEnumerator::next(DirectoryItem& item)
 {
+    enter();
     const auto& entries = m_fileManager.m_entries;
     while (m_position < entries.size() && isMissing(entries[m_position].path)) {
         passOver(entries[m_position++].level);
@@ -83,8 +116,13 @@ bool FakeDirectoryEnumerator::next(DirectoryItem& item)
            entry.level,
            entry.isDirectory,
            hasKeys && entry.isHidden,
-           hasKeys ? entry.bytes : 0};
+           hasKeys ? entry.bytes : 0,
+           hasKeys ? entry.linkCount : 0,
+           {kDevice, hasKeys ? entry.inode : 0}};
     m_lastLevel = entry.level;
+    if (entry.isDirectory) {
+        m_unentered = entry.path;
+    }
     if (m_fileManager.m_unreadable.contains(entry.path)) {
         passOver(entry.level);
     }
@@ -99,6 +137,7 @@ bool FakeDirectoryEnumerator::isMissing(const std::string& path) const
 
 void FakeDirectoryEnumerator::skipDescendants()
 {
+    m_unentered.reset();
     passOver(m_lastLevel);
 }
 

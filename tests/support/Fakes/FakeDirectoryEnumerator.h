@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -21,8 +22,14 @@ public:
     /// `items` is text as parseTreeText() reads it, such as "docs/ ( a:700 .b:300 ) c:50".
     explicit FakeFileManager(std::string_view items);
 
-    /// The directory at `path` comes as an empty one.
+    /// The directory at `path` comes as an empty one, which may not be read.
     void makeUnreadable(std::string_view path);
+
+    /// Bytes that the directory at `path` takes itself; 0 unless told.
+    void setOwnAllocation(const std::string& path, std::uint64_t bytes)
+    {
+        m_ownAllocations[path] = bytes;
+    }
 
     /// The item at `path`, with all below it, is gone by the time its turn comes.
     void makeVanish(std::string_view path);
@@ -58,12 +65,15 @@ private:
         bool isDirectory = false;
         bool isHidden = false;
         std::uint64_t bytes = 0;
+        std::uint64_t inode = 0;
+        std::uint32_t linkCount = 0;
     };
 
     std::vector<Entry> m_entries;
     std::set<std::string, std::less<>> m_unreadable;
     std::set<std::string, std::less<>> m_vanishing;
     std::set<std::string, std::less<>> m_late;
+    std::map<std::string, std::uint64_t> m_ownAllocations;
     std::function<void(const std::string& path)> m_onItem;
     std::map<std::string, std::string> m_pathsWithoutLinks;
     mutable std::vector<std::string> m_enumeratedPaths;
@@ -77,14 +87,18 @@ public:
 
     [[nodiscard]] bool next(DirectoryItem& item) override;
     void skipDescendants() override;
+    [[nodiscard]] const EnteredDirectory* entered() const override;
 
 private:
+    void enter();
     bool isMissing(const std::string& path) const;
     void passOver(unsigned level);
 
     const FakeFileManager& m_fileManager;
     ItemKeys m_keys;
     bool m_isFirst; ///< of all walks
+    std::optional<std::string> m_unentered = ""; ///< the path of the directory fetched last
+    std::optional<EnteredDirectory> m_entered;
     std::size_t m_position = 0;
     unsigned m_lastLevel = 0;
 };

@@ -10,6 +10,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <utility>
 
 namespace tessera::test {
 
@@ -17,7 +18,7 @@ namespace tessera::test {
 class FixedFileSystem final : public FileSystemAttributes {
 public:
     explicit FixedFileSystem(std::optional<FileSystemSizes> sizes)
-        : m_sizes(sizes)
+        : m_sizes(std::move(sizes))
     {
     }
 
@@ -39,7 +40,7 @@ public:
     void setSizes(std::optional<FileSystemSizes> sizes)
     {
         const std::lock_guard lock(m_mutex);
-        m_sizes = sizes;
+        m_sizes = std::move(sizes);
     }
 
 private:

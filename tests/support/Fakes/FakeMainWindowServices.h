@@ -6,6 +6,8 @@
 #include "MainWindow/MainWindowServices.h"
 #include "MainWindow/ScanScreen.h"
 #include "Model/RootModel.h"
+#include "support/Fakes/FakeFreeingServices.h"
+#include "support/Fakes/FakeLedgerServices.h"
 #include "support/Fakes/FakePlaces.h"
 #include "support/Fakes/FakeRootModelServices.h"
 #include "support/Fakes/FakeTreeViewServices.h"
@@ -35,6 +37,7 @@ struct ScreenRecord {
     int leastScanHeight = 0; ///< what the scan panels to come need
     bool homeEnabled = true;
     int homeFocused = 0; ///< how often a home screen was given the keyboard
+    int homeReloaded = 0;
 };
 
 class FakeHomeScreen final : public HomeScreen {
@@ -52,6 +55,7 @@ public:
 
     QWidget& view() const override { return *m_view; }
     void setEnabled(bool enabled) override { m_record.homeEnabled = enabled; }
+    void reload() override { ++m_record.homeReloaded; }
     void takeFocus() override { ++m_record.homeFocused; }
 
 private:
@@ -111,6 +115,8 @@ struct FakeMainWindowServices {
     RootModel model{rootModel.get()};
     FakeOpenPanel openPanel;
     FakeMountedVolumes volumes;
+    FakeLedgerServices ledger;
+    FakeFreeingServices freeing;
     ScreenRecord screens;
     double now = 100;
 
@@ -122,6 +128,8 @@ struct FakeMainWindowServices {
             .defaults = rootModel.defaults,
             .openPanel = openPanel,
             .volumes = volumes,
+            .ledger = ledger.get(),
+            .freeing = freeing.get(),
             .makeHomeScreen = [this] { return std::make_unique<FakeHomeScreen>(screens); },
             .makeScanScreen = [this] { return std::make_unique<FakeScanScreen>(screens); },
             .slideClock = [this] { return now; }};

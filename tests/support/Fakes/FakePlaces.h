@@ -31,6 +31,7 @@ class FakeUserAccount final : public UserAccount {
 public:
     std::optional<PasswordEntry> realUser() const override { return real; }
     std::string homeDirectory() const override { return home; }
+    std::uint32_t userNumber() const override { return 0; }
 
     PasswordEntry real{"me", "/real/me"};
     std::string home = "/home/me";

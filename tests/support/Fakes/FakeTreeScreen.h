@@ -5,6 +5,7 @@
 #include "TreeScreen/Map/TreeScreen.h"
 #include "TreeScreen/Picture/TreeBranch.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -14,7 +15,13 @@ namespace tessera::test {
 /// A tree screen that shows nothing and writes down what it hears of.
 class FakeTreeScreen final : public TreeScreen {
 public:
-    void nodeWillLeave(File& node) override { leaving.emplace_back(node.name()); }
+    void nodeWillLeave(File& node) override
+    {
+        leaving.emplace_back(node.name());
+        if (whenLeaving) {
+            whenLeaving();
+        }
+    }
     void nodeCame(const File& node) override { come.push_back(node.absolutePath()); }
     const Folder* folderInView() const override { return nullptr; }
     void setCurrentFolder(Folder* /*folder*/) override { }
@@ -27,6 +34,7 @@ public:
     void renderTree() override { ++renderCount; }
 
     std::vector<std::string> leaving;
+    std::function<void()> whenLeaving; ///< called for each of them
     std::vector<std::string> come; ///< paths
     bool isSelectionTaken = false;
     int refreshCount = 0;

@@ -1,20 +1,26 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "TreeScreen/DiskChanges.h"
+#include "Basket/BasketKeeper.h"
 #include "TreeScreen/TreeViewServices.h"
+#include "Undo/DiskChanges.h"
+#include "Undo/TrashUndo.h"
 #include "support/Fakes/FakeAlert.h"
 #include "support/Fakes/FakeDirectoryEnumerator.h"
 #include "support/Fakes/FakeFileSystem.h"
 #include "support/Fakes/FakeIconProvider.h"
+#include "support/Fakes/FakeItemChanges.h"
+#include "support/Fakes/FakeItemStates.h"
 #include "support/Fakes/FakeMainThread.h"
 #include "support/Fakes/FakeMotionPreference.h"
+#include "support/Fakes/FakeOtherPrograms.h"
 #include "support/Fakes/FakeTask.h"
 #include "support/Fakes/FakeUserDefaults.h"
 #include "support/Fakes/FakeWorkspace.h"
 
 #include <atomic>
 #include <cerrno>
+#include <cstdint>
 #include <memory>
 #include <set>
 #include <string>
@@ -30,6 +36,7 @@ struct FakeTreeViewServices {
     explicit FakeTreeViewServices(std::string_view rescannedItems = "")
         : files(rescannedItems)
     {
+        basket.listenTo(trashUndo, diskChanges);
     }
 
     FakeFileManager files;
@@ -39,12 +46,18 @@ struct FakeTreeViewServices {
     FakeMainThread mainThread;
     FakeUserDefaults defaults;
     FakeWorkspace workspace;
+    FakeOtherPrograms otherPrograms;
     FakeAlert alert;
     FakeIconProvider icons;
     FakeTaskRecord archiver;
     std::set<std::string> targetsInUse;
     FakeMotionPreference motion;
     DiskChanges diskChanges;
+    TrashUndo trashUndo{workspace, alert, diskChanges};
+    std::shared_ptr<FakeItemStates> itemStates = std::make_shared<FakeItemStates>();
+    std::shared_ptr<FakeItemChanges> itemChanges = std::make_shared<FakeItemChanges>();
+    BasketKeeper basket{itemStates, mainThread};
+    std::uint32_t userNumber = 0; ///< which owns what nothing else is said of
     std::error_code folderProblem; ///< that every folder has
     std::string checkedFolder; ///< the last one
     std::atomic<bool> hasThreads = true; ///< whether a scan gets a worker
@@ -74,6 +87,7 @@ struct FakeTreeViewServices {
             .fileSystemAttributes = WithTimeLimit<FileSystemAttributes>(fileSystem),
             .defaults = defaults,
             .workspace = workspace,
+            .otherPrograms = otherPrograms,
             .alert = alert,
             .compressing
             = {.archiver = "/archiver",
@@ -82,9 +96,14 @@ struct FakeTreeViewServices {
                .resourceValues = WithTimeLimit<ResourceValues>(resourceValues),
                .icons = icons,
                .targetsInUse = targetsInUse,
-               .alert = alert},
+               .alert = alert,
+               .itemChanges = itemChanges,
+               .itemStates = itemStates},
             .motion = motion,
             .diskChanges = diskChanges,
+            .trashUndo = trashUndo,
+            .basket = basket,
+            .userNumber = userNumber,
             .checkFolder =
                 [this](const std::string& path) {
                     checkedFolder = path;

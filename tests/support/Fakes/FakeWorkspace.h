@@ -4,7 +4,9 @@
 #include "Base/Url.h"
 #include "Desktop/Workspace.h"
 
+#include <cstdint>
 #include <deque>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -26,9 +28,14 @@ public:
         complete(std::move(completionHandler));
     }
 
-    void recycleURLs(std::vector<Url> urls, RecycleCompletion completionHandler) override
+    void recycleURLs(std::vector<ItemToRecycle> items, RecycleCompletion completionHandler) override
     {
-        recycled.push_back(std::move(urls));
+        recycled.emplace_back();
+        for (const ItemToRecycle& item : items) {
+            recycled.back().push_back(item.url);
+            recycledBytes = item.bytes;
+        }
+        recycledItems = std::move(items);
         m_completions.push_back(std::move(completionHandler));
     }
 
@@ -38,7 +45,13 @@ public:
         RecycleCompletion completionHandler) override
     {
         recycledFile = file;
-        recycleURLs(std::move(places), std::move(completionHandler));
+        recycleURLs({places.begin(), places.end()}, std::move(completionHandler));
+    }
+
+    void putBack(PutBackRequest request, PutBackCompletion completionHandler) override
+    {
+        putBacks.push_back(std::move(request));
+        m_putBackCompletions.push_back(std::move(completionHandler));
     }
 
     /// Ends the oldest move to the trash that has not ended yet; false when there is none.
@@ -53,12 +66,27 @@ public:
         return true;
     }
 
+    /// The same for an item that is to be put back.
+    [[nodiscard]] bool finishPuttingBack(const PutBackResult& result)
+    {
+        if (m_putBackCompletions.empty()) {
+            return false;
+        }
+        const PutBackCompletion completion = std::move(m_putBackCompletions.front());
+        m_putBackCompletions.pop_front();
+        completion(result);
+        return true;
+    }
+
     bool answer = true;
     bool answersLater = false; ///< by lateAnswer, when something is to be opened or shown
     OpenCompletion lateAnswer;
     std::vector<std::string> opened;
     std::vector<std::string> revealed;
     std::vector<std::vector<Url>> recycled; ///< the items, or a file's places, of each call
+    std::optional<std::uint64_t> recycledBytes; ///< of the last item, if the caller knew them
+    std::vector<ItemToRecycle> recycledItems; ///< of the last call
+    std::vector<PutBackRequest> putBacks;
     FileIdentity recycledFile; ///< the last one that was recycled by its identity
 
 private:
@@ -72,6 +100,7 @@ private:
     }
 
     std::deque<RecycleCompletion> m_completions;
+    std::deque<PutBackCompletion> m_putBackCompletions;
 };
 
 } // namespace tessera::test

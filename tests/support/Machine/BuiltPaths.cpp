@@ -23,6 +23,16 @@ const char* settingsWriter()
     return TESSERA_SETTINGS_WRITER;
 }
 
+const char* trashMover()
+{
+    return TESSERA_TRASH_MOVER;
+}
+
+const char* basketMover()
+{
+    return TESSERA_BASKET_MOVER;
+}
+
 const char* folder()
 {
     return TESSERA_BUILD;

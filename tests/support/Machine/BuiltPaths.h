@@ -16,6 +16,11 @@ namespace tessera::test::built {
 /// A program that writes settings until it is killed.
 [[nodiscard]] const char* settingsWriter();
 
+/// Programs that move items to the trash and back until they are killed: one after the other, and
+/// as steps of several.
+[[nodiscard]] const char* trashMover();
+[[nodiscard]] const char* basketMover();
+
 /// The build's own folder, the CMake that made it, and where pictures of the screens go.
 [[nodiscard]] const char* folder();
 [[nodiscard]] const char* cmake();

@@ -69,6 +69,7 @@ std::string TrashFixture::move(const std::string& name)
     const RecycleResult result = m_trash.recycle({url});
     const auto moved = result.newUrls.find(url.absoluteString());
     m_newPath = moved == result.newUrls.end() ? "" : moved->second.path();
+    m_trashed = result.trashed.empty() ? TrashedItem() : result.trashed.front();
     return result.error;
 }
 

@@ -41,6 +41,7 @@ protected:
     const std::string m_userId;
     const FreedesktopTrash m_trash;
     std::string m_newPath; ///< of the item moved last; empty when it was not moved
+    TrashedItem m_trashed; ///< likewise
 };
 
 /// The same with an empty file system in memory at "disk".

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/Desktop/DBusRunningInstance.h"
 
+#include "Platform/Linux/Desktop/ActivationToken.h"
+
 #include <QDBusArgument>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
@@ -8,7 +10,6 @@
 #include <QStringList>
 #include <QVariantMap>
 
-#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -19,7 +20,6 @@ namespace {
 const QString kApplicationInterface = QStringLiteral("org.freedesktop.Application");
 const QString kActivationToken = QStringLiteral("activation-token");
 constexpr const char* kTokenVariable = "XDG_ACTIVATION_TOKEN";
-constexpr qsizetype kLongestToken = 256;
 
 const QString kIntrospection = QStringLiteral(R"(<interface name="org.freedesktop.Application">
   <method name="Activate">
@@ -43,19 +43,11 @@ QVariantMap platformData()
     return data;
 }
 
-bool isPrintable(QChar character)
-{
-    return character >= QLatin1Char(' ') && character <= QLatin1Char('~');
-}
-
-/// Empty when there is none, or what is none: anybody in the session may call.
+/// Empty when there is none, or what is none.
 std::string activationToken(const QVariant& argument)
 {
     const auto data = qdbus_cast<QVariantMap>(argument);
-    const QString token = data.value(kActivationToken).toString();
-    const bool isToken
-        = token.size() <= kLongestToken && std::all_of(token.begin(), token.end(), isPrintable);
-    return isToken ? token.toStdString() : std::string();
+    return activationTokenIn(data.value(kActivationToken).toString());
 }
 
 /// The last one counts, as where several folders are chosen in a dialog.

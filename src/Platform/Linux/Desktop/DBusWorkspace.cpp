@@ -24,7 +24,8 @@ namespace {
 bool isOpenable(std::string_view absoluteUrl)
 {
     // The text becomes an argument of another program, so it must be no option of it.
-    constexpr std::array<std::string_view, 3> kSchemes{"https://", "http://", "file:///"};
+    constexpr std::array<std::string_view, 4> kSchemes{
+        "https://", "http://", "file:///", "trash:///"};
     return std::any_of(kSchemes.begin(), kSchemes.end(), [absoluteUrl](std::string_view scheme) {
         return absoluteUrl.starts_with(scheme);
     });
@@ -52,33 +53,35 @@ QDBusMessage showRequest(const Url& item)
     return message;
 }
 
+DBusWorkspace::TrashCalls callsOf(const FreedesktopTrash& trash)
+{
+    return {
+        [trash](const std::vector<ItemToRecycle>& items) { return trash.recycle(items); },
+        [trash](const FileIdentity& file, const std::vector<Url>& places) {
+            return trash.recycleFile(file, places);
+        },
+        [trash](const PutBackRequest& request) { return trash.putBack(request); }};
+}
+
 } // namespace
 
-DBusWorkspace::DBusWorkspace(QDBusConnection bus, MainThread& mainThread)
+DBusWorkspace::DBusWorkspace(
+    QDBusConnection bus, MainThread& mainThread, std::shared_ptr<TrashJournal> journal)
     : DBusWorkspace(
         std::move(bus),
         ExternalOpener("xdg-open"),
         mainThread,
-        [trash = FreedesktopTrash(TrashUser::current())](const std::vector<Url>& urls) {
-            return trash.recycle(urls);
-        },
-        [trash = FreedesktopTrash(TrashUser::current())](
-            const FileIdentity& file, const std::vector<Url>& places) {
-            return trash.recycleFile(file, places);
-        })
+        callsOf(FreedesktopTrash(TrashUser::current(), std::move(journal))))
 {
 }
 
 DBusWorkspace::DBusWorkspace(
-    QDBusConnection bus,
-    Opener opener,
-    MainThread& mainThread,
-    BackgroundTrash::Mover mover,
-    FileMover fileMover)
+    QDBusConnection bus, Opener opener, MainThread& mainThread, TrashCalls trash)
     : m_bus(std::move(bus))
     , m_opener(std::move(opener))
-    , m_trash(mainThread, std::move(mover))
-    , m_fileMover(std::move(fileMover))
+    , m_trash(mainThread, std::move(trash.recycle))
+    , m_fileMover(std::move(trash.recycleFile))
+    , m_putterBack(std::move(trash.putBack))
     , m_pendingCalls(std::make_unique<QObject>())
 {
 }
@@ -130,16 +133,28 @@ void DBusWorkspace::reveal(const Url& item, OpenCompletion completionHandler)
         });
 }
 
-void DBusWorkspace::recycleURLs(std::vector<Url> urls, RecycleCompletion completionHandler)
+void DBusWorkspace::recycleURLs(
+    std::vector<ItemToRecycle> items, RecycleCompletion completionHandler)
 {
-    m_trash.recycle(std::move(urls), std::move(completionHandler));
+    m_trash.recycle(std::move(items), std::move(completionHandler));
 }
 
 void DBusWorkspace::recycleFile(
     const FileIdentity& file, std::vector<Url> places, RecycleCompletion completionHandler)
 {
     m_trash.perform(
-        [mover = m_fileMover, file, places = std::move(places)] { return mover(file, places); },
+        BackgroundTrash::Move([mover = m_fileMover, file, places = std::move(places)] {
+            return mover(file, places);
+        }),
+        std::move(completionHandler));
+}
+
+void DBusWorkspace::putBack(PutBackRequest request, PutBackCompletion completionHandler)
+{
+    m_trash.perform(
+        BackgroundTrash::PutBack([putterBack = m_putterBack, request = std::move(request)] {
+            return putterBack(request);
+        }),
         std::move(completionHandler));
 }
 

@@ -14,6 +14,8 @@ class QObject;
 
 namespace tessera {
 
+class TrashJournal;
+
 /// The freedesktop.org desktop: its file manager over D-Bus, its trash, and xdg-open for everything
 /// else.
 class DBusWorkspace final : public Workspace {
@@ -26,14 +28,21 @@ public:
     using FileMover
         = std::function<RecycleResult(const FileIdentity&, const std::vector<Url>& places)>;
 
-    /// With xdg-open and the user's own trash. `mainThread` must outlive it.
-    DBusWorkspace(QDBusConnection bus, MainThread& mainThread);
+    /// Puts an item back; likewise.
+    using PutterBack = std::function<PutBackResult(const PutBackRequest&)>;
+
+    /// How items are moved to the trash and back.
+    struct TrashCalls {
+        BackgroundTrash::Mover recycle;
+        FileMover recycleFile;
+        PutterBack putBack;
+    };
+
+    /// With xdg-open and the user's own trash, which enters what it does in the journal.
+    /// `mainThread` must outlive it.
     DBusWorkspace(
-        QDBusConnection bus,
-        Opener opener,
-        MainThread& mainThread,
-        BackgroundTrash::Mover mover,
-        FileMover fileMover);
+        QDBusConnection bus, MainThread& mainThread, std::shared_ptr<TrashJournal> journal);
+    DBusWorkspace(QDBusConnection bus, Opener opener, MainThread& mainThread, TrashCalls trash);
     ~DBusWorkspace() override;
 
     /// Only "http", "https" and "file" URLs are opened.
@@ -43,18 +52,21 @@ public:
     /// that holds the item, is opened instead, as soon as that is known.
     void reveal(const Url& item, OpenCompletion completionHandler) override;
 
-    /// By FreedesktopTrash, on a thread of its own; recycleFile() likewise.
-    void recycleURLs(std::vector<Url> urls, RecycleCompletion completionHandler) override;
+    /// By FreedesktopTrash, on a thread of its own; so are the two that follow.
+    void recycleURLs(
+        std::vector<ItemToRecycle> items, RecycleCompletion completionHandler) override;
     void recycleFile(
         const FileIdentity& file,
         std::vector<Url> places,
         RecycleCompletion completionHandler) override;
+    void putBack(PutBackRequest request, PutBackCompletion completionHandler) override;
 
 private:
     QDBusConnection m_bus;
     Opener m_opener;
     BackgroundTrash m_trash;
     FileMover m_fileMover;
+    PutterBack m_putterBack;
     std::unique_ptr<QObject> m_pendingCalls; ///< parent of the calls not yet answered
 };
 

@@ -3,7 +3,7 @@
 
 #include "Desktop/ColorSchemePreference.h"
 #include "Platform/Linux/Desktop/DesktopSettings.h"
-#include "Platform/Linux/Desktop/PortalColorScheme.h"
+#include "Platform/Linux/Desktop/PortalSetting.h"
 
 #include <QDBusConnection>
 
@@ -12,7 +12,8 @@
 namespace tessera {
 
 /// The first that has a preference: the desktop's portal, the setting of GNOME and its relatives
-/// that the portal would read, and the name of the theme that GTK's programs have. Until the portal
+/// that the portal would read, and the name of the theme that GTK's programs have; for the accent's
+/// colour, the first two. Until the portal
 /// answers the others count, so that windows open in the right colours at once on most desktops.
 class DesktopColorSchemePreference final : public ColorSchemePreference {
 public:
@@ -24,6 +25,7 @@ public:
     ~DesktopColorSchemePreference() override;
 
     [[nodiscard]] ColorScheme colorScheme() const override;
+    [[nodiscard]] std::optional<AccentColor> accentColor() const override;
     void setHandler(Handler handler) override;
 
 private:
@@ -32,7 +34,8 @@ private:
 
     Handler m_handler;
     std::string m_gtkTheme;
-    PortalColorScheme m_portal;
+    PortalSetting m_portal;
+    PortalSetting m_portalAccent;
     DesktopSettings m_settings;
 };
 

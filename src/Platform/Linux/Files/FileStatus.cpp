@@ -19,7 +19,7 @@ namespace tessera {
 namespace {
 
 constexpr unsigned kWanted = STATX_TYPE | STATX_MODE | STATX_UID | STATX_GID | STATX_SIZE
-    | STATX_INO | STATX_BLOCKS | STATX_MTIME | STATX_MNT_ID;
+    | STATX_INO | STATX_NLINK | STATX_BLOCKS | STATX_MTIME | STATX_CTIME | STATX_MNT_ID;
 
 constexpr int kOpenFlags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 
@@ -39,9 +39,13 @@ FileStatus fromStatx(const struct statx& values)
     status.mode = values.stx_mode;
     status.owner = values.stx_uid;
     status.group = values.stx_gid;
+    status.linkCount = values.stx_nlink;
     status.length = values.stx_size;
     status.allocatedBytes = allocatedBytes(values.stx_blocks);
     status.modified = values.stx_mtime.tv_sec;
+    status.modifiedNanoseconds = values.stx_mtime.tv_nsec;
+    status.changed = values.stx_ctime.tv_sec;
+    status.changedNanoseconds = values.stx_ctime.tv_nsec;
     if ((values.stx_mask & STATX_MNT_ID) != 0) {
         status.mountId = values.stx_mnt_id;
     }
@@ -61,9 +65,13 @@ FileStatus fromStat(const struct stat& values)
     status.mode = values.st_mode;
     status.owner = values.st_uid;
     status.group = values.st_gid;
+    status.linkCount = values.st_nlink;
     status.length = static_cast<std::uint64_t>(values.st_size);
     status.allocatedBytes = allocatedBytes(static_cast<std::uint64_t>(values.st_blocks));
     status.modified = values.st_mtim.tv_sec;
+    status.modifiedNanoseconds = static_cast<std::uint32_t>(values.st_mtim.tv_nsec);
+    status.changed = values.st_ctim.tv_sec;
+    status.changedNanoseconds = static_cast<std::uint32_t>(values.st_ctim.tv_nsec);
     return status;
 }
 
@@ -116,6 +124,18 @@ StatusResult statusAt(int directory, const char* name, LinkMode linkMode)
     return status(directory, name, flagsFor(linkMode));
 }
 
+StatusResult mountAt(int directory, const char* name)
+{
+    constexpr int kFlags = AT_NO_AUTOMOUNT | AT_SYMLINK_NOFOLLOW | AT_STATX_DONT_SYNC;
+    struct statx values { };
+    int result = 0;
+    do {
+        // FUSE answers others than the mount's owner only when they ask for no field at all.
+        result = ::statx(directory, name, kFlags, 0, &values);
+    } while (result != 0 && errno == EINTR);
+    return result == 0 ? StatusResult{0, fromStatx(values)} : StatusResult{errno, {}};
+}
+
 StatusResult statusOf(int descriptor)
 {
     return status(descriptor, "", AT_EMPTY_PATH);
@@ -150,10 +170,15 @@ FileDescriptor openDirectoryAt(int directory, const char* name, const FileIdenti
 {
     FileDescriptor opened = openDirectoryAt(directory, name);
     if (!opened.isOpen()) {
-        return {};
+        return opened;
     }
     const StatusResult found = statusOf(opened.number());
-    return found && found.status.identity == expected ? std::move(opened) : FileDescriptor();
+    if (found && found.status.identity == expected) {
+        return opened;
+    }
+    opened = FileDescriptor();
+    errno = found ? ENOENT : found.error;
+    return opened;
 }
 
 } // namespace tessera

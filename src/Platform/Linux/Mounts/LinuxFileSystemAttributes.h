@@ -7,9 +7,14 @@
 #include <functional>
 #include <memory>
 
+struct statvfs;
+
 namespace tessera {
 
-/// statvfs(3). What does not answer in time has no sizes.
+/// The sizes that statvfs(3) tells, without the file system's type and device.
+[[nodiscard]] FileSystemSizes sizesOf(const struct statvfs& values);
+
+/// statvfs(3), and the table of mounts for the type. What does not answer in time has no sizes.
 class LinuxFileSystemAttributes final : public FileSystemAttributes {
 public:
     /// What is asked of the system for a path: 0 and the sizes, or an errno. Tests pass their own.

@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/Mounts/MountTable.h"
 
-#include "Platform/Linux/Files/FileDescriptor.h"
+#include "Platform/Linux/Files/ReadToEnd.h"
 
 #include <fcntl.h>
-#include <unistd.h>
+#include <sys/sysmacros.h>
 
 #include <algorithm>
-#include <array>
-#include <cerrno>
 #include <charconv>
 
 namespace tessera {
@@ -28,13 +26,21 @@ bool isOctal(char c)
     return c >= '0' && c <= '7';
 }
 
+/// The whole text as a decimal number.
+template <typename Number>
+bool readNumber(std::string_view text, Number& number)
+{
+    const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
+    return read.ec == std::errc() && read.ptr == text.data() + text.size();
+}
+
 /// Of "36 35 98:0 /root /mount/point rw,noatime master:1 - ext3 /dev/root rw".
 std::optional<Mount> mountFrom(std::string_view line)
 {
     const std::string_view id = takeUntil(line, ' ');
-    takeUntil(line, ' '); // the mount that it is mounted in
+    const std::string_view parent = takeUntil(line, ' ');
     Mount mount;
-    const auto read = std::from_chars(id.data(), id.data() + id.size(), mount.id);
+    const bool isWhole = readNumber(id, mount.id) && readNumber(parent, mount.parent);
     mount.device = takeUntil(line, ' ');
     mount.root = unescapedMountField(takeUntil(line, ' '));
     mount.point = unescapedMountField(takeUntil(line, ' '));
@@ -43,11 +49,32 @@ std::optional<Mount> mountFrom(std::string_view line)
     mount.fileSystemType = takeUntil(line, ' ');
     mount.source = unescapedMountField(takeUntil(line, ' '));
     mount.options = unescapedMountField(takeUntil(line, ' '));
-    const bool isWhole = read.ec == std::errc() && read.ptr == id.data() + id.size();
     return isWhole && mount.point.starts_with('/') ? std::optional(std::move(mount)) : std::nullopt;
 }
 
+/// What lies below one folder as it is below another.
+std::string movedPath(std::string_view path, std::string_view from, std::string_view to)
+{
+    std::string_view rest = path.substr(std::min(from == "/" ? 0 : from.size(), path.size()));
+    rest.remove_prefix(std::min(rest.find_first_not_of('/'), rest.size()));
+    std::string moved(to);
+    if (!rest.empty()) {
+        moved.append(moved.ends_with('/') ? "" : "/").append(rest);
+    }
+    return moved;
+}
+
 } // namespace
+
+std::optional<std::uint64_t> Mount::deviceNumber() const
+{
+    std::string_view text = device;
+    unsigned majorNumber = 0;
+    unsigned minorNumber = 0;
+    const bool isWhole
+        = readNumber(takeUntil(text, ':'), majorNumber) && readNumber(text, minorNumber);
+    return isWhole ? std::optional<std::uint64_t>(makedev(majorNumber, minorNumber)) : std::nullopt;
+}
 
 MountTable::MountTable(std::string_view mountInfo)
 {
@@ -60,16 +87,9 @@ MountTable::MountTable(std::string_view mountInfo)
 
 std::optional<MountTable> MountTable::ofThisProcess(const char* path)
 {
-    const FileDescriptor file(::open(path, O_RDONLY | O_CLOEXEC));
-    std::string text;
-    std::array<char, 4096> piece{};
-    ssize_t count = 0;
-    do {
-        count = ::read(file.number(), piece.data(), piece.size());
-        text.append(piece.data(), static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
-    } while (count > 0 || (count < 0 && errno == EINTR));
     // A table that broke off would say that nothing is mounted where something is.
-    return count == 0 ? std::optional(MountTable(text)) : std::nullopt;
+    const auto text = readToEnd(FileDescriptor(::open(path, O_RDONLY | O_CLOEXEC)));
+    return text ? std::optional(MountTable(*text)) : std::nullopt;
 }
 
 std::optional<Mount> MountTable::mountOf(
@@ -97,6 +117,40 @@ bool MountTable::hasMountInside(std::string_view folder) const
     return std::any_of(m_mounts.begin(), m_mounts.end(), [folder](const Mount& mount) {
         return mount.point != folder && isAtOrInside(mount.point, folder);
     });
+}
+
+std::vector<Mount> MountTable::mountsThatCover(std::string_view folder) const
+{
+    const std::optional<Mount> shown = mountOf(folder, {});
+    std::vector<Mount> covering;
+    for (const Mount& mount : m_mounts) {
+        const bool isAtNewPoint
+            = std::ranges::find(covering, mount.point, &Mount::point) == covering.end();
+        if (shown && isAtNewPoint && isAtOrInside(mount.point, folder)
+            && coversSomethingOf(mount, *shown)) {
+            covering.push_back(mount);
+        }
+    }
+    return covering;
+}
+
+/// Of the same file system, and of what can be seen nowhere in the mount that is shown.
+bool MountTable::coversSomethingOf(const Mount& mount, const Mount& shown) const
+{
+    const std::optional<Mount> around = withId(mount.parent);
+    if (!around || around->id == mount.id || around->device != shown.device) {
+        return false;
+    }
+    const auto isAround = [&mount](const Mount& other) {
+        return other.parent == mount.parent && other.id != mount.id && other.point != mount.point
+            && isAtOrInside(mount.point, other.point);
+    };
+    if (std::ranges::any_of(m_mounts, isAround)) {
+        return false;
+    }
+    // What lies in the shown part as well is seen there, or told as covered there.
+    return around->id == shown.id
+        || !isAtOrInside(movedPath(mount.point, around->point, around->root), shown.root);
 }
 
 std::string unescapedMountField(std::string_view field)

@@ -12,6 +12,7 @@ namespace tessera {
 /// One line of the kernel's table of mounts.
 struct Mount {
     std::uint64_t id = 0;
+    std::uint64_t parent = 0; ///< the mount that it is mounted in
     std::string device; ///< numbers of the device, like "8:1"
     std::string root; ///< which of the file system's folders is mounted; absolute path as bytes
     std::string point; ///< absolute path as bytes
@@ -21,6 +22,9 @@ struct Mount {
 
     /// Whether it shows a folder or subvolume of its file system only.
     bool isPart() const { return root != "/"; }
+
+    /// The device as stat(2) writes it; nothing when the numbers cannot be read.
+    std::optional<std::uint64_t> deviceNumber() const;
 };
 
 /// What is mounted where, as the kernel tells it at one moment.
@@ -48,7 +52,15 @@ public:
     /// Whether something is mounted at a place inside the folder.
     bool hasMountInside(std::string_view folder) const;
 
+    /// The mounts at or inside a folder without links that cover a file or a folder of the very
+    /// file system which the folder shows, by whichever of its mounts: what is below them takes
+    /// space there and cannot be seen, neither there nor elsewhere in the folder. Each point once;
+    /// none of a point that lies below another cover. None where the folder's mount is not known.
+    std::vector<Mount> mountsThatCover(std::string_view folder) const;
+
 private:
+    bool coversSomethingOf(const Mount& mount, const Mount& shown) const;
+
     std::vector<Mount> m_mounts;
 };
 

@@ -53,4 +53,9 @@ std::string LinuxUserAccount::homeDirectory() const
     return entry ? entry->directory : "/";
 }
 
+std::uint32_t LinuxUserAccount::userNumber() const
+{
+    return ::geteuid();
+}
+
 } // namespace tessera

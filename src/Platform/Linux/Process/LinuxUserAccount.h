@@ -12,6 +12,8 @@ public:
 
     /// HOME when it is set, else the home of the user whose rights the process has, else "/".
     [[nodiscard]] std::string homeDirectory() const override;
+
+    [[nodiscard]] std::uint32_t userNumber() const override;
 };
 
 } // namespace tessera

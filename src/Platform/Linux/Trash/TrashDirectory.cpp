@@ -6,6 +6,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -15,7 +16,6 @@ namespace tessera {
 
 namespace {
 
-constexpr mode_t kPrivateMode = 0700;
 constexpr std::string_view kSharedName = ".Trash";
 
 /// A folder by its path as far as it is there, and the components that are still to be made.
@@ -130,12 +130,22 @@ NewFolders::~NewFolders()
     }
 }
 
-int NewFolders::make(const FileDescriptor& parent, const std::string& name)
+int NewFolders::make(const FileDescriptor& parent, const std::string& name, mode_t mode)
 {
-    if (::mkdirat(parent.number(), name.c_str(), kPrivateMode) != 0) {
+    if (::mkdirat(parent.number(), name.c_str(), mode) != 0) {
         return errno == EEXIST ? 0 : errno;
     }
     m_made.push_back({FileDescriptor(::fcntl(parent.number(), F_DUPFD_CLOEXEC, 0)), name});
+    return 0;
+}
+
+int NewFolders::sync() const
+{
+    for (const Folder& made : m_made) {
+        if (const int error = syncFolder(made.parent); error != 0) {
+            return error;
+        }
+    }
     return 0;
 }
 
@@ -169,23 +179,43 @@ bool isInTopTrash(std::string_view path, const std::string& topDirectory)
         && number.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
+int openPrivateFolder(std::string_view path, FileDescriptor& folder, NewFolders& newFolders)
+{
+    PartOfPath part = enterAsFarAsPossible(path);
+    int error = part.error;
+    for (const std::string& component : part.missing) {
+        if (error == 0) {
+            error = newFolders.make(part.deepest, component);
+        }
+        if (error != 0) {
+            return error;
+        }
+        part.deepest = enter(part.deepest, component);
+        error = part.deepest.isOpen() ? 0 : errno;
+    }
+    folder = std::move(part.deepest);
+    return error;
+}
+
+int syncFolder(const FileDescriptor& folder)
+{
+    // One that is opened for reaching what is in it cannot be synced.
+    constexpr int kFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
+    const FileDescriptor opened(::openat(folder.number(), ".", kFlags));
+    if (!opened.isOpen()) {
+        return errno;
+    }
+    const int error = ::fsync(opened.number()) == 0 ? 0 : errno;
+    return error == EINVAL || error == ENOSYS || error == EOPNOTSUPP ? 0 : error;
+}
+
 TrashDirectoryResult openHomeTrash(std::string_view path)
 {
     TrashDirectoryResult result;
-    PartOfPath part = enterAsFarAsPossible(path);
-    result.error = part.error;
-    for (const std::string& component : part.missing) {
-        if (result.error == 0) {
-            result.error = result.trash.newFolders.make(part.deepest, component);
-        }
-        if (result.error != 0) {
-            return result;
-        }
-        part.deepest = enter(part.deepest, component);
-        result.error = part.deepest.isOpen() ? 0 : errno;
-    }
+    FileDescriptor folder;
+    result.error = openPrivateFolder(path, folder, result.trash.newFolders);
     if (result.error == 0) {
-        result.error = openParts(result.trash, part.deepest);
+        result.error = openParts(result.trash, folder);
     }
     return result;
 }

@@ -12,8 +12,8 @@
 
 namespace tessera {
 
-/// Makes folders that only the user may enter, and in the end removes those it made again that are
-/// empty still: a move that fails leaves nothing behind.
+/// Makes folders, and in the end removes those it made again that are empty still: a move that
+/// fails leaves nothing behind.
 class NewFolders {
 public:
     NewFolders() = default;
@@ -28,10 +28,17 @@ public:
     NewFolders& operator=(const NewFolders&) = delete;
     ~NewFolders();
 
-    /// Makes the folder unless something has the name already. 0, or the errno.
-    [[nodiscard]] int make(const FileDescriptor& parent, const std::string& name);
+    /// Makes the folder unless something has the name already; only the user may enter it, unless
+    /// the mode says something else. 0, or the errno.
+    [[nodiscard]] int make(
+        const FileDescriptor& parent, const std::string& name, mode_t mode = kPrivateFolderMode);
+
+    /// Brings the names of those it made to the disk. 0, or the errno.
+    [[nodiscard]] int sync() const;
 
 private:
+    static constexpr mode_t kPrivateFolderMode = 0700;
+
     struct Folder {
         FileDescriptor parent;
         std::string name;
@@ -67,6 +74,15 @@ struct TrashDirectoryResult {
 
 /// Whether the path is or lies in a trash, of whichever user, in the folder where its mount begins.
 [[nodiscard]] bool isInTopTrash(std::string_view path, const std::string& topDirectory);
+
+/// Opens the folder at `path`, for reaching what is in it, and makes what is missing of it. Links
+/// are followed: the user chose where it is. 0, or the errno.
+[[nodiscard]] int openPrivateFolder(
+    std::string_view path, FileDescriptor& folder, NewFolders& newFolders);
+
+/// Brings the names in the folder to the disk. 0, or the errno; file systems that know nothing of
+/// that need it not.
+[[nodiscard]] int syncFolder(const FileDescriptor& folder);
 
 /// Opens the trash at `path` and makes what is missing of it, folders above it included.
 [[nodiscard]] TrashDirectoryResult openHomeTrash(std::string_view path);

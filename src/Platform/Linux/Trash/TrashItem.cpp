@@ -23,8 +23,15 @@ std::string changedKindSentence(const std::string& name, bool isDirectory)
         + (isDirectory ? "a folder now." : "no folder any more.");
 }
 
-/// Whether the path is absolute, names something in a folder and says where that lies without
-/// anybody having to resolve it.
+TrashItemResult failure(std::string sentence)
+{
+    TrashItemResult result;
+    result.error = std::move(sentence);
+    return result;
+}
+
+} // namespace
+
 bool isPlainPath(std::string_view path)
 {
     if (!path.starts_with('/')) {
@@ -40,15 +47,6 @@ bool isPlainPath(std::string_view path)
     }
     return true;
 }
-
-TrashItemResult failure(std::string sentence)
-{
-    TrashItemResult result;
-    result.error = std::move(sentence);
-    return result;
-}
-
-} // namespace
 
 TrashItemResult findTrashItem(const Url& url)
 {
@@ -69,12 +67,14 @@ TrashItemResult findTrashItem(const Url& url)
     }
     item.parent = std::move(place.folder);
     const StatusResult parent = statusOf(item.parent.number());
-    const StatusResult found = statusAt(item.parent.number(), item.name.c_str());
-    if (!parent || !found) {
+    HeldItem found = holdItemAt(item.parent, item.name);
+    if (!parent || found.error != 0) {
         return failure(trashErrorSentence(item.name, parent ? found.error : parent.error));
     }
     item.parentStatus = parent.status;
     item.status = found.status;
+    item.held = std::move(found.held);
+    item.birth = found.birth;
     if (item.status.isDirectory != url.isDirectory()) {
         return failure(changedKindSentence(item.name, item.status.isDirectory));
     }

@@ -2,9 +2,12 @@
 #pragma once
 
 #include "Base/Url.h"
-#include "Platform/Linux/Files/FileStatus.h"
+#include "Platform/Linux/Files/HeldItem.h"
 
+#include <cstdint>
+#include <optional>
 #include <string>
+#include <string_view>
 
 namespace tessera {
 
@@ -16,6 +19,8 @@ struct TrashItem {
     std::string name; ///< in `parent`
     std::string path; ///< where it is; nothing above it is a link
     FileStatus status; ///< of the item itself, be it a link
+    FileDescriptor held; ///< the item, so that nothing else can pass for it
+    std::optional<std::uint64_t> birth; ///< as birthTimeOf()
 };
 
 /// An item, or one sentence for the user that says why there is none.
@@ -25,6 +30,10 @@ struct TrashItemResult {
 
     explicit operator bool() const { return error.empty(); }
 };
+
+/// Whether the path is absolute, names something in a folder and says where that lies without
+/// anybody having to resolve it.
+[[nodiscard]] bool isPlainPath(std::string_view path);
 
 /// Looks the item up, which must still be a folder or no folder as the URL says, and be reached
 /// over no link.

@@ -5,7 +5,7 @@
 
 namespace tessera {
 
-static_assert(sizeof(DirectoryListing::Entry) == 24, "tens of thousands are held at a time");
+static_assert(sizeof(DirectoryListing::Entry) == 32, "tens of thousands are held at a time");
 
 namespace {
 

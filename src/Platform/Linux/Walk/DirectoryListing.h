@@ -22,6 +22,10 @@ public:
     struct Entry {
         std::uint64_t inode = 0;
         std::uint64_t allocatedBytes = 0; ///< 0 for directories
+        /// As stat(2) has it: the kernel's own numbers take no more bits. Known where the file has
+        /// other names.
+        std::uint32_t device = 0;
+        std::uint32_t linkCount = 0; ///< names that the file has; 0 where it has one
         std::uint64_t nameOffset : 40;
         std::uint64_t nameLength : 16; ///< more than 255 on some foreign file systems
         Kind kind : 2;

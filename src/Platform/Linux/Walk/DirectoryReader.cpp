@@ -6,8 +6,10 @@
 
 #include <dirent.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
+#include <limits>
 #include <optional>
 #include <string_view>
 
@@ -75,22 +77,28 @@ void markHidden(int directory, DirectoryListing& listing)
     }
 }
 
-void apply(const StatusResult& found, Entry& entry)
+void apply(const FileStatus& status, Entry& entry)
 {
-    if (!found) {
-        // A directory that may be listed but not searched still has entries, of unknown size.
-        entry.isGone = found.error == ENOENT;
+    entry.kind = status.isDirectory ? Kind::Directory : Kind::Other;
+    if (status.isDirectory) {
         return;
     }
-    entry.kind = found.status.isDirectory ? Kind::Directory : Kind::Other;
-    entry.allocatedBytes = found.status.isDirectory ? 0 : found.status.allocatedBytes;
+    entry.allocatedBytes = status.allocatedBytes;
+    if (status.linkCount > 1) {
+        // What a listing calls the inode is another one on some layered file systems.
+        entry.inode = status.identity.inode;
+        entry.device = static_cast<std::uint32_t>(status.identity.device);
+        entry.linkCount = static_cast<std::uint32_t>(
+            std::min<std::uint64_t>(status.linkCount, std::numeric_limits<std::uint32_t>::max()));
+    }
 }
 
 } // namespace
 
-DirectoryListing DirectoryReader::list(int directory) const
+ListingResult DirectoryReader::list(int directory) const
 {
-    DirectoryListing listing;
+    ListingResult result;
+    DirectoryListing& listing = result.listing;
     alignas(dirent64) std::array<char, kBufferBytes> buffer;
     while (!m_isCancelled.load(std::memory_order_relaxed)) {
         const ssize_t bytes = ::getdents64(directory, buffer.data(), buffer.size());
@@ -98,6 +106,7 @@ DirectoryListing DirectoryReader::list(int directory) const
             continue;
         }
         if (bytes <= 0) {
+            result.error = bytes < 0 ? errno : 0;
             break;
         }
         appendEntries(listing, buffer.data(), static_cast<std::size_t>(bytes));
@@ -109,25 +118,35 @@ DirectoryListing DirectoryReader::list(int directory) const
     if (m_keys == ItemKeys::SizeAndHidden) {
         markHidden(directory, listing);
     }
-    return listing;
+    return result;
 }
 
 bool DirectoryReader::needsStatus(const Entry& entry) const
 {
-    // A directory is looked at when it is opened, and has no size of its own.
+    // A directory is looked at when it is opened.
     return entry.kind == Kind::Unknown
         || (m_keys == ItemKeys::SizeAndHidden && entry.kind != Kind::Directory);
 }
 
-void DirectoryReader::readStatus(
+int DirectoryReader::readStatus(
     int directory, DirectoryListing& listing, std::size_t begin, std::size_t end) const
 {
+    int firstError = 0;
     for (std::size_t i = begin; i < end && !m_isCancelled.load(std::memory_order_relaxed); ++i) {
         Entry& entry = listing[i];
-        if (needsStatus(entry)) {
-            apply(statusAt(directory, listing.cName(entry)), entry);
+        if (!needsStatus(entry)) {
+            continue;
         }
+        const StatusResult found = statusAt(directory, listing.cName(entry));
+        if (found) {
+            apply(found.status, entry);
+            continue;
+        }
+        // A directory that may be listed but not searched still has entries, of unknown size.
+        entry.isGone = found.error == ENOENT;
+        firstError = firstError != 0 || entry.isGone ? firstError : found.error;
     }
+    return firstError;
 }
 
 } // namespace tessera

@@ -4,6 +4,7 @@
 #include <sys/resource.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <utility>
 
 namespace tessera {
@@ -36,7 +37,7 @@ void FolderHandles::keep(WalkFolder& folder, FolderHandle handle, std::size_t su
     store(folder, std::move(handle));
 }
 
-FolderHandle FolderHandles::handleOf(WalkFolder& folder)
+HandleResult FolderHandles::handleOf(WalkFolder& folder)
 {
     FolderHandle nearest;
     std::vector<WalkFolder*> way;
@@ -49,10 +50,10 @@ FolderHandle FolderHandles::handleOf(WalkFolder& folder)
         }
         nearest = at->parent == nullptr ? m_start : at->handle;
     }
-    return way.empty() ? nearest : reopen(std::move(nearest), way);
+    return way.empty() ? HandleResult{std::move(nearest)} : reopen(std::move(nearest), way);
 }
 
-FolderHandle FolderHandles::reopen(FolderHandle from, const std::vector<WalkFolder*>& way)
+HandleResult FolderHandles::reopen(FolderHandle from, const std::vector<WalkFolder*>& way)
 {
     // A walk that comes back up through a very deep tree would go all the way down from its start
     // for each folder. So half of the room is for the folders that are needed next, and half for
@@ -65,14 +66,14 @@ FolderHandle FolderHandles::reopen(FolderHandle from, const std::vector<WalkFold
         FileDescriptor opened
             = openDirectoryAt(handle->number(), folder.name.c_str(), folder.identity);
         if (!opened.isOpen()) {
-            return nullptr;
+            return {nullptr, errno};
         }
         handle = std::make_shared<const FileDescriptor>(std::move(opened));
         if (left < half || left % spacing == 0) {
             storeOnTheWay(folder, handle);
         }
     }
-    return handle;
+    return {std::move(handle)};
 }
 
 void FolderHandles::storeOnTheWay(WalkFolder& folder, const FolderHandle& handle)

@@ -9,6 +9,12 @@
 
 namespace tessera {
 
+/// A folder's handle, or the errno that says why there is none.
+struct HandleResult {
+    FolderHandle handle;
+    int error = 0;
+};
+
 /// Keeps folders open as long as subfolders are still to be opened by them, but only so many at a
 /// time: of a deep tree the ones opened first are closed again, and opened anew by their names
 /// from the nearest folder above that is open. A folder opened anew must be the one that it was;
@@ -27,9 +33,10 @@ public:
     /// must be kept first; it stays open to the end.
     void keep(WalkFolder& folder, FolderHandle handle, std::size_t subfolders);
 
-    /// The handle of a folder that was kept and not yet released for the last time; null when the
-    /// folder had to be opened anew and is not in its place any more.
-    FolderHandle handleOf(WalkFolder& folder);
+    /// The handle of a folder that was kept and not yet released for the last time. There is none
+    /// when the folder had to be opened anew and is not in its place any more (ENOENT), or cannot
+    /// be.
+    HandleResult handleOf(WalkFolder& folder);
 
     /// One subfolder less needs the folder's handle.
     void release(WalkFolder& folder);
@@ -41,7 +48,7 @@ private:
     void store(WalkFolder& folder, FolderHandle handle);
     void remove(WalkFolder& folder);
     void storeOnTheWay(WalkFolder& folder, const FolderHandle& handle);
-    FolderHandle reopen(FolderHandle from, const std::vector<WalkFolder*>& way);
+    HandleResult reopen(FolderHandle from, const std::vector<WalkFolder*>& way);
 
     const std::size_t m_capacity;
     AdaptiveMutex m_mutex;

@@ -13,17 +13,17 @@ constexpr std::size_t kEntriesCountedTogether = 256;
 } // namespace
 
 LinuxDirectoryEnumerator::LinuxDirectoryEnumerator(
-    FileDescriptor start, ItemKeys keys, const ReadAheadOptions& options)
+    OpenedFolder start, ItemKeys keys, const ReadAheadOptions& options)
     : m_readAhead(std::move(start), keys, options)
 {
-    if (WalkFolder* folder = m_readAhead.start()) {
-        m_path.push_back({folder});
-    }
 }
 
 bool LinuxDirectoryEnumerator::next(DirectoryItem& item)
 {
-    if (std::exchange(m_isAtDirectory, false)) {
+    m_entered.reset();
+    if (std::exchange(m_isAtStart, false)) {
+        enter(m_readAhead.start());
+    } else if (std::exchange(m_isAtDirectory, false)) {
         enterLastDirectory();
     }
     while (!m_path.empty()) {
@@ -50,11 +50,21 @@ void LinuxDirectoryEnumerator::skipDescendants()
     }
 }
 
+const EnteredDirectory* LinuxDirectoryEnumerator::entered() const
+{
+    return m_entered ? &*m_entered : nullptr;
+}
+
+void LinuxDirectoryEnumerator::enter(WalkFolder& folder)
+{
+    m_path.push_back({&folder});
+    m_entered = {folder.ownAllocation, std::error_code(folder.problem, std::system_category())};
+}
+
 void LinuxDirectoryEnumerator::enterLastDirectory()
 {
     Place& place = m_path.back();
-    WalkFolder& folder = m_readAhead.fetch(*place.folder, place.nextSubfolder++);
-    m_path.push_back({&folder});
+    enter(m_readAhead.fetch(*place.folder, place.nextSubfolder++));
 }
 
 void LinuxDirectoryEnumerator::leaveFolder()
@@ -80,6 +90,8 @@ void LinuxDirectoryEnumerator::deliver(const DirectoryListing::Entry& entry, Dir
     item.isDirectory = entry.kind == DirectoryListing::Kind::Directory;
     item.isHidden = entry.isHidden;
     item.allocatedBytes = entry.allocatedBytes;
+    item.linkCount = entry.linkCount;
+    item.identity = entry.linkCount == 0 ? FileIdentity{} : FileIdentity{entry.device, entry.inode};
     m_isAtDirectory = item.isDirectory;
 }
 

@@ -4,6 +4,7 @@
 #include "Platform/Linux/Walk/ReadAhead.h"
 #include "Scanning/DirectoryEnumerator.h"
 
+#include <optional>
 #include <vector>
 
 namespace tessera {
@@ -14,10 +15,11 @@ namespace tessera {
 class LinuxDirectoryEnumerator final : public DirectoryEnumerator {
 public:
     /// Of the open directory; of none, nothing is walked.
-    LinuxDirectoryEnumerator(FileDescriptor start, ItemKeys keys, const ReadAheadOptions& options);
+    LinuxDirectoryEnumerator(OpenedFolder start, ItemKeys keys, const ReadAheadOptions& options);
 
     [[nodiscard]] bool next(DirectoryItem& item) override;
     void skipDescendants() override;
+    [[nodiscard]] const EnteredDirectory* entered() const override;
 
 private:
     /// How far one of the folders that the walk is inside of has come.
@@ -27,6 +29,7 @@ private:
         std::size_t nextSubfolder = 0;
     };
 
+    void enter(WalkFolder& folder);
     void enterLastDirectory();
     void leaveFolder();
     void countTaken();
@@ -35,6 +38,8 @@ private:
     ReadAhead m_readAhead;
     std::vector<Place> m_path; ///< outermost first
     bool m_isAtDirectory = false; ///< the last item is a directory that is still to be entered
+    bool m_isAtStart = true; ///< likewise the folder where the walk starts
+    std::optional<EnteredDirectory> m_entered; ///< by the latest call of next()
     std::size_t m_uncounted = 0; ///< entries taken that the read-ahead has not been told of
 };
 

@@ -8,6 +8,9 @@
 
 #include <fcntl.h>
 
+#include <cerrno>
+#include <utility>
+
 namespace tessera {
 
 namespace {
@@ -15,14 +18,25 @@ namespace {
 /// A scan counts the items of its upper two levels: those of the start and of the folders in it.
 constexpr std::size_t kLevelsCountedAhead = 1;
 
-FileDescriptor openStart(const std::string& path, LinksToStart links)
+/// The start's own mount is the one that is walked, so a folder that cannot be opened has its bytes
+/// on it.
+OpenedFolder openStart(const std::string& path, LinksToStart links)
 {
     if (links == LinksToStart::Follow || path == "/") {
-        return FileDescriptor(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+        FileDescriptor opened(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+        const int error = errno;
+        return opened.isOpen()
+            ? OpenedFolder{std::move(opened)}
+            : unopened(error, statusAt(AT_FDCWD, path.c_str(), LinkMode::Follow));
     }
     const NamedPlace place = openFolderOfWithoutLinks(path);
-    return place.error == 0 ? openDirectoryAt(place.folder.number(), place.name.c_str())
-                            : FileDescriptor();
+    if (place.error != 0) {
+        return {FileDescriptor(), unlessGone(place.error)};
+    }
+    FileDescriptor opened = openDirectoryAt(place.folder.number(), place.name.c_str());
+    const int error = errno;
+    return opened.isOpen() ? OpenedFolder{std::move(opened)}
+                           : unopened(error, statusAt(place.folder.number(), place.name.c_str()));
 }
 
 } // namespace

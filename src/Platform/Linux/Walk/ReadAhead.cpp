@@ -3,10 +3,9 @@
 
 #include "Platform/Linux/Walk/HeapMemory.h"
 
-#include <fcntl.h>
-
 #include <algorithm>
 #include <cassert>
+#include <cerrno>
 #include <system_error>
 #include <utility>
 
@@ -31,17 +30,6 @@ std::vector<std::size_t> directoriesIn(const DirectoryListing& listing)
     return positions;
 }
 
-bool mayHoldFolders(const DirectoryListing& listing)
-{
-    for (std::size_t i = 0; i < listing.size(); ++i) {
-        const DirectoryListing::Kind kind = listing[i].kind;
-        if (kind == DirectoryListing::Kind::Directory || kind == DirectoryListing::Kind::Unknown) {
-            return true;
-        }
-    }
-    return false;
-}
-
 /// Moves the subfolders that exist out of `folder`.
 void moveSubfolders(WalkFolder& folder, std::vector<std::unique_ptr<WalkFolder>>& to)
 {
@@ -62,23 +50,43 @@ void destroy(std::vector<std::unique_ptr<WalkFolder>> folders)
     }
 }
 
+/// What is known of the folder once somebody has tried to open it.
+void noteOpened(WalkFolder& folder, OpenedFolder opened)
+{
+    folder.problem = opened.error;
+    folder.ownAllocation = opened.allocatedBytes;
+    if (opened.handle.isOpen()) {
+        folder.readingHandle = std::make_shared<const FileDescriptor>(std::move(opened.handle));
+    }
+}
+
+/// Of several problems of a folder the first one is told.
+void noteProblem(WalkFolder& folder, int error)
+{
+    if (folder.problem == 0) {
+        folder.problem = error;
+    }
+}
+
 } // namespace
 
-ReadAhead::ReadAhead(FileDescriptor start, ItemKeys keys, const ReadAheadOptions& options)
+ReadAhead::ReadAhead(OpenedFolder start, ItemKeys keys, const ReadAheadOptions& options)
     : m_reader(keys, m_isEnding)
     , m_maxEntriesAhead(options.maxEntriesAhead)
     , m_levelsAhead(options.levelsAhead)
     , m_handles(FolderHandles::defaultCapacity())
+    , m_start(std::make_unique<WalkFolder>(nullptr, 0, std::string()))
 {
-    const StatusResult found = statusOf(start.number());
-    if (!start.isOpen() || !found) {
-        return;
+    if (start.handle.isOpen()) {
+        const StatusResult found = statusOf(start.handle.number());
+        if (found) {
+            m_opener.emplace(start.handle, found.status);
+            startHelpers(options.helpers);
+        } else {
+            start = {FileDescriptor(), unlessGone(found.error)};
+        }
     }
-    m_boundary.emplace(found.status);
-    m_mayHoldAutomounts = mayHoldAutomounts(start);
-    m_start = std::make_unique<WalkFolder>(nullptr, 0, std::string());
-    m_start->readingHandle = std::make_shared<const FileDescriptor>(std::move(start));
-    startHelpers(options.helpers);
+    noteOpened(*m_start, std::move(start));
     Lock lock(m_mutex);
     readEntries(*m_start, lock);
     awaitReady(*m_start, lock);
@@ -94,9 +102,7 @@ ReadAhead::~ReadAhead()
     for (std::thread& helper : m_helpers) {
         helper.join();
     }
-    if (m_start != nullptr) {
-        m_abandoned.push_back(std::move(m_start));
-    }
+    m_abandoned.push_back(std::move(m_start));
     destroy(std::move(m_abandoned));
     if (!m_helpers.empty()) {
         returnFreeMemory();
@@ -265,32 +271,14 @@ void ReadAhead::abandon(std::unique_ptr<WalkFolder> folder)
     m_abandoned.push_back(std::move(folder));
 }
 
-bool ReadAhead::mayOpen(const FileDescriptor& parent, const std::string& name) const
+OpenedFolder ReadAhead::openFolder(WalkFolder& folder)
 {
-    if (!m_mayHoldAutomounts) {
-        return true;
-    }
-    const StatusResult found = statusAt(parent.number(), name.c_str());
-    return found && found.status.isDirectory && !m_boundary->isCrossedBy(found.status);
-}
-
-FileDescriptor ReadAhead::openOnMount(const FileDescriptor& parent, const std::string& name) const
-{
-    if (auto opened = openDirectoryOnSameMountAt(parent.number(), name.c_str())) {
-        return std::move(*opened);
-    }
-    FileDescriptor opened = openDirectoryAt(parent.number(), name.c_str());
-    const StatusResult found = statusOf(opened.number());
-    const bool isOnMount = found && !m_boundary->isCrossedBy(found.status);
-    return isOnMount ? std::move(opened) : FileDescriptor();
-}
-
-FileDescriptor ReadAhead::openFolder(WalkFolder& folder)
-{
-    const FolderHandle parent = m_handles.handleOf(*folder.parent);
-    FileDescriptor opened;
-    if (parent != nullptr && mayOpen(*parent, folder.name)) {
-        opened = openOnMount(*parent, folder.name);
+    const HandleResult parent = m_handles.handleOf(*folder.parent);
+    OpenedFolder opened;
+    if (parent.handle != nullptr) {
+        opened = m_opener->open(*parent.handle, folder.name);
+    } else {
+        opened.error = unlessGone(parent.error);
     }
     m_handles.release(*folder.parent);
     return opened;
@@ -299,10 +287,7 @@ FileDescriptor ReadAhead::openFolder(WalkFolder& folder)
 void ReadAhead::read(WalkFolder& folder, Lock& lock)
 {
     lock.unlock();
-    FileDescriptor opened = openFolder(folder);
-    if (opened.isOpen()) {
-        folder.readingHandle = std::make_shared<const FileDescriptor>(std::move(opened));
-    }
+    noteOpened(folder, openFolder(folder));
     lock.lock();
     readEntries(folder, lock);
 }
@@ -315,13 +300,19 @@ void ReadAhead::readEntries(WalkFolder& folder, Lock& lock)
     }
     const int directory = folder.readingHandle->number();
     lock.unlock();
-    folder.listing = m_reader.list(directory);
-    if (mayHoldFolders(folder.listing)) {
-        folder.identity = statusOf(directory).status.identity;
-    }
+    ListingResult listed = m_reader.list(directory);
+    folder.listing = std::move(listed.listing);
+    const StatusResult found = statusOf(directory);
+    folder.identity = found.status.identity;
+    // One that was removed while it was open says so, and has no place any more. Nothing else means
+    // that, once it is open: a network file system's listing ends with ELOOP when it runs in
+    // circles.
+    const int error = listed.error != 0 ? listed.error : found.error;
+    folder.problem = error == ENOENT ? 0 : error;
+    folder.ownAllocation = error == ENOENT ? 0 : found.status.allocatedBytes;
     const std::size_t size = folder.listing.size();
     if (size <= kEntriesPerStep) {
-        m_reader.readStatus(directory, folder.listing, 0, size);
+        noteProblem(folder, m_reader.readStatus(directory, folder.listing, 0, size));
         lock.lock();
         finishReading(folder);
         return;
@@ -341,8 +332,10 @@ void ReadAhead::completeStep(const Step& step, Lock& lock)
     WalkFolder& folder = *step.folder;
     if (!folder.isAbandoned) {
         lock.unlock();
-        m_reader.readStatus(folder.readingHandle->number(), folder.listing, step.begin, step.end);
+        const int error = m_reader.readStatus(
+            folder.readingHandle->number(), folder.listing, step.begin, step.end);
         lock.lock();
+        noteProblem(folder, error);
     }
     if (--folder.stepsLeft == 0) {
         finishReading(folder);

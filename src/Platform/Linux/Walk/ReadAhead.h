@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Platform/Linux/Mounts/MountBoundary.h"
 #include "Platform/Linux/Walk/AdaptiveMutex.h"
 #include "Platform/Linux/Walk/DirectoryReader.h"
 #include "Platform/Linux/Walk/FolderHandles.h"
+#include "Platform/Linux/Walk/FolderOpener.h"
 #include "Platform/Linux/Walk/WalkFolder.h"
 
 #include <atomic>
@@ -13,7 +13,6 @@
 #include <memory>
 #include <mutex>
 #include <optional>
-#include <string>
 #include <thread>
 #include <vector>
 
@@ -37,16 +36,17 @@ struct ReadAheadOptions {
 /// entries that are not taken yet, and the taker would have to read alone until it gets there.
 class ReadAhead {
 public:
-    /// `start` is a directory open for reading, or none.
-    ReadAhead(FileDescriptor start, ItemKeys keys, const ReadAheadOptions& options);
+    /// Walks `start`, which need not be open: then there is nothing in it, for the reason that it
+    /// has. Returns when the start is read.
+    ReadAhead(OpenedFolder start, ItemKeys keys, const ReadAheadOptions& options);
     ReadAhead(const ReadAhead&) = delete;
     ReadAhead& operator=(const ReadAhead&) = delete;
 
     /// Ends the helpers, each at the next entry or the next buffer of a listing.
     ~ReadAhead();
 
-    /// The folder where the walk starts, with its listing; null when it cannot be read.
-    WalkFolder* start() { return m_start.get(); }
+    /// The folder where the walk starts, with its listing: an empty one when it cannot be read.
+    WalkFolder& start() { return *m_start; }
 
     /// The folder's subfolder at that position among its directories, with its listing: an empty
     /// one when it cannot be read. Waits as long as that takes. Positions must ascend.
@@ -82,9 +82,7 @@ private:
     WalkOrder& orderOf(const WalkFolder& folder);
     void abandon(std::unique_ptr<WalkFolder> folder);
 
-    bool mayOpen(const FileDescriptor& parent, const std::string& name) const;
-    FileDescriptor openOnMount(const FileDescriptor& parent, const std::string& name) const;
-    FileDescriptor openFolder(WalkFolder& folder);
+    OpenedFolder openFolder(WalkFolder& folder);
     void read(WalkFolder& folder, Lock& lock);
     void readEntries(WalkFolder& folder, Lock& lock);
     void completeStep(const Step& step, Lock& lock);
@@ -97,8 +95,7 @@ private:
     const std::size_t m_maxEntriesAhead;
     const std::size_t m_levelsAhead;
     FolderHandles m_handles;
-    std::optional<MountBoundary> m_boundary;
-    bool m_mayHoldAutomounts = true;
+    std::optional<FolderOpener> m_opener;
     std::atomic<bool> m_isEnding{false};
 
     AdaptiveMutex m_mutex;

@@ -61,7 +61,9 @@ struct WalkFolder {
     const WalkSpan span;
 
     // Written by the threads that read the folder, until it is ready; then by none.
-    FileIdentity identity; ///< known where there may be subfolders
+    FileIdentity identity; ///< none where it cannot be opened
+    std::uint64_t ownAllocation = 0; ///< bytes of the directory itself
+    int problem = 0; ///< errno that kept it, or an entry of it, from being read to its end
     DirectoryListing listing;
     std::vector<std::size_t> directories; ///< which entries of the listing are directories
     FolderHandle readingHandle;

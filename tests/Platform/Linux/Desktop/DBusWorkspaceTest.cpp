@@ -75,8 +75,7 @@ protected:
                 completionHandler(m_opens);
             },
             m_mainThread,
-            [](const std::vector<Url>&) { return RecycleResult(); },
-            [](const FileIdentity&, const std::vector<Url>&) { return RecycleResult(); }};
+            {}};
     }
 
     test::SessionBus m_sessionBus;
@@ -172,8 +171,7 @@ TEST_F(DBusWorkspaceOnABus, AWorkspaceMayGoBeforeItsOpenerAnswers)
                 answer = completionHandler;
             },
             m_mainThread,
-            [](const std::vector<Url>&) { return RecycleResult(); },
-            [](const FileIdentity&, const std::vector<Url>&) { return RecycleResult(); });
+            {});
         workspace.openUrl("file:///home/", [&isHeard](bool) { isHeard = true; });
     }
     answer(true);
@@ -207,16 +205,21 @@ protected:
             completionHandler(m_opens);
         },
         m_mainThread,
-        [](const std::vector<Url>& urls) {
-            RecycleResult result;
-            result.error = std::to_string(urls.size());
-            return result;
-        },
-        [](const FileIdentity& file, const std::vector<Url>& places) {
-            RecycleResult result;
-            result.error = std::to_string(file.inode) + " of " + std::to_string(places.size());
-            return result;
-        }};
+        {[](const std::vector<ItemToRecycle>& items) {
+             RecycleResult result;
+             result.error = std::to_string(items.size());
+             return result;
+         },
+         [](const FileIdentity& file, const std::vector<Url>& places) {
+             RecycleResult result;
+             result.error = std::to_string(file.inode) + " of " + std::to_string(places.size());
+             return result;
+         },
+         [](const PutBackRequest& request) {
+             PutBackResult result;
+             result.place = request.item.from;
+             return result;
+         }}};
 };
 
 TEST_F(DBusWorkspaceWithoutABus, RevealOpensTheFolderOrTheOneThatHoldsTheFile)
@@ -236,6 +239,12 @@ TEST_F(DBusWorkspaceWithoutABus, RevealOfNothingFails)
 {
     EXPECT_FALSE(isShown(Url()));
     EXPECT_THAT(m_opened, IsEmpty());
+}
+
+TEST_F(DBusWorkspaceWithoutABus, OpensTheTrash)
+{
+    EXPECT_TRUE(isOpened("trash:///"));
+    EXPECT_THAT(m_opened, ElementsAre("trash:///"));
 }
 
 TEST_F(DBusWorkspaceWithoutABus, WhatBecameOfTheItemsIsToldOnTheMainThread)
@@ -258,6 +267,17 @@ TEST_F(DBusWorkspaceWithoutABus, AFileIsMovedByItsIdentity)
         });
     m_mainThread.runUntil([&] { return !told.empty(); });
     EXPECT_EQ(told, "77 of 2");
+}
+
+TEST_F(DBusWorkspaceWithoutABus, TellsWhereAnItemWasPutBack)
+{
+    PutBackRequest request;
+    request.item.from = Url("/a", false);
+    Url place;
+    m_workspace.putBack(request, [&place](const PutBackResult& result) { place = result.place; });
+    EXPECT_TRUE(place.empty()) << "not before the call has returned";
+    m_mainThread.runUntil([&place] { return !place.empty(); });
+    EXPECT_EQ(place, Url("/a", false));
 }
 
 TEST_F(DBusWorkspaceWithoutABus, OpensWebAndFileUrlsAlone)

@@ -4,12 +4,14 @@
 #include "OwnDesktopSettings.h"
 #include "support/Machine/SessionBus.h"
 
+#include <QDBusArgument>
 #include <QDBusMessage>
 #include <QDBusVariant>
 #include <QDBusVirtualObject>
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <memory>
 #include <optional>
 #include <string>
@@ -25,6 +27,18 @@ const QString kPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString kInterface = QStringLiteral("org.freedesktop.portal.Settings");
 const QString kAppearance = QStringLiteral("org.freedesktop.appearance");
 const QString kColorScheme = QStringLiteral("color-scheme");
+
+const QString kAccent = QStringLiteral("accent-color");
+
+/// As the portal says colours, of any parts.
+QVariant portalColor(double red, double green, double blue)
+{
+    QDBusArgument parts;
+    parts.beginStructure();
+    parts << red << green << blue;
+    parts.endStructure();
+    return QVariant::fromValue(parts);
+}
 
 /// A desktop's portal; it answers when and what the test says. It lives on the thread of the
 /// program, so that whoever waits for its answer waits for ever.
@@ -65,6 +79,11 @@ public:
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& /*connection*/) override
     {
         const QVariantList expected{kAppearance, kColorScheme};
+        const QVariantList accentExpected{kAppearance, kAccent};
+        if (accent && message.arguments() == accentExpected) {
+            const QVariant inner = QVariant::fromValue(QDBusVariant(*accent));
+            return m_bus.send(message.createReply(QVariant::fromValue(QDBusVariant(inner))));
+        }
         if (message.interface() != kInterface || message.member() != QStringLiteral("Read")
             || message.arguments() != expected) {
             return false;
@@ -72,6 +91,8 @@ public:
         m_question = message;
         return true;
     }
+
+    std::optional<QVariant> accent; ///< answered at once
 
 private:
     QDBusConnection m_bus;
@@ -131,6 +152,23 @@ protected:
         return preference->colorScheme();
     }
 
+    /// What the portal's colour means.
+    std::optional<AccentColor> answeredAccent(const QVariant& color)
+    {
+        makePortal();
+        portal->accent = color;
+        ask();
+        test::SessionBus::runEventsUntil([this] { return changes >= 1; });
+        return preference->accentColor();
+    }
+
+    std::optional<AccentColor> withAccentSetting(const std::string& name)
+    {
+        test::setOwnSetting("accent-color", name);
+        ask();
+        return preference->accentColor();
+    }
+
     std::unique_ptr<FakePortal> portal;
     std::unique_ptr<DesktopColorSchemePreference> preference;
     int changes = 0;
@@ -170,7 +208,7 @@ TEST_F(DesktopColorSchemePreferenceTest, FollowsThePortalWhileItChanges)
 TEST_F(DesktopColorSchemePreferenceTest, OtherSettingsOfThePortalAreNoConcern)
 {
     EXPECT_EQ(answered(1), ColorScheme::Dark);
-    portal->tellChange(kAppearance, QStringLiteral("accent-color"), 2U);
+    portal->tellChange(kAppearance, QStringLiteral("contrast"), 2U);
     portal->tellChange(QStringLiteral("org.gnome.desktop.interface"), kColorScheme, 2U);
     portal->tellChange(kAppearance, kColorScheme, 1U);
     waitForChanges(2);
@@ -242,6 +280,53 @@ TEST_F(DesktopColorSchemePreferenceTest, ASettingOfAnotherKindSaysNothing)
 {
     ask(test::kSchemaWithoutKeys);
     EXPECT_EQ(preference->colorScheme(), ColorScheme::NoPreference);
+}
+
+TEST_F(DesktopColorSchemePreferenceTest, ThePortalsAccentIsTheColourOfItsParts)
+{
+    EXPECT_EQ(answeredAccent(portalColor(0.25, 0.5, 1)), (AccentColor{0.25, 0.5, 1}));
+}
+
+TEST_F(DesktopColorSchemePreferenceTest, PartsOutOfRangeAreNoAccent)
+{
+    EXPECT_EQ(answeredAccent(portalColor(-1, -1, -1)), std::nullopt);
+    EXPECT_EQ(answeredAccent(portalColor(0, 0, 1.1)), std::nullopt);
+    EXPECT_EQ(answeredAccent(portalColor(0, std::nan(""), 0)), std::nullopt);
+}
+
+TEST_F(DesktopColorSchemePreferenceTest, WhatIsNoColourIsNoAccent)
+{
+    EXPECT_EQ(answeredAccent(QStringLiteral("blue")), std::nullopt);
+}
+
+TEST_F(DesktopColorSchemePreferenceTest, FollowsTheAccentWhileItChanges)
+{
+    (void)answeredAccent(portalColor(0, 0, 1));
+    portal->tellChange(kAppearance, kAccent, portalColor(1, 0, 0));
+    waitForChanges(2);
+    EXPECT_EQ(preference->accentColor(), (AccentColor{1, 0, 0}));
+}
+
+TEST_F(DesktopColorSchemePreferenceTest, TheAccentOfTheSettingsIsANamedColour)
+{
+    EXPECT_EQ(withAccentSetting("green"), (AccentColor{0x3A / 255.0, 0x94 / 255.0, 0x4A / 255.0}));
+}
+
+TEST_F(DesktopColorSchemePreferenceTest, AnotherNameIsNoAccent)
+{
+    EXPECT_EQ(withAccentSetting("default"), std::nullopt);
+}
+
+TEST_F(DesktopColorSchemePreferenceTest, ThePortalsAccentCountsMoreThanTheSettings)
+{
+    test::setOwnSetting("accent-color", std::string("green"));
+    EXPECT_EQ(answeredAccent(portalColor(1, 0, 0)), (AccentColor{1, 0, 0}));
+}
+
+TEST_F(DesktopColorSchemePreferenceTest, WithoutAnySettingThereIsNoAccent)
+{
+    ask(kNoSchema);
+    EXPECT_EQ(preference->accentColor(), std::nullopt);
 }
 
 TEST_F(DesktopColorSchemePreferenceTest, AThemeThatIsCalledDarkIsDark)

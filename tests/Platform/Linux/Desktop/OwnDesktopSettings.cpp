@@ -19,6 +19,8 @@ namespace {
 constexpr const char* kAnimations = "enable-animations";
 constexpr const char* kColorScheme = "color-scheme";
 constexpr const char* kGtkTheme = "gtk-theme";
+constexpr const char* kAccentColor = "accent-color";
+constexpr const char* kShowHidden = "show-hidden";
 
 const QByteArray kSchemas = R"(<schemalist>
   <enum id="org.example.tessera.scheme">
@@ -28,7 +30,9 @@ const QByteArray kSchemas = R"(<schemalist>
   </enum>
   <schema id="org.example.tessera.interface" path="/org/example/tessera/interface/">
     <key name="enable-animations" type="b"><default>true</default></key>
+    <key name="show-hidden" type="b"><default>false</default></key>
     <key name="color-scheme" enum="org.example.tessera.scheme"><default>'default'</default></key>
+    <key name="accent-color" type="s"><default>'default'</default></key>
     <key name="gtk-theme" type="s"><default>'Adwaita'</default></key>
   </schema>
   <schema id="org.example.tessera.other" path="/org/example/tessera/other/">
@@ -78,7 +82,8 @@ void setOwnSetting(const char* key, const std::string& value)
 
 void resetOwnSettings()
 {
-    for (const char* key : std::array{kAnimations, kColorScheme, kGtkTheme}) {
+    for (const char* key :
+         std::array{kAnimations, kColorScheme, kGtkTheme, kAccentColor, kShowHidden}) {
         g_settings_reset(ownSettings().get(), key);
     }
 }

@@ -113,6 +113,22 @@ TEST(FileStatus, ALinkToADirectoryDoesNotOpen)
     EXPECT_FALSE(opened->isOpen());
 }
 
+/// It may be the one expected: that it is gone is not known.
+TEST(FileStatus, ADirectoryThatCannotBeAskedDoesNotOpenForThatReason)
+{
+    const TempTree tree;
+    const FileIdentity identity = statusAtPath(tree.path()).status.identity;
+    const auto run = [&] {
+        EXPECT_TRUE(makeCallFail({SYS_statx, EIO, {}}));
+        const FileDescriptor opened = openDirectoryAt(AT_FDCWD, tree.path().c_str(), identity);
+        const int error = errno;
+        EXPECT_FALSE(opened.isOpen());
+        EXPECT_EQ(error, EIO);
+        return testing::Test::HasFailure() ? 1 : 0;
+    };
+    EXPECT_EXIT(std::_Exit(run()), testing::ExitedWithCode(0), "");
+}
+
 TEST(FileStatus, ADirectoryOpensWhenItIsTheOneExpected)
 {
     const TempTree tree;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/Preview/DiskFence.h"
 
-#include "InChild.h"
+#include "support/Machine/InChild.h"
 #include "support/Machine/TempTree.h"
 
 #include <fcntl.h>

@@ -37,7 +37,9 @@ bool forbidOpenat2()
 std::string namesBelow(const std::string& path)
 {
     LinuxDirectoryEnumerator enumerator(
-        openDirectoryAt(AT_FDCWD, path.c_str()), ItemKeys::SizeAndHidden, {.helpers = 0});
+        OpenedFolder{openDirectoryAt(AT_FDCWD, path.c_str())},
+        ItemKeys::SizeAndHidden,
+        {.helpers = 0});
     std::string names;
     for (DirectoryItem item; enumerator.next(item);) {
         names += item.name;
@@ -48,7 +50,7 @@ std::string namesBelow(const std::string& path)
 bool isEmptyBelow(const std::string& path, std::string_view mount)
 {
     LinuxDirectoryEnumerator enumerator(
-        openDirectoryAt(AT_FDCWD, path.c_str()), ItemKeys::None, {.helpers = 0});
+        OpenedFolder{openDirectoryAt(AT_FDCWD, path.c_str())}, ItemKeys::None, {.helpers = 0});
     bool isInMount = false;
     for (DirectoryItem item; enumerator.next(item);) {
         if (item.level == 1) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/Preview/SystemCallFilter.h"
 
-#include "InChild.h"
+#include "support/Machine/InChild.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>

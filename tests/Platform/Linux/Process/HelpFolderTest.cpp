@@ -24,15 +24,15 @@ protected:
 
 } // namespace
 
-TEST_F(HelpFolder, OfAnInstalledProgramLiesBelowShareDoc)
+TEST_F(HelpFolder, OfAnInstalledProgramLiesBelowShare)
 {
-    make(root() + "/share/doc/tessera/help");
-    EXPECT_EQ(findHelpFolder(programs()), root() + "/share/doc/tessera/help");
+    make(root() + "/share/tessera/help");
+    EXPECT_EQ(findHelpFolder(programs()), root() + "/share/tessera/help");
 }
 
 TEST_F(HelpFolder, BesideTheProgramComesFirst)
 {
-    make(root() + "/share/doc/tessera/help");
+    make(root() + "/share/tessera/help");
     make(programs() + "/help");
     EXPECT_EQ(findHelpFolder(programs()), programs() + "/help");
 }

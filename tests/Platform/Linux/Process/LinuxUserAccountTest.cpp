@@ -25,6 +25,11 @@ TEST(LinuxUserAccount, TheRealUserIsThatOfTheRealUserId)
     EXPECT_EQ(user->directory, entry->pw_dir);
 }
 
+TEST(LinuxUserAccount, TheUsersNumberIsThatOfWhoseRightsTheProcessHas)
+{
+    EXPECT_EQ(LinuxUserAccount().userNumber(), ::geteuid());
+}
+
 /// Only the one thread that asks the kernel itself gets another real user id.
 TEST(LinuxUserAccount, TheRealUserIsNotTheOneWhoseRightsTheProcessHas)
 {

@@ -19,10 +19,11 @@ namespace tessera {
 namespace {
 
 /// What a mover that is given these items answers, so that a test sees who answered what.
-RecycleResult movedTo(const std::string& place, const std::vector<Url>& urls)
+RecycleResult movedTo(const std::string& place, const std::vector<ItemToRecycle>& urls)
 {
     RecycleResult result;
-    for (const Url& url : urls) {
+    for (const ItemToRecycle& item : urls) {
+        const Url& url = item.url;
         result.newUrls.emplace(url.absoluteString(), Url(place + url.path(), url.isDirectory()));
     }
     return result;
@@ -32,7 +33,7 @@ TEST(BackgroundTrash, TellsWhatBecameOfTheItems)
 {
     test::FakeMainThread mainThread;
     BackgroundTrash trash(
-        mainThread, [](const std::vector<Url>& urls) { return movedTo("/trash", urls); });
+        mainThread, [](const std::vector<ItemToRecycle>& urls) { return movedTo("/trash", urls); });
     RecycleResult told;
     trash.recycle(
         {Url("/a", false), Url("/b", true)}, [&](const RecycleResult& result) { told = result; });
@@ -46,7 +47,7 @@ TEST(BackgroundTrash, MovesOnAnotherThreadAndTellsOnTheMainThread)
     test::FakeMainThread mainThread;
     std::thread::id movedOn;
     std::thread::id toldOn;
-    BackgroundTrash trash(mainThread, [&](const std::vector<Url>&) {
+    BackgroundTrash trash(mainThread, [&](const std::vector<ItemToRecycle>&) {
         movedOn = std::this_thread::get_id();
         return RecycleResult();
     });
@@ -61,7 +62,8 @@ TEST(BackgroundTrash, AMoveThatIsStuckHoldsUpNoOther)
     test::FakeMainThread mainThread;
     std::promise<void> serverAnswers;
     BackgroundTrash trash(
-        mainThread, [answer = serverAnswers.get_future().share()](const std::vector<Url>& urls) {
+        mainThread,
+        [answer = serverAnswers.get_future().share()](const std::vector<ItemToRecycle>& urls) {
             if (!urls.empty()) {
                 answer.wait();
             }
@@ -83,7 +85,7 @@ TEST(BackgroundTrash, OneThatIsGoneTellsNothingAnyMore)
     bool told = false;
     {
         std::promise<void> moved;
-        BackgroundTrash trash(mainThread, [&](const std::vector<Url>&) {
+        BackgroundTrash trash(mainThread, [&](const std::vector<ItemToRecycle>&) {
             moved.set_value();
             return RecycleResult();
         });
@@ -112,7 +114,7 @@ TEST(BackgroundTrash, OneThatGoesWhileItsNewsWaitTellsNothingEither)
 {
     HeldMainThread mainThread;
     auto trash = std::make_unique<BackgroundTrash>(
-        mainThread, [](const std::vector<Url>&) { return RecycleResult(); });
+        mainThread, [](const std::vector<ItemToRecycle>&) { return RecycleResult(); });
     bool told = false;
     trash->recycle({}, [&](const RecycleResult&) { told = true; });
     const std::function<void()> news = mainThread.held();
@@ -127,7 +129,7 @@ TEST(BackgroundTrash, TheEndWaitsForAMoveUnderWay)
     std::atomic<bool> hasEnded = false;
     {
         std::promise<void> begun;
-        BackgroundTrash trash(mainThread, [&](const std::vector<Url>&) {
+        BackgroundTrash trash(mainThread, [&](const std::vector<ItemToRecycle>&) {
             begun.set_value();
             // Few enough for the time limit, though each may take a busy machine milliseconds.
             for (int i = 0; i < 100; ++i) {
@@ -145,7 +147,7 @@ TEST(BackgroundTrash, TheEndWaitsForAMoveUnderWay)
 TEST(BackgroundTrash, WhereThereIsNoThreadTellsThatNothingWasMoved)
 {
     test::FakeMainThread mainThread;
-    BackgroundTrash trash(mainThread, [](const std::vector<Url>& urls) {
+    BackgroundTrash trash(mainThread, [](const std::vector<ItemToRecycle>& urls) {
         ADD_FAILURE() << "moved";
         return movedTo("/trash", urls);
     });
@@ -162,11 +164,46 @@ TEST(BackgroundTrash, WhereThereIsNoThreadTellsThatNothingWasMoved)
         "some programs and try again.");
 }
 
+TEST(BackgroundTrash, TellsWhereAnItemWasPutBack)
+{
+    test::FakeMainThread mainThread;
+    BackgroundTrash trash(mainThread, {});
+    PutBackResult told;
+    trash.perform(
+        BackgroundTrash::PutBack([] {
+            PutBackResult result;
+            result.place = Url("/a", false);
+            return result;
+        }),
+        [&](const PutBackResult& result) { told = result; });
+    mainThread.runUntil([&] { return !told.place.empty(); });
+    EXPECT_EQ(told.place, Url("/a", false));
+}
+
+TEST(BackgroundTrash, WhereThereIsNoThreadTellsThatNothingWasPutBack)
+{
+    test::FakeMainThread mainThread;
+    BackgroundTrash trash(mainThread, {});
+    PutBackResult told;
+    const bool isDone = test::withoutThreads([&] {
+        trash.perform(
+            BackgroundTrash::PutBack([] { return PutBackResult(); }),
+            [&](const PutBackResult& result) { told = result; });
+    });
+    ASSERT_TRUE(isDone);
+    mainThread.runUntil([&] { return !told.error.empty(); });
+    EXPECT_EQ(told.obstacle, PutBackObstacle::Failed);
+    EXPECT_EQ(
+        told.error,
+        "Nothing was put back, because the system is too busy to begin with it. Close some "
+        "programs and try again.");
+}
+
 TEST(BackgroundTrash, AHandlerMayMoveMoreOrTakeTheTrashAway)
 {
     test::FakeMainThread mainThread;
     auto trash = std::make_unique<BackgroundTrash>(
-        mainThread, [](const std::vector<Url>&) { return RecycleResult(); });
+        mainThread, [](const std::vector<ItemToRecycle>&) { return RecycleResult(); });
     bool isDone = false;
     trash->recycle({}, [&](const RecycleResult&) {
         trash->recycle({}, [&](const RecycleResult&) {

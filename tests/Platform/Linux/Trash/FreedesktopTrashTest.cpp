@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "OrdinaryRights.h"
 #include "Platform/Linux/Files/FileStatus.h"
 #include "Platform/Linux/Trash/TrashItem.h"
 #include "support/Machine/TrashFixture.h"
@@ -6,12 +7,9 @@
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <linux/capability.h>
 #include <sys/stat.h>
-#include <sys/syscall.h>
 #include <unistd.h>
 
-#include <array>
 #include <filesystem>
 #include <string>
 
@@ -24,41 +22,6 @@ using testing::IsEmpty;
 using testing::StartsWith;
 
 using FreedesktopTrashTest = TrashFixture;
-
-/// Takes what the super-user may do beyond others away for a while.
-class OrdinaryRights {
-public:
-    OrdinaryRights()
-    {
-        Capabilities none = m_before;
-        for (__user_cap_data_struct& part : none) {
-            part.effective = 0;
-        }
-        set(none);
-    }
-    OrdinaryRights(const OrdinaryRights&) = delete;
-    OrdinaryRights& operator=(const OrdinaryRights&) = delete;
-    ~OrdinaryRights() { set(m_before); }
-
-private:
-    using Capabilities = std::array<__user_cap_data_struct, _LINUX_CAPABILITY_U32S_3>;
-
-    static Capabilities current()
-    {
-        Capabilities capabilities{};
-        __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
-        EXPECT_EQ(::syscall(SYS_capget, &header, capabilities.data()), 0);
-        return capabilities;
-    }
-
-    static void set(const Capabilities& capabilities)
-    {
-        __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
-        EXPECT_EQ(::syscall(SYS_capset, &header, capabilities.data()), 0);
-    }
-
-    Capabilities m_before = current();
-};
 
 mode_t modeOf(const std::string& path)
 {

@@ -118,5 +118,16 @@ TEST_F(TrashFixture, AnEmptyFolderOfWhichNobodyCanTellWhereItIsKeepsItsInfoFile)
     EXPECT_THAT(namesIn(m_homeTrash + "/info"), ElementsAre("folder.trashinfo"));
 }
 
+TEST_F(TrashFixture, WhereAnItemMayBeInTheTrashIsToldOnlyWhereNobodyCanTell)
+{
+    m_tree.makeFolder("work/folder");
+    const BrokenRenames broken(Renames::Fail, false);
+    const RecycleResult result = m_trash.recycle(
+        {Url(m_tree.pathOf("work/folder"), true), Url(m_tree.pathOf("work/none"), false)});
+    ASSERT_EQ(result.notMoved.size(), 2U);
+    EXPECT_EQ(result.notMoved[0].mayBeAt, Url(m_homeTrash + "/files/folder", true));
+    EXPECT_EQ(result.notMoved[1].mayBeAt, std::nullopt);
+}
+
 } // namespace
 } // namespace tessera::test

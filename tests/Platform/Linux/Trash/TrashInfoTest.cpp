@@ -74,6 +74,63 @@ TEST(TrashInfo, TakesTheNameUntilItIsRemoved)
     EXPECT_EQ(statusAt(folder.number(), "a.trashinfo").error, ENOENT);
 }
 
+TEST(TrashInfo, SaysItsPathAgain)
+{
+    const std::string path = "/a b/\xC3\xBC\xFF\n%=[";
+    EXPECT_EQ(originalPathIn(trashInfoText(path, 0), "/top"), path);
+}
+
+TEST(TrashInfo, APathThatIsNotAbsoluteIsRelativeToTheTop)
+{
+    EXPECT_EQ(originalPathIn("[Trash Info]\nPath=a/b\n", "/top"), "/top/a/b");
+    EXPECT_EQ(originalPathIn("[Trash Info]\nPath=a/b\n", "/"), "/a/b");
+}
+
+TEST(TrashInfo, WhatIsNoInfoFileSaysNoPath)
+{
+    for (const char* text :
+         {"",
+          "Path=/a\n",
+          "[Other]\nPath=/a\n",
+          "[Trash Info]\n",
+          "[Trash Info]\nOtherPath=/a\n",
+          "[Trash Info]\nPath=\n",
+          "[Trash Info]\nPath=%\n"}) {
+        EXPECT_EQ(originalPathIn(text, "/top"), "") << text;
+    }
+}
+
+class TrashInfoFile : public testing::Test {
+protected:
+    InfoSays says(const std::string& name) const
+    {
+        return infoSays(m_folder, name, "/home/me/a", "/home");
+    }
+
+    const test::TempTree m_tree;
+    const FileDescriptor m_folder = openDirectoryAt(AT_FDCWD, m_tree.path().c_str());
+};
+
+TEST_F(TrashInfoFile, SaysThisPathOrAnother)
+{
+    ASSERT_EQ(makeTrashInfo(m_folder, "absolute", "/home/me/a"), 0);
+    ASSERT_EQ(makeTrashInfo(m_folder, "relative", "me/a"), 0);
+    ASSERT_EQ(makeTrashInfo(m_folder, "other", "/home/me/b"), 0);
+    EXPECT_EQ(says("absolute"), InfoSays::ThisPath);
+    EXPECT_EQ(says("relative"), InfoSays::ThisPath);
+    EXPECT_EQ(says("other"), InfoSays::AnotherPath);
+}
+
+TEST_F(TrashInfoFile, SaysNothingWhereThereIsNoneOrNoPathInIt)
+{
+    m_tree.writeFile("empty.trashinfo", "");
+    m_tree.makeFolder("folder.trashinfo");
+    m_tree.makeFifo("pipe.trashinfo");
+    for (const char* name : {"missing", "empty", "folder", "pipe"}) {
+        EXPECT_EQ(says(name), InfoSays::Nothing) << name;
+    }
+}
+
 TEST(TrashName, TheFirstIsTheItemsOwn)
 {
     for (const char* name : {"a", "a.txt", ".hidden", "a.", "a b.tar.gz", "\xFF"}) {

@@ -83,6 +83,25 @@ TEST_F(TrashReadBack, AnItemWithTheLongestNameComesBackUnderIt)
     EXPECT_TRUE(exists(m_tree.pathOf(name)));
 }
 
+TEST_F(TrashReadBack, AnItemThatWasPutBackIsListedNoMore)
+{
+    m_tree.makeFile("work/a");
+    ASSERT_EQ(move("work/a"), "");
+    EXPECT_EQ(m_trash.putBack({m_trashed}).error, "");
+    EXPECT_THAT(listed(), IsEmpty());
+}
+
+TEST_F(TrashReadBack, AnItemThatCouldNotBePutBackIsListedAndBroughtBack)
+{
+    m_tree.writeFile("work/a", "old");
+    ASSERT_EQ(move("work/a"), "");
+    m_tree.writeFile("work/a", "new");
+    EXPECT_EQ(m_trash.putBack({m_trashed}).obstacle, PutBackObstacle::NameTaken);
+    m_tree.removeFile("work/a");
+    restore("work");
+    EXPECT_EQ(fileContent(m_tree.pathOf("work/a")), "old");
+}
+
 TEST_F(TrashReadBackOnAMount, AnItemIsListedAndBroughtBack)
 {
     m_tree.makeFolder("disk/folder");

@@ -31,7 +31,7 @@ protected:
     std::vector<std::string> hidden() const
     {
         std::vector<std::string> names;
-        const DirectoryListing listing = m_reader.list(open().number());
+        const DirectoryListing listing = m_reader.list(open().number()).listing;
         for (std::size_t i = 0; i < listing.size(); ++i) {
             if (listing[i].isHidden) {
                 names.emplace_back(listing.name(listing[i]));
@@ -56,7 +56,7 @@ TEST_F(DirectoryReaderTest, ListsInTheOrderOfInodes)
     for (int i = 0; i < 200; ++i) {
         tree().makeFile(std::to_string(i));
     }
-    const DirectoryListing listing = reader().list(open().number());
+    const DirectoryListing listing = reader().list(open().number()).listing;
     ASSERT_EQ(listing.size(), 200U);
     for (std::size_t i = 1; i < listing.size(); ++i) {
         EXPECT_LE(listing[i - 1].inode, listing[i].inode);
@@ -67,9 +67,9 @@ TEST_F(DirectoryReaderTest, AFileThatVanishedAfterItWasListedIsGone)
 {
     tree().makeFile("file");
     const FileDescriptor folder = open();
-    DirectoryListing listing = reader().list(folder.number());
+    DirectoryListing listing = reader().list(folder.number()).listing;
     tree().removeFile("file");
-    reader().readStatus(folder.number(), listing, 0, listing.size());
+    EXPECT_EQ(reader().readStatus(folder.number(), listing, 0, listing.size()), 0);
     EXPECT_TRUE(listing[0].isGone);
 }
 
@@ -77,10 +77,10 @@ TEST_F(DirectoryReaderTest, AFileThatTurnedIntoAFolderIsAFolderOfNoSize)
 {
     tree().makeFile("item", 5000);
     const FileDescriptor folder = open();
-    DirectoryListing listing = reader().list(folder.number());
+    DirectoryListing listing = reader().list(folder.number()).listing;
     tree().removeFile("item");
     tree().makeFolder("item");
-    reader().readStatus(folder.number(), listing, 0, listing.size());
+    EXPECT_EQ(reader().readStatus(folder.number(), listing, 0, listing.size()), 0);
     EXPECT_EQ(listing[0].kind, Kind::Directory);
     EXPECT_EQ(listing[0].allocatedBytes, 0U);
 }
@@ -92,7 +92,7 @@ TEST_F(DirectoryReaderTest, AKindThatTheListingDoesNotNameIsLookedUp)
     DirectoryListing listing;
     listing.append("folder", 1, Kind::Unknown);
     listing.append("file", 2, Kind::Unknown);
-    reader().readStatus(open().number(), listing, 0, listing.size());
+    EXPECT_EQ(reader().readStatus(open().number(), listing, 0, listing.size()), 0);
     EXPECT_EQ(listing[0].kind, Kind::Directory);
     EXPECT_EQ(listing[1].kind, Kind::Other);
     EXPECT_EQ(listing[1].allocatedBytes, tree().allocatedBytes("file"));
@@ -113,7 +113,7 @@ TEST_F(DirectoryReaderTest, StopsListingWhenItIsCancelled)
 {
     tree().makeFile("file");
     cancel();
-    EXPECT_EQ(reader().list(open().number()).size(), 0U);
+    EXPECT_EQ(reader().list(open().number()).listing.size(), 0U);
 }
 
 TEST_F(DirectoryReaderTest, ALeadingDotHides)

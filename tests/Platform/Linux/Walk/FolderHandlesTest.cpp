@@ -6,6 +6,8 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 
+#include <cerrno>
+
 namespace tessera::test {
 namespace {
 
@@ -36,7 +38,7 @@ protected:
 
     FileIdentity identityByHandle(WalkFolder& folder)
     {
-        const FolderHandle handle = m_handles.handleOf(folder);
+        const FolderHandle handle = m_handles.handleOf(folder).handle;
         return handle == nullptr ? FileIdentity{} : statusOf(handle->number()).status.identity;
     }
 
@@ -77,14 +79,16 @@ TEST_F(FolderHandlesTest, AFolderIsOpenedAnewThroughThoseAbove)
 TEST_F(FolderHandlesTest, AFolderThatWasMovedIsNotOpenedAnew)
 {
     tree().rename("a", "moved");
-    EXPECT_EQ(handles().handleOf(a()), nullptr);
+    EXPECT_EQ(handles().handleOf(a()).handle, nullptr);
+    EXPECT_EQ(handles().handleOf(a()).error, ENOENT);
 }
 
 TEST_F(FolderHandlesTest, AnotherFolderInItsPlaceIsNotTaken)
 {
     tree().rename("a", "moved");
     tree().makeFolder("a");
-    EXPECT_EQ(handles().handleOf(a()), nullptr);
+    EXPECT_EQ(handles().handleOf(a()).handle, nullptr);
+    EXPECT_EQ(handles().handleOf(a()).error, ENOENT);
 }
 
 TEST_F(FolderHandlesTest, AnOpenFolderIsReachedWhereverItWasMoved)

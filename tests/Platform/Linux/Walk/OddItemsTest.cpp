@@ -97,7 +97,7 @@ TEST(OddItems, AFileCountsItsBlocksNotItsLength)
     EXPECT_GT(allocated, 5000U);
 }
 
-TEST(OddItems, AHardLinkedFileCountsAtEachPlace)
+TEST(OddItems, AHardLinkedFileTellsItsBytesAtEachPlace)
 {
     const TempTree tree;
     tree.makeFile("a", 5000);
