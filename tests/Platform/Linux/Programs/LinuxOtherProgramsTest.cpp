@@ -6,16 +6,20 @@
 #include "support/Machine/SessionBus.h"
 #include "support/Machine/TempTree.h"
 
+#include <QCoreApplication>
 #include <QDBusError>
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
+#include <QEvent>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <chrono>
 #include <filesystem>
 #include <future>
@@ -154,6 +158,18 @@ protected:
     {
         test::SessionBus::runEventsUntil([&] { return !desktop.openedIn(program).empty(); });
         return desktop.openedIn(program);
+    }
+
+    /// Waits until what was started has ended, and what was kept for it is gone.
+    static void runEventsUntilNoProgramRuns()
+    {
+        test::SessionBus::runEventsUntil([] {
+            siginfo_t ended = {};
+            // Looked at alone: who started it hears of its end from the kernel itself.
+            return ::waitid(P_ALL, 0, &ended, WEXITED | WNOHANG | WNOWAIT | __WALL) == -1
+                && errno == ECHILD;
+        });
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
     /// Before GIO is used.
@@ -325,6 +341,7 @@ TEST_F(LinuxOtherProgramsTest, ATerminalOpensInTheFolder)
         test::SessionBus::runEventsUntil([&] { return !where().empty(); });
         EXPECT_EQ(where(), folder.path() + '\n');
     }
+    runEventsUntilNoProgramRuns();
 }
 
 TEST_F(LinuxOtherProgramsTest, ThereMayBeNoTerminal)
