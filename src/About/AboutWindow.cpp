@@ -106,7 +106,9 @@ void AboutWindow::makeContent()
     auto* const tabs = new QTabWidget;
     tabs->addTab(m_versions, tr("&Versions"));
     tabs->addTab(terms, tr("&License"));
-    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+    auto* const buttons = new QDialogButtonBox;
+    // Without a picture, which not every icon theme draws for dark windows.
+    auto* const close = buttons->addButton(tr("Close"), QDialogButtonBox::RejectRole);
     auto* const copy = buttons->addButton(tr("&Copy Versions"), QDialogButtonBox::ActionRole);
     connect(copy, &QPushButton::clicked, this, [this] {
         QGuiApplication::clipboard()->setText(versions());
@@ -116,8 +118,8 @@ void AboutWindow::makeContent()
     layout->addLayout(headline());
     layout->addWidget(tabs);
     layout->addWidget(buttons);
-    buttons->button(QDialogButtonBox::Close)->setDefault(true);
-    buttons->button(QDialogButtonBox::Close)->setFocus();
+    close->setDefault(true);
+    close->setFocus();
     resize(kAboutSize);
 }
 

@@ -58,7 +58,8 @@ ProgramChooser::ProgramChooser(
     question->setTextFormat(Qt::PlainText);
     question->setWordWrap(true);
     m_list->setAccessibleName(tr("Programs"));
-    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
+    auto* const buttons = new QDialogButtonBox;
+    buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole);
     m_open = buttons->addButton(tr("&Open"), QDialogButtonBox::AcceptRole);
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(question);

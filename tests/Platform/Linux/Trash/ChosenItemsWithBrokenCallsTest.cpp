@@ -115,42 +115,62 @@ private:
     std::vector<ItemToRecycle> m_chosen;
 };
 
-/// Has each call fail with each error in turn, for as long as there are more calls.
+/// Every call fails in one of so many tests, each of which ends well before its limit.
+constexpr int kShares = 4;
+
+/// Has each call of a share, counted from 1, fail with an error while there are more calls.
 void recycleWithBrokenCalls(
-    const std::vector<int>& errors, const std::function<void(ChosenItems&)>& prepare)
+    int share, int error, const std::function<void(ChosenItems&)>& prepare = [](ChosenItems&) {})
 {
     constexpr int kMostCalls = 1'000;
-    for (const int error : errors) {
-        int place = 0;
-        std::optional<bool> hasFailed = true;
-        while (hasFailed.value_or(false) && ++place <= kMostCalls) {
-            SCOPED_TRACE(std::to_string(place) + ": " + std::generic_category().message(error));
-            ChosenItems items;
-            prepare(items);
-            RecycleResult result;
-            hasFailed = withOneCallFailing(place, error, [&] { result = items.recycle(); });
-            EXPECT_TRUE(hasFailed) << "this system does not let calls fail";
-            items.expectAllAreWhere(result);
-        }
-        EXPECT_GT(place, 40) << "so many moves take more calls than that";
-        EXPECT_LE(place, kMostCalls);
+    int place = share - kShares;
+    std::optional<bool> hasFailed = true;
+    while (hasFailed.value_or(false) && place <= kMostCalls) {
+        place += kShares;
+        SCOPED_TRACE(std::to_string(place) + ": " + std::generic_category().message(error));
+        ChosenItems items;
+        prepare(items);
+        RecycleResult result;
+        hasFailed = withOneCallFailing(place, error, [&] { result = items.recycle(); });
+        EXPECT_TRUE(hasFailed) << "this system does not let calls fail";
+        items.expectAllAreWhere(result);
     }
+    EXPECT_GT(place, 40) << "so many moves take more calls than that";
+    EXPECT_LE(place, kMostCalls);
 }
 
-TEST(ChosenItemsWithBrokenCalls, AreEachInOneOfTheTwoPlaces)
+void haveThemBack(ChosenItems& items)
 {
-    recycleWithBrokenCalls({EIO}, [](ChosenItems&) {});
+    items.haveThemBack();
 }
 
-TEST(ChosenItemsWithBrokenCalls, AreEachInOneOfTheTwoPlacesWhenTheyAreMovedAgain)
+/// Which share of the calls fails.
+class ChosenItemsWithBrokenCalls : public testing::TestWithParam<int> { };
+
+TEST_P(ChosenItemsWithBrokenCalls, AreEachInOneOfTheTwoPlaces)
 {
-    recycleWithBrokenCalls({EIO}, [](ChosenItems& items) { items.haveThemBack(); });
+    recycleWithBrokenCalls(GetParam(), EIO);
 }
+
+TEST_P(ChosenItemsWithBrokenCalls, AreEachInOneOfTheTwoPlacesWhenTheyAreMovedAgain)
+{
+    recycleWithBrokenCalls(GetParam(), EIO, haveThemBack);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Shares,
+    ChosenItemsWithBrokenCalls,
+    testing::Range(1, kShares + 1),
+    [](const testing::TestParamInfo<int>& share) { return std::to_string(share.param); });
 
 TEST(NightlyChosenItemsWithBrokenCalls, AreEachInOneOfTheTwoPlacesAfterOtherErrors)
 {
-    recycleWithBrokenCalls(kOtherErrors, [](ChosenItems&) {});
-    recycleWithBrokenCalls(kOtherErrors, [](ChosenItems& items) { items.haveThemBack(); });
+    for (const int error : kOtherErrors) {
+        for (int share = 1; share <= kShares; ++share) {
+            recycleWithBrokenCalls(share, error);
+            recycleWithBrokenCalls(share, error, haveThemBack);
+        }
+    }
 }
 
 /// Whether the file system can rename without replacing, or needs a placeholder for that.
