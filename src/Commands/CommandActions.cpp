@@ -2,6 +2,7 @@
 #include "Commands/CommandActions.h"
 
 #include "Base/DisplayText.h"
+#include "Commands/EntryExplanations.h"
 
 #include <QAction>
 #include <QCoreApplication>
@@ -35,19 +36,19 @@ QString takeOutTitle()
 
 } // namespace
 
-CommandActions::CommandActions(QWidget& window, Context context, WhyNot whyNot)
+CommandActions::CommandActions(QWidget& window, Context context)
     : QObject(&window)
+    , m_window(window)
     , m_context(std::move(context))
-    , m_whyNot(std::move(whyNot))
 {
     for (const CommandRow& row : commandTable()) {
-        m_actions.emplace(row.command, makeAction(window, row));
+        m_actions.emplace(row.command, makeAction(row));
     }
 }
 
 CommandActions::~CommandActions() = default;
 
-QAction* CommandActions::makeAction(QWidget& window, const CommandRow& row)
+QAction* CommandActions::makeAction(const CommandRow& row)
 {
     QAction* const action = makePlainAction(titleOf(row), row, this);
     QList<QKeySequence> shortcuts
@@ -58,7 +59,7 @@ QAction* CommandActions::makeAction(QWidget& window, const CommandRow& row)
     connect(action, &QAction::triggered, this, [this, command = row.command] {
         emit triggered(command);
     });
-    window.addAction(action);
+    m_window.addAction(action);
     return action;
 }
 
@@ -69,6 +70,7 @@ QAction* CommandActions::makeEntry(Command command, const QString& title, QObjec
     const auto follow = [&shared, entry] {
         entry->setEnabled(shared.isEnabled());
         entry->setToolTip(shared.isEnabled() ? QString() : shared.toolTip());
+        entry->setStatusTip(shared.statusTip());
     };
     follow();
     connect(&shared, &QAction::changed, entry, follow);
@@ -78,8 +80,7 @@ QAction* CommandActions::makeEntry(Command command, const QString& title, QObjec
 
 void CommandActions::lookAfter(QMenu& menu, Shortcuts shortcuts) const
 {
-    // Of disabled entries.
-    menu.setToolTipsVisible(true);
+    explainEntries(menu, m_window);
     connect(&menu, &QMenu::aboutToShow, this, [this, shortcuts] { show(shortcuts); });
     connect(&menu, &QMenu::aboutToShow, this, &CommandActions::validate);
 }
@@ -116,10 +117,11 @@ void CommandActions::validate()
     rename(Command::Redo, context.redoTitle);
     rename(Command::AddToBasket, context.isInBasket ? takeOutTitle() : QString());
     for (const auto& [command, action] : m_actions) {
-        const bool canBeDone = isEnabled(command, context);
-        action->setEnabled(canBeDone);
+        const QString obstacle = whyDisabled(command, context);
+        action->setEnabled(obstacle.isEmpty());
         action->setChecked(isOn(command, context).value_or(false));
-        action->setToolTip(canBeDone ? QString() : plainTooltip(m_whyNot(command)));
+        action->setToolTip(obstacle.isEmpty() ? QString() : plainTooltip(obstacle));
+        action->setStatusTip(obstacle.isEmpty() ? helpOf(rowOf(command)) : obstacle);
     }
 }
 

@@ -26,11 +26,8 @@ class CommandActions final : public QObject {
 public:
     /// Says what decides which entries are enabled.
     using Context = std::function<CommandContext()>;
-    /// Says why the entry of a command is disabled, if there is anything to say.
-    using WhyNot = std::function<QString(Command command)>;
-
     /// The shortcuts work in `window`, which owns this object.
-    CommandActions(QWidget& window, Context context, WhyNot whyNot);
+    CommandActions(QWidget& window, Context context);
     ~CommandActions() override;
 
     QAction& action(Command command) const { return *m_actions.at(command); }
@@ -45,23 +42,24 @@ public:
     /// Whether a menu shows them beside its entries. Those of a menu bar always do.
     enum class Shortcuts : std::uint8_t { Shown, Hidden };
 
-    /// Validates a menu of these actions whenever it opens, and has it show the tooltips.
+    /// Validates a menu of these actions whenever it opens, and has it say what its entries do or
+    /// why they are disabled (explainEntries).
     void lookAfter(QMenu& menu, Shortcuts shortcuts) const;
 
     /// To be called when the context has changed: the shortcuts of disabled entries do nothing, and
-    /// the key press goes on to whatever has the keyboard. Their tooltips say why.
+    /// the key press goes on to whatever has the keyboard. Their tooltips and status tips say why.
     void validate();
 
 signals:
     void triggered(tessera::Command command);
 
 private:
-    QAction* makeAction(QWidget& window, const CommandRow& row);
+    QAction* makeAction(const CommandRow& row);
     void show(Shortcuts shortcuts) const;
     void rename(Command command, const QString& title) const;
 
+    QWidget& m_window;
     Context m_context;
-    WhyNot m_whyNot;
     std::map<Command, QAction*> m_actions;
 };
 

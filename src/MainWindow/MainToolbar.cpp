@@ -43,6 +43,15 @@ ToolbarPathControl* addPathControl(QToolBar& toolbar)
     return &item->pathControl();
 }
 
+/// The reason is told to who asks what the button is, and to screen readers.
+void disableBecause(QToolButton& button, const QString& reason)
+{
+    button.setEnabled(reason.isEmpty());
+    button.setToolTip(
+        reason.isEmpty() ? button.text() : button.text() + QLatin1Char('\n') + reason);
+    button.setAccessibleDescription(reason);
+}
+
 } // namespace
 
 MainToolbar::MainToolbar(QToolBar& toolbar, QMenu& actionsMenu)
@@ -66,10 +75,14 @@ MainToolbar::MainToolbar(QToolBar& toolbar, QMenu& actionsMenu)
 
 void MainToolbar::setTreeDisplayed(bool displayed)
 {
-    m_toolbarHomeButton->setEnabled(displayed);
     m_toolbarSeparator->setVisible(displayed);
     m_toolbarPathControl->setVisible(displayed);
-    m_toolbarActionsButton->setEnabled(displayed);
+}
+
+void MainToolbar::setDisabledBecause(const QString& whyNotHome, const QString& whyNoActions)
+{
+    disableBecause(*m_toolbarHomeButton, whyNotHome);
+    disableBecause(*m_toolbarActionsButton, whyNoActions);
 }
 
 } // namespace tessera

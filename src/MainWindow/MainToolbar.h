@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QString>
+
 class QAction;
 class QMenu;
 class QToolBar;
@@ -17,8 +19,10 @@ public:
     /// `actionsMenu` opens under the actions button.
     MainToolbar(QToolBar& toolbar, QMenu& actionsMenu);
 
-    /// While the tree is not displayed there is nowhere to go and nothing to act on.
+    /// The path bar is the tree's.
     void setTreeDisplayed(bool displayed);
+    /// Enables each button whose reason is empty; the others tell theirs.
+    void setDisabledBecause(const QString& whyNotHome, const QString& whyNoActions);
 
     QToolButton& toolbarHomeButton() const { return *m_toolbarHomeButton; }
     QAction& toolbarSeparator() const { return *m_toolbarSeparator; }

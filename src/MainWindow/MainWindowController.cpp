@@ -62,10 +62,7 @@ MainWindowController::MainWindowController(const MainWindowServices& services)
     , m_ui(setUp(*m_window))
     , m_view(m_ui->view)
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the window owns it
-    , m_actions(new CommandActions(
-          *m_window,
-          [this] { return commandContext(); },
-          [this](Command command) { return whyNot(command); }))
+    , m_actions(new CommandActions(*m_window, [this] { return commandContext(); }))
     , m_panels(*m_window, m_services)
     , m_status(*m_window, m_services.defaults)
     , m_ignoreMenu(services.model)
@@ -161,6 +158,9 @@ void MainWindowController::handle(ScreenEvent event, const Url& url)
     m_state = transition.next;
     act(transition.action, url);
     m_actions->validate();
+    const CommandContext context = commandContext();
+    m_toolbar->setDisabledBecause(
+        whyDisabled(Command::Home, context), whyDisabled(Command::Basket, context));
 }
 
 void MainWindowController::act(ScreenAction action, const Url& url)
@@ -398,7 +398,7 @@ bool MainWindowController::eventFilter(QObject* watched, QEvent* event)
         const auto& pressed = *static_cast<QKeyEvent*>(event);
         if (const auto command = m_actions->disabledCommand(pressed);
             command && !pressed.isAutoRepeat() && m_treeVC != nullptr) {
-            m_treeVC->say(whyNot(*command));
+            m_treeVC->say(whyDisabled(*command, commandContext()));
         } else if (command == Command::Rescan && pressed.key() == Qt::Key_F5) {
             // On the home screen it is the key that it is everywhere else.
             perform(Command::Reload);

@@ -114,10 +114,9 @@ private:
     void performOnItems(Command command);
     void performOnTree(Command command);
     void rescan();
-    bool canReload() const;
+    bool isScanRunning() const;
     void reload();
     void comeBack();
-    QString whyNot(Command command) const;
     void folderChosen(const std::vector<Url>& urls);
     void refuseTimeMachine(const Url& url);
     void toggleFullScreen();

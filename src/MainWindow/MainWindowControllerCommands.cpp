@@ -23,11 +23,13 @@ CommandContext MainWindowController::commandContext() const
 {
     CommandContext context = m_treeVC == nullptr ? CommandContext() : m_treeVC->commandContext();
     context.hasHomeScreen = m_homeVC != nullptr;
-    context.canReload = canReload();
+    context.isScanRunning = isScanRunning();
     context.isStatusLineOn = m_status.isOn();
     context.isLedgerOpen = m_panels.isLedgerOpen();
     context.undoTitle = m_services.treeScreen.trashUndo.undoTitle();
     context.redoTitle = m_services.treeScreen.trashUndo.redoTitle();
+    context.whyNoUndo = m_services.treeScreen.trashUndo.whyNoUndo();
+    context.whyNoRedo = m_services.treeScreen.trashUndo.whyNoRedo();
     return context;
 }
 
@@ -131,14 +133,15 @@ void MainWindowController::rescan()
     }
 }
 
-bool MainWindowController::canReload() const
+/// Its panel may be sliding away by now.
+bool MainWindowController::isScanRunning() const
 {
-    return m_state == ScreenState::Home || m_state == ScreenState::Tree;
+    return m_state != ScreenState::Home && m_state != ScreenState::Tree;
 }
 
 void MainWindowController::reload()
 {
-    if (!canReload()) {
+    if (!isEnabled(Command::Reload, commandContext())) {
         return;
     }
     if (m_treeVC == nullptr) {
@@ -168,22 +171,6 @@ void MainWindowController::comeBack()
         m_treeVC->setSelectedFile(nodeAtPath(top, place.selected));
     }
     m_treeVC->renderTree();
-}
-
-/// Without a tree nothing needs to be said of the others: there is nothing that they could be
-/// about.
-QString MainWindowController::whyNot(Command command) const
-{
-    if (command == Command::Undo) {
-        return m_services.treeScreen.trashUndo.whyNoUndo();
-    }
-    if (command == Command::Redo) {
-        return m_services.treeScreen.trashUndo.whyNoRedo();
-    }
-    if (command == Command::Reload) {
-        return canReload() ? QString() : tr("A scan is running. Wait until it has ended.");
-    }
-    return m_treeVC == nullptr ? QString() : m_treeVC->whyNot(command);
 }
 
 void MainWindowController::openFolder()

@@ -70,9 +70,8 @@ void TreeViewController::observeTreeView()
     connect(&m_treeView, &TreeMapView::frameChanged, this, &TreeViewController::renderTree);
     connect(&m_treeView, &TreeMapView::zoomEnded, this, &TreeViewController::animationDidStop);
     connect(&m_clicks, &TreeClicks::spaceClicked, this, &TreeViewController::spaceClicked);
-    connect(&m_treeView, &TreeMapView::menuKeyInVain, this, [this] {
-        m_note.say(command_hint::nothingSelected());
-    });
+    connect(
+        &m_treeView, &TreeMapView::menuKeyInVain, this, [this] { m_note.say(nothingSelected()); });
 }
 
 void TreeViewController::observeTrashNote()
@@ -307,7 +306,8 @@ CommandContext TreeViewController::commandContext() const
     context.isInBasket
         = m_selectedFile != nullptr && m_services.basket.basket().isMarked(*m_selectedFile);
     context.isDiskScanned = nodeCast<Volume>(static_cast<File*>(m_model.topFolder())) != nullptr;
-    context.canRescan = folderToRescan() != nullptr && rescanObstacle() == RescanObstacle::None;
+    context.folderInView = m_currentFolder;
+    context.rescanObstacle = rescanObstacle();
     return context;
 }
 
@@ -318,14 +318,7 @@ bool TreeViewController::validate(Command command) const
 
 QString TreeViewController::whyNot(Command command) const
 {
-    if (validate(command)) {
-        return {};
-    }
-    if (command == Command::ZoomOut) {
-        return m_currentFolder == nullptr ? QString()
-                                          : command_hint::nothingAround(*m_currentFolder);
-    }
-    return command_hint::whyNot(command, folderToRescan(), rescanObstacle());
+    return whyDisabled(command, commandContext());
 }
 
 void TreeViewController::say(const QString& why)
@@ -425,6 +418,8 @@ void TreeViewController::renderTree()
     m_treeView.removeAllBranches();
     m_note.hide();
     m_treeView.addBranch(branchFor(m_currentFolder));
+    m_treeView.setAccessibleDescription(
+        QString::fromStdString(m_treeView.branches().front()->textWithoutBoxes()));
     // Nobody may delete or preview what they do not see.
     if (m_selectedFile != nullptr && !m_treeView.shows(*m_selectedFile)) {
         setSelectedFile(nullptr);

@@ -4,7 +4,6 @@
 #include "Base/Rect.h"
 #include "Commands/CommandContext.h"
 #include "OpenItem/ItemOpening.h"
-#include "TreeScreen/CommandHint.h"
 #include "TreeScreen/FolderRescan.h"
 #include "TreeScreen/Map/BoxNavigation.h"
 #include "TreeScreen/Map/TreeScreen.h"

@@ -37,40 +37,55 @@ protected:
 
     std::unique_ptr<Folder> folder = makeNode<Folder>("docs");
     /// In which all is enabled.
-    CommandContext context{false, true, false, folder.get(), true};
-    QString reason = QStringLiteral("Not now."); ///< for all
+    CommandContext context{
+        .hasTreeScreen = true,
+        .isRootInView = false,
+        .selectedFile = folder.get(),
+        .folderInView = folder.get()};
+    const QString reason = QStringLiteral("A rescan is running already. Wait until it has ended.");
     QMainWindow window;
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the window owns it
-    CommandActions* actions = new CommandActions(
-        window, [this] { return context; }, [this](Command) { return reason; });
+    CommandActions* actions = new CommandActions(window, [this] { return context; });
     QSignalSpy triggered{actions, &CommandActions::triggered};
 };
 
 TEST_F(CommandActionsTest, ADisabledEntrySaysWhyInItsTooltip)
 {
-    context.canRescan = false;
+    context.rescanObstacle = RescanObstacle::AnotherRescan;
     actions->validate();
-    EXPECT_EQ(actions->action(Command::Rescan).toolTip(), QStringLiteral("Not now."));
-    EXPECT_NE(actions->action(Command::Ignore).toolTip(), QStringLiteral("Not now."));
+    EXPECT_EQ(actions->action(Command::Rescan).toolTip(), reason);
+    EXPECT_NE(actions->action(Command::Ignore).toolTip(), reason);
 }
 
 TEST_F(CommandActionsTest, AnEntryThatIsEnabledAgainSaysNothingOfTheKind)
 {
-    context.canRescan = false;
+    context.rescanObstacle = RescanObstacle::AnotherRescan;
     actions->validate();
-    context.canRescan = true;
+    context.rescanObstacle = RescanObstacle::None;
     actions->validate();
-    EXPECT_NE(actions->action(Command::Rescan).toolTip(), QStringLiteral("Not now."));
+    EXPECT_NE(actions->action(Command::Rescan).toolTip(), reason);
+}
+
+TEST_F(CommandActionsTest, AStatusTipSaysWhatTheCommandDoesOrWhyItIsDisabled)
+{
+    actions->validate();
+    const QAction& rescan = actions->action(Command::Rescan);
+    EXPECT_EQ(rescan.statusTip(), helpOf(rowOf(Command::Rescan)));
+    context.rescanObstacle = RescanObstacle::AnotherRescan;
+    actions->validate();
+    EXPECT_EQ(rescan.statusTip(), reason);
 }
 
 TEST_F(CommandActionsTest, ANameInAReasonIsNoMarkup)
 {
-    context.canRescan = false;
-    reason = QStringLiteral("A disk is mounted at '<img src=\"/a.png\">'.");
+    const auto hostile = makeNode<Folder>("<img src=\"a.png\">");
+    context.selectedFile = hostile.get();
+    context.rescanObstacle = RescanObstacle::MountPoint;
     actions->validate();
-    EXPECT_EQ(
-        QTextDocumentFragment::fromHtml(actions->action(Command::Rescan).toolTip()).toPlainText(),
-        reason);
+    const QString shown
+        = QTextDocumentFragment::fromHtml(actions->action(Command::Rescan).toolTip()).toPlainText();
+    EXPECT_TRUE(shown.contains(QStringLiteral("<img src=\"a.png\">")));
+    EXPECT_EQ(shown, actions->action(Command::Rescan).statusTip());
 }
 
 TEST_F(CommandActionsTest, EachEntryCarriesItsTag)
@@ -125,7 +140,7 @@ TEST_F(CommandActionsTest, AShortcutTriggersItsCommand)
 TEST_F(CommandActionsTest, TheShortcutOfADisabledCommandDoesNothing)
 {
     showActiveWindow();
-    context.canRescan = false;
+    context.rescanObstacle = RescanObstacle::AnotherRescan;
     actions->validate();
     pressKeys("Ctrl+R");
     EXPECT_EQ(triggered.size(), 0);
@@ -143,7 +158,8 @@ TEST_F(CommandActionsTest, AnEntryWithATitleOfItsOwnIsAsTheActionIs)
     context.selectedFile = nullptr;
     actions->validate();
     EXPECT_FALSE(entry->isEnabled());
-    EXPECT_EQ(entry->toolTip(), QStringLiteral("Not now."));
+    EXPECT_EQ(entry->toolTip(), nothingSelected());
+    EXPECT_EQ(entry->statusTip(), nothingSelected());
 
     context.selectedFile = folder.get();
     actions->validate();

@@ -52,13 +52,6 @@ CommandContext treeWith(const File* selected)
     return {false, true, true, selected};
 }
 
-CommandContext whereRescanIsPossible(const CommandContext& context)
-{
-    CommandContext result = context;
-    result.canRescan = true;
-    return result;
-}
-
 const auto kAllForFolders = ElementsAre(
     Command::ZoomIn,
     Command::OpenItem,
@@ -67,6 +60,7 @@ const auto kAllForFolders = ElementsAre(
     Command::ShowInFinder,
     Command::CopyPath,
     Command::OpenTerminal,
+    Command::Rescan,
     Command::Ignore,
     Command::Compress,
     Command::AddToBasket,
@@ -157,23 +151,115 @@ TEST(CommandContext, WhateverIsSelectedCanBeOpened)
     EXPECT_FALSE(isEnabled(Command::Open, treeWith(nullptr)));
 }
 
-TEST(CommandContext, RescanIsEnabledWhenTheTreeScreenSaysSo)
+TEST(CommandContext, RescanIsOfTheSelectedFolderOrTheOneInView)
 {
     const auto folder = makeNode<Folder>("docs");
-    EXPECT_FALSE(isEnabled(Command::Rescan, treeWith(folder.get())));
-    EXPECT_TRUE(isEnabled(Command::Rescan, whereRescanIsPossible(treeWith(folder.get()))));
-    EXPECT_TRUE(isEnabled(Command::Rescan, whereRescanIsPossible(treeWith(nullptr))));
-    EXPECT_FALSE(
-        isEnabled(Command::Rescan, whereRescanIsPossible({true, false, true, folder.get()})));
+    const auto document = makeNode<Document>("a");
+    CommandContext context = treeWith(nullptr);
+    EXPECT_FALSE(isEnabled(Command::Rescan, context));
+    context.folderInView = folder.get();
+    EXPECT_TRUE(isEnabled(Command::Rescan, context));
+    context.selectedFile = document.get();
+    EXPECT_FALSE(isEnabled(Command::Rescan, context));
+    context.selectedFile = folder.get();
+    EXPECT_TRUE(isEnabled(Command::Rescan, context));
 }
 
-TEST(CommandContext, ReloadIsEnabledWhenTheMainWindowSaysSo)
+TEST(CommandContext, RescanWaitsForAnotherAndStaysOutOfMountPoints)
 {
+    const auto folder = makeNode<Folder>("docs");
+    CommandContext context = treeWith(folder.get());
+    context.rescanObstacle = RescanObstacle::AnotherRescan;
+    EXPECT_TRUE(whyDisabled(Command::Rescan, context).startsWith(QStringLiteral("A rescan is")));
+    context.rescanObstacle = RescanObstacle::MountPoint;
+    EXPECT_TRUE(whyDisabled(Command::Rescan, context)
+                    .startsWith(QStringLiteral("A disk is mounted at "
+                                               "'docs'.")));
+}
+
+TEST(CommandContext, WhileAScanRunsNothingIsReloaded)
+{
+    EXPECT_TRUE(isEnabled(Command::Reload, treeWith(nullptr)));
+    EXPECT_TRUE(isEnabled(Command::Reload, {.hasHomeScreen = true}));
+    EXPECT_FALSE(isEnabled(Command::Reload, {.hasHomeScreen = true, .isScanRunning = true}));
+}
+
+TEST(CommandContext, UndoAndRedoAreEnabledUnlessSomethingSpeaksAgainstThem)
+{
+    CommandContext context;
+    context.whyNoUndo = QStringLiteral("No undo.");
+    EXPECT_EQ(whyDisabled(Command::Undo, context), QStringLiteral("No undo."));
+    EXPECT_TRUE(isEnabled(Command::Redo, context));
+    context.whyNoRedo = QStringLiteral("No redo.");
+    EXPECT_EQ(whyDisabled(Command::Redo, context), QStringLiteral("No redo."));
+}
+
+TEST(CommandContext, WithoutATreeThereMustBeAScanFirst)
+{
+    const QString scan = QStringLiteral("Scan a disk or a folder first.");
+    const QString wait = QStringLiteral("A scan is running. Wait until it has ended.");
+    for (const Command command : {Command::MoveToTrash, Command::ZoomOut, Command::SpaceLedger}) {
+        EXPECT_EQ(whyDisabled(command, {.hasHomeScreen = true}), scan);
+        EXPECT_EQ(whyDisabled(command, {.hasHomeScreen = true, .isScanRunning = true}), wait);
+    }
+    EXPECT_EQ(whyDisabled(Command::Home, {.hasHomeScreen = true, .isScanRunning = true}), wait);
+    EXPECT_NE(whyDisabled(Command::Home, {.hasHomeScreen = true}), wait);
+}
+
+TEST(CommandContext, TheWayOutSaysWhatWasScanned)
+{
+    const auto folder = makeNode<Folder>("docs");
     CommandContext context = treeWith(nullptr);
-    EXPECT_FALSE(isEnabled(Command::Reload, context));
-    context.canReload = true;
-    EXPECT_TRUE(isEnabled(Command::Reload, context));
-    EXPECT_TRUE(isEnabled(Command::Reload, {.hasHomeScreen = true, .canReload = true}));
+    context.folderInView = folder.get();
+    EXPECT_TRUE(whyDisabled(Command::ZoomOut, context).startsWith(QStringLiteral("'docs' is all")));
+}
+
+/// All states that make a difference to some command, as far as they go together.
+std::vector<CommandContext> allContexts(const std::vector<const File*>& selections)
+{
+    std::vector<CommandContext> contexts;
+    for (const bool isScanRunning : {false, true}) {
+        contexts.push_back({.hasHomeScreen = true, .isScanRunning = isScanRunning});
+    }
+    for (const File* const selected : selections) {
+        for (const auto obstacle :
+             {RescanObstacle::None, RescanObstacle::AnotherRescan, RescanObstacle::MountPoint}) {
+            for (const bool isOfDisk : {false, true}) {
+                contexts.push_back(
+                    {.hasTreeScreen = true,
+                     .isRootInView = !isOfDisk,
+                     .selectedFile = selected,
+                     .rescanObstacle = obstacle,
+                     .isDiskScanned = isOfDisk});
+            }
+        }
+    }
+    return contexts;
+}
+
+TEST(CommandContext, WhatIsDisabledSaysWhyInASentence)
+{
+    const auto folder = makeNode<Folder>("docs");
+    const auto document = makeNode<Document>("a");
+    const auto freeSpace = makeNode<FreeSpace>("");
+    std::size_t disabled = 0;
+    for (CommandContext& context :
+         allContexts({nullptr, folder.get(), document.get(), freeSpace.get()})) {
+        context.whyNoUndo = QStringLiteral("There is nothing to undo.");
+        context.whyNoRedo = QStringLiteral("There is nothing to redo.");
+        for (int number = 0; number <= static_cast<int>(Command::About); ++number) {
+            const auto command = static_cast<Command>(number);
+            const QString reason = whyDisabled(command, context);
+            EXPECT_EQ(isEnabled(command, context), reason.isEmpty()) << number;
+            if (!reason.isEmpty()) {
+                ++disabled;
+                EXPECT_GE(reason.count(QLatin1Char(' ')), 3) << number;
+                EXPECT_TRUE(reason.endsWith(QLatin1Char('.'))) << number;
+                EXPECT_FALSE(reason.contains(QLatin1Char('%'))) << number;
+            }
+        }
+    }
+    EXPECT_GT(disabled, 100U);
 }
 
 TEST(CommandContext, TheBasketIsOfATreeOnScreen)

@@ -314,6 +314,7 @@ TEST_F(MainWindowControllerTest, CommandsReachTheTreeScreen)
 TEST_F(MainWindowControllerTest, TheHomeButtonSaysWhatItsCommandDoes)
 {
     const QToolButton& button = controller->toolbar().toolbarHomeButton();
+    showTree();
     EXPECT_EQ(button.whatsThis(), helpOf(rowOf(Command::Home)));
     EXPECT_EQ(button.toolTip(), QStringLiteral("Choose another disk or folder"));
 }

@@ -200,6 +200,21 @@ TEST_F(MainWindowScreensTest, EventsThatMakeNoSenseChangeNothing)
     EXPECT_EQ(services.screens.homeScreensMade, 1);
 }
 
+TEST_F(MainWindowScreensTest, DisabledButtonsOfTheToolbarSayWhy)
+{
+    const QToolButton& home = controller->toolbar().toolbarHomeButton();
+    const QToolButton& commands = controller->toolbar().toolbarActionsButton();
+    EXPECT_EQ(
+        home.toolTip(),
+        QStringLiteral("Choose another disk or folder\nThis is the home screen already."));
+    EXPECT_EQ(commands.accessibleDescription(), QStringLiteral("Scan a disk or a folder first."));
+    requestScan();
+    EXPECT_TRUE(commands.toolTip().endsWith(QStringLiteral("Wait until it has ended.")));
+    finishScan();
+    EXPECT_EQ(commands.toolTip(), QStringLiteral("Commands for the selected item"));
+    EXPECT_EQ(commands.accessibleDescription(), QString());
+}
+
 TEST_F(MainWindowScreensTest, TheToolbarFollowsTheScreen)
 {
     const MainToolbar& toolbar = controller->toolbar();

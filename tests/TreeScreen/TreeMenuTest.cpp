@@ -56,19 +56,18 @@ protected:
     std::unique_ptr<QMenu> makeMenu()
     {
         node = makeNode<Node>("a");
-        context = {false, true, false, node.get(), true};
+        context = {false, true, false, node.get(), inView.get()};
         auto menu = makeTreeMenu(*node, *actions);
         emit menu->aboutToShow();
         return menu;
     }
 
     std::unique_ptr<File> node;
+    std::unique_ptr<Folder> inView = makeNode<Folder>("<img src=\"a.png\">");
     CommandContext context;
-    QString reason = QStringLiteral("Not now."); ///< for all
     QWidget window;
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the window owns it
-    CommandActions* actions = new CommandActions(
-        window, [this] { return context; }, [this](Command) { return reason; });
+    CommandActions* actions = new CommandActions(window, [this] { return context; });
     QSignalSpy triggered{actions, &CommandActions::triggered};
 };
 
@@ -174,21 +173,21 @@ TEST_F(TreeMenu, ADisabledEntrySaysWhyInItsTooltip)
     context.selectedFile = nullptr;
     emit menu->aboutToShow();
     EXPECT_TRUE(menu->toolTipsVisible());
-    EXPECT_EQ(action(*menu, QStringLiteral("Zoom In"))->toolTip(), QStringLiteral("Not now."));
     EXPECT_EQ(
-        action(*menu, QStringLiteral("Compress Folder"))->toolTip(), QStringLiteral("Not now."));
+        action(*menu, QStringLiteral("Zoom In"))->toolTip(),
+        QStringLiteral("Select a folder first."));
+    EXPECT_EQ(action(*menu, QStringLiteral("Compress Folder"))->toolTip(), nothingSelected());
 }
 
 TEST_F(TreeMenu, ANameInAReasonIsNoMarkup)
 {
     const auto menu = makeMenu<Folder>();
     context.selectedFile = nullptr;
-    reason = QStringLiteral("A disk is mounted at '<img src=\"/a.png\">'.");
+    context.rescanObstacle = RescanObstacle::MountPoint;
     emit menu->aboutToShow();
-    for (const char* const title : {"Zoom In", "Compress Folder"}) {
-        const QString tooltip = action(*menu, QString::fromLatin1(title))->toolTip();
-        EXPECT_EQ(QTextDocumentFragment::fromHtml(tooltip).toPlainText(), reason);
-    }
+    const QString tooltip = action(*menu, QStringLiteral("Rescan"))->toolTip();
+    EXPECT_TRUE(QTextDocumentFragment::fromHtml(tooltip).toPlainText().contains(
+        QStringLiteral("<img src=\"a.png\">")));
 }
 
 bool isExplanationShown()

@@ -98,10 +98,7 @@ protected:
          .threads = threads,
          .motion = &services.motion});
     TreeMapView view{services.defaults};
-    const CommandActions actions{
-        view,
-        [this] { return controller->commandContext(); },
-        [this](Command command) { return controller->whyNot(command); }};
+    const CommandActions actions{view, [this] { return controller->commandContext(); }};
     std::unique_ptr<TreeViewController> controller;
 };
 

@@ -40,11 +40,10 @@ protected:
 
     std::unique_ptr<Folder> folder = makeNode<Folder>("docs");
     /// In which all is enabled.
-    CommandContext context{false, true, false, folder.get(), true};
+    CommandContext context{false, true, false, folder.get()};
     QMainWindow window;
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the window owns it
-    CommandActions* actions = new CommandActions(
-        window, [this] { return context; }, [](Command) { return QString(); });
+    CommandActions* actions = new CommandActions(window, [this] { return context; });
 };
 
 TEST_F(MainMenusTest, TheMenuBarHoldsEveryCommand)
