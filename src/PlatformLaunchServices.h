@@ -27,6 +27,7 @@ inline HomeViewServices homeViewServices(
         .volumes = *services.mountedVolumes,
         .standardFolders = *services.standardFolders,
         .account = *services.userAccount,
+        .defaults = *services.userDefaults,
         .homeDirectory = homeDirectory,
         .fileSystemAttributes = services.fileSystemAttributes,
         .resourceValues = services.resourceValues};

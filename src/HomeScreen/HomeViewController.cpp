@@ -5,8 +5,10 @@
 #include "DeadMounts/DeadMountLimits.h"
 #include "Desktop/UserAccount.h"
 #include "HomeScreen/Grid/CollectionHeaderView.h"
+#include "HomeScreen/Grid/SectionPlaceholder.h"
 #include "HomeScreen/Grid/SectionedCollectionView.h"
 #include "HomeScreen/Parts/FolderCollectionView.h"
+#include "HomeScreen/Parts/GreetingView.h"
 #include "HomeScreen/Parts/HomeItemAccessible.h"
 #include "HomeScreen/Parts/HoverButton.h"
 #include "HomeScreen/Parts/VolumeCollectionView.h"
@@ -14,7 +16,9 @@
 #include "HomeScreen/Places/PlaceNames.h"
 #include "HomeScreen/Recents/RecentsTableCell.h"
 #include "HomeScreen/Recents/RecentsTableModel.h"
+#include "HomeScreen/Recents/RecentsTableView.h"
 #include "Model/RootModel.h"
+#include "Model/UserDefaults.h"
 #include "Widgets/DesktopFont.h"
 #include "Widgets/PassiveLabel.h"
 #include "ui_HomeView.h"
@@ -138,6 +142,37 @@ void HomeViewController::loadView()
     locationsCollection().setSections(sections());
     loadRecents();
     updateButtons();
+    if (!m_services.defaults.boolean(kGreetedKey)) {
+        greet();
+    }
+}
+
+void HomeViewController::greet()
+{
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the screen owns it
+    m_greeting = new GreetingView(m_ui->scanBar);
+    m_ui->scanButtonLayout->insertWidget(0, m_greeting, 1);
+    QWidget::setTabOrder(&scanButton(), &m_greeting->button());
+    connect(m_greeting, &GreetingView::seen, this, [this] {
+        m_services.defaults.setBoolean(kGreetedKey, true);
+    });
+    connect(m_greeting, &GreetingView::dismissed, this, &HomeViewController::endGreeting);
+}
+
+/// For good, also for one that nobody has seen.
+void HomeViewController::endGreeting()
+{
+    if (m_greeting == nullptr) {
+        return;
+    }
+    m_services.defaults.setBoolean(kGreetedKey, true);
+    const bool hadFocus = m_greeting->button().hasFocus();
+    m_greeting->hide();
+    m_greeting->deleteLater();
+    m_greeting.clear();
+    if (hadFocus) {
+        takeFocus();
+    }
 }
 
 void HomeViewController::fitFont()
@@ -157,6 +192,10 @@ bool HomeViewController::eventFilter(QObject* watched, QEvent* event)
 {
     const bool isKey = watched == m_view.get() && event->type() == QEvent::KeyPress;
     const int key = isKey ? dynamic_cast<QKeyEvent*>(event)->key() : 0;
+    if (key == Qt::Key_Escape && m_greeting != nullptr) {
+        endGreeting();
+        return true;
+    }
     if (key != Qt::Key_Return && key != Qt::Key_Enter) {
         return QObject::eventFilter(watched, event);
     }
@@ -320,6 +359,10 @@ void HomeViewController::takeFocus()
 void HomeViewController::setEnabled(bool enabled)
 {
     m_enabled = enabled;
+    if (!enabled) {
+        // A scan has begun: the user knows how.
+        endGreeting();
+    }
     openButton().setEnabled(enabled);
     recentsTable().setEnabled(enabled);
     locationsCollection().setInteractive(enabled);
@@ -332,8 +375,16 @@ void HomeViewController::setEnabled(bool enabled)
 void HomeViewController::updateButtons()
 {
     const bool isSelected = selectedRecent() >= 0 || selectedUrl() != nullptr;
+    const bool hasRecents = m_recents->rowCount() > 0;
+    recentsTable().setAccessibleDescription(
+        hasRecents ? QString() : RecentsTableView::placeholder());
     scanButton().setEnabled(m_enabled && isSelected);
-    clearRecentsButton().setEnabled(m_enabled && m_recents->rowCount() > 0);
+    scanButton().setToolTip(
+        isSelected ? tr("Scan what is selected")
+                   : tr("Select a disk, a folder or a recent scan first."));
+    clearRecentsButton().setEnabled(m_enabled && hasRecents);
+    clearRecentsButton().setToolTip(
+        hasRecents ? tr("Empty the list of recent scans") : tr("There are no recent scans."));
 }
 
 void HomeViewController::scanSelected()
@@ -389,8 +440,15 @@ std::vector<CollectionSection> HomeViewController::sections() const
     for (const MountedVolume& volume : m_volumes) {
         disks.items.push_back(volumeView(volume));
     }
+    disks.placeholder = sectionPlaceholder(
+        tr("Disks appear here when they are mounted. Reload in the View menu looks for them."));
     CollectionSection locations
         = emptySection(tr("Locations"), kLeastLocationWidth, kGreatestLocationWidth);
+    locations.placeholder = sectionPlaceholder(
+        m_model.isRunningAsRoot()
+            ? tr("A user's own folders appear here, and the administrator has none. Open Folder "
+                 "scans any other.")
+            : tr("Your folders, such as Downloads and Music, appear here when there are any."));
     for (const Location& location : m_locations) {
         locations.items.push_back(locationView(location));
     }

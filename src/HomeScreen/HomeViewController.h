@@ -9,6 +9,7 @@
 #include "Widgets/BackgroundQuestions.h"
 
 #include <QObject>
+#include <QPointer>
 
 #include <map>
 #include <memory>
@@ -26,6 +27,7 @@ class HomeView;
 namespace tessera {
 
 class CollectionItemView;
+class GreetingView;
 class HoverButton;
 class RecentsTableModel;
 class RootModel;
@@ -92,6 +94,8 @@ private:
     void connectControls();
     void connectGrid();
     void fitFont();
+    void greet();
+    void endGreeting();
     void updateButtons();
     void loadVolumes();
     void loadLocations();
@@ -120,6 +124,7 @@ private:
     /// Of the volumes that have answered, by path; nothing for one that could not say.
     std::map<std::string, std::optional<FileSystemSizes>> m_sizes;
     RecentsTableModel* m_recents = nullptr;
+    QPointer<GreetingView> m_greeting; ///< on the first start; the screen owns it
     bool m_enabled = true;
     bool m_isGridLoaded = false;
     std::unique_ptr<QWidget> m_view;

@@ -20,6 +20,7 @@ inline constexpr std::string_view kWarnDeleteHiddenKey = "WarnDeleteHidden";
 inline constexpr std::string_view kWarnDeleteSystemKey = "WarnDeleteSystem";
 inline constexpr std::string_view kFolderSizesKey = "FolderSizes"; ///< in folder titles
 inline constexpr std::string_view kStatusLineKey = "StatusLine";
+inline constexpr std::string_view kGreetedKey = "Greeted"; ///< on the first start
 inline constexpr std::string_view kRecentsKey = "recents";
 
 /// One finished scan, as the list of recent scans remembers it.

@@ -52,6 +52,7 @@ protected:
                {Url("/mnt/data", true), MountedVolume::Kind::Disk}};
         resourceValues->directories = {"/home/eve", "/home/eve/Music", "/home/eve/Public"};
         account.real.directory = "/home/eve";
+        modelServices.defaults.setBoolean(kGreetedKey, true);
         addRecent("/home/eve/one");
         addRecent("/home/eve/two");
     }
@@ -74,6 +75,7 @@ protected:
                 .volumes = volumes,
                 .standardFolders = modelServices.folders,
                 .account = account,
+                .defaults = modelServices.defaults,
                 .homeDirectory = homeDirectory,
                 .fileSystemAttributes = attributes,
                 .resourceValues = resourceValues});

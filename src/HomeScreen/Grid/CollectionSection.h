@@ -15,6 +15,8 @@ namespace tessera {
 struct CollectionSection {
     std::unique_ptr<QWidget> header;
     std::vector<std::unique_ptr<CollectionItemView>> items;
+    /// Stands below the header while there are no items, as high as it needs to be; may be null.
+    std::unique_ptr<QWidget> placeholder = nullptr;
 
     /// Of an item, in points. Single precision, in which the places of the items are reckoned.
     float minimumWidth = 0;

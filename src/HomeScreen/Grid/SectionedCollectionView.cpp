@@ -63,6 +63,9 @@ void SectionedCollectionView::setSections(std::vector<CollectionSection> section
     };
     for (const CollectionSection& section : m_sections) {
         takeIn(*section.header);
+        if (section.items.empty() && section.placeholder != nullptr) {
+            takeIn(*section.placeholder);
+        }
         for (const auto& item : section.items) {
             takeIn(*item);
         }
@@ -87,6 +90,11 @@ int SectionedCollectionView::placeSection(const CollectionSection& section, int 
     QWidget& header = *section.header;
     int y = top + header.height();
     header.setGeometry(0, top, width(), header.height());
+    if (section.items.empty() && section.placeholder != nullptr) {
+        const int height = section.placeholder->heightForWidth(width());
+        section.placeholder->setGeometry(0, y, width(), height);
+        return y + height;
+    }
     const auto rowWidth = static_cast<float>(width());
     const float itemWidth = itemWidthInSection(rowWidth, section);
     // In single precision, how many fit in a row may be another number than in double precision.

@@ -11,6 +11,17 @@
 
 namespace tessera {
 
+namespace {
+
+constexpr int kPlaceholderMargin = 12;
+
+} // namespace
+
+QString RecentsTableView::placeholder()
+{
+    return tr("Disks and folders that you scan are listed here, to be scanned again.");
+}
+
 void RecentsTableView::paintEvent(QPaintEvent* event)
 {
     QListView::paintEvent(event);
@@ -19,7 +30,9 @@ void RecentsTableView::paintEvent(QPaintEvent* event)
     }
     QPainter painter(viewport());
     painter.setPen(palette().color(QPalette::PlaceholderText));
-    painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, tr("No scans yet"));
+    const QRect room = viewport()->rect().adjusted(
+        kPlaceholderMargin, kPlaceholderMargin, -kPlaceholderMargin, -kPlaceholderMargin);
+    painter.drawText(room, Qt::AlignCenter | Qt::TextWordWrap, placeholder());
 }
 
 void RecentsTableView::focusInEvent(QFocusEvent* event)
@@ -36,6 +49,11 @@ void RecentsTableView::keyPressEvent(QKeyEvent* event)
 {
     constexpr std::array kArrows{Qt::Key_Up, Qt::Key_Down};
     const bool isArrow = std::ranges::find(kArrows, event->key()) != kArrows.end();
+    if (event->key() == Qt::Key_Escape) {
+        // The list would look for a name that begins with it.
+        event->ignore();
+        return;
+    }
     const QModelIndex focused = currentIndex();
     // Qt would move on from the row that has the focus, although it was not selected.
     if (isArrow && focused.isValid() && !selectionModel()->hasSelection()) {
