@@ -247,8 +247,11 @@ void BasketList::contextMenuEvent(QContextMenuEvent* event)
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->addAction(tr("Show in Picture"), this, &BasketList::showCurrent)
         ->setEnabled(currentIndex().isValid());
-    menu->addAction(tr("Take out of Basket"), this, &BasketList::removeSelected)
-        ->setEnabled(m_isChangeable);
+    menu->setToolTipsVisible(true);
+    auto* const remove
+        = menu->addAction(tr("Take out of Basket"), this, &BasketList::removeSelected);
+    remove->setEnabled(m_obstacle.isEmpty());
+    remove->setToolTip(m_obstacle);
     const bool isByMouse = event->reason() == QContextMenuEvent::Mouse;
     menu->popup(
         isByMouse ? event->globalPos()
@@ -267,7 +270,7 @@ void BasketList::showCurrent()
 
 void BasketList::removeSelected()
 {
-    if (!m_isChangeable) {
+    if (!m_obstacle.isEmpty()) {
         return;
     }
     m_model.bringUpToDate();

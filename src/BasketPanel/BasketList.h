@@ -27,8 +27,8 @@ public:
 
     /// Whether figures are worked out; at first none are.
     void setAtWork(bool isAtWork);
-    /// Whether rows may be taken out; at first they may.
-    void setChangeable(bool isChangeable) { m_isChangeable = isChangeable; }
+    /// Why no rows may be taken out; empty, as at first, when they may.
+    void setObstacle(const QString& obstacle) { m_obstacle = obstacle; }
 
     /// What is said while there are no rows.
     void setPlaceholder(const QString& text);
@@ -69,7 +69,7 @@ private:
     Kept m_kept;
     QTimer m_work;
     bool m_isAtWork = false;
-    bool m_isChangeable = true;
+    QString m_obstacle;
 };
 
 } // namespace tessera

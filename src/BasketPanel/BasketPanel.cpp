@@ -144,8 +144,6 @@ void BasketPanel::makeFoot(QVBoxLayout& layout)
     readOutWhenShown(*m_total);
     m_allFreed->setObjectName(QStringLiteral("basketFreed"));
     m_empty->setText(tr("Empty Basket"));
-    m_empty->setAccessibleDescription(
-        tr("Takes all items out of the basket. Nothing moves to the trash."));
     auto* const line = new QHBoxLayout;
     line->addWidget(m_total, 1);
     line->addWidget(m_empty, 0, Qt::AlignTop);
@@ -296,25 +294,51 @@ void BasketPanel::showButtons()
     // While the head is about to be another, its node may be gone.
     const bool isInside = !m_isSubjectStale && m_subject != nullptr && basket.isMarked(*m_subject);
     m_toggle->setText(isInside ? tr("Take out of Basket") : tr("Add to Basket"));
-    disable(*m_toggle, m_isSubjectStale || !mayBeChosen(m_subject));
-    disable(*m_empty, basket.isEmpty() || m_isMoving);
-    m_list->setChangeable(!m_isMoving);
+    m_toggle->setAccessibleDescription({});
+    disable(*m_toggle, whyNoToggle());
+    m_empty->setAccessibleDescription(
+        tr("Takes all items out of the basket. Nothing moves to the trash."));
+    disable(*m_empty, whyNoMove());
+    m_list->setObstacle(m_isMoving ? whyNoMove() : QString());
     m_moveAll->setText(
         m_isMoving           ? tr("Moving to Trash…")
             : m_isMoveWanted ? tr("Looking at the Items…")
                              : tr("Move All to Trash…"));
     m_moveAll->setAccessibleDescription(
         tr("Asks before anything moves. %1").arg(m_allFreed->accessibleName()));
-    disable(*m_moveAll, basket.isEmpty() || m_isMoving || m_isMoveWanted);
+    disable(*m_moveAll, m_isMoveWanted ? tr("The items are being looked at.") : whyNoMove());
 }
 
-/// Qt hands the keyboard of a disabled button to whatever comes next, which may be anywhere.
-void BasketPanel::disable(QPushButton& button, bool isDisabled)
+/// Empty when the selected item can go into the basket, or come out again.
+QString BasketPanel::whyNoToggle() const
 {
-    if (isDisabled && button.hasFocus()) {
+    if (m_isSubjectStale) {
+        return tr("Another item has just been selected.");
+    }
+    return mayBeChosen(m_subject) ? QString() : tr("This cannot be moved to the trash.");
+}
+
+/// Empty when all that is in the basket can go.
+QString BasketPanel::whyNoMove() const
+{
+    if (m_isMoving) {
+        return tr("Items are on their way to the trash. Wait until they have arrived.");
+    }
+    return m_keeper.basket().isEmpty() ? tr("The basket is empty.") : QString();
+}
+
+/// Nothing for an empty reason. Qt hands the keyboard of a disabled button to whatever comes next,
+/// which may be anywhere.
+void BasketPanel::disable(QPushButton& button, const QString& reason)
+{
+    if (!reason.isEmpty() && button.hasFocus()) {
         m_list->setFocus(Qt::OtherFocusReason);
     }
-    button.setEnabled(!isDisabled);
+    button.setEnabled(reason.isEmpty());
+    button.setToolTip(reason);
+    if (!reason.isEmpty()) {
+        button.setAccessibleDescription(reason);
+    }
 }
 
 void BasketPanel::startMoveAll()

@@ -98,7 +98,9 @@ private:
     void showBasket();
     void showTotal();
     void showButtons();
-    void disable(QPushButton& button, bool isDisabled);
+    QString whyNoToggle() const;
+    QString whyNoMove() const;
+    void disable(QPushButton& button, const QString& reason);
 
     void startMoveAll();
     void heardOfAll(const FreedSpace& freed);

@@ -248,7 +248,9 @@ void HistoryWindowController::tellStatus()
 {
     const int count = m_sorted.rowCount();
     const QString looking = tr("Looking where the items are…");
-    const QString none = m_hasRead ? tr("Nothing was moved to the trash yet.") : looking;
+    const QString none = m_hasRead
+        ? tr("What you move to the trash is listed here, and can be put back.")
+        : looking;
     const QString moves = count == 1 ? tr("One move") : tr("%n moves", nullptr, count);
     const QString found = count == 0 ? QString() : moves;
     m_ui->status->setText(m_isReading ? looking : found);
@@ -261,8 +263,10 @@ void HistoryWindowController::validate()
     const TrashRecord* const record = selected();
     const bool isComingBack = record != nullptr && m_model->isComingBack(*record);
     const bool isInTrash = record != nullptr && record->state == TrashState::Moved;
-    const QString whyNot
-        = isComingBack ? whyItWaits() : tr("Only what is in the trash can be put back.");
+    const QString nothing = tr("Select an item first.");
+    const QString whyNotInTrash
+        = record == nullptr ? nothing : tr("Only what is in the trash can be put back.");
+    const QString whyNot = isComingBack ? whyItWaits() : whyNotInTrash;
     const bool canPutBack = isInTrash && !isComingBack;
     m_putBack->setEnabled(canPutBack);
     m_putBack->setToolTip(canPutBack ? tr("Puts the item back where it was.") : whyNot);
@@ -270,7 +274,9 @@ void HistoryWindowController::validate()
     m_show->setEnabled(canShow);
     m_show->setToolTip(
         canShow ? tr("Shows the item in your file manager, where it is now.")
-                : tr("Nobody knows where the item is now, or whether it still exists."));
+            : record == nullptr
+            ? nothing
+            : tr("Nobody knows where the item is now, or whether it still exists."));
 }
 
 const TrashRecord* HistoryWindowController::selected() const

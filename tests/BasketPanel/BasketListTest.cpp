@@ -208,7 +208,7 @@ TEST_F(BasketListTest, UnchangeableItKeepsItsRows)
 {
     open("a:30");
     select(0);
-    list.setChangeable(false);
+    list.setObstacle(QStringLiteral("Not now."));
     QTest::keyClick(&list, Qt::Key_Delete);
     QTest::keyClick(&list, Qt::Key_B);
     EXPECT_TRUE(removed.empty());

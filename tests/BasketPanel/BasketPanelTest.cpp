@@ -108,8 +108,11 @@ TEST_F(BasketPanelTest, EmptyItHasNothingToMove)
 {
     open();
     EXPECT_EQ(text("basketTotal"), QStringLiteral("No items"));
-    EXPECT_FALSE(button("basketMoveAll").isEnabled());
-    EXPECT_FALSE(button("basketEmpty").isEnabled());
+    for (const char* const name : {"basketMoveAll", "basketEmpty"}) {
+        EXPECT_FALSE(button(name).isEnabled());
+        EXPECT_EQ(button(name).toolTip(), QStringLiteral("The basket is empty."));
+        EXPECT_EQ(button(name).accessibleDescription(), button(name).toolTip());
+    }
     EXPECT_FALSE(part<WillFreeView>("basketFreed").isVisible());
 }
 

@@ -134,7 +134,10 @@ TEST_F(HistoryWindowControllerTest, AnEmptyHistoryIsSaidInAFriendlyWay)
     show({});
     EXPECT_EQ(status(), "");
     EXPECT_EQ(
-        table().accessibleDescription(), QStringLiteral("Nothing was moved to the trash yet."));
+        table().accessibleDescription(),
+        QStringLiteral("What you move to the trash is listed here, and can be put back."));
+    EXPECT_EQ(putBackButton().toolTip(), QStringLiteral("Select an item first."));
+    EXPECT_EQ(showButton().toolTip(), QStringLiteral("Select an item first."));
 }
 
 TEST_F(HistoryWindowControllerTest, AHeadersClickSorts)

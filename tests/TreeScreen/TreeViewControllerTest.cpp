@@ -85,12 +85,44 @@ TEST_F(TreeViewControllerTest, AnEmptyFolderSaysSoInTheMiddleOfThePicture)
 {
     model.setTopFolder(test::makeTree("/data", ""));
     const TreeViewController controller(model, view, viewServices.get());
-    EXPECT_EQ(topBranch().textWithoutBoxes(), "This folder is empty");
+    EXPECT_EQ(
+        topBranch().textWithoutBoxes(), "This folder is empty. Rescan it when something has come.");
     const QRect written = litArea(view.picture());
     EXPECT_NEAR(written.center().x(), 200, 2);
     EXPECT_NEAR(written.center().y(), 150, 5);
     EXPECT_GT(written.width(), 50);
     EXPECT_LT(written.height(), 16);
+}
+
+TEST_F(TreeViewControllerTest, WhatThePictureSaysInPlaceOfBoxesIsReadOut)
+{
+    model.setTopFolder(test::makeTree("/data", ""));
+    const TreeViewController controller(model, view, viewServices.get());
+    EXPECT_EQ(view.accessibleDescription().toStdString(), topBranch().textWithoutBoxes());
+    EXPECT_FALSE(view.accessibleDescription().isEmpty());
+}
+
+TEST_F(TreeViewControllerTest, AFolderThatTheUserMayNotReadIsNotCalledEmpty)
+{
+    auto tree = test::makeTree("/data", "");
+    tree->findings().addUnreadable(
+        {"/data", std::make_error_code(std::errc::permission_denied), tree.get()});
+    model.setTopFolder(std::move(tree));
+    const TreeViewController controller(model, view, viewServices.get());
+    EXPECT_EQ(
+        topBranch().textWithoutBoxes(),
+        "You may not look into this folder. See Frequently Asked Questions in the Help menu.");
+}
+
+TEST_F(TreeViewControllerTest, AFolderThatCouldNotBeReadIsNotCalledEmpty)
+{
+    auto tree = test::makeTree("/data", "");
+    tree->findings().addUnreadable(
+        {"/data", std::make_error_code(std::errc::io_error), tree.get()});
+    model.setTopFolder(std::move(tree));
+    const TreeViewController controller(model, view, viewServices.get());
+    EXPECT_EQ(
+        topBranch().textWithoutBoxes(), "This folder could not be read. Rescan it to try again.");
 }
 
 TEST_F(TreeViewControllerTest, AFolderOfWhichNothingIsShownIsNotCalledEmpty)
@@ -99,7 +131,8 @@ TEST_F(TreeViewControllerTest, AFolderOfWhichNothingIsShownIsNotCalledEmpty)
     model.pictureFilter().setIgnoreHiddenFiles(true);
     const TreeViewController controller(model, view, viewServices.get());
     EXPECT_EQ(
-        topBranch().textWithoutBoxes(), "Everything in this folder is left out of the picture");
+        topBranch().textWithoutBoxes(),
+        "Everything in this folder is left out of the picture. The Ignore menu brings it back.");
 }
 
 TEST_F(TreeViewControllerTest, AnEmptyFolderInsideSaysNothing)

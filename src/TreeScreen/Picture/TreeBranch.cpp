@@ -2,11 +2,12 @@
 #include "TreeScreen/Picture/TreeBranch.h"
 
 #include "Layout/LevelRenderer.h"
-#include "Model/Folder.h"
+#include "Model/TopFolder.h"
 
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <system_error>
 
 namespace tessera {
 
@@ -16,12 +17,37 @@ struct TreeBranchTexts {
     Q_DECLARE_TR_FUNCTIONS(TreeBranchTexts)
 };
 
+/// What the scan could not list it for; null when it could, or its name was one too many.
+const UnreadableFolder* asUnreadable(const Folder& folder)
+{
+    const Folder* root = &folder;
+    while (root->parent() != nullptr) {
+        root = root->parent();
+    }
+    const auto* const top = nodeCast<TopFolder>(static_cast<const File*>(root));
+    if (top == nullptr) {
+        return nullptr;
+    }
+    const auto& unreadable = top->findings().unreadable();
+    const auto found = std::ranges::find(unreadable, &folder, &UnreadableFolder::node);
+    return found == unreadable.end() ? nullptr : &*found;
+}
+
 /// A black picture without a word looks like a failure.
 QString whyThereAreNoBoxes(const Folder& folder)
 {
+    if (const UnreadableFolder* const unreadable = asUnreadable(folder)) {
+        const bool isForbidden = unreadable->reason == std::errc::permission_denied
+            || unreadable->reason == std::errc::operation_not_permitted;
+        return isForbidden
+            ? TreeBranchTexts::tr("You may not look into this folder. See Frequently Asked "
+                                  "Questions in the Help menu.")
+            : TreeBranchTexts::tr("This folder could not be read. Rescan it to try again.");
+    }
     return folder.children().empty()
-        ? TreeBranchTexts::tr("This folder is empty")
-        : TreeBranchTexts::tr("Everything in this folder is left out of the picture");
+        ? TreeBranchTexts::tr("This folder is empty. Rescan it when something has come.")
+        : TreeBranchTexts::tr("Everything in this folder is left out of the picture. The Ignore "
+                              "menu brings it back.");
 }
 
 } // namespace
