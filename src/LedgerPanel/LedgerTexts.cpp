@@ -101,7 +101,7 @@ QString unreadable(const UnseenFolders& unseen)
     if (std::ranges::any_of(unseen.unreadable, mayNotRead)) {
         parts.push_back(LedgerTexts::tr(
             "Tessera may not look into some of them. Frequently Asked Questions, in the Help menu, "
-            "says what the administrator can do."));
+            "says how to scan with more rights."));
     }
     return sentences(parts);
 }

@@ -22,7 +22,9 @@ QString explanation(const std::error_code& problem)
             "disk may not be connected.");
     }
     if (problem == std::errc::permission_denied) {
-        return ScanProblemTexts::tr("You do not have permission to look into '%1'.");
+        return ScanProblemTexts::tr(
+            "You do not have permission to look into '%1'. Frequently Asked Questions, in the Help "
+            "menu, says how to scan with more rights.");
     }
     if (problem == std::errc::resource_unavailable_try_again) {
         return ScanProblemTexts::tr(

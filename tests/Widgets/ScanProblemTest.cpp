@@ -17,7 +17,8 @@ TEST(ScanProblem, ANameOfSeveralLinesAddsNoneToTheExplanation)
 
     EXPECT_EQ(
         text.informativeText,
-        QStringLiteral("You do not have permission to look into '/a\u240Ab'."));
+        QStringLiteral("You do not have permission to look into '/a\u240Ab'. Frequently Asked "
+                       "Questions, in the Help menu, says how to scan with more rights."));
 }
 
 } // namespace
