@@ -249,7 +249,7 @@ void BasketList::contextMenuEvent(QContextMenuEvent* event)
         ->setEnabled(currentIndex().isValid());
     menu->setToolTipsVisible(true);
     auto* const remove
-        = menu->addAction(tr("Take out of Basket"), this, &BasketList::removeSelected);
+        = menu->addAction(tr("Take Out of Basket"), this, &BasketList::removeSelected);
     remove->setEnabled(m_obstacle.isEmpty());
     remove->setToolTip(m_obstacle);
     const bool isByMouse = event->reason() == QContextMenuEvent::Mouse;

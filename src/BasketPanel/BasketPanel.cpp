@@ -293,7 +293,7 @@ void BasketPanel::showButtons()
     const Basket& basket = m_keeper.basket();
     // While the head is about to be another, its node may be gone.
     const bool isInside = !m_isSubjectStale && m_subject != nullptr && basket.isMarked(*m_subject);
-    m_toggle->setText(isInside ? tr("Take out of Basket") : tr("Add to Basket"));
+    m_toggle->setText(isInside ? tr("Take Out of Basket") : tr("Add to Basket"));
     m_toggle->setAccessibleDescription({});
     disable(*m_toggle, whyNoToggle());
     m_empty->setAccessibleDescription(

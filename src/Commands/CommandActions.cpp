@@ -31,7 +31,7 @@ QAction* makePlainAction(const QString& title, const CommandRow& row, QObject* p
 /// With a mnemonic, as the table's.
 QString takeOutTitle()
 {
-    return QCoreApplication::translate("MainMenu", "Take out of &Basket");
+    return QCoreApplication::translate("MainMenu", "Take Out of &Basket");
 }
 
 } // namespace

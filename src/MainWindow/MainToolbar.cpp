@@ -68,7 +68,7 @@ MainToolbar::MainToolbar(QToolBar& toolbar, QMenu& actionsMenu)
     , m_toolbarIgnoreButton(addButton<MenuToolButton>(
           toolbar,
           ToolbarSymbol::Ignore,
-          QCoreApplication::translate("MainToolbar", "What the map leaves out")))
+          QCoreApplication::translate("MainToolbar", "What the picture leaves out")))
 {
     m_toolbarActionsButton->setMenu(&actionsMenu);
 }

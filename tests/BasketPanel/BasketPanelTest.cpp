@@ -85,7 +85,7 @@ TEST_F(BasketPanelTest, ItsHeadAsksForTheSubjectToGoInOrOut)
     EXPECT_EQ(asked.size(), 1);
     keeper.toggle(at("c"));
     ASSERT_TRUE(catchesUp());
-    EXPECT_EQ(button("basketToggle").text(), QStringLiteral("Take out of Basket"));
+    EXPECT_EQ(button("basketToggle").text(), QStringLiteral("Take Out of Basket"));
     keeper.toggle(at("c"));
     ASSERT_TRUE(catchesUp());
     EXPECT_EQ(button("basketToggle").text(), QStringLiteral("Add to Basket"));

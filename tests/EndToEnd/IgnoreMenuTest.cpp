@@ -37,7 +37,7 @@ protected:
     /// Types keys into the menu under the toolbar's button.
     void pickInToolbar(const std::vector<std::uint32_t>& keys)
     {
-        clickOn("What the map leaves out", "button menu");
+        clickOn("What the picture leaves out", "button menu");
         ASSERT_TRUE(opens(XWindow::Kind::Menu));
         for (const std::uint32_t keysym : keys) {
             desk().typeKey(keysym);

@@ -163,7 +163,7 @@ TEST_P(Screenshots, IgnoreMenu)
 {
     ASSERT_TRUE(scan("Documents"));
     ASSERT_TRUE(pick("drafts", MenuEntry::Ignore));
-    clickOn("What the map leaves out", "button menu");
+    clickOn("What the picture leaves out", "button menu");
     ASSERT_TRUE(opens(XWindow::Kind::Menu));
     take("ignore-menu", withWindow(XWindow::Kind::Menu), cornerOf(XWindow::Kind::Menu));
     desk().typeKey(key::kEscape);

@@ -109,7 +109,7 @@ TEST_F(TreeMenu, OffersToTakeOutAgainWhatIsInTheBasket)
     const auto menu = makeMenu<Document>();
     context.isInBasket = true;
     emit menu->aboutToShow();
-    EXPECT_TRUE(titles(*menu).contains(QStringLiteral("Take out of Basket")));
+    EXPECT_TRUE(titles(*menu).contains(QStringLiteral("Take Out of Basket")));
     EXPECT_FALSE(titles(*menu).contains(QStringLiteral("Add to Basket")));
 }
 
