@@ -115,7 +115,7 @@ QString name(const LedgerLine& line, const LedgerAccount& account)
     case Kind::Files:
         return LedgerTexts::tr("Files found, each once");
     case Kind::Folders:
-        return LedgerTexts::tr("The folders' own blocks");
+        return LedgerTexts::tr("The folders themselves");
     case Kind::HeldOpen:
         return LedgerTexts::tr("Deleted but still open");
     case Kind::UnreadableFolders:
@@ -200,9 +200,9 @@ QString roundedBytes(std::int64_t bytes)
 QString reason(const std::error_code& error)
 {
     static constexpr std::array kReasons{
-        std::pair{std::errc::permission_denied, QT_TRANSLATE_NOOP("LedgerTexts", "You may not")},
+        std::pair{std::errc::permission_denied, QT_TRANSLATE_NOOP("LedgerTexts", "No permission")},
         std::pair{
-            std::errc::operation_not_permitted, QT_TRANSLATE_NOOP("LedgerTexts", "You may not")},
+            std::errc::operation_not_permitted, QT_TRANSLATE_NOOP("LedgerTexts", "No permission")},
         std::pair{
             std::errc::no_such_file_or_directory,
             QT_TRANSLATE_NOOP("LedgerTexts", "Gone meanwhile")},

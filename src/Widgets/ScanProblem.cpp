@@ -28,8 +28,7 @@ QString explanation(const std::error_code& problem)
     }
     if (problem == std::errc::resource_unavailable_try_again) {
         return ScanProblemTexts::tr(
-            "The system has no room for one more thread, which scanning '%1' needs. Try again when "
-            "less is going on.");
+            "The system is too busy to scan '%1'. Close some programs and try again.");
     }
     return ScanProblemTexts::tr("'%1' cannot be read.");
 }

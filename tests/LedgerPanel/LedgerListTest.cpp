@@ -32,7 +32,7 @@ TEST(LedgerList, NamesAFolderAndWhyItCouldNotBeRead)
 {
     const LedgerList list = ledgerList(Kind::UnreadableFolders, withUnreadable(1));
     ASSERT_EQ(list.rows.size(), 1U);
-    EXPECT_EQ(list.rows[0], QStringList({QStringLiteral("/f0"), QStringLiteral("You may not")}));
+    EXPECT_EQ(list.rows[0], QStringList({QStringLiteral("/f0"), QStringLiteral("No permission")}));
     EXPECT_TRUE(list.more.isEmpty());
 }
 

@@ -135,7 +135,7 @@ TEST_F(LedgerPanelTest, TellsScreenReadersEachLineToTheByte)
     open();
     EXPECT_EQ(
         part("ledgerFolders").accessibleName(),
-        QStringLiteral("The folders' own blocks: 1,536 bytes"));
+        QStringLiteral("The folders themselves: 1,536 bytes"));
     EXPECT_FALSE(part("ledgerFolders").accessibleDescription().isEmpty());
     EXPECT_EQ(part("ledgerSum").accessibleName(), QStringLiteral("Size of the disk: 10,000 bytes"));
 }

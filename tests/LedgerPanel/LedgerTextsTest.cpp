@@ -95,8 +95,8 @@ TEST(LedgerTexts, SayWhyThereMayBeMoreThatIsStillOpen)
 
 TEST(LedgerTexts, ReasonsAreWords)
 {
-    EXPECT_EQ(reason(test::systemError(EACCES)), QStringLiteral("You may not"));
-    EXPECT_EQ(reason(test::systemError(EPERM)), QStringLiteral("You may not"));
+    EXPECT_EQ(reason(test::systemError(EACCES)), QStringLiteral("No permission"));
+    EXPECT_EQ(reason(test::systemError(EPERM)), QStringLiteral("No permission"));
     EXPECT_EQ(reason(test::systemError(EIO)), QStringLiteral("The disk has an error"));
     EXPECT_FALSE(reason(test::systemError(ENOMEM)).isEmpty());
 }

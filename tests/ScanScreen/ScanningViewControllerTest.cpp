@@ -235,7 +235,7 @@ TEST_F(ScanningViewControllerTest, AScanThatGetsNoThreadIsSaidToAndCountsAsCance
     ASSERT_EQ(system->alert.told.size(), 1U);
     EXPECT_EQ(system->alert.told[0].messageText, QStringLiteral("The folder cannot be scanned"));
     EXPECT_TRUE(system->alert.told[0].informativeText.startsWith(
-        QStringLiteral("The system has no room for one more thread")));
+        QStringLiteral("The system is too busy to scan")));
     EXPECT_TRUE(controller->rootURL().empty());
     EXPECT_EQ(tile.contentView, nullptr);
     const auto* indicator = outlet<QProgressBar>("indicator");
