@@ -17,7 +17,7 @@ constexpr std::size_t kFirstUnitWithDecimal = 2;
 
 } // namespace
 
-std::string formatSize(std::uint64_t bytes)
+ByteFigure byteFigure(std::uint64_t bytes)
 {
     const auto count = static_cast<double>(bytes);
     double value = count;
@@ -30,7 +30,13 @@ std::string formatSize(std::uint64_t bytes)
             value = quotient;
         }
     }
-    return decimals(value, unit < kFirstUnitWithDecimal ? 0 : 1) + ' ' + std::string(kUnits[unit]);
+    return {decimals(value, unit < kFirstUnitWithDecimal ? 0 : 1), static_cast<ByteUnit>(unit)};
+}
+
+std::string formatSize(std::uint64_t bytes)
+{
+    const ByteFigure figure = byteFigure(bytes);
+    return figure.number + ' ' + std::string(kUnits.at(static_cast<std::size_t>(figure.unit)));
 }
 
 } // namespace tessera

@@ -2,6 +2,7 @@
 #include "BasketPanel/BasketList.h"
 
 #include "BasketPanel/BasketModel.h"
+#include "Language/SizeText.h"
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
@@ -23,6 +24,7 @@ constexpr int kIndent = 12; ///< of what lies inside another item
 constexpr int kMostIndents = 4; ///< deeper ones stand in the same column: names need room
 constexpr int kPlaceholderMargin = 8;
 constexpr int kCellMargin = 6;
+constexpr std::uint64_t kWidestSize = 888'800'000'000; ///< as a text
 
 /// Indents what lies inside another item; figures end with "…" where there is no room.
 class BasketCells final : public QStyledItemDelegate {
@@ -139,7 +141,7 @@ void BasketList::restore()
     header()->setVisible(m_model.rowCount() > 0);
     header()->resizeSection(
         BasketModel::Size,
-        fontMetrics().horizontalAdvance(QStringLiteral("888.8 GB")) + 2 * kCellMargin);
+        fontMetrics().horizontalAdvance(sizeText(kWidestSize)) + 2 * kCellMargin);
     const std::unordered_set<std::string> selected(m_kept.selected.begin(), m_kept.selected.end());
     QItemSelection selection;
     QModelIndex current;

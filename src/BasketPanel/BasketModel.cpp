@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "BasketPanel/BasketModel.h"
 
-#include "Base/ByteSize.h"
 #include "Base/DisplayText.h"
 #include "Basket/Basket.h"
 #include "Freeing/FreedByScan.h"
 #include "Freeing/FreedSpaceText.h"
+#include "Language/SizeText.h"
 #include "Model/File.h"
 
 #include <unordered_map>
@@ -39,7 +39,7 @@ std::vector<BasketModel::Row> BasketModel::rowsOf(const Basket& basket)
         row.item = entry.item;
         row.path = entry.item->absolutePath();
         row.name = displayText(entry.item->name());
-        row.size = QString::fromStdString(formatSize(entry.item->totalAllocation()));
+        row.size = sizeText(entry.item->totalAllocation());
         if (entry.inside != nullptr) {
             row.inside = tr("inside “%1”").arg(displayText(entry.inside->name()));
             row.depth = depths[entry.inside] + 1;

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "BasketPanel/BasketPanel.h"
 
-#include "Base/ByteSize.h"
 #include "Base/DisplayText.h"
 #include "Basket/BasketKeeper.h"
 #include "BasketPanel/BasketList.h"
 #include "BasketPanel/NameLabel.h"
 #include "BasketPanel/WillFreeView.h"
+#include "Language/NodeName.h"
+#include "Language/PluralNumber.h"
+#include "Language/SizeText.h"
 #include "Model/Folder.h"
 #include "Model/NodeLookup.h"
 #include "TreeScreen/NoteAccessible.h"
@@ -249,8 +251,8 @@ void BasketPanel::showSubject()
     if (m_subject == nullptr) {
         return;
     }
-    m_name->setText(displayText(m_subject->name()));
-    m_size->setText(QString::fromStdString(formatSize(m_subject->totalAllocation())));
+    m_name->setText(shownName(*m_subject));
+    m_size->setText(sizeText(m_subject->totalAllocation()));
     m_subjectFreed->setItems(
         isItem(*m_subject) ? std::vector<const File*>{m_subject} : std::vector<const File*>());
 }
@@ -271,13 +273,13 @@ void BasketPanel::showBasket()
 void BasketPanel::showTotal()
 {
     const Basket& basket = m_keeper.basket();
-    const QString size = QString::fromStdString(formatSize(basket.totalAllocation()));
+    const QString size = sizeText(basket.totalAllocation());
     QString total = tr("No items");
     if (basket.size() == 1) {
         total = tr("1 item, %1").arg(size);
     } else if (!basket.isEmpty()) {
         const QString count = QLocale().toString(static_cast<qulonglong>(basket.size()));
-        total = tr("%1 items, %2").arg(count, size);
+        total = tr("%1 items, %2", nullptr, pluralNumber(basket.size())).arg(count, size);
     }
     if (total != m_total->text()) {
         // Screen readers read it out when it comes into sight.

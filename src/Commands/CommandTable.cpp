@@ -92,6 +92,7 @@ constexpr std::array kRows{
         Command::ShowInFinder,
         MainMenu::Item,
         34,
+        //: Translate “Show in File Manager”: the system has words of its own.
         QT_TRANSLATE_NOOP("MainMenu", "&Show in Finder"),
         QT_TRANSLATE_NOOP("MainMenu", "Shows the selected item in your file manager."),
         "Ctrl+Shift+R"},

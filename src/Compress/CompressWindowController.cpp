@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Compress/CompressWindowController.h"
 
-#include "Base/ByteSize.h"
 #include "Base/DisplayText.h"
 #include "Base/Log.h"
 #include "Base/ProgressSteps.h"
@@ -9,6 +8,7 @@
 #include "Compress/ArchiverStatus.h"
 #include "Desktop/Alert.h"
 #include "Desktop/Workspace.h"
+#include "Language/SizeText.h"
 #include "Notices/EndNotices.h"
 #include "Scanning/ResourceValues.h"
 #include "Widgets/IconProvider.h"
@@ -277,13 +277,11 @@ void CompressWindowController::showResult(
     setOutputText(tr("Created '%1'").arg(displayText(lastPathComponent(archived.archive))));
     m_result = std::move(archived);
     if (archiveBytes) {
-        const QString sizes = tr("%1 → %2").arg(
-            QString::fromStdString(formatSize(before)),
-            QString::fromStdString(formatSize(*archiveBytes)));
+        const QString sizes = tr("%1 → %2").arg(sizeText(before), sizeText(*archiveBytes));
         m_ui->resultField->setText(
-            saves ? tr("%1. The archive takes %2 less.")
-                        .arg(sizes, QString::fromStdString(formatSize(before - *archiveBytes)))
-                  : tr("%1. The archive saves nothing.").arg(sizes));
+            saves
+                ? tr("%1. The archive takes %2 less.").arg(sizes, sizeText(before - *archiveBytes))
+                : tr("%1. The archive saves nothing.").arg(sizes));
         m_ui->resultField->show();
     }
     m_ui->progress->hide();

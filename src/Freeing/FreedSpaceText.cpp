@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "Freeing/FreedSpaceText.h"
 
-#include "Base/ByteSize.h"
 #include "Base/DisplayText.h"
 #include "Base/Url.h"
 #include "Freeing/FreedSpace.h"
+#include "Language/PluralNumber.h"
+#include "Language/SizeText.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 
 #include <algorithm>
 #include <array>
@@ -16,38 +18,42 @@ namespace tessera {
 namespace {
 
 constexpr std::size_t kMostHolders = 3; ///< that are named
+constexpr const char* kFreedSpaceContext = "FreedSpaceText";
 
 using Reason = KeptFiles::Reason;
 
-QString text(const char* english)
+struct FreedSpaceTexts {
+    Q_DECLARE_TR_FUNCTIONS(FreedSpaceText)
+};
+
+QString numberText(std::size_t number)
 {
-    return QCoreApplication::translate("FreedSpaceText", english);
+    return QLocale().toString(qulonglong{number});
 }
 
 /// What is said of one file, and of several.
 struct Sentence {
-    const char* ofOne;
+    const char* ofOne; ///< null where English has the same for both
     const char* ofSeveral;
 };
 
 /// In the order of the reasons.
 constexpr std::array<Sentence, 8> kSentences{{
     {QT_TRANSLATE_NOOP("FreedSpaceText", "%1 has another name elsewhere, and stays."),
-     QT_TRANSLATE_NOOP("FreedSpaceText", "%1 have other names elsewhere, and stay.")},
+     QT_TRANSLATE_N_NOOP("FreedSpaceText", "%1 have other names elsewhere, and stay.")},
     {QT_TRANSLATE_NOOP("FreedSpaceText", "%1 has another name that was not scanned."),
-     QT_TRANSLATE_NOOP("FreedSpaceText", "%1 have other names that were not scanned.")},
+     QT_TRANSLATE_N_NOOP("FreedSpaceText", "%1 have other names that were not scanned.")},
     {QT_TRANSLATE_NOOP("FreedSpaceText", "%1 is shared with other files."),
-     QT_TRANSLATE_NOOP("FreedSpaceText", "%1 are shared with other files.")},
+     QT_TRANSLATE_N_NOOP("FreedSpaceText", "%1 are shared with other files.")},
     {QT_TRANSLATE_NOOP("FreedSpaceText", "%1 is compressed: how much it takes is not known."),
-     QT_TRANSLATE_NOOP("FreedSpaceText", "%1 are compressed: how much they take is not known.")},
+     QT_TRANSLATE_N_NOOP("FreedSpaceText", "%1 are compressed: how much they take is not known.")},
     {QT_TRANSLATE_NOOP("FreedSpaceText", "%1 is held open by %2."),
-     QT_TRANSLATE_NOOP("FreedSpaceText", "%1 are held open, the first one by %2.")},
-    {QT_TRANSLATE_NOOP("FreedSpaceText", "%1 may be shared with other files."),
-     QT_TRANSLATE_NOOP("FreedSpaceText", "%1 may be shared with other files.")},
+     QT_TRANSLATE_N_NOOP("FreedSpaceText", "%1 are held open, the first one by %2.")},
+    {nullptr, QT_TRANSLATE_N_NOOP("FreedSpaceText", "%1 may be shared with other files.")},
     {QT_TRANSLATE_NOOP("FreedSpaceText", "%1 has changed since the scan."),
-     QT_TRANSLATE_NOOP("FreedSpaceText", "%1 have changed since the scan.")},
+     QT_TRANSLATE_N_NOOP("FreedSpaceText", "%1 have changed since the scan.")},
     {QT_TRANSLATE_NOOP("FreedSpaceText", "%1 was not looked at."),
-     QT_TRANSLATE_NOOP("FreedSpaceText", "%1 were not looked at.")},
+     QT_TRANSLATE_N_NOOP("FreedSpaceText", "%1 were not looked at.")},
 }};
 static_assert(kSentences.size() == static_cast<std::size_t>(Reason::NotLookedAt) + 1);
 
@@ -55,16 +61,21 @@ static_assert(kSentences.size() == static_cast<std::size_t>(Reason::NotLookedAt)
 QString subjectOf(const KeptFiles& files)
 {
     if (files.largest.empty()) {
-        return files.count == 1 ? text("One file") : text("%1 files").arg(files.count);
+        return files.count == 1
+            ? FreedSpaceTexts::tr("One file")
+            : FreedSpaceTexts::tr("%1 files", nullptr, pluralNumber(files.count))
+                  .arg(numberText(files.count));
     }
     const QString largest = displayText(lastPathComponent(files.largest));
     switch (files.count) {
     case 1:
-        return text("“%1”").arg(largest);
+        return FreedSpaceTexts::tr("“%1”").arg(largest);
     case 2:
-        return text("“%1” and one other file").arg(largest);
+        return FreedSpaceTexts::tr("“%1” and one other file").arg(largest);
     default:
-        return text("“%1” and %2 other files").arg(largest, QString::number(files.count - 1));
+        return FreedSpaceTexts::tr(
+                   "“%1” and %2 other files", nullptr, pluralNumber(files.count - 1))
+            .arg(largest, numberText(files.count - 1));
     }
 }
 
@@ -74,27 +85,27 @@ QString holdersText(const std::vector<FileHolder>& holders)
     const std::size_t count = std::min(holders.size(), kMostHolders);
     for (std::size_t i = 0; i < count; ++i) {
         const QString name = displayText(holders[i].name);
-        names.append(text("%1 (%2)").arg(name, QString::number(holders[i].process)));
+        names.append(FreedSpaceTexts::tr("%1 (%2)").arg(name, QString::number(holders[i].process)));
     }
     if (count < holders.size()) {
-        names.append(text("%1 more").arg(holders.size() - count));
+        const std::size_t more = holders.size() - count;
+        names.append(
+            FreedSpaceTexts::tr("%1 more", nullptr, pluralNumber(more)).arg(numberText(more)));
     }
-    return names.join(text(", "));
+    return names.join(FreedSpaceTexts::tr(", "));
 }
 
 QString sentenceAbout(const KeptFiles& files)
 {
     const Sentence& sentence = kSentences.at(static_cast<std::size_t>(files.reason));
-    const QString pattern = text(files.count == 1 ? sentence.ofOne : sentence.ofSeveral);
+    const QString pattern = files.count == 1 && sentence.ofOne != nullptr
+        ? QCoreApplication::translate(kFreedSpaceContext, sentence.ofOne)
+        : QCoreApplication::translate(
+            kFreedSpaceContext, sentence.ofSeveral, nullptr, pluralNumber(files.count));
     // In one step: a name may hold what looks like a place for another one.
     return files.reason == Reason::HeldOpen
         ? pattern.arg(subjectOf(files), holdersText(files.holders))
         : pattern.arg(subjectOf(files));
-}
-
-QString sizeText(std::uint64_t bytes)
-{
-    return QString::fromStdString(formatSize(bytes));
 }
 
 } // namespace
@@ -108,10 +119,10 @@ QString freedSpaceText(const FreedSpace& space)
     const bool isAtLeast = std::ranges::any_of(
         space.kept, [](const KeptFiles& files) { return files.reason == Reason::NotLookedAt; });
     if (isAtLeast) {
-        return text("at least %1").arg(least);
+        return FreedSpaceTexts::tr("at least %1").arg(least);
     }
     const QString most = sizeText(space.most);
-    return least == most ? least : text("%1 to %2").arg(least, most);
+    return least == most ? least : FreedSpaceTexts::tr("%1 to %2").arg(least, most);
 }
 
 QStringList freedSpaceReasons(const FreedSpace& space)
@@ -121,7 +132,8 @@ QStringList freedSpaceReasons(const FreedSpace& space)
         sentences.append(sentenceAbout(files));
     }
     if (space.mayBeHeldOpen) {
-        sentences.append(text("Programs that may not be looked at may hold files open."));
+        sentences.append(
+            FreedSpaceTexts::tr("Programs that may not be looked at may hold files open."));
     }
     return sentences;
 }

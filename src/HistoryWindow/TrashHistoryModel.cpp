@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "HistoryWindow/TrashHistoryModel.h"
 
-#include "Base/ByteSize.h"
 #include "Base/DisplayText.h"
 #include "Base/FolderAround.h"
 #include "HomeScreen/Places/PlaceNames.h"
+#include "Language/SizeText.h"
 #include "Widgets/MediumDate.h"
 
 #include <QDateTime>
@@ -260,7 +260,7 @@ QString TrashHistoryModel::text(const TrashRecord& record, Column column) const
     case Column::To:
         return shownPath(record.item.to.path());
     case Column::Size:
-        return record.bytes ? QString::fromStdString(formatSize(*record.bytes)) : tr("Not known");
+        return record.bytes ? sizeText(*record.bytes) : tr("Not known");
     case Column::State:
         return isComingBack(record) ? tr("Waiting to be put back") : stateText(record.state);
     }

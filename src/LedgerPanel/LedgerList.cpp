@@ -2,6 +2,7 @@
 #include "LedgerPanel/LedgerList.h"
 
 #include "Base/DisplayText.h"
+#include "Language/PluralNumber.h"
 #include "LedgerPanel/LedgerTexts.h"
 
 #include <QCoreApplication>
@@ -26,7 +27,7 @@ LedgerList unreadableList(const UnseenFolders& unseen)
     }
     const std::size_t more = unseen.unreadableCount - unseen.unreadable.size();
     if (more != 0) {
-        list.more = LedgerListTexts::tr("and %1 more")
+        list.more = LedgerListTexts::tr("and %1 more", nullptr, pluralNumber(more))
                         .arg(QLocale().toString(static_cast<qulonglong>(more)));
     }
     return list;
@@ -49,7 +50,7 @@ QString holdersOf(const HeldFile& file)
         holders.push_back(
             LedgerListTexts::tr("%2 (%1)").arg(holder.process).arg(displayText(holder.name)));
     }
-    return holders.join(QLatin1String(", "));
+    return holders.join(LedgerListTexts::tr(", "));
 }
 
 LedgerList heldOpenList(const OpenFilesAnswer& open)

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "LedgerPanel/LedgerTexts.h"
 
-#include "Base/ByteSize.h"
+#include "Language/PluralNumber.h"
+#include "Language/SizeText.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -43,7 +44,9 @@ QString whyAtLeast(const OpenFilesAnswer& open)
     }
     if (open.unreadableProcesses != 0) {
         return LedgerTexts::tr(
-                   "There may be more: Tessera may not look into %1 of the programs that run.")
+                   "There may be more: Tessera may not look into %1 of the programs that run.",
+                   nullptr,
+                   pluralNumber(open.unreadableProcesses))
             .arg(QLocale().toString(static_cast<qulonglong>(open.unreadableProcesses)));
     }
     if (open.isCutShort) {
@@ -88,6 +91,12 @@ QString reserved(const LedgerAccount& account)
         ? LedgerTexts::tr("Held back by the file system for its own records.")
         : LedgerTexts::tr("Kept free for the administrator, so that the system goes on when the "
                           "disk is full for everybody else.");
+}
+
+std::uint64_t magnitudeOf(std::int64_t bytes)
+{
+    const auto magnitude = static_cast<std::uint64_t>(bytes);
+    return bytes < 0 ? 0 - magnitude : magnitude;
 }
 
 QString unreadable(const UnseenFolders& unseen)
@@ -186,14 +195,14 @@ QString exactNumber(const LedgerLine& line)
 QString exactBytes(std::int64_t bytes)
 {
     const QString number = QLocale().toString(static_cast<qlonglong>(bytes));
-    return bytes == 1 ? LedgerTexts::tr("%1 byte").arg(number)
-                      : LedgerTexts::tr("%1 bytes").arg(number);
+    return bytes == 1
+        ? LedgerTexts::tr("%1 byte").arg(number)
+        : LedgerTexts::tr("%1 bytes", nullptr, pluralNumber(magnitudeOf(bytes))).arg(number);
 }
 
 QString roundedBytes(std::int64_t bytes)
 {
-    const auto magnitude = static_cast<std::uint64_t>(bytes);
-    const QString size = QString::fromStdString(formatSize(bytes < 0 ? 0 - magnitude : magnitude));
+    const QString size = sizeText(magnitudeOf(bytes));
     return bytes < 0 ? QLocale().negativeSign() + size : size;
 }
 

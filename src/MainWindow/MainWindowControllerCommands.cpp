@@ -195,7 +195,9 @@ void MainWindowController::refuseTimeMachine(const Url& url)
 {
     const Url volume = volumeOf(url, m_services.volumes);
     m_services.treeScreen.alert.beginSheet(
+        //: Translate “Backup Detected”: the system has words of its own.
         {tr("Time Machine Detected"),
+         //: Translate “a backup” and “the backups”: the system has words of its own.
          tr("Tessera is unable to scan inside a Time Machine backup. To estimate the overall size "
             "of Time Machine, please scan the disk labeled '%1'.")
              .arg(localizedVolumeName(volume)),

@@ -3,11 +3,14 @@
 
 #include "Basket/BasketKeeper.h"
 #include "BasketPanel/BasketPanel.h"
+#include "Language/PluralNumber.h"
 #include "LedgerPanel/LedgerPanel.h"
 #include "MainWindow/MainWindowServices.h"
 #include "Model/NodeLookup.h"
 #include "Model/RootModel.h"
 #include "TreeScreen/TreeViewController.h"
+
+#include <QLocale>
 
 #include <utility>
 
@@ -143,7 +146,8 @@ void TreePanels::sayHowMany()
     } else {
         m_screen->say(
             count == 1 ? tr("The basket has one item.")
-                       : tr("The basket has %1 items.").arg(count));
+                       : tr("The basket has %1 items.", nullptr, pluralNumber(count))
+                             .arg(QLocale().toString(qulonglong{count})));
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include "Base/DisplayText.h"
 #include "Base/Url.h"
+#include "Language/NodeName.h"
 #include "Model/Folder.h"
 #include "Model/NodeLookup.h"
 
@@ -22,7 +23,7 @@ std::optional<ItemFacts> factsOf(const File* node)
     if (isItem(*node)) {
         facts.path = placeOnDisk(*node).path();
     }
-    facts.name = displayText(node->name().empty() ? facts.path : node->name());
+    facts.name = node->name().empty() ? displayText(facts.path) : shownName(*node);
     return facts;
 }
 

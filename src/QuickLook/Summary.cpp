@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "QuickLook/Summary.h"
 
-#include "Base/ByteSize.h"
 #include "Base/DisplayText.h"
+#include "Language/SizeText.h"
 #include "QuickLook/Reading/PreviewReading.h"
 #include "Widgets/MediumDate.h"
 
@@ -20,11 +20,6 @@ constexpr std::int64_t kNoCreationDate = 0;
 class SummaryTexts {
     Q_DECLARE_TR_FUNCTIONS(SummaryTexts)
 };
-
-QString sizeText(std::uint64_t bytes)
-{
-    return displayText(formatSize(bytes));
-}
 
 QString dimensionsText(const QSize& size)
 {
@@ -139,7 +134,7 @@ QString captionOf(const ItemFacts& facts, const Preview& preview)
     if (pages != nullptr) {
         parts
             << (pages->pageCount == 1 ? SummaryTexts::tr("1 page")
-                                      : SummaryTexts::tr("%1 pages").arg(pages->pageCount));
+                                      : SummaryTexts::tr("%Ln pages", nullptr, pages->pageCount));
     }
     parts << sizeText(facts.allocatedBytes);
     if (preview.file.modified) {
@@ -147,9 +142,9 @@ QString captionOf(const ItemFacts& facts, const Preview& preview)
     }
     const auto* const text = std::get_if<PreviewText>(&preview.content);
     if (text != nullptr && text->isCut) {
-        parts << SummaryTexts::tr("first %1 shown").arg(sizeText(kPreviewTextBytes));
+        parts << SummaryTexts::tr("first %1 shown", "size").arg(sizeText(kPreviewTextBytes));
     } else if (pages != nullptr && shownPages < pages->pageCount) {
-        parts << SummaryTexts::tr("first %1 shown").arg(shownPages);
+        parts << SummaryTexts::tr("first %Ln shown", "pages", shownPages);
     }
     parts.removeAll(QString());
     return parts.join(QStringLiteral("  ·  "));

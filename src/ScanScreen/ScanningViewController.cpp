@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "ScanScreen/ScanningViewController.h"
 
-#include "Base/ByteSize.h"
 #include "Base/DisplayText.h"
 #include "Base/ProgressSteps.h"
 #include "Desktop/Alert.h"
 #include "Desktop/DockTile.h"
+#include "Language/SizeText.h"
 #include "Model/RootModel.h"
 #include "Notices/EndNotices.h"
 #include "ScanScreen/PathLabel.h"
@@ -101,7 +101,7 @@ void ScanningViewController::scanUpdated(Scanner& scanner)
 {
     showPath(scanner.currentURL());
     const double percent = scanner.percentComplete();
-    m_ui->totalRead->setText(QString::fromStdString(formatSize(scanner.allocationRead())));
+    m_ui->totalRead->setText(sizeText(scanner.allocationRead()));
     m_ui->indicator->setRange(0, kProgressSteps);
     m_ui->indicator->setValue(progressSteps(percent));
     m_dockImage.setPercent(percent);
@@ -133,9 +133,7 @@ void ScanningViewController::scanEnded(Scanner& scanner)
     giveNotice(
         tr("The scan is finished"),
         tr("%1 takes %2.")
-            .arg(
-                m_ui->folderName->text(),
-                QString::fromStdString(formatSize(m_model.topFolder()->totalAllocation()))));
+            .arg(m_ui->folderName->text(), sizeText(m_model.topFolder()->totalAllocation())));
     m_services.dockTile.removeContentView(m_dockImage);
     m_ui->cancelButton->setEnabled(false);
     emit scanComplete();

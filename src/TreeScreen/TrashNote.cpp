@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "TreeScreen/TrashNote.h"
 
-#include "Base/ByteSize.h"
 #include "Base/DisplayText.h"
+#include "Language/SizeText.h"
 #include "TreeScreen/NoteAccessible.h"
 
 #include <QHBoxLayout>
@@ -26,11 +26,6 @@ QString isolated(const QString& name)
     constexpr QChar kFirstStrongIsolate(0x2068);
     constexpr QChar kPopDirectionalIsolate(0x2069);
     return kFirstStrongIsolate + name + kPopDirectionalIsolate;
-}
-
-QString sizeText(std::uint64_t bytes)
-{
-    return QString::fromStdString(formatSize(bytes));
 }
 
 } // namespace

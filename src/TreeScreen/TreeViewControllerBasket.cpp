@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The basket on the tree screen.
 #include "Basket/BasketKeeper.h"
+#include "Language/PluralNumber.h"
 #include "TreeScreen/Map/TreeMapView.h"
 #include "TreeScreen/TreeViewController.h"
+
+#include <QLocale>
 
 #include <cstddef>
 
@@ -19,7 +22,10 @@ void TreeViewController::observeBasket()
         this,
         [this](std::size_t count) {
             say(count == 1 ? tr("One item of the basket is not there any more.")
-                           : tr("%1 items of the basket are not there any more.").arg(count));
+                           : tr("%1 items of the basket are not there any more.",
+                                nullptr,
+                                pluralNumber(count))
+                                 .arg(QLocale().toString(qulonglong{count})));
         },
         Qt::QueuedConnection);
     connect(&m_basketTrasher, &BasketTrasher::ended, this, &TreeViewController::basketMoveEnded);

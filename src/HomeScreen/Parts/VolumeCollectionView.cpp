@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "HomeScreen/Parts/VolumeCollectionView.h"
 
-#include "Base/ByteSize.h"
 #include "Base/DisplayText.h"
 #include "HomeScreen/Places/PlaceIcons.h"
 #include "HomeScreen/Places/PlaceNames.h"
+#include "Language/SizeText.h"
 #include "Widgets/Bar.h"
 #include "Widgets/PassiveLabel.h"
 #include "ui_VolumeCollectionView.h"
@@ -27,11 +27,6 @@ float filledShare(const FileSystemSizes& sizes)
         = static_cast<double>(sizes.availableBytes) / static_cast<double>(sizes.totalBytes);
     const auto share = static_cast<float>(1.0 - freeShare);
     return std::isnan(share) ? 0.0F : share;
-}
-
-QString sizeText(std::uint64_t bytes)
-{
-    return QString::fromStdString(formatSize(bytes));
 }
 
 /// What is free, but not for the user; empty where nothing is. In the words of the account of a

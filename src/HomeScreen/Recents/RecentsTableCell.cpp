@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "HomeScreen/Recents/RecentsTableCell.h"
 
-#include "Base/ByteSize.h"
 #include "Desktop/MountedVolumes.h"
 #include "HomeScreen/Parts/SelectionBackground.h"
 #include "HomeScreen/Places/PlaceIcons.h"
 #include "HomeScreen/Places/PlaceNames.h"
 #include "HomeScreen/Recents/RecentsTableModel.h"
 #include "HomeScreen/Recents/RelativeDate.h"
+#include "Language/SizeText.h"
 #include "Model/UserDefaults.h"
 #include "Widgets/DesktopFont.h"
 
@@ -110,7 +110,7 @@ void RecentsTableCell::paint(
     drawText(
         *painter,
         {sizeCorner, QSize(widthWithDesktopFont(kSizeBox.width()), subtitle.height())},
-        QString::fromStdString(formatSize(record.size)),
+        sizeText(record.size),
         fileSizeStyle(option));
     painter->restore();
 }

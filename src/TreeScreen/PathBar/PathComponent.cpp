@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "TreeScreen/PathBar/PathComponent.h"
 
-#include "Base/ByteSize.h"
 #include "Base/DisplayText.h"
+#include "Language/SizeText.h"
 #include "Model/Folder.h"
 #include "Widgets/ColorHelper.h"
 #include "Widgets/IconProvider.h"
@@ -79,8 +79,7 @@ void PathComponent::setFolder(const Folder& folder)
     m_image = m_icons->icon(folder, kImagePoints, qGuiApp->devicePixelRatio());
     m_title = displayText(m_url.lastPathComponent());
     if (m_tag == kCurrentFolderTag) {
-        const std::string size = formatSize(folder.totalAllocation());
-        m_title = QStringLiteral("%1 (%2)").arg(m_title, QString::fromStdString(size));
+        m_title = QStringLiteral("%1 (%2)").arg(m_title, sizeText(folder.totalAllocation()));
     }
 }
 

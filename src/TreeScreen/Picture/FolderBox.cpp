@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "TreeScreen/Picture/FolderBox.h"
 
-#include "Base/ByteSize.h"
+#include "Language/SizeText.h"
 #include "Layout/BoxMetrics.h"
 #include "Model/Folder.h"
 #include "TreeScreen/Picture/BoxCanvas.h"
@@ -60,7 +60,7 @@ void drawSize(BoxCanvas& canvas, const Rect& text, const Folder& folder)
 {
     canvas.drawTextBehind(
         folder.name(),
-        formatSize(folder.totalAllocation()),
+        sizeText(folder.totalAllocation()).toStdString(),
         text,
         kGapBeforeSize,
         folder.selected() ? Styles::selectedFolderSizeAttributes()

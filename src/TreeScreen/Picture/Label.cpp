@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "TreeScreen/Picture/Label.h"
 
-#include "Base/ByteSize.h"
+#include "Language/NodeName.h"
+#include "Language/SizeText.h"
 #include "Layout/BoxMetrics.h"
 #include "Model/File.h"
 #include "TreeScreen/Picture/BoxCanvas.h"
 #include "TreeScreen/Picture/Styles.h"
 
 #include <cmath>
+#include <string>
 
 namespace tessera {
 
@@ -45,13 +47,14 @@ void drawCenteredLabel(
         return;
     }
     const LabelLine line(box);
+    const std::string name = shownNameBytes(item);
     if (!hasRoomForSize(box)) {
-        canvas.drawText(item.name(), line.movedDown(0), attributes);
+        canvas.drawText(name, line.movedDown(0), attributes);
         return;
     }
-    canvas.drawText(item.name(), line.movedDown(-kRaiseForSize), attributes);
+    canvas.drawText(name, line.movedDown(-kRaiseForSize), attributes);
     canvas.drawText(
-        formatSize(item.totalAllocation()),
+        sizeText(item.totalAllocation()).toStdString(),
         line.movedDown(kLineHeight - kRaiseForSize),
         attributes);
 }

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "TreeScreen/Status/ItemStatus.h"
 
-#include "Base/ByteSize.h"
 #include "Base/DisplayText.h"
+#include "Language/NodeName.h"
+#include "Language/PluralNumber.h"
+#include "Language/SizeText.h"
 #include "Layout/MultiLayoutObject.h"
 #include "Model/NodeLookup.h"
 #include "Model/Volume.h"
@@ -26,14 +28,14 @@ struct ItemStatusTexts {
 };
 
 /// That of the file system's root is its path.
-QString shownName(const File& node)
+QString nameOrPath(const File& node)
 {
-    return displayText(node.name().empty() ? node.absolutePath() : std::string(node.name()));
+    return node.name().empty() ? displayText(node.absolutePath()) : shownName(node);
 }
 
 QString sizeOnDisk(double bytes)
 {
-    return displayText(formatSize(static_cast<std::uint64_t>(bytes)));
+    return sizeText(static_cast<std::uint64_t>(bytes));
 }
 
 /// A disk is as large as its picture: what is free belongs to that, and to no size in the tree.
@@ -52,7 +54,7 @@ QString shareText(double bytes, const Folder& whole)
     }
     const double percent = bytes / all * kPercent;
     const QLocale locale;
-    const QString name = shownName(whole);
+    const QString name = nameOrPath(whole);
     if (bytes > 0 && percent < kLeastPercent) {
         return ItemStatusTexts::tr("less than %1% of %2")
             .arg(locale.toString(kLeastPercent, 'f', 1), name);
@@ -63,7 +65,8 @@ QString shareText(double bytes, const Folder& whole)
 QString countText(std::size_t count)
 {
     return count == 1 ? ItemStatusTexts::tr("1 item")
-                      : ItemStatusTexts::tr("%1 items").arg(QLocale().toString(qulonglong{count}));
+                      : ItemStatusTexts::tr("%1 items", nullptr, pluralNumber(count))
+                            .arg(QLocale().toString(qulonglong{count}));
 }
 
 /// A disk's own folder holds nodes that are no items, and no other folder does.
@@ -88,7 +91,7 @@ const Folder* wholeFor(const File& item, const Folder& inView)
 
 ItemStatus statusOf(const File& item, const Folder& inView)
 {
-    ItemStatus status{shownName(item), {}};
+    ItemStatus status{nameOrPath(item), {}};
     if (const QString other = otherNameText(item); !other.isEmpty()) {
         status.figures << other;
         return status;

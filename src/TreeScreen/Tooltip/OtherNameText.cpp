@@ -2,6 +2,7 @@
 #include "TreeScreen/Tooltip/OtherNameText.h"
 
 #include "Base/DisplayText.h"
+#include "Language/PluralNumber.h"
 #include "Model/File.h"
 #include "Model/NodeLookup.h"
 
@@ -20,7 +21,10 @@ QString otherNameText(const File& node)
         return {};
     }
     return QCoreApplication::translate(
-               "TooltipController", "one of %1 names of a file that is counted at %2")
+               "TooltipController",
+               "one of %1 names of a file that is counted at %2",
+               nullptr,
+               pluralNumber(linked->linkCount))
         .arg(QLocale().toString(linked->linkCount), displayText(linked->countedAt->absolutePath()));
 }
 

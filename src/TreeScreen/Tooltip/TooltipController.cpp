@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "TreeScreen/Tooltip/TooltipController.h"
 
-#include "Base/ByteSize.h"
 #include "Base/DisplayText.h"
+#include "Language/NodeName.h"
+#include "Language/SizeText.h"
 #include "Layout/MultiLayoutObject.h"
 #include "Model/Document.h"
 #include "Model/Folder.h"
@@ -38,11 +39,6 @@ constexpr int kFieldsAlone = 12;
 
 /// Below the text that takes most room.
 constexpr double kMarginBelowText = 4;
-
-QString sizeText(std::uint64_t bytes)
-{
-    return displayText(formatSize(bytes));
-}
 
 } // namespace
 
@@ -116,7 +112,7 @@ void TooltipController::showGroup(const MultiLayoutObject& group)
     for (std::size_t i = 0; i < std::min(kMaxGroupNames, group.refs.size()); ++i) {
         const File& node = *group.refs[i];
         const QString other = otherNameText(node);
-        names += displayText(node.name()) + (other.isEmpty() ? other : QStringLiteral(": ") + other)
+        names += shownName(node) + (other.isEmpty() ? other : QStringLiteral(": ") + other)
             + QLatin1Char('\r');
         hasOtherNames = hasOtherNames || !other.isEmpty();
     }
@@ -139,7 +135,7 @@ void TooltipController::showFileOnDisk(const NodePanel& panel, const File& node)
         icon = m_icons->icon(node, kIconPoints, m_window->devicePixelRatioF());
     }
     panel.icon->setPixmap(icon);
-    panel.name->setText(displayText(node.name()));
+    panel.name->setText(shownName(node));
     panel.size->setText(sizeText(node.totalAllocation()));
     panel.modified->setText(modified ? mediumDate(*modified, QLocale()) : QString());
     const QString other = otherNameText(node);
@@ -171,7 +167,7 @@ void TooltipController::showOtherSpace(const File& node)
 {
     m_file.icon->clear();
     m_file.fields->move(kFieldsAlone, 0);
-    m_file.name->setText(displayText(node.name()));
+    m_file.name->setText(shownName(node));
     m_file.size->setText(sizeText(node.totalAllocation()));
     m_file.modified->setText(QString());
     m_file.path->setText(QString());

@@ -21,9 +21,34 @@ namespace {
 
 constexpr int kCancelButton = 1;
 
-QString kindOf(const File& item)
+/// The languages' words for the two kinds differ in more than themselves.
+QString systemQuestion(const File& item)
 {
-    return item.isFolder() ? ItemTrasher::tr("folder") : ItemTrasher::tr("file");
+    return item.isFolder()
+        ? ItemTrasher::tr("The selected folder '%1' is located inside a system folder. Other "
+                          "applications may be using this folder. Are you sure you want to move "
+                          "this folder to the trash?")
+        : ItemTrasher::tr("The selected file '%1' is located inside a system folder. Other "
+                          "applications may be using this file. Are you sure you want to move this "
+                          "file to the trash?");
+}
+
+QString hiddenQuestion(const File& item)
+{
+    if (item.hidden()) {
+        return item.isFolder()
+            ? ItemTrasher::tr("The selected folder '%1' is marked as hidden, are you sure you want "
+                              "to move this item to the trash?")
+            : ItemTrasher::tr(
+                "The selected file '%1' is marked as hidden, are you sure you want to "
+                "move this item to the trash?");
+    }
+    return item.isFolder()
+        ? ItemTrasher::tr(
+            "The selected folder '%1' is located inside a hidden folder, are you sure "
+            "you want to move this item to the trash?")
+        : ItemTrasher::tr("The selected file '%1' is located inside a hidden folder, are you sure "
+                          "you want to move this item to the trash?");
 }
 
 } // namespace
@@ -72,22 +97,12 @@ bool ItemTrasher::mayTrash(const File& item) const
 
 bool ItemTrasher::confirmSystem(const File& item) const
 {
-    return ask(tr("The selected %1 '%2' is located inside a system folder. Other applications may "
-                  "be using this %1. Are you sure you want to move this %1 to the trash?")
-                   .arg(kindOf(item), displayText(item.name())));
+    return ask(systemQuestion(item).arg(displayText(item.name())));
 }
 
 bool ItemTrasher::confirmHidden(const File& item) const
 {
-    if (!m_risks.isHidden(item)) {
-        return true;
-    }
-    const QString question = item.hidden()
-        ? tr("The selected %1 '%2' is marked as hidden, are you sure you want to move this item to "
-             "the trash?")
-        : tr("The selected %1 '%2' is located inside a hidden folder, are you sure you want to "
-             "move this item to the trash?");
-    return ask(question.arg(kindOf(item), displayText(item.name())));
+    return !m_risks.isHidden(item) || ask(hiddenQuestion(item).arg(displayText(item.name())));
 }
 
 bool ItemTrasher::ask(const QString& question) const

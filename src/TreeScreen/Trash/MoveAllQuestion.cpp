@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "TreeScreen/Trash/MoveAllQuestion.h"
 
-#include "Base/ByteSize.h"
 #include "Base/Url.h"
 #include "Freeing/FreedSpaceText.h"
+#include "Language/PluralNumber.h"
+#include "Language/SizeText.h"
 #include "Model/Allocation.h"
 #include "TreeScreen/Trash/NamesText.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <QStringList>
 
 #include <algorithm>
@@ -19,25 +21,25 @@ namespace tessera {
 namespace {
 
 constexpr std::size_t kMostItems = 5; ///< that are listed
+constexpr const char* kMoveAllContext = "MoveAllTexts";
 
 struct MoveAllTexts {
     Q_DECLARE_TR_FUNCTIONS(MoveAllTexts)
 };
 
-QString sizeOf(std::uint64_t bytes)
-{
-    return QString::fromStdString(formatSize(bytes));
-}
-
 /// The sentence with the names; nothing where there are none.
 void warnOf(
     const std::vector<std::string>& names,
-    const QString& ofOne,
-    const QString& ofSeveral,
+    const char* ofOne,
+    const char* ofSeveral,
     QStringList& sentences)
 {
     if (!names.empty()) {
-        sentences.append((names.size() == 1 ? ofOne : ofSeveral).arg(namesText(names)));
+        const QString sentence = names.size() == 1
+            ? QCoreApplication::translate(kMoveAllContext, ofOne)
+            : QCoreApplication::translate(
+                kMoveAllContext, ofSeveral, nullptr, pluralNumber(names.size()));
+        sentences.append(sentence.arg(namesText(names)));
     }
 }
 
@@ -62,26 +64,28 @@ QStringList warnings(const MoveAllFacts& facts)
     QStringList sentences;
     warnOf(
         facts.hidden,
-        MoveAllTexts::tr("%1 is hidden, or is in a hidden folder."),
-        MoveAllTexts::tr("%1 are hidden, or are in hidden folders."),
+        QT_TRANSLATE_NOOP("MoveAllTexts", "%1 is hidden, or is in a hidden folder."),
+        QT_TRANSLATE_N_NOOP("MoveAllTexts", "%1 are hidden, or are in hidden folders."),
         sentences);
     warnOf(
         facts.inSystemFolders,
-        MoveAllTexts::tr("%1 is in a system folder: other applications may be using it."),
-        MoveAllTexts::tr("%1 are in system folders: other applications may be using them."),
+        QT_TRANSLATE_NOOP(
+            "MoveAllTexts", "%1 is in a system folder: other applications may be using it."),
+        QT_TRANSLATE_N_NOOP(
+            "MoveAllTexts", "%1 are in system folders: other applications may be using them."),
         sentences);
     if (facts.heldOpen.count > 0) {
         sentences.append(freedSpaceReasons({.kept = {shortened(facts.heldOpen)}}));
     }
     warnOf(
         facts.ofOthers,
-        MoveAllTexts::tr("%1 belongs to another user."),
-        MoveAllTexts::tr("%1 belong to other users."),
+        QT_TRANSLATE_NOOP("MoveAllTexts", "%1 belongs to another user."),
+        QT_TRANSLATE_N_NOOP("MoveAllTexts", "%1 belong to other users."),
         sentences);
     warnOf(
         namesOf(facts.lastBackups),
-        MoveAllTexts::tr("No backup would be left in %1."),
-        MoveAllTexts::tr("No backups would be left in %1."),
+        QT_TRANSLATE_NOOP("MoveAllTexts", "No backup would be left in %1."),
+        QT_TRANSLATE_N_NOOP("MoveAllTexts", "No backups would be left in %1."),
         sentences);
     return sentences;
 }
@@ -95,15 +99,21 @@ std::vector<MoveAllFacts::Item> largestOf(std::vector<MoveAllFacts::Item> items)
     return items;
 }
 
+QString moreText(std::size_t count)
+{
+    return MoveAllTexts::tr("and %1 more", nullptr, pluralNumber(count))
+        .arg(QLocale().toString(qulonglong{count}));
+}
+
 QString listOf(const MoveAllFacts& facts)
 {
     QStringList lines;
     const std::vector<MoveAllFacts::Item> largest = largestOf(facts.items);
     for (const MoveAllFacts::Item& item : largest) {
-        lines.append(MoveAllTexts::tr("%1 (%2)").arg(quotedName(item.name), sizeOf(item.bytes)));
+        lines.append(MoveAllTexts::tr("%1 (%2)").arg(quotedName(item.name), sizeText(item.bytes)));
     }
     if (largest.size() < facts.items.size()) {
-        lines.append(MoveAllTexts::tr("and %1 more").arg(facts.items.size() - largest.size()));
+        lines.append(moreText(facts.items.size() - largest.size()));
     }
     return lines.join(QLatin1Char('\n'));
 }
@@ -114,11 +124,15 @@ QString countOf(const MoveAllFacts& facts)
     for (const MoveAllFacts::Item& item : facts.items) {
         bytes = saturatingSum(bytes, item.bytes);
     }
-    return facts.items.size() == 1
+    const std::size_t count = facts.items.size();
+    return count == 1
         ? MoveAllTexts::tr("Are you sure you want to move one item (%1) to the trash?")
-              .arg(sizeOf(bytes))
-        : MoveAllTexts::tr("Are you sure you want to move %1 items (%2) to the trash?")
-              .arg(QString::number(facts.items.size()), sizeOf(bytes));
+              .arg(sizeText(bytes))
+        : MoveAllTexts::tr(
+              "Are you sure you want to move %1 items (%2) to the trash?",
+              nullptr,
+              pluralNumber(count))
+              .arg(QLocale().toString(qulonglong{count}), sizeText(bytes));
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "TreeScreen/Trash/MoveAllReport.h"
 
+#include "Language/PluralNumber.h"
 #include "TreeScreen/Trash/NamesText.h"
 
 #include <QCoreApplication>
@@ -25,15 +26,15 @@ QString headline(const MoveAllOutcome& outcome)
             ? MoveAllReportTexts::tr("A folder had changed since it was scanned")
             : MoveAllReportTexts::tr("Folders had changed since they were scanned");
     }
+    const auto count = static_cast<int>(outcome.stayed.size());
     if (outcome.isAnyInDoubt) {
-        return outcome.stayed.size() == 1
-            ? MoveAllReportTexts::tr("One item may not have been moved to the trash")
-            : MoveAllReportTexts::tr("%1 items may not have been moved to the trash")
-                  .arg(outcome.stayed.size());
+        return count == 1 ? MoveAllReportTexts::tr("One item may not have been moved to the trash")
+                          : MoveAllReportTexts::tr(
+                              "%Ln items may not have been moved to the trash", nullptr, count);
     }
-    return outcome.stayed.size() == 1
+    return count == 1
         ? MoveAllReportTexts::tr("One item was not moved to the trash")
-        : MoveAllReportTexts::tr("%1 items were not moved to the trash").arg(outcome.stayed.size());
+        : MoveAllReportTexts::tr("%Ln items were not moved to the trash", nullptr, count);
 }
 
 /// What the system says may be long; what has become of the item stands at the end.
@@ -53,13 +54,16 @@ AlertText moveAllReport(const MoveAllOutcome& outcome)
         paragraphs.append(shortened(reason));
     }
     if (outcome.stayed.size() > kMostReasons) {
-        paragraphs.append(
-            MoveAllReportTexts::tr("and %1 more").arg(outcome.stayed.size() - kMostReasons));
+        const auto more = static_cast<int>(outcome.stayed.size() - kMostReasons);
+        paragraphs.append(MoveAllReportTexts::tr("and %Ln more", nullptr, more));
     }
     if (!outcome.grownFolders.empty()) {
         const QString text = outcome.grownFolders.size() == 1
             ? MoveAllReportTexts::tr("%1 is in the trash, with all that is in it now.")
-            : MoveAllReportTexts::tr("%1 are in the trash, with all that is in them now.");
+            : MoveAllReportTexts::tr(
+                "%1 are in the trash, with all that is in them now.",
+                nullptr,
+                pluralNumber(outcome.grownFolders.size()));
         paragraphs.append(text.arg(namesText(outcome.grownFolders)));
     }
     return {

@@ -2,10 +2,12 @@
 #include "TreeScreen/Trash/NamesText.h"
 
 #include "Base/DisplayText.h"
+#include "Language/PluralNumber.h"
 
 #include <QCoreApplication>
 #include <QFontMetrics>
 #include <QGuiApplication>
+#include <QLocale>
 #include <QStringList>
 
 #include <algorithm>
@@ -38,10 +40,13 @@ QString quotedName(std::string_view name)
 
 QString withShortName(std::string_view sentence, std::string_view name)
 {
-    const std::string quoted = '\'' + std::string(name) + '\'';
-    return sentence.starts_with(quoted)
-        ? QLatin1Char('\'') + shortName(name) + displayText(sentence.substr(quoted.size() - 1))
-        : displayText(sentence);
+    const QString shortened = shortName(name);
+    const std::size_t place = sentence.find(name);
+    // Only a long name is shortened, and that stands nowhere by chance.
+    return place == std::string_view::npos || shortened == displayText(name)
+        ? displayText(sentence)
+        : displayText(sentence.substr(0, place)) + shortened
+            + displayText(sentence.substr(place + name.size()));
 }
 
 QString namesText(const std::vector<std::string>& names)
@@ -52,9 +57,10 @@ QString namesText(const std::vector<std::string>& names)
         quoted.append(quotedName(names[i]));
     }
     if (shown < names.size()) {
+        const std::size_t more = names.size() - shown;
         // In one step: a name may hold what looks like a place for another one.
-        return NamesTexts::tr("%1 and %2 more")
-            .arg(quoted.join(NamesTexts::tr(", ")), QString::number(names.size() - shown));
+        return NamesTexts::tr("%1 and %2 more", nullptr, pluralNumber(more))
+            .arg(quoted.join(NamesTexts::tr(", ")), QLocale().toString(qulonglong{more}));
     }
     const QString last = quoted.takeLast();
     return quoted.isEmpty()

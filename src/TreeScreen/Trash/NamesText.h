@@ -17,8 +17,7 @@ namespace tessera {
 /// The same in quotation marks.
 [[nodiscard]] QString quotedName(std::string_view name);
 
-/// A sentence that begins with the name in single quotes, both as bytes, with the name as
-/// shortName() has it.
+/// A sentence about what has the name, both as bytes, with the name as shortName() has it.
 [[nodiscard]] QString withShortName(std::string_view sentence, std::string_view name);
 
 /// The first names and how many more there are: "“a”, “b”, “c” and 4 more". One name at least.

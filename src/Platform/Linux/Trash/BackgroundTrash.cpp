@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/Linux/Trash/BackgroundTrash.h"
 
+#include "Platform/Linux/Trash/TrashSentences.h"
+
+#include <QtGlobal>
+
 #include <utility>
 
 namespace tessera {
@@ -8,12 +12,14 @@ namespace tessera {
 namespace {
 
 /// Neither the items nor their disks are to blame.
-constexpr const char* kNothingMoved
-    = "Nothing was moved to the trash, because the system is too busy to begin with it. Close some "
-      "programs and try again.";
-constexpr const char* kNothingPutBack
-    = "Nothing was put back, because the system is too busy to begin with it. Close some programs "
-      "and try again.";
+constexpr const char* kNothingMoved = QT_TRANSLATE_NOOP(
+    "TrashSentences",
+    "Nothing was moved to the trash, because the system is too busy to begin with it. Close some "
+    "programs and try again.");
+constexpr const char* kNothingPutBack = QT_TRANSLATE_NOOP(
+    "TrashSentences",
+    "Nothing was put back, because the system is too busy to begin with it. Close some programs "
+    "and try again.");
 
 } // namespace
 
@@ -33,7 +39,7 @@ void BackgroundTrash::recycle(std::vector<ItemToRecycle> items, RecycleCompletio
 void BackgroundTrash::perform(Move move, RecycleCompletion completionHandler)
 {
     RecycleResult notMoved;
-    notMoved.error = kNothingMoved;
+    notMoved.error = trashSentence(kNothingMoved);
     m_workers.perform(std::move(move), std::move(completionHandler), std::move(notMoved));
 }
 
@@ -41,7 +47,7 @@ void BackgroundTrash::perform(PutBack putBack, PutBackCompletion completionHandl
 {
     PutBackResult notPutBack;
     notPutBack.obstacle = PutBackObstacle::Failed;
-    notPutBack.error = kNothingPutBack;
+    notPutBack.error = trashSentence(kNothingPutBack);
     m_workers.perform(std::move(putBack), std::move(completionHandler), std::move(notPutBack));
 }
 

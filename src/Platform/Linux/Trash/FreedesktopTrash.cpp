@@ -13,6 +13,9 @@
 #include "Platform/Linux/Trash/TrashItem.h"
 #include "Platform/Linux/Trash/TrashJournal.h"
 #include "Platform/Linux/Trash/TrashPutBack.h"
+#include "Platform/Linux/Trash/TrashSentences.h"
+
+#include <QtGlobal>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -86,11 +89,6 @@ bool isWanted(const TrashItem& found, const ItemToRecycle& wanted)
     return isSame && (!wanted.birth || !found.birth || *found.birth == *wanted.birth);
 }
 
-std::string refusalSentence(const TrashItem& item, const std::string& reason)
-{
-    return '\'' + item.name + "' cannot be moved to the trash, because " + reason + '.';
-}
-
 } // namespace
 
 void Expectation::compareWith(const FileStatus& status, std::optional<std::uint64_t> birth)
@@ -109,12 +107,21 @@ std::string changeSentence(const TrashItem& item, ItemChange change)
 {
     switch (change) {
     case ItemChange::Changed:
-        return '\'' + item.name + "' was not moved, because it has changed since the scan.";
+        return trashSentence(
+            QT_TRANSLATE_NOOP(
+                "TrashSentences", "'%1' was not moved, because it has changed since the scan."),
+            item.name);
     case ItemChange::OtherItem:
-        return '\'' + item.name
-            + "' was not moved, because another item has taken its name since the scan.";
+        return trashSentence(
+            QT_TRANSLATE_NOOP(
+                "TrashSentences",
+                "'%1' was not moved, because another item has taken its name since the scan."),
+            item.name);
     case ItemChange::MadeSinceScan:
-        return '\'' + item.name + "' was not moved, because it was made after the scan began.";
+        return trashSentence(
+            QT_TRANSLATE_NOOP(
+                "TrashSentences", "'%1' was not moved, because it was made after the scan began."),
+            item.name);
     case ItemChange::None:
     case ItemChange::FolderChanged:
         break;
@@ -387,7 +394,7 @@ FreedesktopTrash::Outcome FreedesktopTrash::move(
         return {found.error, {}};
     }
     if (!isWanted(found.item, item)) {
-        return {refusalSentence(found.item, "something else is called so now"), {}};
+        return {refusalSentence(TrashRefusal::OtherItem, found.item.name), {}};
     }
     Expectation expected{
         item.expected ? &*item.expected : nullptr, moved.contains(found.item.status.identity)};
@@ -410,7 +417,7 @@ FreedesktopTrash::Outcome FreedesktopTrash::move(
 {
     const std::optional<MountTable> mounts = m_mounts();
     if (!mounts) {
-        return {refusalSentence(item, "the system does not say which disks are mounted"), {}};
+        return {refusalSentence(TrashRefusal::MountsUnknown, item.name), {}};
     }
     if (std::string refused = refusal(item, *mounts); !refused.empty()) {
         return {std::move(refused), {}};
@@ -441,22 +448,22 @@ FreedesktopTrash::Outcome FreedesktopTrash::move(
 std::string FreedesktopTrash::refusal(const TrashItem& item, const MountTable& mounts) const
 {
     if (isMountPoint(item)) {
-        return refusalSentence(item, "a disk is mounted there");
+        return refusalSentence(TrashRefusal::MountPoint, item.name);
     }
     if (mounts.hasMountInside(item.path)) {
         // Emptying the trash would empty that disk.
-        return refusalSentence(item, "a disk is mounted inside it");
+        return refusalSentence(TrashRefusal::MountInside, item.name);
     }
     for (const std::string& home : m_user.homes) {
         if (leadsTo(home, item)) {
-            return refusalSentence(item, "your home folder is there");
+            return refusalSentence(TrashRefusal::HomeFolder, item.name);
         }
     }
     if (leadsTo(m_user.homeTrash, item)) {
-        return refusalSentence(item, "the trash is there");
+        return refusalSentence(TrashRefusal::HoldsTrash, item.name);
     }
     if (isInTrash(item, mounts)) {
-        return refusalSentence(item, "it is in the trash already");
+        return refusalSentence(TrashRefusal::InTrash, item.name);
     }
     return {};
 }

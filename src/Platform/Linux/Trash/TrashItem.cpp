@@ -3,9 +3,13 @@
 
 #include "Platform/Linux/Files/LongPath.h"
 #include "Platform/Linux/Files/RenameWithoutReplacing.h"
+#include "Platform/Linux/Trash/TrashSentences.h"
+
+#include <QtGlobal>
 
 #include <fcntl.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <climits>
@@ -19,8 +23,15 @@ namespace {
 
 std::string changedKindSentence(const std::string& name, bool isDirectory)
 {
-    return '\'' + name + "' was not moved, because it has changed since the scan: it is "
-        + (isDirectory ? "a folder now." : "no folder any more.");
+    return trashSentence(
+        isDirectory ? QT_TRANSLATE_NOOP(
+            "TrashSentences",
+            "'%1' was not moved, because it has changed since the scan: it is a folder now.")
+                    : QT_TRANSLATE_NOOP(
+                        "TrashSentences",
+                        "'%1' was not moved, because it has changed since the scan: it is no "
+                        "folder any more."),
+        name);
 }
 
 TrashItemResult failure(std::string sentence)
@@ -55,7 +66,8 @@ TrashItemResult findTrashItem(const Url& url)
     item.name = url.lastPathComponent();
     item.path = url.path();
     if (!isPlainPath(item.path)) {
-        return failure('\'' + item.path + "' cannot be moved to the trash.");
+        return failure(trashSentence(
+            QT_TRANSLATE_NOOP("TrashSentences", "'%1' cannot be moved to the trash."), item.path));
     }
     if (item.path.size() >= PATH_MAX) {
         // No program could put it back.
@@ -81,40 +93,89 @@ TrashItemResult findTrashItem(const Url& url)
     return result;
 }
 
+namespace {
+
+struct TrashErrorPattern {
+    int error;
+    const char* text;
+};
+
+constexpr std::array kTrashErrorPatterns{
+    TrashErrorPattern{
+        ENOENT,
+        QT_TRANSLATE_NOOP(
+            "TrashSentences",
+            "'%1' was not moved to the trash, because it is not there any more.")},
+    TrashErrorPattern{
+        ENOTDIR,
+        QT_TRANSLATE_NOOP(
+            "TrashSentences",
+            "'%1' was not moved to the trash, because it is not there any more.")},
+    TrashErrorPattern{
+        EACCES,
+        QT_TRANSLATE_NOOP(
+            "TrashSentences",
+            "'%1' was not moved to the trash, because you have no permission to do so.")},
+    TrashErrorPattern{
+        EPERM,
+        QT_TRANSLATE_NOOP(
+            "TrashSentences",
+            "'%1' was not moved to the trash, because you have no permission to do so.")},
+    TrashErrorPattern{
+        ELOOP,
+        QT_TRANSLATE_NOOP(
+            "TrashSentences",
+            "'%1' was not moved to the trash, because a folder on the way to it has become a link "
+            "since the scan.")},
+    TrashErrorPattern{
+        EROFS,
+        QT_TRANSLATE_NOOP(
+            "TrashSentences",
+            "'%1' was not moved to the trash, because its disk can only be read.")},
+    TrashErrorPattern{
+        ENOSPC,
+        QT_TRANSLATE_NOOP(
+            "TrashSentences",
+            "'%1' was not moved to the trash, because its disk has no space left.")},
+    TrashErrorPattern{
+        EDQUOT,
+        QT_TRANSLATE_NOOP(
+            "TrashSentences",
+            "'%1' was not moved to the trash, because its disk has no space left.")},
+    TrashErrorPattern{
+        EXDEV,
+        QT_TRANSLATE_NOOP(
+            "TrashSentences",
+            "'%1' was not moved to the trash, because it could only be copied there.")},
+    TrashErrorPattern{
+        EBUSY,
+        QT_TRANSLATE_NOOP(
+            "TrashSentences", "'%1' was not moved to the trash, because the system is using it.")},
+    TrashErrorPattern{
+        kMoveUncertain,
+        QT_TRANSLATE_NOOP(
+            "TrashSentences",
+            "'%1' may be in the trash or where it was, because its disk broke off while it was "
+            "moved. Nothing has been removed.")},
+    TrashErrorPattern{
+        ENAMETOOLONG,
+        QT_TRANSLATE_NOOP(
+            "TrashSentences", "'%1' was not moved to the trash, because its path is too long.")},
+};
+
+} // namespace
+
 std::string trashErrorSentence(const std::string& name, int error)
 {
-    const std::string quoted = '\'' + name + '\'';
-    switch (error) {
-    case ENOENT:
-    case ENOTDIR:
-        return quoted + " was not moved to the trash, because it is not there any more.";
-    case EACCES:
-    case EPERM:
-        return quoted + " was not moved to the trash, because you have no permission to do so.";
-    case ELOOP:
-        return quoted
-            + " was not moved to the trash, because a folder on the way to it has become a link "
-              "since the scan.";
-    case EROFS:
-        return quoted + " was not moved to the trash, because its disk can only be read.";
-    case ENOSPC:
-    case EDQUOT:
-        return quoted + " was not moved to the trash, because its disk has no space left.";
-    case EXDEV:
-        return quoted + " was not moved to the trash, because it could only be copied there.";
-    case EBUSY:
-        return quoted + " was not moved to the trash, because the system is using it.";
-    case kMoveUncertain:
-        return quoted
-            + " may be in the trash or where it was, because its disk broke off while it was "
-              "moved. "
-              "Nothing has been removed.";
-    case ENAMETOOLONG:
-        return quoted + " was not moved to the trash, because its path is too long.";
-    default:
-        return quoted + " was not moved to the trash: " + std::generic_category().message(error)
-            + '.';
-    }
+    const auto* const found
+        = std::ranges::find(kTrashErrorPatterns, error, &TrashErrorPattern::error);
+    return found != kTrashErrorPatterns.end()
+        ? trashSentence(found->text, name)
+        : trashSentence(
+            //: %2 is what the system says
+            QT_TRANSLATE_NOOP("TrashSentences", "'%1' was not moved to the trash: %2."),
+            name,
+            std::generic_category().message(error));
 }
 
 std::string noTrashSentence(const std::string& name, int error)
@@ -125,7 +186,11 @@ std::string noTrashSentence(const std::string& name, int error)
     case EDQUOT:
         return trashErrorSentence(name, error);
     default:
-        return '\'' + name + "' was not moved to the trash, because its disk has no trash for you.";
+        return trashSentence(
+            QT_TRANSLATE_NOOP(
+                "TrashSentences",
+                "'%1' was not moved to the trash, because its disk has no trash for you."),
+            name);
     }
 }
 

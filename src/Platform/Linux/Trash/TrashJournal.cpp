@@ -3,6 +3,9 @@
 
 #include "Platform/Linux/Mounts/FileSystemQuestions.h"
 #include "Platform/Linux/Process/LinuxUserAccount.h"
+#include "Platform/Linux/Trash/TrashSentences.h"
+
+#include <QtGlobal>
 
 #include <fcntl.h>
 
@@ -27,11 +30,20 @@ std::uint64_t newEntryNumber()
 std::string entryErrorSentence(const std::string& path, const std::error_code& error)
 {
     const std::string reason = error.value() == kNotTheUsersOwn
-        ? "it is not a file of your own in a folder that nobody else can write to"
-        : error.value() == EWOULDBLOCK ? "another program is writing to it"
-                                       : error.message();
-    return "What is moved to the trash can be restored there, but this program will not list it: '"
-        + path + "' cannot be written (" + reason + ").";
+        ? trashSentence(QT_TRANSLATE_NOOP(
+            "TrashSentences",
+            "it is not a file of your own in a folder that nobody else can write to"))
+        : error.value() == EWOULDBLOCK
+        ? trashSentence(QT_TRANSLATE_NOOP("TrashSentences", "another program is writing to it"))
+        : error.message();
+    return trashSentence(
+        //: %2 says why: the texts above, or what the system says
+        QT_TRANSLATE_NOOP(
+            "TrashSentences",
+            "What is moved to the trash can be restored there, but this program will not list it: "
+            "'%1' cannot be written (%2)."),
+        path,
+        reason);
 }
 
 } // namespace

@@ -8,12 +8,16 @@
 #include "Platform/Linux/Trash/TrashDirectory.h"
 #include "Platform/Linux/Trash/TrashInfo.h"
 #include "Platform/Linux/Trash/TrashItem.h"
+#include "Platform/Linux/Trash/TrashSentences.h"
+
+#include <QtGlobal>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstddef>
 #include <string>
@@ -68,51 +72,98 @@ Refusal refusalOf(int error)
     }
 }
 
-/// What stands behind "was not put back".
-std::string reasonOf(const Refusal& refusal, const std::string& wantedName)
+struct RefusalPattern {
+    PutBackObstacle obstacle;
+    const char* text;
+};
+
+constexpr std::array kRefusalPatterns{
+    RefusalPattern{
+        PutBackObstacle::NameTaken,
+        QT_TRANSLATE_NOOP(
+            "TrashSentences",
+            "'%1' was not put back, because something new is called '%2' there.")},
+    RefusalPattern{
+        PutBackObstacle::FolderGone,
+        QT_TRANSLATE_NOOP(
+            "TrashSentences",
+            "'%1' was not put back, because the folder that it was in is not there any more.")},
+    RefusalPattern{
+        PutBackObstacle::FolderReplaced,
+        QT_TRANSLATE_NOOP(
+            "TrashSentences",
+            "'%1' was not put back, because what was a folder on the way to its place is none any "
+            "more.")},
+    RefusalPattern{
+        PutBackObstacle::LinkOnTheWay,
+        QT_TRANSLATE_NOOP(
+            "TrashSentences",
+            "'%1' was not put back, because a folder on the way to its place has become a link.")},
+    RefusalPattern{
+        PutBackObstacle::ItemGone,
+        QT_TRANSLATE_NOOP(
+            "TrashSentences", "'%1' was not put back, because it is not in the trash any more.")},
+    RefusalPattern{
+        PutBackObstacle::ItemInDoubt,
+        QT_TRANSLATE_NOOP(
+            "TrashSentences",
+            "'%1' was not put back, because it cannot be told whether what is in its place in the "
+            "trash is the same item still. Restore it from the trash.")},
+    RefusalPattern{
+        PutBackObstacle::TrashGone,
+        QT_TRANSLATE_NOOP(
+            "TrashSentences",
+            "'%1' was not put back, because the trash that it is in cannot be found. If its disk "
+            "is not connected, connect it and try again.")},
+    RefusalPattern{
+        PutBackObstacle::OtherDisk,
+        QT_TRANSLATE_NOOP(
+            "TrashSentences",
+            "'%1' was not put back, because its place is on another disk than the trash now. You "
+            "can copy it there from the trash.")},
+    RefusalPattern{
+        PutBackObstacle::ReadOnly,
+        QT_TRANSLATE_NOOP(
+            "TrashSentences", "'%1' was not put back, because its disk can only be read.")},
+    RefusalPattern{
+        PutBackObstacle::NoPermission,
+        QT_TRANSLATE_NOOP(
+            "TrashSentences", "'%1' was not put back, because you have no permission to do so.")},
+    RefusalPattern{
+        PutBackObstacle::DiskFull,
+        QT_TRANSLATE_NOOP(
+            "TrashSentences",
+            "'%1' was not put back, because its disk has no space left. Make some and try again.")},
+    RefusalPattern{
+        PutBackObstacle::Uncertain,
+        QT_TRANSLATE_NOOP(
+            "TrashSentences",
+            "'%1' may be in the trash or where it was, because its disk broke off while it was put "
+            "back. Nothing has been removed.")},
+};
+
+const char* patternOf(PutBackObstacle obstacle)
 {
-    switch (refusal.obstacle) {
-    case PutBackObstacle::NameTaken:
-        return ", because something new is called '" + wantedName + "' there.";
-    case PutBackObstacle::FolderGone:
-        return ", because the folder that it was in is not there any more.";
-    case PutBackObstacle::FolderReplaced:
-        return ", because what was a folder on the way to its place is none any more.";
-    case PutBackObstacle::LinkOnTheWay:
-        return ", because a folder on the way to its place has become a link.";
-    case PutBackObstacle::ItemGone:
-        return ", because it is not in the trash any more.";
-    case PutBackObstacle::ItemInDoubt:
-        return ", because it cannot be told whether what is in its place in the trash is the same "
-               "item still. Restore it from the trash.";
-    case PutBackObstacle::TrashGone:
-        return ", because the trash that it is in cannot be found. If its disk is not connected, "
-               "connect it and try again.";
-    case PutBackObstacle::OtherDisk:
-        return ", because its place is on another disk than the trash now. You can copy it there "
-               "from the trash.";
-    case PutBackObstacle::ReadOnly:
-        return ", because its disk can only be read.";
-    case PutBackObstacle::NoPermission:
-        return ", because you have no permission to do so.";
-    case PutBackObstacle::DiskFull:
-        return ", because its disk has no space left. Make some and try again.";
-    default:
-        return ": " + std::generic_category().message(refusal.error) + '.';
-    }
+    const auto* const found
+        = std::ranges::find(kRefusalPatterns, obstacle, &RefusalPattern::obstacle);
+    return found != kRefusalPatterns.end()
+        ? found->text
+        //: %2 is what the system says
+        : QT_TRANSLATE_NOOP("TrashSentences", "'%1' was not put back: %2.");
 }
 
 PutBackResult refused(
     const PutBackRequest& request, const std::string& wantedName, const Refusal& refusal)
 {
-    const std::string item = '\'' + std::string(request.item.from.lastPathComponent()) + '\'';
+    const std::string name(request.item.from.lastPathComponent());
     PutBackResult result;
     result.obstacle = refusal.obstacle;
-    result.error = refusal.obstacle == PutBackObstacle::Uncertain
-        ? item
-            + " may be in the trash or where it was, because its disk broke off while it was put "
-              "back. Nothing has been removed."
-        : item + " was not put back" + reasonOf(refusal, wantedName);
+    result.error = trashSentence(
+        patternOf(refusal.obstacle),
+        name,
+        refusal.obstacle == PutBackObstacle::NameTaken
+            ? wantedName
+            : std::generic_category().message(refusal.error));
     return result;
 }
 
