@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "Base/Log.h"
 #include "DeadMounts/DeadMountLimits.h"
+#include "Language/Translations.h"
 #include "Platform/PlatformServices.h"
 #include "PlatformLaunchServices.h"
 #include "Start/CommandLine.h"
 #include "Start/Launch.h"
 
 #include <QApplication>
+#include <QLocale>
 
 #include <cstdlib>
 #include <optional>
@@ -54,7 +56,9 @@ void endWorkers(
 
 int run(const tessera::CommandLine& commandLine, const tessera::PlatformServices& services)
 {
+    const tessera::Translations translations(QLocale::system().uiLanguages());
     tessera::LaunchServices launched = tessera::launchServices(services);
+    launched.helpFolder = tessera::folderInLanguage(launched.helpFolder, translations.language());
     launched.adoptActivationToken = adoptActivationToken;
     const int status = tessera::launch(commandLine, launched);
     endWorkers(services, *launched.scanEnvironment.workers, status);
