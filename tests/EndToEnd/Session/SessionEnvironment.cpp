@@ -11,6 +11,7 @@ std::vector<std::string> sessionEnvironment(
         "QT_QPA_PLATFORM=xcb",
         "QT_SCALE_FACTOR=1",
         "WAYLAND_DISPLAY=",
+        "LANGUAGE=", // the developer's own
         "DBUS_SESSION_BUS_ADDRESS=" + busAddress,
         "HOME=" + session.pathOf("home")};
     session.makeFolder("home");
