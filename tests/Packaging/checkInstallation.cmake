@@ -34,6 +34,8 @@ set(expected
     share/kio/servicemenus/tessera-servicemenu.desktop
     share/nautilus-python/extensions/tessera-nautilus.py
     share/nemo/actions/tessera.nemo_action
+    share/tessera/help/de/faq.html
+    share/tessera/help/de/features.html
     share/tessera/help/faq.html
     share/tessera/help/features.html
     share/tessera/help/help.css)
@@ -59,12 +61,14 @@ if(NOT installed STREQUAL expected)
     message(FATAL_ERROR "Installed: ${installed}\nExpected: ${expected}")
 endif()
 
-foreach(page features faq)
-    file(READ "${PREFIX}/share/tessera/help/${page}.html" text)
+foreach(page features faq de/features de/faq)
+    set(file "${PREFIX}/share/tessera/help/${page}.html")
+    cmake_path(GET file PARENT_PATH folder)
+    file(READ "${file}" text)
     string(REGEX MATCHALL "(href|src)=\"[^\"]*\"" links "${text}")
     foreach(link IN LISTS links)
         string(REGEX REPLACE "^[a-z]+=\"([^\"]*)\"$" "\\1" target "${link}")
-        if(NOT EXISTS "${PREFIX}/share/tessera/help/${target}")
+        if(NOT EXISTS "${folder}/${target}")
             message(FATAL_ERROR "${page}.html leads to ${target}, which is not there")
         endif()
     endforeach()
