@@ -1521,6 +1521,10 @@
         <source>&amp;Copy Versions</source>
         <translation>Versionen &amp;kopieren</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
 </context>
 <context>
     <name>tessera::AppDelegate</name>
@@ -2085,6 +2089,10 @@
     <message>
         <source>&amp;Open</source>
         <translation>Ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
