@@ -35,6 +35,18 @@
         <source>There is no box that way.</source>
         <translation>In dieser Richtung ist kein Kasten.</translation>
     </message>
+    <message>
+        <source>A scan is running. Wait until it has ended.</source>
+        <translation>Es wird gerade eingelesen. Warten Sie, bis das beendet ist.</translation>
+    </message>
+    <message>
+        <source>Scan a disk or a folder first.</source>
+        <translation>Lesen Sie zuerst einen Datenträger oder Ordner ein.</translation>
+    </message>
+    <message>
+        <source>This is the home screen already.</source>
+        <translation>Das ist bereits die Startseite.</translation>
+    </message>
 </context>
 <context>
     <name>CompressWindow</name>
@@ -240,10 +252,6 @@
         <translation>&amp;Leeren</translation>
     </message>
     <message>
-        <source>Empty the list of recent scans</source>
-        <translation>Die Liste der zuletzt eingelesenen Ordner leeren</translation>
-    </message>
-    <message>
         <source>Clear recent scans</source>
         <translation>Liste der zuletzt eingelesenen Ordner leeren</translation>
     </message>
@@ -254,10 +262,6 @@
     <message>
         <source>&amp;Scan</source>
         <translation>&amp;Einlesen</translation>
-    </message>
-    <message>
-        <source>Scan what is selected</source>
-        <translation>Einlesen, was ausgewählt ist</translation>
     </message>
 </context>
 <context>
@@ -394,16 +398,8 @@
         <translation>Ihr Inhalt zählt zum Rest; wie viel das ist, weiß niemand.</translation>
     </message>
     <message>
-        <source>Tessera may not look into some of them. Frequently Asked Questions, in the Help menu, says what the administrator can do.</source>
-        <translation>In einige davon darf Tessera nicht hineinsehen. „Häufige Fragen“ im Menü „Hilfe“ sagt, was der Systemverwalter tun kann.</translation>
-    </message>
-    <message>
         <source>Files found, each once</source>
         <translation>Gefundene Dateien, jede einmal</translation>
-    </message>
-    <message>
-        <source>The folders&apos; own blocks</source>
-        <translation>Die Blöcke der Ordner selbst</translation>
     </message>
     <message>
         <source>Deleted but still open</source>
@@ -477,10 +473,6 @@
         </translation>
     </message>
     <message>
-        <source>You may not</source>
-        <translation>Nicht erlaubt</translation>
-    </message>
-    <message>
         <source>Gone meanwhile</source>
         <translation>Inzwischen nicht mehr da</translation>
     </message>
@@ -500,13 +492,21 @@
         <source>The disk gives no answer</source>
         <translation>Der Datenträger antwortet nicht</translation>
     </message>
+    <message>
+        <source>Tessera may not look into some of them. Frequently Asked Questions, in the Help menu, says how to scan with more rights.</source>
+        <translation>In manche davon darf Tessera nicht hineinsehen. Wie Sie mit mehr Rechten einlesen, steht in den häufigen Fragen im Hilfemenü.</translation>
+    </message>
+    <message>
+        <source>The folders themselves</source>
+        <translation>Die Ordner selbst</translation>
+    </message>
+    <message>
+        <source>No permission</source>
+        <translation>Keine Berechtigung</translation>
+    </message>
 </context>
 <context>
     <name>MainMenu</name>
-    <message>
-        <source>Take out of &amp;Basket</source>
-        <translation>Aus dem &amp;Sammelkorb nehmen</translation>
-    </message>
     <message>
         <source>&amp;Open Folder…</source>
         <translation>&amp;Ordner öffnen&#xa0;…</translation>
@@ -768,6 +768,10 @@
         <source>&amp;Help</source>
         <translation>&amp;Hilfe</translation>
     </message>
+    <message>
+        <source>Take Out of &amp;Basket</source>
+        <translation>Aus dem &amp;Sammelkorb nehmen</translation>
+    </message>
 </context>
 <context>
     <name>MainToolbar</name>
@@ -780,8 +784,8 @@
         <translation>Befehle für das ausgewählte Objekt</translation>
     </message>
     <message>
-        <source>What the map leaves out</source>
-        <translation>Was das Bild auslässt</translation>
+        <source>What the picture leaves out</source>
+        <translation>Was das Bild weglässt</translation>
     </message>
 </context>
 <context>
@@ -1079,14 +1083,6 @@
         <translation>Den Ordner „%1“ gibt es nicht mehr. Er wurde möglicherweise verschoben, umbenannt oder gelöscht, oder sein Datenträger ist nicht angeschlossen.</translation>
     </message>
     <message>
-        <source>You do not have permission to look into &apos;%1&apos;.</source>
-        <translation>Sie haben keine Berechtigung, in „%1“ hineinzusehen.</translation>
-    </message>
-    <message>
-        <source>The system has no room for one more thread, which scanning &apos;%1&apos; needs. Try again when less is going on.</source>
-        <translation>Das System hat keinen Platz für einen weiteren Thread, den das Einlesen von „%1“ braucht. Versuchen Sie es erneut, wenn weniger los ist.</translation>
-    </message>
-    <message>
         <source>&apos;%1&apos; cannot be read.</source>
         <translation>„%1“ kann nicht gelesen werden.</translation>
     </message>
@@ -1097,6 +1093,14 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>You do not have permission to look into &apos;%1&apos;. Frequently Asked Questions, in the Help menu, says how to scan with more rights.</source>
+        <translation>Sie haben keine Berechtigung, in „%1“ hineinzusehen. Wie Sie mit mehr Rechten einlesen, steht in den häufigen Fragen im Hilfemenü.</translation>
+    </message>
+    <message>
+        <source>The system is too busy to scan &apos;%1&apos;. Close some programs and try again.</source>
+        <translation>Das System ist zu ausgelastet, um „%1“ einzulesen. Schließen Sie einige Programme und versuchen Sie es noch einmal.</translation>
     </message>
 </context>
 <context>
@@ -1465,12 +1469,20 @@
 <context>
     <name>TreeBranchTexts</name>
     <message>
-        <source>This folder is empty</source>
-        <translation>Dieser Ordner ist leer</translation>
+        <source>You may not look into this folder. See Frequently Asked Questions in the Help menu.</source>
+        <translation>In diesen Ordner dürfen Sie nicht hineinsehen. Mehr dazu in den häufigen Fragen im Hilfemenü.</translation>
     </message>
     <message>
-        <source>Everything in this folder is left out of the picture</source>
-        <translation>Alles in diesem Ordner ist aus dem Bild weggelassen</translation>
+        <source>This folder could not be read. Rescan it to try again.</source>
+        <translation>Dieser Ordner konnte nicht gelesen werden. Lesen Sie ihn neu ein, um es noch einmal zu versuchen.</translation>
+    </message>
+    <message>
+        <source>This folder is empty. Rescan it when something has come.</source>
+        <translation>Dieser Ordner ist leer. Lesen Sie ihn neu ein, wenn etwas hinzugekommen ist.</translation>
+    </message>
+    <message>
+        <source>Everything in this folder is left out of the picture. The Ignore menu brings it back.</source>
+        <translation>Alles in diesem Ordner ist im Bild weggelassen. Das Menü „Ignorieren“ holt es zurück.</translation>
     </message>
 </context>
 <context>
@@ -1576,7 +1588,7 @@
         <translation>Im Bild zeigen</translation>
     </message>
     <message>
-        <source>Take out of Basket</source>
+        <source>Take Out of Basket</source>
         <translation>Aus dem Sammelkorb nehmen</translation>
     </message>
 </context>
@@ -1649,10 +1661,6 @@
         </translation>
     </message>
     <message>
-        <source>Take out of Basket</source>
-        <translation>Aus dem Sammelkorb nehmen</translation>
-    </message>
-    <message>
         <source>Add to Basket</source>
         <translation>In den Sammelkorb legen</translation>
     </message>
@@ -1671,6 +1679,30 @@
     <message>
         <source>Asks before anything moves. %1</source>
         <translation>Fragt, bevor etwas verschoben wird. %1</translation>
+    </message>
+    <message>
+        <source>Take Out of Basket</source>
+        <translation>Aus dem Sammelkorb nehmen</translation>
+    </message>
+    <message>
+        <source>The items are being looked at.</source>
+        <translation>Die Objekte werden gerade geprüft.</translation>
+    </message>
+    <message>
+        <source>Another item has just been selected.</source>
+        <translation>Eben wurde ein anderes Objekt ausgewählt.</translation>
+    </message>
+    <message>
+        <source>This cannot be moved to the trash.</source>
+        <translation>Das kann nicht in den Papierkorb verschoben werden.</translation>
+    </message>
+    <message>
+        <source>Items are on their way to the trash. Wait until they have arrived.</source>
+        <translation>Objekte sind auf dem Weg in den Papierkorb. Warten Sie, bis sie dort sind.</translation>
+    </message>
+    <message>
+        <source>The basket is empty.</source>
+        <translation>Der Sammelkorb ist leer.</translation>
     </message>
 </context>
 <context>
@@ -1779,6 +1811,25 @@
     </message>
 </context>
 <context>
+    <name>tessera::GreetingView</name>
+    <message>
+        <source>Welcome to Tessera, which shows you what fills your disk.</source>
+        <translation>Willkommen bei Tessera. Hier sehen Sie, was Ihren Datenträger füllt.</translation>
+    </message>
+    <message>
+        <source>Select a disk or a folder, then press Scan.</source>
+        <translation>Wählen Sie einen Datenträger oder Ordner aus und drücken Sie dann „Einlesen“.</translation>
+    </message>
+    <message>
+        <source>&amp;Got It</source>
+        <translation>&amp;Verstanden</translation>
+    </message>
+    <message>
+        <source>Closes this greeting for good</source>
+        <translation>Schließt diese Begrüßung für immer</translation>
+    </message>
+</context>
+<context>
     <name>tessera::HistoryWindowController</name>
     <message>
         <source>&amp;Show</source>
@@ -1791,10 +1842,6 @@
     <message>
         <source>Looking where the items are…</source>
         <translation>Es wird nachgesehen, wo die Objekte sind&#xa0;…</translation>
-    </message>
-    <message>
-        <source>Nothing was moved to the trash yet.</source>
-        <translation>Bisher wurde nichts in den Papierkorb verschoben.</translation>
     </message>
     <message>
         <source>One move</source>
@@ -1823,6 +1870,14 @@
         <source>Nobody knows where the item is now, or whether it still exists.</source>
         <translation>Niemand weiß, wo das Objekt jetzt ist oder ob es noch existiert.</translation>
     </message>
+    <message>
+        <source>What you move to the trash is listed here, and can be put back.</source>
+        <translation>Was Sie in den Papierkorb verschieben, steht hier und kann zurückgelegt werden.</translation>
+    </message>
+    <message>
+        <source>Select an item first.</source>
+        <translation>Wählen Sie zuerst ein Objekt aus.</translation>
+    </message>
 </context>
 <context>
     <name>tessera::HomeViewController</name>
@@ -1833,6 +1888,34 @@
     <message>
         <source>Locations</source>
         <translation>Orte</translation>
+    </message>
+    <message>
+        <source>Scan what is selected</source>
+        <translation>Einlesen, was ausgewählt ist</translation>
+    </message>
+    <message>
+        <source>Select a disk, a folder or a recent scan first.</source>
+        <translation>Wählen Sie zuerst einen Datenträger, einen Ordner oder etwas zuletzt Eingelesenes aus.</translation>
+    </message>
+    <message>
+        <source>Empty the list of recent scans</source>
+        <translation>Die Liste der zuletzt eingelesenen Orte leeren</translation>
+    </message>
+    <message>
+        <source>There are no recent scans.</source>
+        <translation>Es gibt nichts zuletzt Eingelesenes.</translation>
+    </message>
+    <message>
+        <source>Disks appear here when they are mounted. Reload in the View menu looks for them.</source>
+        <translation>Datenträger erscheinen hier, wenn sie eingehängt sind. „Neu laden“ im Ansichtsmenü sucht nach ihnen.</translation>
+    </message>
+    <message>
+        <source>A user&apos;s own folders appear here, and the administrator has none. Open Folder scans any other.</source>
+        <translation>Hier erscheinen die eigenen Ordner eines Benutzers; der Systemverwalter hat keine. „Ordner öffnen“ liest jeden anderen ein.</translation>
+    </message>
+    <message>
+        <source>Your folders, such as Downloads and Music, appear here when there are any.</source>
+        <translation>Hier erscheinen Ihre Ordner wie Downloads und Musik, sobald es sie gibt.</translation>
     </message>
 </context>
 <context>
@@ -2024,10 +2107,6 @@
         <translation>%1 wird eingelesen</translation>
     </message>
     <message>
-        <source>A scan is running. Wait until it has ended.</source>
-        <translation>Es wird gerade eingelesen. Warten Sie, bis das beendet ist.</translation>
-    </message>
-    <message>
         <source>Time Machine Detected</source>
         <extracomment>Translate “Backup Detected”: the system has words of its own.</extracomment>
         <translation>Datensicherung erkannt</translation>
@@ -2169,8 +2248,8 @@
 <context>
     <name>tessera::RecentsTableView</name>
     <message>
-        <source>No scans yet</source>
-        <translation>Noch nichts eingelesen</translation>
+        <source>Disks and folders that you scan are listed here, to be scanned again.</source>
+        <translation>Datenträger und Ordner, die Sie einlesen, stehen hier und können wieder eingelesen werden.</translation>
     </message>
 </context>
 <context>
