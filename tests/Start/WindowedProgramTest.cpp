@@ -120,6 +120,7 @@ struct FakeLaunchServices {
             = {.volumes = volumes,
                .standardFolders = rootModel.folders,
                .account = account,
+               .defaults = rootModel.defaults,
                .homeDirectory = "/home/me",
                .fileSystemAttributes
                = std::make_shared<test::FixedFileSystem>(FileSystemSizes{1000, 250}),
