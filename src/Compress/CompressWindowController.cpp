@@ -88,6 +88,7 @@ CompressWindowController::CompressWindowController(CompressServices services, Ca
     , m_ui(std::make_unique<Ui::CompressWindow>())
 {
     m_ui->setupUi(m_window.get());
+    m_ui->cancelButton->setShortcut(Qt::Key_Escape);
     m_ui->progress->setRange(0, kProgressSteps);
     m_updateTimer.setInterval(kUpdateInterval);
     connect(&m_updateTimer, &QTimer::timeout, this, &CompressWindowController::updateProgress);

@@ -57,6 +57,7 @@ ScanningViewController::ScanningViewController(RootModel& model, ScanningService
 {
     m_ui->setupUi(m_view.get());
     m_ui->folderName->setFont(headingFont(m_ui->folderName->font()));
+    m_ui->cancelButton->setShortcut(Qt::Key_Escape);
     connect(m_ui->cancelButton, &QPushButton::clicked, this, &ScanningViewController::stopScan);
     stopAnimation();
 }
