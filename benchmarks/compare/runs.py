@@ -11,6 +11,7 @@ import select
 import signal
 import struct
 import subprocess
+import tempfile
 import termios
 import time
 
@@ -66,19 +67,23 @@ def run_to_end(command, accepted=(0,), environment=None):
     """Times a program from its start to its end, which must come with an accepted status."""
     watch = Watch()
     begin = time.monotonic()
-    done = subprocess.run(
-        command,
-        stdin=subprocess.DEVNULL,
-        stdout=subprocess.PIPE,
-        stderr=subprocess.DEVNULL,
-        env=environment,
-        timeout=TIME_LIMIT_S,
-        check=False,
-    )
-    seconds = time.monotonic() - begin
-    if done.returncode not in accepted:
-        raise RunFailed(f"{command[0]} ended with status {done.returncode}")
-    return Run(seconds, watch.disturbance(), done.stdout.decode(errors="replace"))
+    # A file, for the end of a pipe comes when all have closed it: also what the program's desktop
+    # started beside it, which may stay.
+    with tempfile.TemporaryFile() as output:
+        done = subprocess.run(
+            command,
+            stdin=subprocess.DEVNULL,
+            stdout=output,
+            stderr=subprocess.DEVNULL,
+            env=environment,
+            timeout=TIME_LIMIT_S,
+            check=False,
+        )
+        seconds = time.monotonic() - begin
+        if done.returncode not in accepted:
+            raise RunFailed(f"{command[0]} ended with status {done.returncode}")
+        output.seek(0)
+        return Run(seconds, watch.disturbance(), output.read().decode(errors="replace"))
 
 
 def run_on_x_server(command, size):

@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: MIT
 """Holds against the rules what decides about the figures: python3 selftest.py"""
 
+import os
+import signal
 import sys
 import unittest
 from unittest import mock
@@ -75,6 +77,10 @@ class TerminalTest(unittest.TestCase):
 
 
 class StatusTest(unittest.TestCase):
+    def test_what_a_program_leaves_running_is_not_waited_for(self):
+        left = int(runs.run_to_end(["sh", "-c", "sleep 600 & echo $!"]).output)
+        os.kill(left, signal.SIGKILL)  # fails when it has ended
+
     def test_only_accepted_statuses_are_results(self):
         self.assertGreater(runs.run_to_end(["sh", "-c", "exit 1"], accepted=(0, 1)).seconds, 0)
         with self.assertRaises(runs.RunFailed):
