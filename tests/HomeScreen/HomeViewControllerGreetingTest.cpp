@@ -3,6 +3,7 @@
 #include "HomeScreen/Parts/GreetingView.h"
 #include "HomeScreen/Recents/RecentsTableView.h"
 #include "HomeViewControllerFixture.h"
+#include "support/BecomesActive.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -87,7 +88,7 @@ TEST_F(HomeViewControllerGreetingTest, EscapeEndsItWhereverTheKeyboardIs)
 TEST_F(HomeViewControllerGreetingTest, ItsButtonHandsTheKeyboardOn)
 {
     show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&home->view()));
+    ASSERT_TRUE(test::becomesActive(home->view()));
     greeting()->button().setFocus();
     QTest::keyClick(&greeting()->button(), Qt::Key_Return);
     EXPECT_EQ(greeting(), nullptr);
