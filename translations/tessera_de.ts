@@ -999,7 +999,7 @@
     </message>
     <message>
         <source>App Data</source>
-        <translation>Anwendungsdaten</translation>
+        <translation>App-Daten</translation>
     </message>
     <message>
         <source>Trash</source>
