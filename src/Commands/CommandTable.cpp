@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Commands/CommandTable.h"
 
+#include "Base/Mnemonic.h"
+
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -286,7 +288,7 @@ constexpr std::array kMenuTitles{
 
 QString titleInItemMenu(const CommandRow& row, const char* ownTitle)
 {
-    return ownTitle == nullptr ? titleOf(row).remove(QLatin1Char('&'))
+    return ownTitle == nullptr ? withoutMnemonic(titleOf(row))
                                : QCoreApplication::translate(kContext, ownTitle);
 }
 

@@ -62,7 +62,7 @@ std::string folderInLanguage(const std::string& folder, const QLocale& language)
 {
     const QString withCountry = language.name();
     for (const QString& name : {withCountry, withCountry.section(QLatin1Char('_'), 0, 0)}) {
-        const std::string inLanguage = folder + '/' + name.toStdString();
+        std::string inLanguage = folder + '/' + name.toStdString();
         if (!folder.empty() && QFileInfo(QFile::decodeName(inLanguage.c_str())).isDir()) {
             return inLanguage;
         }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "TreeScreen/TreeMenu.h"
 
+#include "Base/Mnemonic.h"
 #include "Commands/CommandActions.h"
 #include "Commands/CommandTable.h"
 #include "Model/File.h"
@@ -68,11 +69,6 @@ std::span<const Entry> entriesFor(const File& item)
         return kDocumentEntries;
     }
     return {};
-}
-
-QString withoutMnemonic(QString title)
-{
-    return title.remove(QLatin1Char('&'));
 }
 
 /// Neither shows nor heeds the actions' mnemonics. They are those of the menu bar's menus, from
