@@ -99,23 +99,27 @@ bool makeCallFail(const FailingCall& call)
 std::optional<bool> withOneCallFailing(int place, int error, const std::function<void()>& work)
 {
     std::promise<int> listening;
-    std::atomic<bool> isDone = false;
-    std::thread worker([&listening, &isDone, &work] {
+    std::thread worker([&listening, &work] {
         const int listener = listenToFileCalls();
         listening.set_value(listener);
         if (listener >= 0) {
             work();
         }
-        isDone = true;
+    });
+    // To the thread's very end: sanitizers write to pipes of their own when it ends.
+    std::atomic<bool> hasEnded = false;
+    std::thread watcher([&worker, &hasEnded] {
+        worker.join();
+        hasEnded = true;
     });
     const int listener = listening.get_future().get();
     int calls = 0;
-    while (listener >= 0 && !isDone) {
+    while (listener >= 0 && !hasEnded) {
         if (isCallWaiting(listener) && ++calls) {
             answerCall(listener, calls == place ? error : 0);
         }
     }
-    worker.join();
+    watcher.join();
     if (listener < 0) {
         return std::nullopt;
     }
